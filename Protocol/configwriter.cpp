@@ -1,0 +1,67 @@
+#include "Protocol/configwriter.h"
+
+#include "Protocol/calibrateareadata.h"
+#include "Protocol/calibrateareawriter.h"
+#include "Protocol/detectionwriter.h"
+#include "Protocol/fightcalibratedata.h"
+#include "Protocol/fightcalibratewriter.h"
+#include "Protocol/lanesdata.h"
+#include "Protocol/laneswriter.h"
+#include "Protocol/ruleswriter.h"
+#include "Protocol/writecontext.h"
+
+namespace
+{
+
+// Scenes in the order in which they are written; a later one wins where two share a place.
+constexpr SceneType kOrder[] = {
+    SceneType::Global, SceneType::CalibrateArea, SceneType::FightCalibrate,
+    SceneType::Rules,  SceneType::Lanes,         SceneType::Detection,
+};
+
+void writeScene(const RuleData& data, const WriteContext& context, kql::Json::Value& document)
+{
+    switch (data.getSceneType()) {
+    case SceneType::CalibrateArea:
+        return CalibrateAreaWriter::writeCalibrateAreaData(
+            static_cast<const CalibrateAreaData&>(data), context, document);
+    case SceneType::FightCalibrate:
+        return FightCalibrateWriter::writeFightCalibrate(
+            static_cast<const FightCalibrateData&>(data), document);
+    case SceneType::Lanes:
+        return LanesWriter::writeLanes(static_cast<const LanesData&>(data), context, document);
+    case SceneType::Rules:
+        return RulesWriter::writeRule(data, context, document);
+    case SceneType::Global:
+        return RulesWriter::writeGlobal(data, context, document);
+    case SceneType::Detection:
+        return DetectionWriter::writeDetection(data, context, document);
+    case SceneType::None:
+        return;
+    }
+}
+
+} // namespace
+
+ConfigWriter::ConfigWriter(const std::vector<std::unique_ptr<RuleData>>& scenes,
+                           const kql::Json::Value& configuration)
+    : m_scenes(scenes), m_configuration(configuration)
+{
+}
+
+void ConfigWriter::setAlgorithmInfo(int id, const QString& name)
+{
+    m_algorithmId = id;
+    m_algorithmName = name;
+}
+
+void ConfigWriter::write(kql::Json::Value& config) const
+{
+    const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
+    for (const SceneType type : kOrder) {
+        for (const auto& scene : m_scenes) {
+            if (scene->getSceneType() == type)
+                writeScene(*scene, context, config);
+        }
+    }
+}

@@ -1,0 +1,39 @@
+#include "Protocol/entryname.h"
+
+#include "Protocol/datatemplate.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
+
+namespace
+{
+
+QString ownName(const RuleData& data, int position)
+{
+    const bool exists = position >= 0 && position < data.getDataCount();
+    return exists ? data.getAllData()[static_cast<std::size_t>(position)]->name() : QString();
+}
+
+} // namespace
+
+QString EntryName::written(const RuleData& data, int position)
+{
+    const QString name = ownName(data, position);
+    return name.isEmpty() ? RuleData::tr("Rule") + QString::number(position + 1) : name;
+}
+
+QString EntryName::button(const RuleData& data, int position)
+{
+    const QString name = ownName(data, position);
+    if (!name.isEmpty())
+        return name;
+    const bool isOnlyOne = data.getTemplate() && data.getTemplate()->countRange().max < 2;
+    return isOnlyOne ? data.getRuleFucTitle()
+                     : data.getRuleFucTitle() + QString::number(position + 1);
+}
+
+QString EntryName::child(const RuleProtocolItem& item, int number)
+{
+    const bool isOnlyOne = item.countRange().max == 1;
+    return isOnlyOne ? item.caption() : item.caption() + QString::number(number);
+}

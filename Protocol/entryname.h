@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class RuleData;
+class RuleProtocolItem;
+
+/// Texts that name entries and their figures, in one place for buttons, labels and documents.
+namespace EntryName
+{
+
+/// The name that a rule at @p position (from 0) is written with.
+QString written(const RuleData& data, int position);
+
+/// Button text of the entry at @p position: its name, else the scene's word for an entry
+/// followed by the 1-based position where several are allowed.
+QString button(const RuleData& data, int position);
+
+/// Label of the @p number-th (from 1) figure of a child item: its caption, numbered where
+/// several are allowed.
+QString child(const RuleProtocolItem& item, int number);
+
+} // namespace EntryName

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Protocol/jsonpath.h"
+#include "host/value.h"
+
+#include <vector>
+
+/**
+ * The place of a scene's entries in the document being written: a list of them, or an object
+ * that is the only one.
+ */
+class EntryTarget
+{
+public:
+    enum class WhenMissing { List, Object };
+
+    /// @p document holds the skeleton and must outlive the target.
+    EntryTarget(kql::Json::Value& document, const QString& parent,
+                WhenMissing whenMissing = WhenMissing::List);
+
+    /// What the skeleton has at the place; null when there is nothing.
+    const kql::Json::Value* skeleton() const { return m_path.probe(m_document); }
+    /// The skeleton's first entry, which every entry starts as; null when it has none.
+    const kql::Json::Value* prototype() const;
+
+    /// Puts the entries there, the first alone where an object is the only entry. A missing
+    /// place is made.
+    void put(std::vector<kql::Json::Value> entries);
+    /// Replaces whatever is there.
+    void replace(kql::Json::Value value);
+
+private:
+    kql::Json::Value* place() const;
+
+    kql::Json::Value& m_document;
+    JsonPath m_path;
+    WhenMissing m_whenMissing;
+};

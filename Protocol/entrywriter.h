@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Protocol/entryfigures.h"
+#include "host/value.h"
+
+#include <QString>
+#include <vector>
+
+class RuleData;
+class RuleDataInfo;
+class RuleProtocolItem;
+
+/**
+ * Writes what a template's items name of one entry after another into copies of a prototype.
+ * EntryReader is its mirror.
+ */
+class EntryWriter
+{
+public:
+    /// Writes the items of @p data's template that belong to @p section. Nothing is owned.
+    EntryWriter(const RuleData& data, const QString& section);
+
+    /// An object in which every item's path exists, for skeletons without an entry.
+    kql::Json::Value emptyEntry() const;
+
+    /// Writes @p entry into @p json; @p asRead is the object that it was read from, if any.
+    void write(const RuleDataInfo& entry, const kql::Json::Value* asRead,
+               kql::Json::Value& json) const;
+
+    const EntryFigures& figures() const { return m_figures; }
+
+private:
+    struct Target {
+        const RuleProtocolItem* item;
+        bool isShared; ///< another item writes to the same place
+    };
+    struct Pass;
+
+    void markSharedPlaces();
+    void writeItem(const RuleProtocolItem& item, const Pass& pass) const;
+    void writeValueToJson(const RuleProtocolItem& item, const Pass& pass) const;
+    void writeFigure(const RuleProtocolItem& item, const Pass& pass) const;
+
+    std::vector<Target> m_targets;
+    EntryFigures m_figures;
+};

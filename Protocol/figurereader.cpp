@@ -1,0 +1,33 @@
+#include "Protocol/figurereader.h"
+
+#include "Protocol/figuremaker.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "draw/basedraw.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+
+namespace
+{
+
+constexpr int kNoParent = -1;
+
+} // namespace
+
+DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& entry,
+                            const QVector<QPoint>& points, const QString& label,
+                            const DrawItem* parent) const
+{
+    auto drawItem =
+        FigureMaker::make(m_data, item, entry.id(), FigureMaker::forbiddenType(m_data, item));
+    if (!drawItem || !drawItem->figure())
+        return nullptr;
+    drawItem->setLabel(label);
+    BaseDraw& figure = *drawItem->figure();
+    for (const QPoint& point : points)
+        figure.appendPoint(point);
+    figure.setFinished(true);
+    return m_data.getDrawScene()->addItem(std::move(drawItem),
+                                          parent ? parent->itemId() : kNoParent);
+}

@@ -1,0 +1,15 @@
+#include "Protocol/lanesdata.h"
+
+#include "Protocol/lanestemplate.h"
+
+LanesData::LanesData()
+{
+    setSceneType(SceneType::Lanes);
+    setTemplate(std::make_unique<LanesTemplate>());
+    setRuleFucTitle(RuleData::tr("Lanes"));
+}
+
+LanesTemplate* LanesData::lanesTemplate() const
+{
+    return dynamic_cast<LanesTemplate*>(getTemplate());
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Protocol/datatemplate.h"
+
+#include <QCoreApplication>
+
+/// Template of the lanes scene: its built-in items, and the rules' items when these are edited
+/// per lane.
+class LanesTemplate : public DataTemplate
+{
+    Q_DECLARE_TR_FUNCTIONS(LanesTemplate)
+
+public:
+    /// Key of the rules' item that hands them to the lanes.
+    inline static const QString kRuleLaneNumber = QStringLiteral("ruleLaneNumber");
+
+    LanesTemplate();
+    std::unique_ptr<DataTemplate> clone() const override;
+
+    /// Takes over the rules' items behind the built-in ones.
+    void addRuleItems(Items items);
+    bool hasRuleItems() const;
+    /// The "parent" path that the handed rules are listed under; empty without rule items.
+    QString rulesParent() const;
+
+    RuleProtocolItem* laneItem() const;
+    RuleProtocolItem* numberItem() const;
+    RuleProtocolItem* leftLineTypeItem() const;
+    RuleProtocolItem* rightLineTypeItem() const;
+    /// The rules' lane number; null without rule items.
+    RuleProtocolItem* ruleLaneNumberItem() const;
+
+protected:
+    LanesTemplate(const LanesTemplate& other) = default;
+};

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "Protocol/ruletypes.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <memory>
+#include <vector>
+
+class DataTemplate;
+class DrawItem;
+class DrawScene;
+class RuleDataInfo;
+class RuleProtocolItem;
+
+/**
+ * The edited state of one scene: its template, its canvas with the figures, and its entries.
+ * Figures belong to entries by the entry's id.
+ */
+class RuleData
+{
+    Q_DECLARE_TR_FUNCTIONS(RuleData)
+
+public:
+    using Entries = std::vector<std::unique_ptr<RuleDataInfo>>;
+
+    RuleData();
+    virtual ~RuleData();
+    /// Copies entries (same ids), template and figures into a canvas of its own.
+    RuleData(const RuleData& other);
+    RuleData& operator=(const RuleData& other);
+
+    /// Checks whether the scene may be saved; on failure @p message says what to mend.
+    virtual bool checkData(QString& message) const;
+
+    SceneType getSceneType() const { return m_sceneType; }
+    void setSceneType(SceneType type) { m_sceneType = type; }
+    DataTemplate* getTemplate() const { return m_template.get(); }
+    void setTemplate(std::unique_ptr<DataTemplate> dataTemplate);
+    DrawScene* getDrawScene() const { return m_drawScene.get(); }
+    /// The word for one entry in messages, button texts and labels.
+    const QString& getRuleFucTitle() const { return m_ruleFucTitle; }
+    void setRuleFucTitle(const QString& title) { m_ruleFucTitle = title; }
+
+    /// A new entry with a fresh id and the default values, not yet in the list; null without a
+    /// template. Defaults are taken from the template when the first entry is made.
+    std::unique_ptr<RuleDataInfo> newDataInfo() const;
+    RuleDataInfo* addDataInfo(std::unique_ptr<RuleDataInfo> entry);
+    /// The entry with that id; null when there is none.
+    RuleDataInfo* getDataInfo(int id) const;
+    int getDataCount() const { return static_cast<int>(m_entries.size()); }
+    const Entries& getAllData() const { return m_entries; }
+    /// Removes an entry. The selected id stays even when it was this entry's, so that callers
+    /// select anew; it is reset only when no such entry exists.
+    void removeDataInfo(int id);
+    /// Position of the entry in the list; -1 when there is none.
+    int indexOf(int id) const;
+
+    void setSelectedDataId(int id);
+    int getSelectedDataId() const { return m_selectedDataId; }
+    RuleDataInfo* selectedDataInfo() const { return getDataInfo(m_selectedDataId); }
+
+    /// The figures that an entry has for a template item: by kind, and where the template has
+    /// several items of that kind, those read or drawn for this one.
+    QList<DrawItem*> figuresOf(int dataId, const RuleProtocolItem& item) const;
+
+protected:
+    /// Hook for default values that a specialised scene adds to a new entry.
+    virtual void fillNewEntry(RuleDataInfo& entry) const;
+
+private:
+    void copyFrom(const RuleData& other);
+    void indexEntries();
+    const RuleDataInfo& prototype() const;
+
+    SceneType m_sceneType = SceneType::None;
+    std::unique_ptr<DataTemplate> m_template;
+    std::unique_ptr<DrawScene> m_drawScene;
+    Entries m_entries;
+    QHash<int, int> m_positions;                       ///< position of the first entry with an id
+    mutable std::unique_ptr<RuleDataInfo> m_prototype; ///< an entry of defaults, made when needed
+    int m_selectedDataId = 0;
+    QString m_ruleFucTitle;
+};

@@ -1,0 +1,164 @@
+#include "Protocol/ruleparser.h"
+
+#include "Protocol/configreader.h"
+#include "Protocol/configwriter.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/templatereader.h"
+#include "host/reader.h"
+
+#include <algorithm>
+#include <limits>
+
+using kql::Json::Reader;
+using kql::Json::Value;
+
+namespace
+{
+
+template<typename Type>
+struct Spelling {
+    const char* text;
+    Type type;
+};
+
+constexpr Spelling<FacadeType> kFacades[] = {
+    {"region", FacadeType::Region},
+    {"line", FacadeType::Line},
+    {"directLine", FacadeType::DirectLine},
+    {"rect", FacadeType::Rect},
+    {"parallelogram", FacadeType::Parallelogram},
+    {"inputBoxNumber", FacadeType::InputBoxNumber},
+    {"checkbox", FacadeType::CheckBox},
+    {"radioButton", FacadeType::RadioButton},
+    {"bool", FacadeType::Bool},
+    {"numericalInterval", FacadeType::NumericalInterval},
+};
+
+constexpr Spelling<ValueType> kValueTypes[] = {
+    {"bool", ValueType::Bool},          {"int", ValueType::Int},
+    {"float", ValueType::Float},        {"string", ValueType::String},
+    {"array int", ValueType::ArrayInt}, {"point", ValueType::Point},
+    {"object", ValueType::Object},
+};
+
+constexpr Spelling<BaseDrawDirectionType> kDirections[] = {
+    {"RightToLeft", BaseDrawDirectionType::RightToLeft},
+    {"LeftToRight", BaseDrawDirectionType::LeftToRight},
+    {"Both", BaseDrawDirectionType::Both},
+};
+
+constexpr Spelling<CheckRuleOperatorType> kOperators[] = {
+    {">", CheckRuleOperatorType::Greater},      {"<", CheckRuleOperatorType::Less},
+    {"==", CheckRuleOperatorType::Equal},       {">=", CheckRuleOperatorType::GreaterOrEqual},
+    {"<=", CheckRuleOperatorType::LessOrEqual},
+};
+
+template<typename Type, std::size_t Size>
+Type lookUp(const Spelling<Type> (&spellings)[Size], const QString& text)
+{
+    for (const Spelling<Type>& spelling : spellings) {
+        if (text == QLatin1String(spelling.text))
+            return spelling.type;
+    }
+    return Type::None;
+}
+
+} // namespace
+
+int RuleParser::g_nId = 0;
+
+RuleParser::RuleParser() = default;
+RuleParser::~RuleParser() = default;
+
+int RuleParser::createId()
+{
+    // From 1 again after the last: entries that old are long gone.
+    g_nId = g_nId == std::numeric_limits<int>::max() ? 1 : g_nId + 1;
+    return g_nId;
+}
+
+FacadeType RuleParser::parseToFacadeType(const QString& text)
+{
+    return lookUp(kFacades, text);
+}
+
+ValueType RuleParser::parseToValueType(const QString& text)
+{
+    return lookUp(kValueTypes, text);
+}
+
+BaseDrawDirectionType RuleParser::parseToDirectionType(const QString& text)
+{
+    return lookUp(kDirections, text);
+}
+
+CheckRuleOperatorType RuleParser::parseToOperatorType(const QString& text)
+{
+    return lookUp(kOperators, text);
+}
+
+void RuleParser::setAlgorithmInfo(int id, const QString& name)
+{
+    m_algorithmId = id;
+    m_algorithmName = name;
+}
+
+bool RuleParser::parseTemplate(const QString& text)
+{
+    m_data.clear();
+    m_templateDocument = Value();
+    m_configuration = Value();
+    Value document;
+    if (!Reader().parse(text, document) || !document.isMember("configDescription"))
+        return false;
+    m_templateDocument = std::move(document);
+    m_data = TemplateReader(m_templateDocument).read();
+    return true;
+}
+
+bool RuleParser::checkTemplate() const
+{
+    return true;
+}
+
+bool RuleParser::readData(const QString& text)
+{
+    Value document;
+    if (!Reader().parse(text, document))
+        return false;
+    m_configuration = std::move(document);
+    ConfigReader(m_data).read(m_configuration);
+    return true;
+}
+
+bool RuleParser::writeData(Value& config) const
+{
+    const Value& document = m_templateDocument;
+    const Value* const skeleton = document.find("configTemplate");
+    if (!skeleton)
+        return false;
+    Value written = *skeleton;
+    ConfigWriter writer(m_data, m_configuration);
+    writer.setAlgorithmInfo(m_algorithmId, m_algorithmName);
+    writer.write(written);
+    config = std::move(written);
+    return true;
+}
+
+bool RuleParser::writeData(QString& text) const
+{
+    text.clear();
+    Value config;
+    if (!writeData(config))
+        return false;
+    text = config.toStyledText();
+    return true;
+}
+
+RuleData* RuleParser::getData(SceneType type) const
+{
+    const auto found = std::find_if(m_data.begin(), m_data.end(), [type](const auto& data) {
+        return data->getSceneType() == type;
+    });
+    return found == m_data.end() ? nullptr : found->get();
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Protocol/ruletypes.h"
+#include "host/value.h"
+
+#include <QString>
+#include <memory>
+#include <vector>
+
+class RuleData;
+
+/**
+ * Turns the template text into one RuleData per scene, reads the device's configuration into
+ * them and writes it back. Owns templates and data of one load.
+ */
+class RuleParser
+{
+public:
+    RuleParser();
+    ~RuleParser();
+    RuleParser(const RuleParser&) = delete;
+    RuleParser& operator=(const RuleParser&) = delete;
+
+    /// Next id for an entry, unique in the process, from 1.
+    static int createId();
+
+    // Exact, case-sensitive spellings; anything else gives None.
+    static FacadeType parseToFacadeType(const QString& text);
+    static ValueType parseToValueType(const QString& text);
+    static BaseDrawDirectionType parseToDirectionType(const QString& text);
+    static CheckRuleOperatorType parseToOperatorType(const QString& text);
+
+    /// Algorithm that the rules are for; written into each rule when @p id is 1.
+    void setAlgorithmInfo(int id, const QString& name);
+
+    /// Builds the scenes; false when the text is not JSON or has no "configDescription".
+    bool parseTemplate(const QString& text);
+    /// Always true: kept for hosts that ask before reading.
+    bool checkTemplate() const;
+    /// Fills the scenes from a configuration; false, with nothing touched, when the text is not
+    /// JSON.
+    bool readData(const QString& text);
+    /// The configuration with the edited data; false when the template carries no
+    /// "configTemplate" to write into.
+    bool writeData(kql::Json::Value& config) const;
+    bool writeData(QString& text) const;
+
+    const std::vector<std::unique_ptr<RuleData>>& getAllData() const { return m_data; }
+    /// The scene of that type; null when the template has none.
+    RuleData* getData(SceneType type) const;
+
+private:
+    static int g_nId; ///< last id given out
+
+    kql::Json::Value m_templateDocument;
+    kql::Json::Value m_configuration; ///< as read: what no template names is kept from here
+    int m_algorithmId = 0;
+    QString m_algorithmName;
+    std::vector<std::unique_ptr<RuleData>> m_data;
+};

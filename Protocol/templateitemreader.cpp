@@ -1,0 +1,172 @@
+#include "Protocol/templateitemreader.h"
+
+#include "Protocol/ruleparser.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "host/value.h"
+
+using kql::Json::Value;
+
+namespace
+{
+
+constexpr CountRange kNoPointLimit{-1, -1};
+
+void parseProtocol(RuleProtocolItem& item, const Value& protocol)
+{
+    if (const Value* const name = protocol.find("name"))
+        item.setPath(name->asString());
+    if (const Value* const type = protocol.find("type"))
+        item.setValueType(RuleParser::parseToValueType(type->asString()));
+    if (const Value* const index = protocol.find("index"))
+        item.setIndex(index->asInt());
+}
+
+void parseValid(RuleProtocolItem& item, const Value& valid)
+{
+    ValidCondition condition;
+    condition.controlKey = valid["controlKey"].asString();
+    if (const Value* const single = valid.find("enumValue")) {
+        condition.values.append(single->asString());
+    } else if (const Value& several = valid["enumValueArray"]; several.isArray()) {
+        for (int i = 0; i < several.size(); ++i)
+            condition.values.append(several[i].asString());
+    }
+    item.addValidity(condition);
+}
+
+/// The j-th key is taken from the j-th control, not from the control that the list is for:
+/// devices' templates are written against this order.
+QStringList parseDependencies(const Value& controls)
+{
+    QStringList keys;
+    for (int j = 0; j < controls[j]["depend"].size(); ++j)
+        keys.append(controls[j]["depend"][j]["key"].asString());
+    return keys;
+}
+
+QVariant numberBoxDefault(ValueType type, const Value& value)
+{
+    if (value.isNull())
+        return {};
+    switch (type) {
+    case ValueType::Int:
+        return value.asInt();
+    case ValueType::Float:
+        return value.asDouble();
+    case ValueType::String:
+        return value.asString();
+    default:
+        return {};
+    }
+}
+
+void parseNumberBox(RuleProtocolItem& item, const Value& details)
+{
+    if (const auto range = TemplateItemReader::parseCountRange(details["range"]))
+        item.setRange(range->min, range->max);
+    item.setDefaultValue(numberBoxDefault(item.valueType(), details["default"]));
+    item.setUnits(details["units"].asString());
+}
+
+EnumOption parseOption(const Value& choice)
+{
+    EnumOption option;
+    const Value& value = choice["value"];
+    option.value = value.isObject() ? value.toStyledText() : value.asString();
+    option.text = choice["name"].asString();
+    option.description = choice["describe"].asString();
+    option.isAll = choice["isAll"].asBool();
+    return option;
+}
+
+void parseEnumeration(RuleProtocolItem& item, const Value& details)
+{
+    QList<EnumOption> options;
+    bool hasAll = details["isAll"].asBool();
+    if (const Value& choices = details["enumeration"]; choices.isArray()) {
+        for (int i = 0; i < choices.size(); ++i) {
+            options.append(parseOption(choices[i]));
+            hasAll = hasAll || options.last().isAll;
+        }
+    }
+    item.setEnumeration(options);
+    item.setHasAllChoice(hasAll);
+}
+
+void parseCheckBoxes(RuleProtocolItem& item, const Value& details)
+{
+    parseEnumeration(item, details);
+    if (const Value& value = details["default"]; value.isString())
+        item.setDefaultValue(QStringList{value.asString()});
+}
+
+void parseRadioButtons(RuleProtocolItem& item, const Value& details)
+{
+    parseEnumeration(item, details);
+    if (const Value& value = details["default"]; value.isString())
+        item.setDefaultValue(value.asString());
+}
+
+/// The range of a figure counts its points; each entry has one such figure.
+void parseFigure(RuleProtocolItem& item, const Value& details)
+{
+    item.setCountRange({1, 1});
+    const Value* const range = details.find("range");
+    if (!range)
+        return;
+    if (range->isNull())
+        item.setPointCount(kNoPointLimit);
+    else if (const auto points = TemplateItemReader::parseCountRange(*range))
+        item.setPointCount(*points);
+}
+
+} // namespace
+
+std::unique_ptr<RuleProtocolItem> TemplateItemReader::parseControl(const Value& controls,
+                                                                   int position)
+{
+    auto item = std::make_unique<RuleProtocolItem>();
+    const Value& control = controls[position];
+    parseProtocol(*item, control["protocol"]);
+    item->setKey(control["key"].asString());
+    if (const Value* const valid = control.find("valid"))
+        parseValid(*item, *valid);
+    if (control["depend"].isArray())
+        item->setDependencies(parseDependencies(controls));
+    return item;
+}
+
+void TemplateItemReader::parseRuleProtocolItem(RuleProtocolItem& item, const Value& details)
+{
+    if (details.isNull())
+        return;
+    item.setCaption(details["describe"].asString());
+    item.setFacade(RuleParser::parseToFacadeType(details["facade"].asString()));
+    if (item.isFigure()) {
+        parseFigure(item, details);
+        return;
+    }
+    switch (item.facade()) {
+    case FacadeType::InputBoxNumber:
+        parseNumberBox(item, details);
+        break;
+    case FacadeType::CheckBox:
+        parseCheckBoxes(item, details);
+        break;
+    case FacadeType::RadioButton:
+        parseRadioButtons(item, details);
+        break;
+    case FacadeType::Bool:
+        item.setDefaultValue(details["default"].asBool());
+        break;
+    default:
+        break;
+    }
+}
+
+std::optional<CountRange> TemplateItemReader::parseCountRange(const Value& value)
+{
+    if (!value.isArray() || value.size() < 2)
+        return std::nullopt;
+    return CountRange{value[0].asInt(), value[1].asInt()};
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Protocol/countrange.h"
+
+#include <memory>
+#include <optional>
+
+class RuleProtocolItem;
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+/// Reads single attributes of a template document.
+namespace TemplateItemReader
+{
+
+/// What the control @p position of @p controls says itself: key, place of the value, conditions.
+std::unique_ptr<RuleProtocolItem> parseControl(const kql::Json::Value& controls, int position);
+
+/// What the details say: caption, facade, and what belongs to that facade.
+void parseRuleProtocolItem(RuleProtocolItem& item, const kql::Json::Value& details);
+
+/// A pair of counts; nothing when @p value is not an array of two.
+std::optional<CountRange> parseCountRange(const kql::Json::Value& value);
+
+} // namespace TemplateItemReader

@@ -1,0 +1,172 @@
+#include "Protocol/templatereader.h"
+
+#include "Protocol/calibrateareadata.h"
+#include "Protocol/calibrateareatemplate.h"
+#include "Protocol/configmember.h"
+#include "Protocol/fightcalibratedata.h"
+#include "Protocol/fightcalibratetemplate.h"
+#include "Protocol/lanesdata.h"
+#include "Protocol/lanestemplate.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruleparser.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "Protocol/templateitemreader.h"
+#include "host/value.h"
+
+#include <algorithm>
+
+using kql::Json::Value;
+using TemplateItemReader::parseCountRange;
+
+namespace
+{
+
+void applyParentAndCount(DataTemplate& target, const Value& section, const char* countKey)
+{
+    target.setParent(section["parent"].asString());
+    if (const auto count = parseCountRange(section[countKey]))
+        target.setCountRange(*count);
+}
+
+CheckRule parseCheck(const Value& check)
+{
+    CheckRule rule;
+    if (!check.isMember("firstKey") || !check.isMember("secondKey"))
+        return rule;
+    rule.firstKey = check["firstKey"].asString();
+    rule.secondKey = check["secondKey"].asString();
+    rule.operatorType = RuleParser::parseToOperatorType(check["rule"]["operator"].asString());
+    return rule;
+}
+
+QList<CheckRule> parseChecks(const Value& checks)
+{
+    QList<CheckRule> rules;
+    for (int i = 0; checks.isArray() && i < checks.size(); ++i) {
+        const CheckRule rule = parseCheck(checks[i]);
+        if (rule.operatorType != CheckRuleOperatorType::None)
+            rules.append(rule);
+    }
+    return rules;
+}
+
+bool isEditedPerLane(const DataTemplate::Items& ruleItems)
+{
+    return std::any_of(ruleItems.begin(), ruleItems.end(), [](const auto& item) {
+        return item->key() == LanesTemplate::kRuleLaneNumber;
+    });
+}
+
+} // namespace
+
+TemplateReader::TemplateReader(const Value& document)
+    : m_configItems(document["configItems"]), m_description(document["configDescription"])
+{
+}
+
+TemplateReader::Scenes TemplateReader::read()
+{
+    if (const Value& section = m_description["calibrateArea"]; !section.isNull())
+        readCalibrateArea(section);
+    if (const Value& section = m_description["fightCalibrate"]; !section.isNull())
+        readFightCalibrate(section);
+    if (const Value& section = m_description["lanes"]; !section.isNull())
+        readLanes(section);
+    readRuleDescription(m_description["ruleDescription"]);
+    return std::move(m_scenes);
+}
+
+void TemplateReader::readCalibrateArea(const Value& section)
+{
+    auto data = std::make_unique<CalibrateAreaData>();
+    CalibrateAreaTemplate& area = *data->calibrateTemplate();
+    applyParentAndCount(area, section, "celibateArea");
+    area.setMethod(section["method"].asString());
+    if (const auto points = parseCountRange(section["pointOfArea"]))
+        area.setAreaPointCount(*points);
+    if (const Value* const width = section.find("defaultWidth"))
+        area.setDefaultWidth(width->asDouble());
+    if (const Value* const height = section.find("defaultHeight"))
+        area.setDefaultHeight(height->asDouble());
+    m_scenes.push_back(std::move(data));
+}
+
+void TemplateReader::readFightCalibrate(const Value& section)
+{
+    auto data = std::make_unique<FightCalibrateData>();
+    FightCalibrateTemplate& fight = *data->fightTemplate();
+    applyParentAndCount(fight, section, "celibateArea");
+    if (const auto points = parseCountRange(section["pointOfArea"]))
+        fight.setAreaPointCount(*points);
+    if (const auto rects = parseCountRange(section["rectOfArea"]))
+        fight.setRectCount(*rects);
+    m_scenes.push_back(std::move(data));
+}
+
+void TemplateReader::readLanes(const Value& section)
+{
+    auto data = std::make_unique<LanesData>();
+    m_lanes = data->lanesTemplate();
+    applyParentAndCount(*m_lanes, section, "countOfLane");
+    m_scenes.push_back(std::move(data));
+}
+
+void TemplateReader::readRuleDescription(const Value& description)
+{
+    if (const Value& section = description["rules"]; !section.isNull())
+        readRules(section);
+    if (const Value& section = description["global"]; !section.isNull()) {
+        const auto name = QStringLiteral("global");
+        addScene(SceneType::Global, name, section, parseRuleProtocolItems(section, name), {});
+    }
+    if (const Value& section = description["detectArea"]; !section.isNull()) {
+        const auto name = QStringLiteral("detectArea");
+        addScene(SceneType::Detection, name, section, parseRuleProtocolItems(section, name), {});
+    }
+}
+
+void TemplateReader::readRules(const Value& section)
+{
+    DataTemplate::Items items = parseRuleProtocolItems(section, ConfigMember::kRuleSection);
+    const QList<CheckRule> checks = parseChecks(section["checkValueControls"]);
+    if (!m_lanes || !isEditedPerLane(items)) {
+        addScene(SceneType::Rules, ConfigMember::kRuleSection, section, std::move(items), checks);
+        return;
+    }
+    m_lanes->addRuleItems(std::move(items));
+    for (const CheckRule& check : checks)
+        m_lanes->addCheckRule(check);
+}
+
+void TemplateReader::addScene(SceneType type, const QString& name, const Value& section,
+                              DataTemplate::Items items, const QList<CheckRule>& checks)
+{
+    auto data = std::make_unique<RuleData>();
+    data->setSceneType(type);
+    auto dataTemplate = std::make_unique<DataTemplate>();
+    dataTemplate->setName(name);
+    applyParentAndCount(*dataTemplate, section, "count");
+    dataTemplate->setItems(std::move(items));
+    for (const CheckRule& check : checks)
+        dataTemplate->addCheckRule(check);
+    data->setTemplate(std::move(dataTemplate));
+    m_scenes.push_back(std::move(data));
+}
+
+DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
+                                                           const QString& sectionName) const
+{
+    DataTemplate::Items items;
+    const Value& controls = section["controls"];
+    if (!section.isMember("parent") || !controls.isArray())
+        return items;
+    for (int i = 0; i < controls.size(); ++i) {
+        auto item = TemplateItemReader::parseControl(controls, i);
+        item->setParent(section["parent"].asString());
+        item->setTemplateName(sectionName);
+        if (const Value* const details = m_configItems.find(item->key().toStdString()))
+            TemplateItemReader::parseRuleProtocolItem(*item, *details);
+        items.push_back(std::move(item));
+    }
+    return items;
+}

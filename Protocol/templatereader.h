@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Protocol/checkrule.h"
+#include "Protocol/datatemplate.h"
+
+#include <QList>
+#include <memory>
+#include <vector>
+
+class LanesTemplate;
+class RuleData;
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+/**
+ * Builds the scenes that a template document describes. Reading is lenient: what is missing or
+ * of another kind is skipped.
+ */
+class TemplateReader
+{
+public:
+    using Scenes = std::vector<std::unique_ptr<RuleData>>;
+
+    /// @p document is not owned and must outlive the reader.
+    explicit TemplateReader(const kql::Json::Value& document);
+
+    /// One RuleData a scene: calibrate area, fight calibrate, lanes, rules, global, detection,
+    /// each if present.
+    Scenes read();
+
+private:
+    void readCalibrateArea(const kql::Json::Value& section);
+    void readFightCalibrate(const kql::Json::Value& section);
+    void readLanes(const kql::Json::Value& section);
+    void readRuleDescription(const kql::Json::Value& description);
+    void readRules(const kql::Json::Value& section);
+    void addScene(SceneType type, const QString& name, const kql::Json::Value& section,
+                  DataTemplate::Items items, const QList<CheckRule>& checks);
+
+    DataTemplate::Items parseRuleProtocolItems(const kql::Json::Value& section,
+                                               const QString& sectionName) const;
+
+    const kql::Json::Value& m_configItems;
+    const kql::Json::Value& m_description;
+    Scenes m_scenes;
+    LanesTemplate* m_lanes = nullptr; ///< not owned; null without a lanes scene
+};

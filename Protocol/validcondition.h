@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// An attribute applies while its controlling attribute has one of these values.
+struct ValidCondition {
+    QString controlKey;
+    QStringList values;
+};

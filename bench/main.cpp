@@ -1,0 +1,50 @@
+#include "bench/benchrow.h"
+#include "bench/memoryreport.h"
+#include "bench/ratiotable.h"
+#include "draw/labelfont.h"
+
+#include <QApplication>
+#include <vector>
+
+namespace
+{
+
+/// Repetitions of all works in random order, so that a machine that slows down does so for both.
+/// Arguments of the caller come after these and win.
+std::vector<char*> withDefaults(int argc, char* argv[])
+{
+    static char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    static char repetitions[] = "--benchmark_repetitions=9";
+    static char minimumTime[] = "--benchmark_min_time=0.1";
+    std::vector<char*> arguments{argv[0], interleaving, repetitions, minimumTime};
+    arguments.insert(arguments.end(), argv + 1, argv + argc);
+    return arguments;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    std::vector<char*> arguments = withDefaults(argc, argv);
+    int count = int(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 1;
+
+    BenchRows rows;
+    addDocumentRows(rows);
+    addPaintRows(rows);
+    addMouseRow(rows);
+    addPanelRows(rows);
+    addStartRow(rows);
+    RatioTable table(rows);
+    table.registerWork();
+    benchmark::RunSpecifiedBenchmarks(&table);
+    table.print();
+    printMemoryReport();
+    LabelFont::release();
+    return 0;
+}

@@ -1,0 +1,5 @@
+#pragma once
+
+/// Measures and prints what loaded rules and figures take, and whether a thousand loads leave
+/// anything behind.
+void printMemoryReport();

@@ -1,0 +1,57 @@
+#include "bench/benchrow.h"
+#include "bench/figurescene.h"
+#include "draw/drawscene.h"
+
+#include <QCoreApplication>
+#include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
+#include <map>
+#include <memory>
+
+namespace
+{
+
+constexpr int kFigures = 10000;
+
+QPoint mousePosition(int step)
+{
+    return {100 + step % 1700, 100 + step % 900};
+}
+
+void moveOverCanvas(benchmark::State& state, int size)
+{
+    static std::map<int, std::unique_ptr<DrawScene>> made;
+    std::unique_ptr<DrawScene>& scene = made[size];
+    if (!scene) {
+        scene = std::make_unique<DrawScene>();
+        FigureScene::fill(*scene, FigureScene::figures(size), size / 2);
+    }
+    int step = 0;
+    for (auto _ : state)
+        scene->addDrawPoint(DrawScene::DrawMouseMove, mousePosition(++step));
+}
+
+void moveOverGraphicsScene(benchmark::State& state, int size)
+{
+    static std::map<int, std::unique_ptr<QGraphicsScene>> made;
+    std::unique_ptr<QGraphicsScene>& scene = made[size];
+    if (!scene) {
+        scene = std::make_unique<QGraphicsScene>();
+        FigureScene::fill(*scene, FigureScene::figures(size));
+        scene->items(QPointF(1, 1)); // has the index built
+    }
+    int step = 0;
+    for (auto _ : state) {
+        QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMouseMove);
+        event.setScenePos(mousePosition(++step));
+        QCoreApplication::sendEvent(scene.get(), &event);
+    }
+}
+
+} // namespace
+
+void addMouseRow(BenchRows& rows)
+{
+    rows.push_back({"Mouse", "a move delivered to a QGraphicsScene", 0.2, kFigures, moveOverCanvas,
+                    moveOverGraphicsScene});
+}

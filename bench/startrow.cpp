@@ -1,0 +1,53 @@
+#include "bench/benchrow.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryFile>
+
+namespace
+{
+
+const char* const kBin = RULES_BIN_DIR;
+const char* const kSample = RULES_SOURCE_DIR "/examples/perimeter";
+/// Widgets of the workbench's window with the sample open.
+constexpr int kWidgets = 190;
+
+void run(benchmark::State& state, const QString& program, const QStringList& arguments)
+{
+    for (auto _ : state) {
+        QProcess process;
+        process.setStandardOutputFile(QProcess::nullDevice());
+        process.setStandardErrorFile(QProcess::nullDevice());
+        process.start(QDir(QString::fromLocal8Bit(kBin)).filePath(program), arguments);
+        if (!process.waitForFinished(20000) || process.exitStatus() != QProcess::NormalExit)
+            state.SkipWithError("the program did not run");
+    }
+}
+
+/// Until the first picture is painted; then the program ends.
+void startWorkbench(benchmark::State& state, int)
+{
+    QTemporaryFile session;
+    if (!session.open())
+        return state.SkipWithError("no session file");
+    session.write("{\"do\":\"wait\",\"picture\":true}\n");
+    session.close();
+    const QDir sample(QString::fromLocal8Bit(kSample));
+    run(state, QStringLiteral("rules-workbench"),
+        {QStringLiteral("--template"), sample.filePath(QStringLiteral("template.json")),
+         QStringLiteral("--config"), sample.filePath(QStringLiteral("config.json")),
+         QStringLiteral("--replay"), session.fileName()});
+}
+
+void startBareWindow(benchmark::State& state, int)
+{
+    run(state, QStringLiteral("rules-bare-window"), {QString::number(kWidgets)});
+}
+
+} // namespace
+
+void addStartRow(BenchRows& rows)
+{
+    rows.push_back({"Start", "a bare window with as many widgets", 1.5, 1, startWorkbench,
+                    startBareWindow, false});
+}

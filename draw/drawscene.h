@@ -1,0 +1,134 @@
+#pragma once
+
+#include "draw/basedrawtype.h"
+#include "draw/drawitemindex.h"
+#include "draw/drawitemlistener.h"
+#include "draw/figurelayer.h"
+
+#include <QList>
+#include <QObject>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+class BaseDraw;
+class DrawItem;
+namespace Gdiplus
+{
+class Graphics;
+class GraphicsPath;
+} // namespace Gdiplus
+
+/**
+ * The canvas of one scene: holds every figure of it, turns mouse events into points of the
+ * selected figure, keeps figures out of forbidden areas and paints everything over the picture.
+ * All sizes and positions are canvas pixels.
+ */
+class DrawScene : public QObject, private DrawItemListener
+{
+    Q_OBJECT
+
+public:
+    enum DrawMouseType {
+        DrawMouseLeftPress = 1,
+        DrawMouseRightPress = 2,
+        DrawMouseMove = 3,
+    };
+
+    explicit DrawScene(QObject* parent = nullptr);
+    ~DrawScene() override;
+
+    /// Replaces this scene's figures by copies of @p other's, with item ids of their own.
+    void copyItemsFrom(const DrawScene& other);
+
+    void setCanvasSize(int width, int height);
+    QSize canvasSize() const { return m_canvasSize; }
+
+    /// Takes @p item in, as a child of the item @p parentId when that exists, and returns it;
+    /// null for null.
+    DrawItem* addItem(std::unique_ptr<DrawItem> item, int parentId);
+    /// Null for ids below 1 and unknown ids.
+    DrawItem* findItem(int id) const;
+    /// Removes and deletes an item, with its children.
+    void removeItem(int id);
+
+    /// Kind None with a data id below 1: all items. Otherwise the items of that very kind and,
+    /// for data ids from 1, of that entry; so None with a data id lists figureless items only.
+    QList<DrawItem*> getItemList(BaseDrawType type, int dataId) const;
+    int itemCount(BaseDrawType type, int dataId) const;
+    QList<DrawItem*> getItemListByDataId(int dataId) const;
+    DrawItem* getFirstDrawItem() const;
+
+    /// On: only figures of the current data id are painted and selectable.
+    void setDrawByDataId(bool on) { m_drawByDataId = on; }
+    void setCurrentDataId(int dataId) { m_currentDataId = dataId; }
+    int currentDataId() const { return m_currentDataId; }
+
+    /// Selects the figure of item @p itemId and unselects the others; hints at drawing it when
+    /// it is not finished. An unknown id (0) clears the selection.
+    void setSelected(int itemId, int dataId);
+    DrawItem* selectedItem(int dataId) const;
+
+    /// One mouse event at @p point; moves the rubber band, adds a point or finishes a figure.
+    void addDrawPoint(DrawMouseType type, const QPoint& point);
+    /// Clears the item's figure so that it is drawn again.
+    void redrawItem(int id);
+
+    bool HasDrawUnfinished() const;
+    void SetDrawOver(bool over);
+
+    void draw(Gdiplus::Graphics* graphics);
+
+    /// The hint shown in the middle of the canvas; empty for none.
+    const QString& message() const { return m_message; }
+    bool isPointForbidden(const QPoint& point) const;
+
+signals:
+    /// After every change of the selection or of a figure's completion.
+    void sgnSelectedStatusChange();
+
+private:
+    void itemAdded(DrawItem& item) override;
+    void itemGone(DrawItem& item) override;
+    void itemIdsChanged(DrawItem& item) override;
+
+    DrawItem* own(std::unique_ptr<DrawItem> item);
+    void list(DrawItem& item);
+    bool isSkipped(const DrawItem& item, int dataId) const;
+    DrawItem* findSelected(int dataId) const;
+    void pressLeft(DrawItem& item, const QPoint& point);
+    void pressRight(DrawItem& item);
+    void finishDrawing(const DrawItem& item);
+    void calcDrawForbidenArea(const DrawItem* item);
+    void resizeForbidenArea();
+    void keepOutOfItems(const DrawItem* except);
+    void keepInsideParent(const DrawItem& item);
+    DrawItem* itemBeingDrawn() const;
+    void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
+                   const std::vector<BaseDraw*>& figures, bool withForbidenArea) const;
+    void drawForbidenArea(Gdiplus::Graphics& graphics) const;
+    void drawMessage(Gdiplus::Graphics& graphics) const;
+    QString getBeginDrawMsg(const DrawItem* item) const;
+    QString getEndDrawMsg(const DrawItem* item) const;
+
+    DrawItemIndex m_items; ///< all items, children too, as added
+    /// The items without a parent, by their address.
+    std::unordered_map<const DrawItem*, std::unique_ptr<DrawItem>> m_roots;
+    QSize m_canvasSize{0, 0};
+    QString m_message;
+    std::unique_ptr<Gdiplus::GraphicsPath> m_forbidenArea;
+    const DrawItem* m_forbidenFor = nullptr; ///< whose standing area it is; not owned
+    quint64 m_forbidenRevision = 0;          ///< another one whenever the area is another
+    FigureLayer m_below; ///< the area and the figures before the one being drawn
+    FigureLayer m_above; ///< the figures after it
+    bool m_drawByDataId = false;
+    int m_currentDataId = -1;
+
+    // What a walk over all items found selected, good until the revision changes.
+    mutable DrawItem* m_foundSelected = nullptr; ///< not owned
+    mutable std::optional<quint64> m_foundAtRevision;
+};

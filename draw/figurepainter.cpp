@@ -1,0 +1,133 @@
+#include "draw/figurepainter.h"
+
+#include "draw/drawgeometry.h"
+#include "draw/labelfont.h"
+#include "draw/widetext.h"
+
+#include <algorithm>
+
+namespace
+{
+
+const Gdiplus::ARGB kRefusedColor = 0xFFFF0000;
+const Gdiplus::REAL kPenWidth = 2.0F;
+const float kHalfShaft = 20.0F;
+const float kWing = 10.0F;
+const float kLeftWingDegrees = -135.0F;
+const float kRightWingDegrees = -225.0F;
+
+/// Restores the graphics state at the end of its scope.
+class StateScope
+{
+public:
+    explicit StateScope(Gdiplus::Graphics& graphics)
+        : m_graphics(graphics), m_state(graphics.Save())
+    {
+    }
+    ~StateScope() { m_graphics.Restore(m_state); }
+    StateScope(const StateScope&) = delete;
+    StateScope& operator=(const StateScope&) = delete;
+
+private:
+    Gdiplus::Graphics& m_graphics;
+    Gdiplus::GraphicsState m_state;
+};
+
+void moveTo(Gdiplus::Graphics& graphics, const QPoint& origin, const QLine& segment)
+{
+    graphics.TranslateTransform(float(origin.x()), float(origin.y()));
+    graphics.RotateTransform(float(DrawGeometry::directionDegrees(segment)));
+}
+
+} // namespace
+
+FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color)
+    : m_graphics(graphics), m_color(color), m_pen(color, kPenWidth)
+{
+}
+
+void FigurePainter::line(const QLine& line) const
+{
+    m_graphics.DrawLine(&m_pen, line.x1(), line.y1(), line.x2(), line.y2());
+}
+
+void FigurePainter::rubberBand(const QLine& line, const QVector<QPoint>& crossings) const
+{
+    if (crossings.isEmpty()) {
+        this->line(line);
+        return;
+    }
+    const Gdiplus::Pen pen(Gdiplus::Color(kRefusedColor), kPenWidth);
+    for (const QPoint& at : crossings)
+        m_graphics.DrawRectangle(&pen, at.x(), at.y(), 2, 2);
+    m_graphics.DrawLine(&pen, line.x1(), line.y1(), line.x2(), line.y2());
+}
+
+void FigurePainter::polyline(const QVector<QPoint>& points) const
+{
+    for (int i = 0; i + 1 < points.size(); ++i)
+        line({points[i], points[i + 1]});
+}
+
+void FigurePainter::rectangle(const QPoint& corner, const QPoint& opposite) const
+{
+    const auto [left, right] = std::minmax({corner.x(), opposite.x()});
+    const auto [top, bottom] = std::minmax({corner.y(), opposite.y()});
+    m_graphics.DrawRectangle(&m_pen, float(left), float(top), float(qint64{right} - left),
+                             float(qint64{bottom} - top));
+}
+
+void FigurePainter::drawArrow(const QLine& segment, bool bothEnds) const
+{
+    const StateScope scope(m_graphics);
+    moveTo(m_graphics, DrawGeometry::middle(segment.p1(), segment.p2()), segment);
+    stroke(0, -kHalfShaft, 0, kHalfShaft);
+    wings(-kHalfShaft, -kWing);
+    if (bothEnds)
+        wings(kHalfShaft, kWing);
+}
+
+void FigurePainter::arrowhead(const QLine& segment) const
+{
+    const StateScope scope(m_graphics);
+    moveTo(m_graphics, segment.p2(), segment);
+    {
+        const StateScope wing(m_graphics);
+        m_graphics.RotateTransform(kLeftWingDegrees);
+        stroke(0, 0, 0, -kWing);
+    }
+    m_graphics.RotateTransform(kRightWingDegrees);
+    stroke(0, 0, 0, kWing);
+}
+
+void FigurePainter::tick(const QPoint& at, const QLine& segment) const
+{
+    const StateScope scope(m_graphics);
+    moveTo(m_graphics, at, segment);
+    stroke(0, -kHalfShaft, 0, kHalfShaft);
+}
+
+void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
+{
+    if (text.isEmpty())
+        return;
+    const StateScope scope(m_graphics);
+    moveTo(m_graphics, segment.p1(), segment);
+    const Gdiplus::SolidBrush brush(m_color);
+    m_graphics.DrawString(wideText(text), -1, &LabelFont::font(), Gdiplus::PointF(0, 0), &brush);
+}
+
+void FigurePainter::stroke(float x1, float y1, float x2, float y2) const
+{
+    m_graphics.DrawLine(&m_pen, x1, y1, x2, y2);
+}
+
+void FigurePainter::wings(float tipY, float wingY) const
+{
+    for (const float degrees : {kLeftWingDegrees, kRightWingDegrees}) {
+        const StateScope scope(m_graphics);
+        m_graphics.TranslateTransform(0, tipY);
+        m_graphics.RotateTransform(degrees);
+        stroke(0, 0, 0, wingY);
+    }
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/gdiplus.h"
+
+#include <QLine>
+#include <QPoint>
+#include <QString>
+#include <QVector>
+
+/// The strokes that figures are made of, in one figure's colour. Lives for one painting; all
+/// positions are canvas pixels.
+class FigurePainter
+{
+public:
+    /// @p graphics must outlive the painter.
+    FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color);
+
+    void line(const QLine& line) const;
+    /// A line that would become an edge: red, with a small square at each of @p crossings, when
+    /// it would be refused for crossing others.
+    void rubberBand(const QLine& line, const QVector<QPoint>& crossings) const;
+    /// Lines between consecutive points.
+    void polyline(const QVector<QPoint>& points) const;
+    /// The outline of the rectangle between two opposite corners.
+    void rectangle(const QPoint& corner, const QPoint& opposite) const;
+    /// An arrow across the middle of @p segment, pointing to its left as seen along it, and
+    /// also to its right with @p bothEnds.
+    void drawArrow(const QLine& segment, bool bothEnds) const;
+    /// An arrowhead at the end of @p segment, pointing along it.
+    void arrowhead(const QLine& segment) const;
+    /// A stroke across @p segment at @p at, one of its ends.
+    void tick(const QPoint& at, const QLine& segment) const;
+    /// @p text along @p segment from its first point on.
+    void drawLabel(const QString& text, const QLine& segment) const;
+
+private:
+    void stroke(float x1, float y1, float x2, float y2) const;
+    void wings(float tipY, float wingY) const;
+
+    Gdiplus::Graphics& m_graphics; ///< not owned
+    Gdiplus::Color m_color;
+    Gdiplus::Pen m_pen;
+};

@@ -1,0 +1,121 @@
+#include "host/channelsources.h"
+
+#include "host/maskedaddress.h"
+#include "host/nosignalsource.h"
+#include "host/samplecamerasource.h"
+#include "host/stillpicturesource.h"
+#include "host/streamsource.h"
+
+#include <QImageReader>
+#include <QMimeDatabase>
+#include <QUrl>
+
+namespace UICommonMdl
+{
+namespace
+{
+
+const auto kSampleCamera = QStringLiteral("sample:");
+
+const QStringList kStreamSchemes{QStringLiteral("rtsp"), QStringLiteral("rtsps")};
+
+/// The name decides where it tells: a bare stream of JPEG pictures begins like one picture.
+bool isStillPicture(const QString& path)
+{
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension);
+    if (type.name().startsWith(QStringLiteral("video/")))
+        return false;
+    return type.name().startsWith(QStringLiteral("image/")) ||
+           !QImageReader::imageFormat(path).isEmpty();
+}
+
+std::unique_ptr<PictureSource> streamSource(const QString& address, bool isFile,
+                                            const StreamOptions& options)
+{
+    StreamRequest request;
+    request.address = address;
+    request.isFile = isFile;
+    request.options = options;
+    return std::make_unique<StreamSource>(request);
+}
+
+std::unique_ptr<PictureSource> fileSource(const QString& path)
+{
+    if (isStillPicture(path))
+        return std::make_unique<StillPictureSource>(path);
+    return streamSource(path, true, {});
+}
+
+std::unique_ptr<PictureSource> builtInSource(const QString& address, const StreamOptions& options)
+{
+    if (address.isEmpty())
+        return std::make_unique<NoSignalSource>(ChannelSources::tr("The address is empty."));
+    if (address.startsWith(kSampleCamera))
+        return std::make_unique<SampleCameraSource>();
+    const int scheme = address.indexOf(QStringLiteral("://"));
+    if (scheme < 0)
+        return fileSource(address);
+    const QUrl url(address);
+    if (url.isLocalFile())
+        return fileSource(url.toLocalFile());
+    if (kStreamSchemes.contains(address.left(scheme), Qt::CaseInsensitive))
+        return streamSource(address, false, options);
+    return std::make_unique<NoSignalSource>(
+        ChannelSources::tr("Only rtsp and rtsps addresses and files can be played, not %1.")
+            .arg(maskedAddress(address)));
+}
+
+} // namespace
+
+ChannelSources::ChannelSources() : m_defaultAddress(kSampleCamera) {}
+
+QString ChannelSources::address(const QString& channelId) const
+{
+    return m_addresses.value(channelId, m_defaultAddress);
+}
+
+void ChannelSources::setAddress(const QString& channelId, const QString& address)
+{
+    if (address.isEmpty())
+        m_addresses.remove(channelId);
+    else
+        m_addresses.insert(channelId, address);
+    emit sgnAddressesChanged();
+}
+
+void ChannelSources::setAddresses(const QMap<QString, QString>& addresses)
+{
+    m_addresses = addresses;
+    emit sgnAddressesChanged();
+}
+
+void ChannelSources::setDefaultAddress(const QString& address)
+{
+    m_defaultAddress = address;
+    emit sgnAddressesChanged();
+}
+
+void ChannelSources::addMaker(Maker maker)
+{
+    m_makers.push_back(std::move(maker));
+}
+
+std::unique_ptr<PictureSource> ChannelSources::makeSource(const QString& address,
+                                                          const StreamOptions& options) const
+{
+    for (auto maker = m_makers.rbegin(); maker != m_makers.rend(); ++maker) {
+        if (std::unique_ptr<PictureSource> source = (*maker)(address, options))
+            return source;
+    }
+    return builtInSource(address, options);
+}
+
+} // namespace UICommonMdl
+
+template<>
+UICommonMdl::ChannelSources& KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance()
+{
+    // Never destroyed: surfaces may outlast the end of main().
+    static auto* const sources = new UICommonMdl::ChannelSources;
+    return *sources;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/gdiplus/basetypes.h"
+#include "host/kqhostexport.h"
+
+#include <QBrush>
+
+namespace Gdiplus
+{
+
+/// Base of what fills areas and text.
+class KQHOST_EXPORT Brush
+{
+public:
+    virtual ~Brush();
+    Brush(const Brush&) = delete;
+    Brush& operator=(const Brush&) = delete;
+
+protected:
+    explicit Brush(const QBrush& brush);
+
+private:
+    friend class Graphics;
+
+    QBrush m_brush;
+};
+
+} // namespace Gdiplus

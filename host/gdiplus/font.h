@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/gdiplus/basetypes.h"
+#include "host/kqhostexport.h"
+
+#include <QFont>
+
+namespace Gdiplus
+{
+
+/**
+ * A font whose size does not depend on the screen: physical units count at 96 dots an inch, so 12
+ * points are 16 pixels everywhere. The em is rounded to whole pixels.
+ */
+class KQHOST_EXPORT Font
+{
+public:
+    /// A null or empty family stands for the application's default one.
+    Font(const WCHAR* familyName, REAL emSize, INT style = FontStyleRegular, Unit unit = UnitPoint);
+    Font(const Font&) = delete;
+    Font& operator=(const Font&) = delete;
+
+    /// InvalidParameter when the size or unit is unusable; such a font draws nothing.
+    Status GetLastStatus() const { return m_status; }
+
+private:
+    friend class Graphics;
+
+    QFont m_font;
+    Status m_status = Ok;
+};
+
+} // namespace Gdiplus

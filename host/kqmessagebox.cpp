@@ -1,0 +1,57 @@
+#include "host/kqmessagebox.h"
+
+#include <QPointer>
+
+namespace KQGUI
+{
+namespace
+{
+
+/// More than an operator reads; names from documents can be of any length.
+constexpr int kLongestText = 2000;
+
+QString shortened(const QString& text)
+{
+    if (text.size() <= kLongestText)
+        return text;
+    return text.left(kLongestText) + QChar(0x2026);
+}
+
+QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& title,
+                                 const QString& text, QMessageBox::StandardButtons buttons)
+{
+    // On the heap, as a parent that goes takes its box along.
+    const QPointer<QMessageBox> box(new QMessageBox(parent));
+    box->setIcon(icon);
+    box->setWindowTitle(title);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(shortened(text));
+    box->setStandardButtons(buttons);
+    const auto answer = static_cast<QMessageBox::StandardButton>(box->exec());
+    if (!box)
+        return QMessageBox::NoButton;
+    delete box.data();
+    return answer;
+}
+
+} // namespace
+
+void KQMessageBox::ShowError(QWidget* parent, const QString& title, const QString& text)
+{
+    show(parent, QMessageBox::Critical, title, text, QMessageBox::Ok);
+}
+
+void KQMessageBox::ShowNotice(QWidget* parent, const QString& title, const QString& text)
+{
+    show(parent, QMessageBox::Information, title, text, QMessageBox::Ok);
+}
+
+QMessageBox::StandardButton KQMessageBox::ShowInformation(QWidget* parent, int type,
+                                                          const QString& title, const QString& text,
+                                                          QMessageBox::StandardButtons buttons)
+{
+    const auto icon = type == kQuestion ? QMessageBox::Question : QMessageBox::Information;
+    return show(parent, icon, title, text, buttons);
+}
+
+} // namespace KQGUI

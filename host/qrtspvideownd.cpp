@@ -1,0 +1,398 @@
+#include "host/qrtspvideownd.h"
+
+#include "host/channelsources.h"
+#include "host/kqmessagebox.h"
+#include "host/letterbox.h"
+#include "host/picturesource.h"
+#include "host/picturestrip.h"
+#include "host/rtspvideoparam.h"
+
+#include <QFileDialog>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+using UICommonMdl::ChannelSources;
+using UICommonMdl::PictureSource;
+using UICommonMdl::PictureState;
+using UICommonMdl::PictureStatus;
+using UICommonMdl::PictureStrip;
+
+namespace
+{
+
+constexpr QRgb kGround = 0xFF15191E;
+constexpr QRgb kQuietText = 0xFF8D98A5;
+constexpr QRgb kStrip = 0xB0101418;
+constexpr QRgb kStripText = 0xFFE6EAEE;
+constexpr int kTextMargin = 16;
+constexpr int kStripMargin = 6;
+constexpr int kUdpMode = 1;
+
+ChannelSources& channelSources()
+{
+    return KQGUI::KQSingleton<ChannelSources>::Instance();
+}
+
+QString noSignalText(const PictureStatus& status)
+{
+    QStringList lines{QRtspVideoWnd::tr("No signal")};
+    if (!status.reason.isEmpty())
+        lines.append(status.reason);
+    if (status.lastPicture.isValid())
+        lines.append(QRtspVideoWnd::tr("Last picture: %1")
+                         .arg(QLocale().toString(status.lastPicture, QLocale::ShortFormat)));
+    return lines.join(QLatin1Char('\n'));
+}
+
+QMouseEvent movedTo(const QRect& picture, QEvent::Type type, const QMouseEvent& event)
+{
+    return {type,
+            event.localPos() - picture.topLeft(),
+            event.windowPos(),
+            event.screenPos(),
+            event.button(),
+            event.buttons(),
+            event.modifiers()};
+}
+
+} // namespace
+
+QRtspVideoWnd::QRtspVideoWnd(QWidget* parent, int)
+    : QWidget(parent), m_strip(new PictureStrip(this, [this]() {
+          return m_source ? m_source->statistics() : UICommonMdl::PictureStatistics();
+      }))
+{
+    connect(m_strip, &PictureStrip::sgnFreeze, this, &QRtspVideoWnd::setFrozen);
+    connect(m_strip, &PictureStrip::sgnSnapshot, this, &QRtspVideoWnd::sltSaveSnapshot);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // The right button draws.
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    connect(&channelSources(), &ChannelSources::sgnAddressesChanged, this,
+            &QRtspVideoWnd::sltAddressesChanged);
+}
+
+QRtspVideoWnd::~QRtspVideoWnd()
+{
+    if (!m_source)
+        return;
+    m_source->disconnect(this);
+    m_source->stop();
+}
+
+void QRtspVideoWnd::setInterfaceSetManager(CommonData::CInterfaceSetManager* manager)
+{
+    m_manager = manager;
+}
+
+void QRtspVideoWnd::setDrawEnabled(bool enabled)
+{
+    m_drawEnabled = enabled;
+    update();
+}
+
+bool QRtspVideoWnd::setPaneDivision(int panes)
+{
+    return panes == 1;
+}
+
+void QRtspVideoWnd::registerDrawCallback(DrawCallback callback, void* user)
+{
+    m_drawCallback = callback;
+    m_drawUser = user;
+    update();
+}
+
+void QRtspVideoWnd::registerVideoSizeCallback(VideoSizeCallback callback, void* user)
+{
+    m_sizeCallback = callback;
+    m_sizeUser = user;
+    m_reportedSize = QSize();
+    reportVideoSize();
+}
+
+bool QRtspVideoWnd::openLivePicture(const QString& channelId, int pane)
+{
+    if (pane != selectedPane())
+        return false;
+    m_opened = Opened::Channel;
+    m_channelId = channelId;
+    openAddress(channelSources().address(channelId), {});
+    return true;
+}
+
+bool QRtspVideoWnd::openByRtsp(const PreviewLogical::RtspVideoParam& param)
+{
+    m_opened = Opened::Rtsp;
+    m_sessionId = param.sessionId;
+    m_playType = param.playType;
+    openAddress(param.rtspUrl, {param.streamMode == kUdpMode, param.delayTime});
+    return m_source && m_source->status().state != PictureState::NoSignal;
+}
+
+void QRtspVideoWnd::closeRtsp(int sessionId, int playType)
+{
+    if (m_opened == Opened::Rtsp && m_sessionId == sessionId && m_playType == playType)
+        closeSource();
+}
+
+void QRtspVideoWnd::resetToolBar(int pane)
+{
+    if (pane == selectedPane())
+        closeSource();
+}
+
+int QRtspVideoWnd::selectedPane() const
+{
+    return 0;
+}
+
+QRect QRtspVideoWnd::paneRect(int pane) const
+{
+    if (pane != selectedPane() || !m_source)
+        return {};
+    return UICommonMdl::letterboxed(shownSize(), rect());
+}
+
+QString QRtspVideoWnd::statusText() const
+{
+    if (!m_source)
+        return tr("No picture");
+    const PictureStatus status = m_source->status();
+    switch (status.state) {
+    case PictureState::Connecting:
+        return tr("Connecting ...");
+    case PictureState::Playing:
+        return isFrozen() ? tr("The picture is held still") : QString();
+    case PictureState::NoSignal:
+        return noSignalText(status);
+    case PictureState::Ended:
+        return tr("Ended");
+    }
+    return {};
+}
+
+void QRtspVideoWnd::setFrozen(bool frozen)
+{
+    const QImage picture = frozen && m_source ? m_source->fullPicture() : QImage();
+    m_still = picture.isNull() ? std::nullopt : std::optional<QImage>(picture);
+    m_strip->setFrozen(isFrozen());
+    m_pixmap = QPixmap();
+    followPictureRect();
+    reportVideoSize();
+    update();
+}
+
+QImage QRtspVideoWnd::snapshot() const
+{
+    if (m_still)
+        return *m_still;
+    return m_source ? m_source->fullPicture() : QImage();
+}
+
+QSize QRtspVideoWnd::shownSize() const
+{
+    return m_still ? m_still->size() : m_source->pictureSize();
+}
+
+QSize QRtspVideoWnd::sizeHint() const
+{
+    return {640, 360};
+}
+
+QSize QRtspVideoWnd::minimumSizeHint() const
+{
+    return {160, 90};
+}
+
+void QRtspVideoWnd::openAddress(const QString& address, const UICommonMdl::StreamOptions& options)
+{
+    const Opened opened = m_opened;
+    closeSource();
+    m_opened = opened;
+    m_address = address;
+    m_source = channelSources().makeSource(address, options);
+    PictureSource* source = m_source.get();
+    connect(source, &PictureSource::sgnPictureReady, this, &QRtspVideoWnd::sltPictureReady);
+    connect(source, &PictureSource::sgnStateChanged, this, [this]() { update(); });
+    source->start();
+    update();
+}
+
+void QRtspVideoWnd::closeSource()
+{
+    m_opened = Opened::Nothing;
+    if (!m_source)
+        return;
+    m_source->disconnect(this);
+    m_source->stop();
+    // The call may come out of one of the source's own signals.
+    m_source.release()->deleteLater();
+    m_still.reset();
+    m_strip->setFrozen(false);
+    m_pixmap = QPixmap();
+    m_reportedSize = QSize();
+    followPictureRect();
+    update();
+}
+
+void QRtspVideoWnd::sltPictureReady()
+{
+    if (isFrozen())
+        return;
+    m_pixmap = QPixmap();
+    followPictureRect();
+    reportVideoSize();
+    update(m_rect);
+}
+
+void QRtspVideoWnd::sltAddressesChanged()
+{
+    if (m_opened == Opened::Channel && channelSources().address(m_channelId) != m_address)
+        openLivePicture(m_channelId);
+}
+
+void QRtspVideoWnd::sltSaveSnapshot()
+{
+    const QImage picture = snapshot();
+    const QPointer<QRtspVideoWnd> guard(this);
+    const QString name =
+        QDateTime::currentDateTime().toString(QStringLiteral("'snapshot'-yyyyMMdd-HHmmss'.png'"));
+    const QString file = QFileDialog::getSaveFileName(this, tr("Save snapshot"), name,
+                                                      tr("Pictures (*.png *.jpg *.bmp)"));
+    if (!guard || file.isEmpty() || picture.save(file))
+        return;
+    KQGUI::KQMessageBox::ShowError(this, tr("Save snapshot"),
+                                   tr("The picture cannot be saved as \"%1\".").arg(file));
+}
+
+void QRtspVideoWnd::reportVideoSize()
+{
+    const QSize size = m_source ? m_source->pictureSize() : QSize();
+    if (!m_sizeCallback || size.isEmpty() || size == m_reportedSize)
+        return;
+    m_reportedSize = size;
+    m_sizeCallback(size.width(), size.height(), m_sizeUser);
+}
+
+/// Announces the picture rectangle when it is another than the one announced last.
+void QRtspVideoWnd::followPictureRect()
+{
+    const QRect picture = paneRect(selectedPane());
+    if (picture == m_rect)
+        return;
+    m_rect = picture;
+    m_strip->setPictureRect(picture);
+    update();
+    emit sgnPictureRectChanged(selectedPane());
+}
+
+void QRtspVideoWnd::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    followPictureRect();
+}
+
+bool QRtspVideoWnd::deliverPress(QMouseEvent* event)
+{
+    const QRect picture = paneRect(selectedPane());
+    if (!picture.contains(event->pos()))
+        return false;
+    // The second press of a double click comes as another type, but draws like any press.
+    QMouseEvent press = movedTo(picture, QEvent::MouseButtonPress, *event);
+    emit SignalMousePress(&press);
+    emit sgnWndClick(selectedPane(), press.x(), press.y());
+    return true;
+}
+
+void QRtspVideoWnd::mousePressEvent(QMouseEvent* event)
+{
+    deliverPress(event);
+}
+
+void QRtspVideoWnd::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QPoint at = event->pos() - paneRect(selectedPane()).topLeft();
+    if (deliverPress(event))
+        emit sgnSWDbClicked(selectedPane(), at.x(), at.y());
+}
+
+void QRtspVideoWnd::mouseMoveEvent(QMouseEvent* event)
+{
+    const QRect picture = paneRect(selectedPane());
+    if (!picture.contains(event->pos()))
+        return;
+    QMouseEvent move = movedTo(picture, QEvent::MouseMove, *event);
+    emit SignalMoveEvent(&move);
+}
+
+void QRtspVideoWnd::paintEvent(QPaintEvent*)
+{
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), QColor::fromRgba(kGround));
+        paintPicture(painter);
+    }
+    paintOver();
+    QPainter painter(this);
+    paintStatus(painter);
+}
+
+/// Scales once a picture and size; sources that know the size have done it already.
+void QRtspVideoWnd::preparePixmap(const QRect& picture)
+{
+    const qreal ratio = devicePixelRatioF();
+    const QSize size = (QSizeF(picture.size()) * ratio).toSize();
+    if (m_pixmap.size() == size)
+        return;
+    m_source->setTargetSize(size);
+    QImage image = m_still ? *m_still : m_source->picture();
+    if (!image.isNull() && image.size() != size)
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    m_pixmap = QPixmap::fromImage(std::move(image));
+}
+
+void QRtspVideoWnd::paintPicture(QPainter& painter)
+{
+    const QRect picture = paneRect(selectedPane());
+    if (picture.isEmpty())
+        return;
+    preparePixmap(picture);
+    painter.drawPixmap(picture, m_pixmap);
+}
+
+/// A painter of its own, so that nothing the callback leaves behind stays.
+void QRtspVideoWnd::paintOver()
+{
+    const QRect picture = paneRect(selectedPane());
+    if (!m_drawEnabled || !m_drawCallback || picture.isEmpty())
+        return;
+    QPainter painter(this);
+    painter.setClipRect(picture);
+    painter.translate(picture.topLeft());
+    m_drawCallback(static_cast<void*>(&painter), m_drawUser);
+}
+
+/// In the middle of an empty pane, else in a strip at the foot of the last picture.
+void QRtspVideoWnd::paintStatus(QPainter& painter)
+{
+    const QString text = statusText();
+    if (text.isEmpty())
+        return;
+    const int flags = Qt::AlignCenter | Qt::TextWordWrap;
+    const QRect picture = paneRect(selectedPane());
+    if (picture.isEmpty()) {
+        const QRect area = rect().adjusted(kTextMargin, kTextMargin, -kTextMargin, -kTextMargin);
+        painter.setPen(QColor::fromRgba(kQuietText));
+        painter.drawText(area, flags, text);
+        return;
+    }
+    QRect strip = painter.fontMetrics().boundingRect(picture, flags, text);
+    strip.setRect(picture.left(), picture.bottom() + 1 - strip.height() - 2 * kStripMargin,
+                  picture.width(), strip.height() + 2 * kStripMargin);
+    painter.fillRect(strip, QColor::fromRgba(kStrip));
+    painter.setPen(QColor::fromRgba(kStripText));
+    painter.drawText(strip, flags, text);
+}

@@ -1,0 +1,182 @@
+#include "host/streaminput.h"
+
+#include "host/picturesize.h"
+#include "host/streamerrors.h"
+#include "host/streammailbox.h"
+
+#include <QFileInfo>
+
+#include <cerrno>
+#include <mutex>
+
+namespace UICommonMdl
+{
+namespace
+{
+
+constexpr std::chrono::milliseconds kGoodbye{500};
+
+/// The libraries' own messages hold addresses with their passwords.
+void silenceLibraries()
+{
+    static std::once_flag once;
+    std::call_once(once, []() { av_log_set_callback([](void*, int, const char*, va_list) {}); });
+}
+
+void setStreamOptions(AvOptions& options, const StreamOptions& wanted)
+{
+    options.set("rtsp_transport", "udp+tcp");
+    if (!wanted.udp)
+        options.set("rtsp_flags", "prefer_tcp");
+    options.set("allowed_media_types", "video");
+    options.set("protocol_whitelist", "rtsp,rtsps,rtp,srtp,tcp,udp,tls");
+    options.set("analyzeduration", "2000000");
+    options.set("buffer_size", "1048576");
+}
+
+QSize pictureSize(const AVStream& stream)
+{
+    return {stream.codecpar->width, stream.codecpar->height};
+}
+
+bool isVideo(const AVStream& stream)
+{
+    return stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO;
+}
+
+} // namespace
+
+StreamInput::StreamInput(const StreamRequest& request, const StreamMailbox& mailbox)
+    : m_request(request), m_mailbox(mailbox)
+{
+}
+
+StreamInput::~StreamInput()
+{
+    m_isClosing = true;
+    expectAnswer(kGoodbye);
+    m_format.reset();
+}
+
+QString StreamInput::open()
+{
+    silenceLibraries();
+    if (m_request.isFile && QFileInfo(m_request.address).isDir())
+        return streamErrorText(AVERROR(EISDIR));
+    const int connected = connectToServer();
+    if (connected < 0)
+        return streamErrorText(connected);
+    // Before anything is decoded: room for an absurd size is never taken.
+    for (unsigned i = 0; i < m_format->nb_streams; ++i) {
+        const QSize size = pictureSize(*m_format->streams[i]);
+        if (isVideo(*m_format->streams[i]) && !size.isNull() && !isPlausibleSize(size))
+            return implausibleSizeText(size);
+    }
+    return findVideo();
+}
+
+int StreamInput::connectToServer()
+{
+    AvOptions options;
+    QByteArray address = m_request.address.toUtf8();
+    if (m_request.isFile) {
+        // Without it, "name:rest" would be taken for a protocol.
+        address.prepend("file:");
+        options.set("protocol_whitelist", "file");
+    } else {
+        setStreamOptions(options, m_request.options);
+    }
+    AVFormatContext* format = avformat_alloc_context();
+    if (!format)
+        return AVERROR(ENOMEM);
+    format->interrupt_callback = {&StreamInput::isInterrupted, this};
+    expectAnswer(m_request.silenceLimit);
+    const int opened = avformat_open_input(&format, address.constData(), nullptr, options.get());
+    if (opened < 0)
+        return explained(opened);
+    m_format.reset(format);
+    return 0;
+}
+
+QString StreamInput::findVideo()
+{
+    expectAnswer(m_request.silenceLimit);
+    const int found = avformat_find_stream_info(m_format.get(), nullptr);
+    if (found < 0)
+        return streamErrorText(explained(found));
+    m_video = av_find_best_stream(m_format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
+    if (m_video < 0 || (video().disposition & AV_DISPOSITION_ATTACHED_PIC))
+        return streamErrorText(AVERROR_STREAM_NOT_FOUND);
+    if (Clock::now() > m_deadline && pictureSize(video()).isEmpty())
+        return streamErrorText(AVERROR(ETIMEDOUT));
+    if (!isPlausibleSize(pictureSize(video())))
+        return implausibleSizeText(pictureSize(video()));
+    for (unsigned i = 0; i < m_format->nb_streams; ++i) {
+        if (int(i) != m_video)
+            m_format->streams[i]->discard = AVDISCARD_ALL;
+    }
+    return {};
+}
+
+int StreamInput::read(AVPacket& packet)
+{
+    expectAnswer(m_request.silenceLimit);
+    while (!m_aborted) {
+        const int result = av_read_frame(m_format.get(), &packet);
+        if (result < 0)
+            return explained(result);
+        if (packet.stream_index == m_video)
+            return 0;
+        av_packet_unref(&packet);
+    }
+    return AVERROR_EXIT;
+}
+
+int StreamInput::rewind()
+{
+    const AVStream& stream = video();
+    const int64_t first = stream.start_time == AV_NOPTS_VALUE ? 0 : stream.start_time;
+    const int result = av_seek_frame(m_format.get(), m_video, first, AVSEEK_FLAG_BACKWARD);
+    if (result >= 0)
+        return 0;
+    // Bare streams of pictures have no times to seek by.
+    return av_seek_frame(m_format.get(), m_video, 0, AVSEEK_FLAG_BYTE);
+}
+
+void StreamInput::abort()
+{
+    m_aborted = true;
+}
+
+const AVStream& StreamInput::video() const
+{
+    return *m_format->streams[m_video];
+}
+
+double StreamInput::picturesPerSecond() const
+{
+    AVStream* const stream = m_format->streams[m_video];
+    return av_q2d(av_guess_frame_rate(m_format.get(), stream, nullptr));
+}
+
+int StreamInput::isInterrupted(void* input)
+{
+    const auto& self = *static_cast<const StreamInput*>(input);
+    const bool given = !self.m_isClosing && (self.m_aborted || self.m_mailbox.isClosed());
+    const bool silent = !self.m_request.isFile && Clock::now() > self.m_deadline;
+    return given || silent ? 1 : 0;
+}
+
+void StreamInput::expectAnswer(Clock::duration limit)
+{
+    m_deadline = Clock::now() + limit;
+}
+
+/// A call that was given up because of silence comes back with one of several codes.
+int StreamInput::explained(int code) const
+{
+    const bool silent = !m_request.isFile && Clock::now() > m_deadline;
+    return silent ? AVERROR(ETIMEDOUT) : code;
+}
+
+} // namespace UICommonMdl

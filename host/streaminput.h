@@ -1,0 +1,56 @@
+#pragma once
+
+#include "host/avpointers.h"
+#include "host/streamrequest.h"
+
+#include <atomic>
+#include <chrono>
+
+namespace UICommonMdl
+{
+
+class StreamMailbox;
+
+/**
+ * The reading end of a stream or video file: connects, and hands over the packets of its video.
+ * Every call that waits is given up when the mailbox is closed, on abort(), and when a server
+ * stays silent for too long. Used on one thread at a time, abort() apart.
+ */
+class StreamInput
+{
+public:
+    StreamInput(const StreamRequest& request, const StreamMailbox& mailbox);
+    /// Says goodbye to the server, which takes a moment at most.
+    ~StreamInput();
+
+    /// Why it cannot be played, empty when it was opened.
+    QString open();
+    /// The next packet of the video; below 0 when there is none.
+    int read(AVPacket& packet);
+    /// To the first picture again; below 0 when that cannot be done.
+    int rewind();
+    void abort();
+
+    /// Valid once opened.
+    const AVStream& video() const;
+    double picturesPerSecond() const;
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    static int isInterrupted(void* input);
+    void expectAnswer(Clock::duration limit);
+    int explained(int code) const;
+    int connectToServer();
+    QString findVideo();
+
+    const StreamRequest m_request;
+    const StreamMailbox& m_mailbox;
+    AvFormatPointer m_format;
+    int m_video = -1;
+    Clock::time_point m_deadline;
+    bool m_isClosing = false;
+    std::atomic<bool> m_aborted{false};
+};
+
+} // namespace UICommonMdl

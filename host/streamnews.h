@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+struct AVFrame;
+
+namespace UICommonMdl
+{
+
+/// What came from a stream's thread since it was asked last.
+struct StreamNews {
+    QImage picture;                       ///< the newest, as it is to be shown; null when none came
+    std::shared_ptr<const AVFrame> frame; ///< the same picture as it was decoded
+    std::optional<QString> failure;       ///< why the stream is over
+};
+
+} // namespace UICommonMdl

@@ -1,0 +1,128 @@
+#include "host/streamsource.h"
+
+#include "host/dprintlog.h"
+#include "host/maskedaddress.h"
+#include "host/picturescaler.h"
+#include "host/streamdecoder.h"
+#include "host/streammailbox.h"
+
+namespace UICommonMdl
+{
+namespace
+{
+
+constexpr int kFirstWait = 1;
+constexpr int kLongestWait = 30;
+constexpr int kMillisecondsPerSecond = 1000;
+constexpr int kLogLevel = 2;
+
+} // namespace
+
+StreamSource::StreamSource(const StreamRequest& request) : m_request(request), m_wait(kFirstWait)
+{
+    m_retry.setSingleShot(true);
+    connect(&m_retry, &QTimer::timeout, this, &StreamSource::sltConnect);
+}
+
+StreamSource::~StreamSource()
+{
+    leave();
+}
+
+void StreamSource::start()
+{
+    m_wait = kFirstWait;
+    setState(PictureState::Connecting);
+    sltConnect();
+}
+
+void StreamSource::stop()
+{
+    leave();
+    setState(PictureState::Ended);
+}
+
+QImage StreamSource::picture() const
+{
+    return m_picture;
+}
+
+QSize StreamSource::pictureSize() const
+{
+    return m_pictureSize;
+}
+
+QImage StreamSource::fullPicture() const
+{
+    return m_frame ? PictureScaler().convert(*m_frame, m_pictureSize) : QImage();
+}
+
+void StreamSource::setTargetSize(const QSize& size)
+{
+    m_targetSize = size;
+    if (m_mailbox)
+        m_mailbox->setTargetSize(size);
+}
+
+PictureStatistics StreamSource::statistics() const
+{
+    PictureStatistics statistics = PictureSource::statistics();
+    if (m_mailbox) {
+        statistics.codec = m_mailbox->codec();
+        statistics.dropped = m_mailbox->dropped();
+    }
+    return statistics;
+}
+
+void StreamSource::sltConnect()
+{
+    leave();
+    m_mailbox = std::make_shared<StreamMailbox>([this]() {
+        QMetaObject::invokeMethod(this, &StreamSource::sltNews, Qt::QueuedConnection);
+    });
+    m_mailbox->setTargetSize(m_targetSize);
+    StreamDecoder::launch(m_request, m_mailbox);
+}
+
+void StreamSource::sltNews()
+{
+    if (!m_mailbox)
+        return;
+    const StreamNews news = m_mailbox->fetch();
+    if (!news.picture.isNull()) {
+        m_wait = kFirstWait;
+        m_picture = news.picture;
+        m_frame = news.frame;
+        m_pictureSize = QSize(m_frame->width, m_frame->height);
+        setState(PictureState::Playing);
+        announcePicture();
+    }
+    // Whoever heard of the picture may have stopped this source.
+    if (news.failure && m_mailbox)
+        lose(*news.failure);
+}
+
+/// Its threads end by themselves, and are not heard of any more.
+void StreamSource::leave()
+{
+    m_retry.stop();
+    if (!m_mailbox)
+        return;
+    m_mailbox->close();
+    m_mailbox.reset();
+}
+
+void StreamSource::lose(const QString& reason)
+{
+    leave();
+    kql::DPrintLog::instance()->Log("host", kLogLevel, "StreamSource::lose", __FILE__, __LINE__,
+                                    "%s: %s", maskedAddress(m_request.address), reason);
+    // A file does not get better; a camera may come back.
+    if (!m_request.isFile) {
+        m_retry.start(m_wait * kMillisecondsPerSecond);
+        m_wait = qMin(2 * m_wait, kLongestWait);
+    }
+    setState(PictureState::NoSignal, reason);
+}
+
+} // namespace UICommonMdl

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "host/blockarena.h"
+#include "host/value.h"
+
+#include <atomic>
+#include <cstdint>
+
+namespace kql
+{
+namespace Json
+{
+
+/// A text too long to be held in place: shared by copies, never changed. Its bytes follow it.
+struct TextBlock {
+    std::atomic<int> users;
+    std::uint32_t length;
+    BlockArena::Chunk* chunk;
+
+    static TextBlock* make(std::string_view utf8, BlockArena* arena = nullptr);
+    void release() noexcept;
+    std::string_view view() const noexcept
+    {
+        return {reinterpret_cast<const char*>(this + 1), length};
+    }
+};
+
+/// The elements of one array. They follow the block; one without elements needs no block.
+struct ItemBlock {
+    int size;
+    int capacity;
+    BlockArena::Chunk* chunk;
+
+    static ItemBlock* make(int capacity, BlockArena* arena = nullptr);
+    static ItemBlock* copy(const ItemBlock* other);
+    /// Takes over the bytes of @p count values, which are no values any more then.
+    static ItemBlock* take(Value* values, int count, BlockArena& arena);
+    /// @p block, or a larger one that replaces it, with room for one more element.
+    static ItemBlock* grown(ItemBlock* block);
+    static void release(ItemBlock* block) noexcept;
+
+    Value* begin() noexcept { return reinterpret_cast<Value*>(this + 1); }
+    const Value* begin() const noexcept { return reinterpret_cast<const Value*>(this + 1); }
+    Value* end() noexcept { return begin() + size; }
+    const Value* end() const noexcept { return begin() + size; }
+};
+
+struct Member {
+    Value name;
+    Value value;
+};
+
+/**
+ * The members of one object, in order. They follow the block, and a hash table of their
+ * positions follows them where there is room for more than kLinear members.
+ */
+struct MemberBlock {
+    int size;
+    int capacity;
+    BlockArena::Chunk* chunk;
+
+    static constexpr int kLinear = 32;
+
+    static MemberBlock* make(int capacity, BlockArena* arena = nullptr);
+    static MemberBlock* copy(const MemberBlock* other);
+    /// Takes over the bytes of @p count members. Of equal names the last value counts.
+    static MemberBlock* take(Member* members, int count, BlockArena& arena);
+    static MemberBlock* grown(MemberBlock* block);
+    static void release(MemberBlock* block) noexcept;
+
+    Member* begin() noexcept { return reinterpret_cast<Member*>(this + 1); }
+    const Member* begin() const noexcept { return reinterpret_cast<const Member*>(this + 1); }
+    Member* end() noexcept { return begin() + size; }
+    const Member* end() const noexcept { return begin() + size; }
+
+    Value* find(std::string_view name) noexcept;
+    /// The member of that name, made as null at the end if missing. There must be room for it.
+    Value& findOrAdd(Value&& name) noexcept;
+    void remove(Value* value) noexcept;
+
+private:
+    Value* findLinear(const Value& name) noexcept;
+    Value* findHashed(std::string_view name) noexcept;
+    void addToTable(int position) noexcept;
+    void fillTable() noexcept;
+    static bool namesDiffer(const Member* members, int count) noexcept;
+    std::uint32_t* table() noexcept { return reinterpret_cast<std::uint32_t*>(begin() + capacity); }
+};
+
+} // namespace Json
+} // namespace kql

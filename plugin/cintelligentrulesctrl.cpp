@@ -1,0 +1,474 @@
+#include "plugin/cintelligentrulesctrl.h"
+
+#include "Protocol/entryname.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleparser.h"
+#include "draw/drawscene.h"
+#include "host/gdiplus.h"
+#include "host/kqmessagebox.h"
+#include "host/qrtspvideownd.h"
+#include "host/skin.h"
+#include "plugin/buttonstyle.h"
+#include "plugin/modulelifetime.h"
+#include "plugin/resultmessage.h"
+#include "plugin/rulesparameters.h"
+#include "scene/basetabelscene.h"
+#include "scene/scenefactory.h"
+#include "ui_IntelligentRulesCtrl.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QSet>
+#include <QStyleOption>
+
+#include <algorithm>
+
+namespace IntelligentRulesUI
+{
+
+namespace
+{
+
+// A styled document this short is an empty object: nothing is running that a save could affect.
+constexpr int kEmptyConfigLength = 10;
+constexpr int kQuestionType = 1;
+
+} // namespace
+
+/// Tells, after a message box was open, whether window and load are still the ones it was about.
+class CIntelligentRulesCtrl::LoadGuard
+{
+public:
+    explicit LoadGuard(CIntelligentRulesCtrl* ctrl) : m_ctrl(ctrl), m_load(ctrl->m_loadNumber) {}
+    bool holds() const { return m_ctrl && m_ctrl->m_loadNumber == m_load; }
+
+private:
+    QPointer<CIntelligentRulesCtrl> m_ctrl;
+    int m_load;
+};
+
+CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* parent)
+    : QWidget(parent), m_form(std::make_unique<Ui_IntelligentRulesCtrl>()), m_widgetId(widgetId)
+{
+    m_form->setupUi(this);
+    setMouseTracking(true);
+    connect(m_form->btnSave, &QPushButton::clicked, this, &CIntelligentRulesCtrl::sltSave);
+    connect(m_form->btnCancel, &QPushButton::clicked, this, &CIntelligentRulesCtrl::sltCancel);
+    connect(this, &CIntelligentRulesCtrl::sgnNotifyVideoSize, this,
+            &CIntelligentRulesCtrl::sltNotifyVideoSize, Qt::QueuedConnection);
+    applySkin();
+}
+
+CIntelligentRulesCtrl::~CIntelligentRulesCtrl()
+{
+    if (m_playerWin) {
+        m_playerWin->registerDrawCallback(nullptr, nullptr);
+        m_playerWin->registerVideoSizeCallback(nullptr, nullptr);
+    }
+    clearData();
+}
+
+void CIntelligentRulesCtrl::applySkin()
+{
+    m_form->btnSave->setStyleSheet(QString::fromLatin1(kSaveButtonStyle));
+    const QString path = UICommonMdl::GetSkinPath(QString::fromLatin1(kModuleName),
+                                                  objectName() + QStringLiteral(".qss"));
+    QString text;
+    if (UICommonMdl::loadStyleSheet(path, text))
+        setStyleSheet(text);
+}
+
+void CIntelligentRulesCtrl::setInterfaceSetManager(CommonData::CInterfaceSetManager* manager)
+{
+    if (!manager)
+        return;
+    m_playerWin = m_form->playerWin;
+    m_playerWin->setMouseTracking(true);
+    m_playerWin->setInterfaceSetManager(manager);
+    m_playerWin->setDrawEnabled(true);
+    m_playerWin->setPaneDivision(1);
+    m_playerWin->registerDrawCallback(&CIntelligentRulesCtrl::drawOverPicture, this);
+    m_playerWin->registerVideoSizeCallback(&CIntelligentRulesCtrl::reportVideoSize, this);
+    m_videoRect = m_playerWin->geometry();
+    connectSurface();
+}
+
+void CIntelligentRulesCtrl::connectSurface()
+{
+    disconnect(m_playerWin, nullptr, this, nullptr);
+    connect(m_playerWin, &QRtspVideoWnd::SignalMoveEvent, this,
+            &CIntelligentRulesCtrl::OnMouseMove);
+    connect(m_playerWin, &QRtspVideoWnd::SignalMousePress, this,
+            &CIntelligentRulesCtrl::OnMousePress);
+    connect(m_playerWin, &QRtspVideoWnd::sgnWndClick, this, &CIntelligentRulesCtrl::OnWndClick);
+    connect(m_playerWin, &QRtspVideoWnd::sgnSWDbClicked, this,
+            &CIntelligentRulesCtrl::OnWndDbClick);
+    connect(m_playerWin, &QRtspVideoWnd::sgnPictureRectChanged, this,
+            [this](int pane) { OnWndDbClick(pane, 0, 0); });
+}
+
+void CIntelligentRulesCtrl::drawOverPicture(void* deviceContext, void* user)
+{
+    auto* ctrl = static_cast<CIntelligentRulesCtrl*>(user);
+    if (!ctrl)
+        return;
+    Gdiplus::Graphics graphics(static_cast<HDC>(deviceContext));
+    if (ctrl->m_drawScene)
+        ctrl->m_drawScene->draw(&graphics);
+}
+
+void CIntelligentRulesCtrl::reportVideoSize(int width, int height, void* user)
+{
+    auto* ctrl = static_cast<CIntelligentRulesCtrl*>(user);
+    if (!ctrl || width == 0 || height == 0)
+        return;
+    if (ctrl->m_videoWidth == 0 || ctrl->m_videoHeight == 0)
+        emit ctrl->sgnNotifyVideoSize(width, height);
+}
+
+void CIntelligentRulesCtrl::sltNotifyVideoSize(int nWidth, int nHeight)
+{
+    if (m_videoWidth != 0 && m_videoHeight != 0)
+        return;
+    m_videoWidth = nWidth;
+    m_videoHeight = nHeight;
+}
+
+void CIntelligentRulesCtrl::setData(const QString& json, int session)
+{
+    finishEdits();
+    clearData();
+    resetToDefaults();
+    const std::optional<RulesParameters> parameters = RulesParameters::parse(json, session);
+    if (!parameters)
+        return;
+    showParameters(*parameters);
+    initScenes(parameters->templateText, parameters->configText, parameters->selectionMode);
+    openPicture(*parameters);
+    repaintPicture();
+}
+
+void CIntelligentRulesCtrl::resetToDefaults()
+{
+    m_algorithmId.clear();
+    m_algorithmType = 0;
+    m_algorithmCode.clear();
+    m_channelSn.clear();
+    m_selectionMode = false;
+    m_editable = true;
+    m_form->lblChnCode->setTitle({});
+    m_form->lblChnName->setTitle({});
+    m_form->wgtChannelInfo->setEnabled(true);
+    m_form->btnSave->show();
+    m_form->btnCancel->show();
+}
+
+void CIntelligentRulesCtrl::showParameters(const RulesParameters& parameters)
+{
+    m_algorithmId = parameters.algorithmId;
+    m_algorithmType = parameters.algorithmType;
+    m_algorithmCode = parameters.algorithmCode;
+    m_channelId = parameters.channelId;
+    m_channelSn = parameters.channelSn;
+    m_channelName = parameters.channelName;
+    m_selectionMode = parameters.selectionMode;
+    m_editable = parameters.editable;
+    m_form->lblChnCode->setTitle(parameters.hasChannelSn ? m_channelSn : m_channelId);
+    m_form->lblChnName->setTitle(m_channelName);
+    m_form->wgtChannelInfo->setEnabled(m_editable);
+}
+
+void CIntelligentRulesCtrl::initScenes(const QString& templateText, const QString& configText,
+                                       bool selectionMode)
+{
+    m_skipModifyPrompt = configText.length() < kEmptyConfigLength;
+    m_parser = std::make_unique<RuleParser>();
+    m_parser->setAlgorithmInfo(m_algorithmType, m_algorithmCode);
+    if (m_parser->parseTemplate(templateText))
+        m_parser->readData(configText);
+    for (const auto& sceneData : m_parser->getAllData())
+        addPanel(*sceneData, selectionMode);
+    if (m_scenes.isEmpty())
+        return;
+    selectScene(m_scenes.first());
+    m_scenes.first()->setFocus();
+}
+
+void CIntelligentRulesCtrl::addPanel(RuleData& sceneData, bool selectionMode)
+{
+    BaseTabelScene* panel = createScene(sceneData.getSceneType(), m_form->sceneView);
+    if (!panel)
+        return;
+    panel->setSelectMode(selectionMode);
+    panel->setRuleData(&sceneData);
+    panel->SetDrawStatus(false);
+    m_form->sceneView->addWidgetLayout(panel);
+    m_scenes.append(panel);
+    connect(panel, &BaseTabelScene::sgnTrySelectedlScene, this,
+            &CIntelligentRulesCtrl::sltTrySelectedlScene);
+    connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::repaintPicture);
+}
+
+void CIntelligentRulesCtrl::openPicture(const RulesParameters& parameters)
+{
+    if (!m_playerWin)
+        return;
+    if (!parameters.stream.rtspUrl.isEmpty()) {
+        m_playerWin->openByRtsp(parameters.stream);
+        m_rtspOpened = true;
+        m_playType = parameters.stream.playType;
+        m_sessionId = parameters.stream.sessionId;
+    } else if (!m_channelId.isEmpty()) {
+        m_playerWin->openLivePicture(m_channelId);
+        m_rtspOpened = false;
+    }
+}
+
+void CIntelligentRulesCtrl::clearData()
+{
+    ++m_loadNumber;
+    m_channelId.clear();
+    m_channelName.clear();
+    m_drawScene = nullptr;
+    if (m_playerWin && m_rtspOpened)
+        m_playerWin->closeRtsp(m_sessionId, m_playType);
+    else if (m_playerWin)
+        m_playerWin->resetToolBar(0);
+    m_rtspOpened = false;
+    for (BaseTabelScene* scene : qAsConst(m_scenes)) {
+        scene->disconnect(this);
+        scene->setRuleData(nullptr);
+    }
+    m_form->sceneView->clearAll();
+    m_scenes.clear();
+    m_parser.reset();
+    repaintPicture();
+}
+
+bool CIntelligentRulesCtrl::isDrawUnfinished(const QString& channel, const QString& algorithm)
+{
+    finishEdits();
+    if (!m_drawScene)
+        return false;
+    return (algorithm == m_algorithmId || channel == m_channelId) &&
+           m_drawScene->HasDrawUnfinished();
+}
+
+void CIntelligentRulesCtrl::sltTrySelectedlScene()
+{
+    selectScene(qobject_cast<BaseTabelScene*>(sender()));
+}
+
+void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
+{
+    if (!scene)
+        return;
+    for (BaseTabelScene* panel : qAsConst(m_scenes)) {
+        if (panel != scene) {
+            panel->setSelected(false);
+            continue;
+        }
+        if (!panel->getSelected()) {
+            m_drawScene = panel->getDrawScene();
+            fitCanvas();
+        }
+        if (!m_editable) {
+            panel->setUIEditable(false);
+            m_form->btnSave->hide();
+            m_form->btnCancel->hide();
+        }
+        panel->setSelected(true);
+    }
+    repaintPicture();
+}
+
+void CIntelligentRulesCtrl::fitCanvas()
+{
+    if (m_drawScene)
+        m_drawScene->setCanvasSize(m_videoRect.width(), m_videoRect.height());
+}
+
+void CIntelligentRulesCtrl::repaintPicture()
+{
+    if (m_playerWin)
+        m_playerWin->update();
+}
+
+void CIntelligentRulesCtrl::finishEdits()
+{
+    for (BaseTabelScene* scene : qAsConst(m_scenes))
+        scene->finishEdits();
+}
+
+void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
+{
+    if (m_selectionMode || !m_drawScene)
+        return;
+    if (event->button() == Qt::LeftButton)
+        m_drawScene->addDrawPoint(DrawScene::DrawMouseLeftPress, event->pos());
+    else if (event->button() == Qt::RightButton)
+        m_drawScene->addDrawPoint(DrawScene::DrawMouseRightPress, event->pos());
+    const bool drawing = std::any_of(m_scenes.cbegin(), m_scenes.cend(),
+                                     [](BaseTabelScene* s) { return s->GetDrawStatus(); });
+    if (drawing)
+        m_drawScene->SetDrawOver(false);
+    repaintPicture();
+}
+
+void CIntelligentRulesCtrl::OnMouseMove(QMouseEvent* event)
+{
+    if (m_selectionMode || !m_drawScene)
+        return;
+    m_drawScene->addDrawPoint(DrawScene::DrawMouseMove, event->pos());
+    repaintPicture();
+}
+
+void CIntelligentRulesCtrl::OnWndClick(int nWndNum, int, int)
+{
+    if (m_playerWin && nWndNum == m_playerWin->selectedPane())
+        m_videoRect = m_playerWin->paneRect(nWndNum);
+}
+
+void CIntelligentRulesCtrl::OnWndDbClick(int nWndNum, int nPointX, int nPointY)
+{
+    OnWndClick(nWndNum, nPointX, nPointY);
+    fitCanvas();
+    repaintPicture();
+}
+
+void CIntelligentRulesCtrl::sltSave()
+{
+    if (!m_parser)
+        return;
+    finishEdits();
+    const LoadGuard guard(this);
+    const bool allowed = m_selectionMode ? checkSelection() : checkScenes() && confirmChange();
+    if (!guard.holds() || !allowed)
+        return;
+    if (postResult()) {
+        for (BaseTabelScene* scene : qAsConst(m_scenes))
+            scene->SetDrawStatus(false);
+    }
+    if (m_drawScene)
+        m_drawScene->SetDrawOver(true);
+}
+
+bool CIntelligentRulesCtrl::checkScenes()
+{
+    QSet<QString> names;
+    for (BaseTabelScene* scene : qAsConst(m_scenes)) {
+        if (!checkScene(*scene) || !collectNames(*scene, names))
+            return false;
+    }
+    return true;
+}
+
+bool CIntelligentRulesCtrl::checkScene(BaseTabelScene& scene)
+{
+    QString message;
+    if (scene.ruleData()->checkData(message))
+        return true;
+    const LoadGuard guard(this);
+    showError(message);
+    if (!guard.holds())
+        return false;
+    if (scene.getFold())
+        scene.setFold(false);
+    selectScene(&scene);
+    return false;
+}
+
+bool CIntelligentRulesCtrl::collectNames(const BaseTabelScene& scene, QSet<QString>& names)
+{
+    const RuleData& rules = *scene.ruleData();
+    if (rules.getSceneType() != SceneType::Rules)
+        return true;
+    for (int i = 0; i < rules.getDataCount(); ++i) {
+        const QString name = EntryName::written(rules, i);
+        if (names.contains(name)) {
+            showError(tr("Duplicate rule name exists"));
+            return false;
+        }
+        names.insert(name);
+    }
+    return true;
+}
+
+bool CIntelligentRulesCtrl::checkSelection()
+{
+    const auto lacksSelection = [](const BaseTabelScene* scene) {
+        const RuleData& rules = *scene->ruleData();
+        const auto& entries = rules.getAllData();
+        return rules.getSceneType() == SceneType::Rules &&
+               std::none_of(entries.begin(), entries.end(),
+                            [](const auto& entry) { return entry->isSelected(); });
+    };
+    if (std::none_of(m_scenes.cbegin(), m_scenes.cend(), lacksSelection))
+        return true;
+    showError(tr("Please select at least one rule"));
+    return false;
+}
+
+bool CIntelligentRulesCtrl::confirmChange()
+{
+    return m_skipModifyPrompt ||
+           ask(tr("The current operation may affect the already running task. Please confirm "
+                  "whether to modify it?"));
+}
+
+bool CIntelligentRulesCtrl::postResult() const
+{
+    kql::Json::Value config;
+    if (!m_parser->writeData(config))
+        return false;
+    postSaved(resultContext(), config);
+    return true;
+}
+
+ResultContext CIntelligentRulesCtrl::resultContext() const
+{
+    return {m_widgetId, m_algorithmId, m_algorithmType, m_algorithmCode, m_channelId};
+}
+
+void CIntelligentRulesCtrl::sltCancel()
+{
+    if (m_drawScene)
+        m_drawScene->SetDrawOver(false);
+    const LoadGuard guard(this);
+    const bool leave = ask(tr("Do you want to exit the current configuration?"));
+    if (guard.holds() && leave)
+        postExited(resultContext());
+}
+
+bool CIntelligentRulesCtrl::ask(const QString& question)
+{
+    return KQGUI::KQMessageBox::ShowInformation(this, kQuestionType, tr("Prompt"), question,
+                                                QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
+void CIntelligentRulesCtrl::showError(const QString& message)
+{
+    KQGUI::KQMessageBox::ShowError(this, tr("Error"), message);
+}
+
+void CIntelligentRulesCtrl::paintEvent(QPaintEvent*)
+{
+    QStyleOption option;
+    option.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+}
+
+void CIntelligentRulesCtrl::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (!m_playerWin)
+        return;
+    m_videoRect = m_playerWin->paneRect(m_playerWin->selectedPane());
+    fitCanvas();
+}
+
+} // namespace IntelligentRulesUI

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <QList>
+#include <QRect>
+#include <QSet>
+#include <QWidget>
+#include <atomic>
+#include <memory>
+
+class BaseTabelScene;
+class DrawScene;
+class QMouseEvent;
+class QRtspVideoWnd;
+class RuleData;
+class RuleParser;
+class Ui_IntelligentRulesCtrl;
+namespace CommonData
+{
+class CInterfaceSetManager;
+}
+
+namespace IntelligentRulesUI
+{
+
+struct ResultContext;
+struct RulesParameters;
+
+/**
+ * Content of one rules window: shows the channel's picture, the panels of the template's scenes,
+ * routes the mouse on the picture to the canvas of the selected scene, and sends the edited
+ * configuration back to the host.
+ *
+ * Owns the parser, and with it template and data of the current load; the panels are children of
+ * the form's scroll view and let go of the data before it is deleted.
+ */
+class CIntelligentRulesCtrl : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CIntelligentRulesCtrl(const QString& widgetId, QWidget* parent = nullptr);
+    ~CIntelligentRulesCtrl() override;
+
+    /// Binds the video surface to the host's managers and to this window; null does nothing.
+    void setInterfaceSetManager(CommonData::CInterfaceSetManager* manager);
+    /// Replaces what is loaded by the host's parameter block @p json. A block that is not JSON or
+    /// lacks a required member leaves the window empty.
+    void setData(const QString& json, int session);
+    void clearData();
+    /// Whether a figure is being drawn, for the channel or the algorithm named.
+    bool isDrawUnfinished(const QString& channel, const QString& algorithm);
+    void selectScene(BaseTabelScene* scene);
+
+signals:
+    void sgnNotifyVideoSize(int nWidth, int nHeight);
+
+public slots:
+    void sltTrySelectedlScene();
+    void sltSave();
+    void sltCancel();
+    void sltNotifyVideoSize(int nWidth, int nHeight);
+    void OnMouseMove(QMouseEvent* event);
+    void OnMousePress(QMouseEvent* event);
+    void OnWndClick(int nWndNum, int nPointX, int nPointY);
+    void OnWndDbClick(int nWndNum, int nPointX, int nPointY);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    class LoadGuard;
+
+    static void drawOverPicture(void* deviceContext, void* user);
+    static void reportVideoSize(int width, int height, void* user);
+
+    void applySkin();
+    void connectSurface();
+    void resetToDefaults();
+    void showParameters(const RulesParameters& parameters);
+    void initScenes(const QString& templateText, const QString& configText, bool selectionMode);
+    void addPanel(RuleData& sceneData, bool selectionMode);
+    void openPicture(const RulesParameters& parameters);
+    void fitCanvas();
+    void repaintPicture();
+    void finishEdits();
+
+    bool checkScenes();
+    bool checkScene(BaseTabelScene& scene);
+    bool collectNames(const BaseTabelScene& scene, QSet<QString>& names);
+    bool checkSelection();
+    bool confirmChange();
+    bool postResult() const;
+    ResultContext resultContext() const;
+    bool ask(const QString& question);
+    void showError(const QString& message);
+
+    std::unique_ptr<Ui_IntelligentRulesCtrl> m_form;
+    QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers
+    std::unique_ptr<RuleParser> m_parser; ///< null while nothing is loaded
+    QList<BaseTabelScene*> m_scenes;      ///< children of the form's scroll view
+    QString m_widgetId;
+    QString m_algorithmId;
+    int m_algorithmType = 0;
+    QString m_algorithmCode;
+    QString m_channelId;
+    QString m_channelSn;
+    QString m_channelName;
+    bool m_selectionMode = false;
+    DrawScene* m_drawScene = nullptr; ///< canvas of the selected scene; not owned
+    // Read on whichever thread the surface reports from, stored on the GUI thread.
+    std::atomic<int> m_videoWidth{0};
+    std::atomic<int> m_videoHeight{0};
+    QRect m_videoRect; ///< the picture inside playerWin, widget pixels
+    int m_sessionId = -1;
+    int m_playType = -1;
+    bool m_rtspOpened = false;
+    bool m_skipModifyPrompt = false;
+    bool m_editable = true;
+    int m_loadNumber = 0; ///< tells loads apart while a message box is open
+};
+
+} // namespace IntelligentRulesUI

@@ -1,0 +1,140 @@
+#include "plugin/cintelligentruleswidget.h"
+
+#include "host/cuipluginmessage.h"
+#include "host/kqsingleton.h"
+#include "host/pluginmsg_param.h"
+#include "host/reader.h"
+#include "host/value.h"
+#include "plugin/cintelligentrulesctrl.h"
+#include "plugin/modulelifetime.h"
+#include "plugin/pluginmessages.h"
+
+namespace IntelligentRulesUI
+{
+
+CIntelligentRulesWidget::CIntelligentRulesWidget(CommonData::CInterfaceSetManager* manager,
+                                                 int widgetsBefore)
+    : m_manager(manager), m_index(widgetsBefore + 1)
+{
+}
+
+CIntelligentRulesWidget::~CIntelligentRulesWidget()
+{
+    if (m_ctrl && !m_ctrl->parent())
+        delete m_ctrl;
+}
+
+QString CIntelligentRulesWidget::widgetId() const
+{
+    return QStringLiteral("%1%2").arg(QLatin1String(kModuleName)).arg(m_index);
+}
+
+std::string CIntelligentRulesWidget::GetWidgetID()
+{
+    return widgetId().toStdString();
+}
+
+QWidget* CIntelligentRulesWidget::GetWidget(QWidget* parent)
+{
+    if (!m_ctrl) {
+        m_ctrl = new CIntelligentRulesCtrl(widgetId(), parent);
+        m_ctrl->setInterfaceSetManager(m_manager);
+    }
+    return m_ctrl;
+}
+
+QString CIntelligentRulesWidget::GetTitle()
+{
+    return tr("IntelligentRules");
+}
+
+QIcon CIntelligentRulesWidget::GetIcon()
+{
+    return {};
+}
+
+QString CIntelligentRulesWidget::GetDetail()
+{
+    return tr("IntelligentRulesDetail");
+}
+
+QString CIntelligentRulesWidget::GetSecondTitle()
+{
+    return tr("IntelligentRules");
+}
+
+QIcon CIntelligentRulesWidget::GetSecondIcon()
+{
+    return {};
+}
+
+QString CIntelligentRulesWidget::GetThirdTitle()
+{
+    return tr("IntelligentRules");
+}
+
+QIcon CIntelligentRulesWidget::GetThirdIcon()
+{
+    return {};
+}
+
+QVariant CIntelligentRulesWidget::GetUserData()
+{
+    return {};
+}
+
+bool CIntelligentRulesWidget::OnPluginMessage(int id, const QVariant& p1, const QVariant& p2)
+{
+    switch (id) {
+    case PluginMsgOpenRules:
+    case PluginMsgOpenRulesAlt:
+        return openRules(p1, p2);
+    case PluginMsgCloseRules:
+        closeRules(p1);
+        return true;
+    case PluginMsgQueryUnfinishedDraw:
+        return queryUnfinishedDraw(p1, p2);
+    default:
+        return true;
+    }
+}
+
+bool CIntelligentRulesWidget::openRules(const QVariant& p1, const QVariant& p2)
+{
+    kql::Json::Value address;
+    if (!kql::Json::Reader().parse(p1.toString(), address, true))
+        return false;
+    const kql::Json::Value& constAddress = address;
+    if (constAddress["pluginWidgetID"].asString() == widgetId() && m_ctrl)
+        m_ctrl->setData(p2.toString(), constAddress["iSessionID"].asInt());
+    return true;
+}
+
+void CIntelligentRulesWidget::closeRules(const QVariant& p1)
+{
+    if (p1.toString() == widgetId() && m_ctrl)
+        m_ctrl->clearData();
+}
+
+bool CIntelligentRulesWidget::queryUnfinishedDraw(const QVariant& p1, const QVariant& p2)
+{
+    kql::Json::Value query;
+    if (!kql::Json::Reader().parse(p2.toString(), query, true) || !query.isMember("params"))
+        return false;
+    const kql::Json::Value& params = qAsConst(query)["params"];
+    if (p1.toString() == widgetId())
+        replyUnfinishedDraw(params["channalId"].asString(), params["algorithmId"].asString());
+    return true;
+}
+
+void CIntelligentRulesWidget::replyUnfinishedDraw(const QString& channel, const QString& algorithm)
+{
+    kql::Json::Value reply(kql::Json::ValueType::Object);
+    reply["unFinishedDraw"] = m_ctrl && m_ctrl->isDrawUnfinished(channel, algorithm);
+    reply["algorithmId"] = algorithm;
+    reply["channalId"] = channel;
+    KQGUI::KQSingleton<UICommonMdl::CUIPluginMessage>::Instance().PostEvent(
+        {PluginMsgUnfinishedDrawReply, widgetId(), reply.toStyledText()});
+}
+
+} // namespace IntelligentRulesUI

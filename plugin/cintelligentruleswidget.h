@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/iabstractwidget.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace CommonData
+{
+class CInterfaceSetManager;
+}
+
+namespace IntelligentRulesUI
+{
+
+class CIntelligentRulesCtrl;
+
+/**
+ * The host's handle of one rules window: gives out the window, takes the host's messages.
+ *
+ * The window belongs to the parent that the host supplies; only a window that never got one is
+ * deleted here.
+ */
+class CIntelligentRulesWidget : public QObject, public KQPluginAPI::IAbstractWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p widgetsBefore: how many widgets the factory made before this one.
+    CIntelligentRulesWidget(CommonData::CInterfaceSetManager* manager, int widgetsBefore);
+    ~CIntelligentRulesWidget() override;
+
+    std::string GetWidgetID() override;
+    /// The window, made by the first call as a child of @p parent.
+    QWidget* GetWidget(QWidget* parent) override;
+    QString GetTitle() override;
+    QIcon GetIcon() override;
+    QString GetDetail() override;
+    QString GetSecondTitle() override;
+    QIcon GetSecondIcon() override;
+    QString GetThirdTitle() override;
+    QIcon GetThirdIcon() override;
+    QVariant GetUserData() override;
+    /// Handles a message of the host; false when its JSON cannot be read.
+    bool OnPluginMessage(int id, const QVariant& p1, const QVariant& p2) override;
+
+private:
+    QString widgetId() const;
+    bool openRules(const QVariant& p1, const QVariant& p2);
+    void closeRules(const QVariant& p1);
+    bool queryUnfinishedDraw(const QVariant& p1, const QVariant& p2);
+    void replyUnfinishedDraw(const QString& channel, const QString& algorithm);
+
+    CommonData::CInterfaceSetManager* m_manager; ///< not owned
+    QPointer<CIntelligentRulesCtrl> m_ctrl;
+    int m_index;
+};
+
+} // namespace IntelligentRulesUI

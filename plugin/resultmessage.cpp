@@ -1,0 +1,50 @@
+#include "plugin/resultmessage.h"
+
+#include "host/cuipluginmessage.h"
+#include "host/kqsingleton.h"
+#include "host/pluginmsg_param.h"
+#include "host/value.h"
+#include "plugin/pluginmessages.h"
+
+namespace IntelligentRulesUI
+{
+
+namespace
+{
+
+constexpr int kSaved = 0;
+constexpr int kExited = -1;
+
+kql::Json::Value resultObject(const ResultContext& context, int result)
+{
+    kql::Json::Value object(kql::Json::ValueType::Object);
+    object["result"] = result;
+    object["algorithmId"] = context.algorithmId;
+    object["channalId"] = context.channelId;
+    object["channelId"] = context.channelId;
+    object["algorithmType"] = context.algorithmType;
+    object["algorithmCode"] = context.algorithmCode;
+    return object;
+}
+
+void post(const ResultContext& context, const kql::Json::Value& object)
+{
+    KQGUI::KQSingleton<UICommonMdl::CUIPluginMessage>::Instance().PostEvent(
+        {PluginMsgRulesResult, context.widgetId, object.toStyledText()});
+}
+
+} // namespace
+
+void postSaved(const ResultContext& context, const kql::Json::Value& config)
+{
+    kql::Json::Value object = resultObject(context, kSaved);
+    object["channelAbilityPO"] = config;
+    post(context, object);
+}
+
+void postExited(const ResultContext& context)
+{
+    post(context, resultObject(context, kExited));
+}
+
+} // namespace IntelligentRulesUI

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+namespace IntelligentRulesUI
+{
+
+/// What a result says of the load that it belongs to.
+struct ResultContext {
+    QString widgetId;
+    QString algorithmId;
+    int algorithmType = 0;
+    QString algorithmCode;
+    QString channelId;
+};
+
+/// Posts to the host that the operator saved @p config.
+void postSaved(const ResultContext& context, const kql::Json::Value& config);
+
+/// Posts to the host that the operator left without saving.
+void postExited(const ResultContext& context);
+
+} // namespace IntelligentRulesUI

@@ -1,0 +1,69 @@
+#include "plugin/rulesparameters.h"
+
+#include "host/reader.h"
+#include "host/value.h"
+
+#include <algorithm>
+#include <array>
+
+namespace IntelligentRulesUI
+{
+
+using kql::Json::Value;
+
+namespace
+{
+
+// "channalId" is how older hosts spell it; it wins where both are given.
+constexpr char kChannelKey[] = "channalId";
+constexpr char kChannelKeyAlt[] = "channelId";
+
+bool hasRequiredMembers(const Value& block)
+{
+    constexpr std::array<const char*, 4> kRequired = {
+        "algorithmId", "channelName", "videoConfigRuleProperty", "channelAbilityPO"};
+    const bool hasChannel = block.isMember(kChannelKey) || block.isMember(kChannelKeyAlt);
+    return hasChannel && std::all_of(kRequired.begin(), kRequired.end(),
+                                     [&block](const char* key) { return block.isMember(key); });
+}
+
+PreviewLogical::RtspVideoParam streamOf(const Value& block, const QString& channelId, int session)
+{
+    PreviewLogical::RtspVideoParam stream;
+    stream.channelId = channelId;
+    stream.decodeType = block["decodeType"].asInt();
+    stream.playType = block["iPlayType"].asInt();
+    stream.serverType = block["serverType"].asInt();
+    stream.sessionId = session;
+    stream.streamMode = block["iStreamMode"].asInt();
+    stream.delayTime = block["uiDelayTime"].asInt();
+    stream.rtspUrl = block["rtspUrl"].asString();
+    return stream;
+}
+
+} // namespace
+
+std::optional<RulesParameters> RulesParameters::parse(const QString& json, int session)
+{
+    Value document;
+    if (!kql::Json::Reader().parse(json, document, true) || !hasRequiredMembers(document))
+        return std::nullopt;
+    const Value& block = document;
+    RulesParameters result;
+    result.algorithmId = block["algorithmId"].asString();
+    result.algorithmType = block["algorithmType"].asInt();
+    result.algorithmCode = block["algorithmCode"].asString();
+    result.channelId = block[block.isMember(kChannelKey) ? kChannelKey : kChannelKeyAlt].asString();
+    result.hasChannelSn = block.isMember("channelSn");
+    result.channelSn = block["channelSn"].asString();
+    result.channelName = block["channelName"].asString();
+    result.templateText = block["videoConfigRuleProperty"].toStyledText();
+    result.configText = block["channelAbilityPO"].toStyledText();
+    result.selectionMode = block["selectionMode"].asBool();
+    // The mere presence of "editable" locks the window, unless rules are to be selected in it.
+    result.editable = !block.isMember("editable") || result.selectionMode;
+    result.stream = streamOf(block, result.channelId, session);
+    return result;
+}
+
+} // namespace IntelligentRulesUI

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/rtspvideoparam.h"
+
+#include <QString>
+#include <optional>
+
+namespace IntelligentRulesUI
+{
+
+/// The host's parameter block for one load: a camera channel and an analytics algorithm.
+struct RulesParameters {
+    QString algorithmId;
+    int algorithmType = 0;
+    QString algorithmCode;
+    QString channelId;
+    QString channelSn; ///< shown in place of the channel id when hasChannelSn
+    bool hasChannelSn = false;
+    QString channelName;
+    QString templateText; ///< styled JSON
+    QString configText;   ///< styled JSON
+    bool selectionMode = false;
+    bool editable = true;
+    /// The stream to show; without an address the channel's live picture is shown.
+    PreviewLogical::RtspVideoParam stream;
+
+    /// Reads the block; nothing when it is not JSON or lacks a required member.
+    static std::optional<RulesParameters> parse(const QString& json, int session);
+};
+
+} // namespace IntelligentRulesUI

@@ -1,0 +1,514 @@
+#include "scene/basetabelscene.h"
+
+#include "Protocol/datatemplate.h"
+#include "Protocol/figuremaker.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+#include "scene/entrybuttons.h"
+#include "scene/entryrows.h"
+#include "scene/linedirections.h"
+#include "scene/scenefigures.h"
+#include "scene/scenetitlebar.h"
+#include "scene/taborder.h"
+#include "tabel/controlfactory.h"
+#include "tabel/controlitemwidgettabel.h"
+#include "tabel/controltabel.h"
+#include "tabel/drawfucbutton.h"
+#include "tabel/drawitembutton.h"
+#include "tabel/layouthold.h"
+#include "tabel/ruleitemwidgettabel.h"
+#include "tabel/rulewidgettabel.h"
+#include "tabel/titlelabel.h"
+
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+namespace
+{
+
+// Rows sit close together. Their captions share a width, within which longer ones are elided.
+constexpr int kRowLeft = 5;
+constexpr int kRowTop = 4;
+constexpr int kMinCaptionWidth = 96;
+constexpr int kMaxCaptionWidth = 128;
+
+void alignRows(const QList<ControlTabel*>& rows)
+{
+    int captionWidth = kMinCaptionWidth;
+    for (const ControlTabel* row : rows)
+        captionWidth = qMax(captionWidth, row->titleLabel()->sizeHint().width());
+    for (ControlTabel* row : rows) {
+        row->setPaddingLeft(kRowLeft);
+        row->setPaddingTop(kRowTop);
+        row->titleLabel()->setFixedWidth(qMin(captionWidth, kMaxCaptionWidth));
+    }
+}
+
+} // namespace
+
+BaseTabelScene::BaseTabelScene(QWidget* parent) : SceneSection(parent)
+{
+    connectWidgets();
+    checkLayout();
+}
+
+BaseTabelScene::~BaseTabelScene()
+{
+    // An edit that ends with its row has nowhere to go any more.
+    widgets().controls->disconnect(this);
+}
+
+void BaseTabelScene::connectWidgets()
+{
+    connect(widgets().ruleFucBar, &RuleWidgetTabel::sgnBtnClicked, this,
+            &BaseTabelScene::sltTabelRuleFucBtnClicked);
+    connect(widgets().childFucBar, &RuleWidgetTabel::sgnBtnClicked, this,
+            &BaseTabelScene::sltTabelChildRuleFucBtnClicked);
+    connect(widgets().drawItems, &RuleItemWidgetTabel::sgnCheckBtnChanged, this,
+            &BaseTabelScene::sltTabelDrawItemCheckBtnChanged);
+    connect(widgets().drawItems, &RuleItemWidgetTabel::sgnEnableChanged, this,
+            &BaseTabelScene::sltRuleEnableChanged);
+    connect(widgets().childDrawItems, &RuleItemWidgetTabel::sgnCheckBtnChanged, this,
+            &BaseTabelScene::sltTabelChildDrawItemCheckBtnChanged);
+    connect(widgets().redrawButton, &QPushButton::clicked, this, &BaseTabelScene::sltRedrawItem);
+    connect(widgets().deleteButton, &QPushButton::clicked, this,
+            &BaseTabelScene::sltDeleteDrawItem);
+    connect(widgets().controls, &ControlItemWidgetTabel::sgnValueChanged, this,
+            &BaseTabelScene::sltTabelAttrControlValueChange);
+}
+
+void BaseTabelScene::setRuleData(RuleData* newData)
+{
+    const LayoutHold hold(this);
+    release();
+    m_data = newData;
+    if (isBound()) {
+        setObjectName(m_data->getTemplate()->name());
+        widgets().titleBar->setTitle(heading());
+        bindRows();
+        connect(getDrawScene(), &DrawScene::sgnSelectedStatusChange, this,
+                &BaseTabelScene::sltDrawItemSelected);
+        for (const auto& entry : m_data->getAllData())
+            LineDirections::apply(*m_data, *entry);
+        showFirstEntry();
+        setFold(false);
+    }
+    checkLayout();
+}
+
+void BaseTabelScene::release()
+{
+    if (getDrawScene())
+        disconnect(getDrawScene(), nullptr, this, nullptr);
+    const DataTemplate* dataTemplate = m_data ? m_data->getTemplate() : nullptr;
+    m_data = nullptr;
+    EntryRows::release(*widgets().controls, dataTemplate);
+    m_direction.release();
+    widgets().drawItems->deleteAll();
+    widgets().childDrawItems->deleteAll();
+    widgets().controls->deleteAll();
+}
+
+bool BaseTabelScene::isBound() const
+{
+    return m_data && m_data->getTemplate() && m_data->getDrawScene();
+}
+
+DrawScene* BaseTabelScene::getDrawScene() const
+{
+    return m_data ? m_data->getDrawScene() : nullptr;
+}
+
+QString BaseTabelScene::heading() const
+{
+    return m_data->getTemplate()->title();
+}
+
+void BaseTabelScene::bindRows()
+{
+    const LayoutHold hold(widgets().controls);
+    bindFixedRows();
+    m_direction.bind(*m_data, *widgets().controls);
+    for (const auto& item : m_data->getTemplate()->items()) {
+        if (!item->isControl() || item->row() || !wantsRow(*item))
+            continue;
+        if (ControlTabel* row = addControlTabel(item.get(), widgets().controls))
+            widgets().controls->addControl(row, false);
+    }
+    alignRows(widgets().controls->controls());
+}
+
+bool BaseTabelScene::wantsRow(const RuleProtocolItem&) const
+{
+    return true;
+}
+
+ControlTabel* BaseTabelScene::addControlTabel(RuleProtocolItem* item, QWidget* parent)
+{
+    return createControlTabel(item, parent);
+}
+
+void BaseTabelScene::addFixedRow(ControlTabel* row, RuleProtocolItem* item, const QString& title)
+{
+    row->setProtocolItem(item);
+    row->setTitle(title);
+    row->setObjectName(item->key());
+    widgets().controls->addControl(row, false);
+}
+
+DrawFucButton* BaseTabelScene::addFucButton(RuleWidgetTabel* bar, BaseDrawType type,
+                                            const QString& text)
+{
+    auto* button = new DrawFucButton(type, text, bar);
+    button->setVisible(true);
+    bar->addButton(button);
+    return button;
+}
+
+void BaseTabelScene::showFirstEntry()
+{
+    const QScopedValueRollback<bool> guard(m_nothingFollows, true);
+    const auto& entries = m_data->getAllData();
+    const int first = entries.empty() ? 0 : entries.front()->id();
+    m_data->setSelectedDataId(first);
+    refreshTabelDrawItem();
+    showEntry(first);
+}
+
+void BaseTabelScene::showEntry(int dataId)
+{
+    m_data->setSelectedDataId(dataId);
+    widgets().drawItems->setCurrentButton(widgets().drawItems->findDataButton(dataId), false);
+    refreshChildTabelDrawItem();
+    loadEntry();
+    selectFigure(pickedFigure(dataId), dataId);
+}
+
+void BaseTabelScene::loadEntry()
+{
+    const RuleDataInfo* entry = m_data->selectedDataInfo();
+    EntryRows::load(*widgets().controls, *m_data->getTemplate(), entry);
+    loadFixedRows(entry);
+}
+
+void BaseTabelScene::loadFixedRows(const RuleDataInfo* entry)
+{
+    if (entry)
+        m_direction.load(*m_data, *entry);
+}
+
+void BaseTabelScene::selectFigure(int itemId, int dataId)
+{
+    getDrawScene()->setSelected(itemId, dataId);
+}
+
+int BaseTabelScene::pickedFigure(int dataId) const
+{
+    const DrawItemButton* button = widgets().drawItems->findDataButton(dataId);
+    return button ? button->id() : 0;
+}
+
+std::unique_ptr<DrawItem> BaseTabelScene::createDrawItem(BaseDrawType type,
+                                                         const RuleDataInfo* entry,
+                                                         DrawItemForbidenAreaType forbidden) const
+{
+    if (!isBound() || !entry)
+        return nullptr;
+    const RuleProtocolItem* item = m_data->getTemplate()->figureItem(type);
+    return item ? SceneFigures::make(*m_data, *item, *entry, forbidden) : nullptr;
+}
+
+DrawItemButton* BaseTabelScene::createChildDrawItemButton(const QString& label,
+                                                          const DrawItem* item)
+{
+    return EntryButtons::addChild(*widgets().childDrawItems, label, item);
+}
+
+void BaseTabelScene::sltTabelRuleFucBtnClicked(int type)
+{
+    finishEdits();
+    SetDrawStatus(true);
+    const auto pressed = static_cast<BaseDrawType>(type);
+    if (isBound() && canAddEntry(pressed))
+        addEntry(pressed);
+    checkLayout();
+    emit sgnRepaintCanvas();
+}
+
+bool BaseTabelScene::canAddEntry(BaseDrawType) const
+{
+    return m_data->getDataCount() < m_data->getTemplate()->countRange().max;
+}
+
+void BaseTabelScene::addEntry(BaseDrawType pressed)
+{
+    auto created = m_data->newDataInfo();
+    if (!created)
+        return;
+    prepareNewEntry(*created);
+    const RuleDataInfo& entry = *m_data->addDataInfo(std::move(created));
+    m_data->setSelectedDataId(entry.id());
+    const RuleProtocolItem* item = firstFigureItem(pressed);
+    const DrawItem* figure = item ? addFigure(*item, entry) : nullptr;
+    refreshTabelDrawItem();
+    refreshChildTabelDrawItem();
+    loadEntry();
+    selectFigure(figure ? figure->itemId() : 0, entry.id());
+}
+
+void BaseTabelScene::prepareNewEntry(RuleDataInfo&) {}
+
+QList<RuleProtocolItem*> BaseTabelScene::ruleFigureItems() const
+{
+    QList<RuleProtocolItem*> items;
+    for (const BaseDrawType type : widgets().ruleFucBar->drawTypes()) {
+        if (RuleProtocolItem* item = m_data->getTemplate()->figureItem(type))
+            items.append(item);
+    }
+    return items;
+}
+
+RuleProtocolItem* BaseTabelScene::firstFigureItem(BaseDrawType pressed) const
+{
+    return m_data->getTemplate()->figureItem(pressed);
+}
+
+DrawItem* BaseTabelScene::addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry)
+{
+    auto figure =
+        SceneFigures::make(*m_data, item, entry, FigureMaker::forbiddenType(*m_data, item));
+    if (!figure)
+        return nullptr;
+    m_direction.giveTo(*figure);
+    return getDrawScene()->addItem(std::move(figure), -1);
+}
+
+void BaseTabelScene::startFigure(const RuleProtocolItem& item, const RuleDataInfo& entry)
+{
+    const DrawItem* figure = addFigure(item, entry);
+    if (!figure)
+        return;
+    const DrawItemButton* button = widgets().drawItems->findDataButton(entry.id());
+    if (!button || button->id() == 0)
+        refreshTabelDrawItem();
+    selectFigure(figure->itemId(), entry.id());
+}
+
+void BaseTabelScene::sltTabelChildRuleFucBtnClicked(int type)
+{
+    finishEdits();
+    SetDrawStatus(true);
+    if (isBound())
+        addChildFigure(static_cast<BaseDrawType>(type));
+    checkLayout();
+    emit sgnRepaintCanvas();
+}
+
+void BaseTabelScene::addChildFigure(BaseDrawType type)
+{
+    const DrawItemButton* parent = widgets().drawItems->currentButton();
+    const RuleDataInfo* entry = parent ? m_data->getDataInfo(parent->dataId()) : nullptr;
+    if (!entry)
+        return;
+    const RuleProtocolItem* item = SceneFigures::itemWithRoom(*m_data, type, entry->id());
+    if (!item)
+        return;
+    auto figure =
+        SceneFigures::make(*m_data, *item, *entry, DrawItemForbidenAreaType::ForbidenOutsideParent);
+    if (!figure)
+        return;
+    m_direction.giveTo(*figure);
+    const int itemId = getDrawScene()->addItem(std::move(figure), parent->id())->itemId();
+    refreshChildTabelDrawItem();
+    widgets().childDrawItems->setCurrentButton(widgets().childDrawItems->findButton(itemId), false);
+    selectFigure(itemId, entry->id());
+}
+
+void BaseTabelScene::sltTabelDrawItemCheckBtnChanged()
+{
+    // An edit belongs to the entry that is still selected, not to the one just picked.
+    finishEdits();
+    const DrawItemButton* button = widgets().drawItems->currentButton();
+    if (isBound() && button)
+        showEntry(button->dataId());
+    checkLayout();
+    emit sgnRepaintCanvas();
+}
+
+void BaseTabelScene::sltTabelChildDrawItemCheckBtnChanged()
+{
+    finishEdits();
+    const DrawItemButton* button = widgets().childDrawItems->currentButton();
+    if (isBound() && button)
+        selectFigure(button->id(), button->dataId());
+    emit sgnRepaintCanvas();
+}
+
+void BaseTabelScene::sltDeleteDrawItem()
+{
+    finishEdits();
+    const QScopedValueRollback<bool> guard(m_nothingFollows, true);
+    const DrawItemButton* child = widgets().childDrawItems->currentButton();
+    const DrawItemButton* button = widgets().drawItems->currentButton();
+    if (isBound() && child)
+        deleteChild(child->id());
+    else if (isBound() && button)
+        deleteEntry(button->dataId());
+    checkLayout();
+    emit sgnRepaintCanvas();
+}
+
+void BaseTabelScene::deleteChild(int itemId)
+{
+    getDrawScene()->removeItem(itemId);
+    refreshTabelDrawItem();
+    refreshChildTabelDrawItem();
+    const int dataId = m_data->getSelectedDataId();
+    selectFigure(pickedFigure(dataId), dataId);
+}
+
+void BaseTabelScene::deleteEntry(int dataId)
+{
+    const int position = m_data->indexOf(dataId);
+    SceneFigures::remove(*m_data, SceneFigures::idsOf(*m_data, dataId));
+    m_data->removeDataInfo(dataId);
+    const int next = qMin(position, m_data->getDataCount() - 1);
+    const int nextId = next < 0 ? 0 : m_data->getAllData()[static_cast<std::size_t>(next)]->id();
+    m_data->setSelectedDataId(nextId);
+    refreshTabelDrawItem();
+    showEntry(nextId);
+}
+
+void BaseTabelScene::sltRedrawItem()
+{
+    finishEdits();
+    SetDrawStatus(true);
+    if (isBound())
+        redrawCurrent();
+    checkLayout();
+    emit sgnRepaintCanvas();
+}
+
+void BaseTabelScene::redrawCurrent()
+{
+    const DrawItemButton* child = widgets().childDrawItems->currentButton();
+    const DrawItemButton* button = widgets().drawItems->currentButton();
+    const DrawItemButton* current = child ? child : button;
+    const RuleDataInfo* entry = current ? m_data->getDataInfo(current->dataId()) : nullptr;
+    if (!entry)
+        return;
+    const DrawItem* figure = getDrawScene()->findItem(current->id());
+    if (figure) {
+        redrawFigure(*figure);
+    } else if (const RuleProtocolItem* missing = missingFigureItem(entry->id())) {
+        startFigure(*missing, *entry);
+    }
+}
+
+void BaseTabelScene::redrawFigure(const DrawItem& figure)
+{
+    const QScopedValueRollback<bool> guard(m_nothingFollows, true);
+    const int itemId = figure.itemId();
+    const int dataId = figure.dataId();
+    const QList<int> dropped = dropsOnRedraw(figure);
+    SceneFigures::remove(*m_data, dropped);
+    if (!dropped.isEmpty())
+        refreshChildTabelDrawItem();
+    getDrawScene()->redrawItem(itemId);
+    selectFigure(itemId, dataId);
+}
+
+QList<int> BaseTabelScene::dropsOnRedraw(const DrawItem& figure) const
+{
+    return SceneFigures::childIdsOf(figure);
+}
+
+RuleProtocolItem* BaseTabelScene::missingFigureItem(int dataId) const
+{
+    return SceneFigures::firstMissing(*m_data, ruleFigureItems(), dataId);
+}
+
+void BaseTabelScene::sltDrawItemSelected()
+{
+    SetDrawStatus(true);
+    if (!isBound())
+        return;
+    const DrawItem* item = getDrawScene()->selectedItem(m_data->getSelectedDataId());
+    setPartsEnabled(!item || item->isFinished());
+}
+
+bool BaseTabelScene::mayFollow() const
+{
+    return !m_nothingFollows && !getSelectMode() && m_uiEditable;
+}
+
+void BaseTabelScene::setPartsEnabled(bool enabled)
+{
+    widgets().ruleFucBar->setControlEnable(enabled);
+    widgets().drawItems->setControlEnable(enabled);
+    widgets().childFucBar->setControlEnable(enabled);
+    widgets().childDrawItems->setControlEnable(enabled);
+}
+
+void BaseTabelScene::sltRuleEnableChanged(int dataId, bool on)
+{
+    RuleDataInfo* entry = m_data ? m_data->getDataInfo(dataId) : nullptr;
+    if (entry)
+        entry->setEnabled(on);
+}
+
+void BaseTabelScene::refreshTabelDrawItem()
+{
+    if (!isBound()) {
+        widgets().drawItems->deleteAll();
+        return;
+    }
+    const bool hasCheckBoxes = m_data->getSceneType() == SceneType::Rules && getSelectMode();
+    EntryButtons::fillEntries(*widgets().drawItems, *m_data, {ruleFigureItems(), hasCheckBoxes});
+    TabOrder::fromTopToBottom(this);
+}
+
+void BaseTabelScene::refreshChildTabelDrawItem()
+{
+    const DrawItemButton* button = widgets().drawItems->currentButton();
+    if (!isBound() || !button) {
+        widgets().childDrawItems->deleteAll();
+        return;
+    }
+    EntryButtons::fillChildren(*widgets().childDrawItems, *m_data, button->dataId(),
+                               widgets().childFucBar->drawTypes());
+    TabOrder::fromTopToBottom(this);
+}
+
+void BaseTabelScene::sltTabelAttrControlValueChange(const QString& key)
+{
+    tabelAttrControlValueChange(key);
+    checkLayout();
+    emit sgnRepaintCanvas();
+}
+
+void BaseTabelScene::tabelAttrControlValueChange(const QString& key)
+{
+    RuleDataInfo* entry = isBound() ? m_data->selectedDataInfo() : nullptr;
+    if (!entry)
+        return;
+    const DataTemplate& dataTemplate = *m_data->getTemplate();
+    ControlItemWidgetTabel& rows = *widgets().controls;
+    if (dataTemplate.findItem(key)) {
+        EntryRows::store(rows, key, *entry);
+        EntryRows::updateDependents(rows, dataTemplate, key, *entry);
+        EntryRows::showApplicable(rows, dataTemplate, *entry);
+    }
+    if (key == LineDirections::key())
+        LineDirections::apply(*m_data, *entry);
+    else if (key == StatisticsDirection::key())
+        m_direction.apply(*m_data, *entry);
+}
+
+bool BaseTabelScene::hasCurrentEntry() const
+{
+    return m_data && m_data->selectedDataInfo();
+}

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "draw/basedrawtype.h"
+#include "draw/drawitemforbidenareatype.h"
+#include "scene/scenesection.h"
+#include "scene/statisticsdirection.h"
+
+#include <QList>
+#include <memory>
+
+class ControlTabel;
+class DrawFucButton;
+class DrawItem;
+class DrawItemButton;
+class DrawScene;
+class RuleData;
+class RuleDataInfo;
+class RuleProtocolItem;
+
+/**
+ * The foldable section that edits one scene of the configuration: a button for each entry,
+ * buttons that draw figures, and the rows of the entry's attributes. It keeps the selection here
+ * and on the canvas in step.
+ *
+ * The data is not owned. Whoever owns it calls setRuleData(nullptr) before deleting it; the
+ * section's destructor does not touch it.
+ */
+class BaseTabelScene : public SceneSection
+{
+    Q_OBJECT
+
+public:
+    explicit BaseTabelScene(QWidget* parent = nullptr);
+    ~BaseTabelScene() override;
+
+    /// Shows @p newData, its first entry being current. Null lets go of all data.
+    virtual void setRuleData(RuleData* newData);
+    RuleData* ruleData() const { return m_data; }
+    /// The data's canvas; null without data.
+    DrawScene* getDrawScene() const;
+
+    /// True from the first action that draws until it is set otherwise.
+    virtual void SetDrawStatus(bool drawing) { m_drawStatus = drawing; }
+    virtual bool GetDrawStatus() const { return m_drawStatus; }
+
+    /// Read-only sections start no drawing by themselves; whoever holds them disables them.
+    void setUIEditable(bool editable) { m_uiEditable = editable; }
+
+    /// A new row for @p item by its facade; null for no item and for facades without a row.
+    ControlTabel* addControlTabel(RuleProtocolItem* item, QWidget* parent);
+    /// A new figure of the template's first item of that kind, not yet on the canvas; null when
+    /// the template has none.
+    std::unique_ptr<DrawItem> createDrawItem(BaseDrawType type, const RuleDataInfo* entry,
+                                             DrawItemForbidenAreaType forbidden) const;
+    /// A new button in the child table; null for no item.
+    DrawItemButton* createChildDrawItemButton(const QString& label, const DrawItem* item);
+
+public slots:
+    virtual void sltTabelRuleFucBtnClicked(int type);
+    virtual void sltTabelChildRuleFucBtnClicked(int type);
+    virtual void sltTabelDrawItemCheckBtnChanged();
+    virtual void sltTabelChildDrawItemCheckBtnChanged();
+    virtual void sltDeleteDrawItem();
+    virtual void sltRedrawItem();
+    virtual void sltDrawItemSelected();
+    virtual void sltRuleEnableChanged(int dataId, bool on);
+    void sltTabelAttrControlValueChange(const QString& key);
+
+signals:
+    /// Something on the canvas may look different now.
+    void sgnRepaintCanvas();
+
+protected:
+    bool hasCurrentEntry() const override;
+    virtual void refreshTabelDrawItem();
+    virtual void refreshChildTabelDrawItem();
+    virtual void tabelAttrControlValueChange(const QString& key);
+
+    // What kinds of sections differ in. All are called with data, template and canvas present.
+
+    virtual QString heading() const;
+    /// Binds rows of the section's own, before those of the template's other items are made.
+    virtual void bindFixedRows() {}
+    virtual bool wantsRow(const RuleProtocolItem& item) const;
+    /// Shows the current entry in rows that stand for no value of it.
+    virtual void loadFixedRows(const RuleDataInfo* entry);
+    /// The figure items that entries start with, one for each rule-function button.
+    virtual QList<RuleProtocolItem*> ruleFigureItems() const;
+    /// The item to draw first for a new entry; null for an entry without a figure.
+    virtual RuleProtocolItem* firstFigureItem(BaseDrawType pressed) const;
+    virtual bool canAddEntry(BaseDrawType pressed) const;
+    virtual void prepareNewEntry(RuleDataInfo& entry);
+    /// Item id of the figure that picking the entry selects; 0 for none.
+    virtual int pickedFigure(int dataId) const;
+    /// The figures that go when @p figure is drawn anew.
+    virtual QList<int> dropsOnRedraw(const DrawItem& figure) const;
+    /// The first item that the entry should have a figure for but has none; null for none.
+    virtual RuleProtocolItem* missingFigureItem(int dataId) const;
+
+    /// Whether data, template and canvas are there.
+    bool isBound() const;
+    /// Whether one figure may lead on to the next by itself.
+    bool mayFollow() const;
+    /// Adds a figure of @p item to the entry and starts drawing it.
+    void startFigure(const RuleProtocolItem& item, const RuleDataInfo& entry);
+    void addFixedRow(ControlTabel* row, RuleProtocolItem* item, const QString& title);
+    DrawFucButton* addFucButton(RuleWidgetTabel* bar, BaseDrawType type, const QString& text);
+
+private:
+    void connectWidgets();
+    void release();
+    void bindRows();
+    void showFirstEntry();
+    void showEntry(int dataId);
+    void loadEntry();
+    void selectFigure(int itemId, int dataId);
+    void addEntry(BaseDrawType pressed);
+    /// Null when the item draws no figure. The new figure is not selected yet.
+    DrawItem* addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry);
+    void addChildFigure(BaseDrawType type);
+    void deleteChild(int itemId);
+    void deleteEntry(int dataId);
+    void redrawCurrent();
+    void redrawFigure(const DrawItem& figure);
+    void setPartsEnabled(bool enabled);
+
+    RuleData* m_data = nullptr; ///< not owned
+    StatisticsDirection m_direction;
+    bool m_drawStatus = false;
+    bool m_uiEditable = true;
+    bool m_nothingFollows = false; ///< during loads, deletes and redraws
+};

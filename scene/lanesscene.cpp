@@ -1,0 +1,118 @@
+#include "scene/lanesscene.h"
+
+#include "Protocol/lanestemplate.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "Protocol/validity.h"
+#include "draw/drawscene.h"
+#include "tabel/controlitemwidgettabel.h"
+#include "tabel/drawfucbutton.h"
+#include "tabel/inputboxtabel.h"
+#include "tabel/radiobuttontabel.h"
+#include "tabel/rulewidgettabel.h"
+
+namespace
+{
+
+const auto kLaneNumber = QStringLiteral("lanesNum");
+const auto kRuleLaneNumber = QStringLiteral("ruleLaneNumber");
+const auto kRules = QStringLiteral("rules");
+
+} // namespace
+
+LanesScene::LanesScene(QWidget* parent) : BaseTabelScene(parent)
+{
+    addFucButton(widgets().ruleFucBar, BaseDrawType::VehicleLane, tr("Lane"));
+    LanesScene::checkLayout();
+}
+
+LanesTemplate* LanesScene::lanesTemplate() const
+{
+    return isBound() ? dynamic_cast<LanesTemplate*>(ruleData()->getTemplate()) : nullptr;
+}
+
+void LanesScene::setRuleData(RuleData* newData)
+{
+    widgets().childFucBar->deleteAll();
+    BaseTabelScene::setRuleData(newData);
+}
+
+void LanesScene::bindFixedRows()
+{
+    const LanesTemplate* lanes = lanesTemplate();
+    if (!lanes)
+        return;
+    const CountRange count = lanes->countRange();
+    lanes->numberItem()->setRange(count.min, count.max);
+    auto* numberRow = new InputBoxTabel(widgets().controls);
+    addFixedRow(numberRow, lanes->numberItem(), tr("Lane number"));
+    addFixedRow(new RadioButtonTabel(widgets().controls), lanes->leftLineTypeItem(),
+                tr("Left lane line"));
+    addFixedRow(new RadioButtonTabel(widgets().controls), lanes->rightLineTypeItem(),
+                tr("Right lane line"));
+    // One row edits both: a rule's lane is the one that it is edited with.
+    if (RuleProtocolItem* item = lanes->findItem(kRuleLaneNumber))
+        item->setRow(numberRow);
+    addRuleButtons();
+}
+
+void LanesScene::addRuleButtons()
+{
+    for (const auto& item : lanesTemplate()->items()) {
+        if (item->templateName() == kRules && item->isFigure())
+            addFucButton(widgets().childFucBar, item->drawType(), item->caption());
+    }
+}
+
+bool LanesScene::canAddEntry(BaseDrawType pressed) const
+{
+    return getDrawScene()->itemCount(pressed, 0) < ruleData()->getTemplate()->countRange().max;
+}
+
+void LanesScene::prepareNewEntry(RuleDataInfo& entry)
+{
+    const int number = freeLaneNumber();
+    entry.setValue(kLaneNumber, number);
+    if (entry.hasValue(kRuleLaneNumber))
+        entry.setValue(kRuleLaneNumber, number);
+    Validity::update(*ruleData()->getTemplate(), entry);
+    m_laneNumbers.insert(number);
+}
+
+int LanesScene::freeLaneNumber() const
+{
+    const CountRange count = ruleData()->getTemplate()->countRange();
+    int number = count.min;
+    while (number <= count.max && m_laneNumbers.contains(number))
+        ++number;
+    return number;
+}
+
+void LanesScene::checkLayout()
+{
+    BaseTabelScene::checkLayout();
+    collectLaneNumbers();
+}
+
+void LanesScene::collectLaneNumbers()
+{
+    m_laneNumbers.clear();
+    if (!isBound())
+        return;
+    for (const auto& entry : ruleData()->getAllData()) {
+        const QVariant number = entry->value(kLaneNumber);
+        if (number.isValid())
+            m_laneNumbers.insert(number.toInt());
+    }
+}
+
+void LanesScene::tabelAttrControlValueChange(const QString& key)
+{
+    BaseTabelScene::tabelAttrControlValueChange(key);
+    RuleDataInfo* entry = isBound() ? ruleData()->selectedDataInfo() : nullptr;
+    if (key != kLaneNumber || !entry || !entry->hasValue(kRuleLaneNumber))
+        return;
+    entry->setValue(kRuleLaneNumber, entry->value(kLaneNumber));
+    BaseTabelScene::tabelAttrControlValueChange(kRuleLaneNumber);
+}

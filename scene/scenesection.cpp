@@ -1,0 +1,151 @@
+#include "scene/scenesection.h"
+
+#include "scene/scenetitlebar.h"
+#include "tabel/controlitemwidgettabel.h"
+#include "tabel/layouthold.h"
+#include "tabel/ruleitemwidgettabel.h"
+#include "tabel/rulewidgettabel.h"
+#include "tabel/titlelabel.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+
+namespace
+{
+
+constexpr int kFoldedMargin = 2;
+constexpr int kTitleGap = 5;
+
+} // namespace
+
+SceneSection::SceneSection(QWidget* parent) : WidgetTabel(parent), m_widgets(this)
+{
+    setProperty("selected", false);
+    m_widgets.titleBar->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* old, QWidget* now) { focusMoved(old, now); });
+}
+
+void SceneSection::finishEdits()
+{
+    m_widgets.controls->finishEdits();
+}
+
+void SceneSection::setSelected(bool selected)
+{
+    finishEdits();
+    m_selected = selected;
+    if (!selected)
+        dropFocus();
+    setProperty("selected", selected);
+    m_widgets.titleBar->setSelected(selected);
+    updateMask();
+}
+
+void SceneSection::setSelectMode(bool on)
+{
+    m_selectMode = on;
+    if (!on)
+        return;
+    m_widgets.ruleFucBar->hide();
+    m_widgets.childFucBar->hide();
+    for (QWidget* widget : QList<QWidget*>{m_widgets.actions, m_widgets.hint}) {
+        widget->hide();
+        widget->setEnabled(false);
+    }
+    m_widgets.controls->setEnabled(false);
+}
+
+void SceneSection::setFold(bool folded)
+{
+    if (folded)
+        dropFocus();
+    m_folded = folded;
+    m_widgets.titleBar->setFolded(folded);
+    relayout(0, 0);
+    updateContentWidgets();
+    updateMask();
+}
+
+void SceneSection::updateContentWidgets()
+{
+    const bool shown = !m_folded && !m_selectMode && !m_widgets.drawItems->isEmpty();
+    m_widgets.actions->setVisible(shown);
+    m_widgets.hint->setVisible(shown);
+}
+
+void SceneSection::updateMask()
+{
+    m_widgets.mask->setGeometry(rect());
+    m_widgets.mask->setVisible(!m_selected && !m_folded);
+    m_widgets.mask->raise();
+}
+
+void SceneSection::checkLayout()
+{
+    const LayoutHold hold(this);
+    const auto hasButtons = [this](RuleWidgetTabel* bar) {
+        return !m_selectMode && !bar->getVisibleItems().isEmpty();
+    };
+    const bool hasEntries = !m_widgets.drawItems->isEmpty();
+    m_widgets.ruleFucBar->setVisible(hasButtons(m_widgets.ruleFucBar));
+    m_widgets.drawItems->setVisible(hasEntries);
+    m_widgets.childFucBar->setVisible(hasEntries && hasButtons(m_widgets.childFucBar));
+    m_widgets.childDrawItems->setVisible(!m_widgets.childDrawItems->isEmpty());
+    m_widgets.controls->setVisible(hasCurrentEntry() && !m_widgets.controls->isEmpty());
+    updateContentWidgets();
+    relayout(0, 0);
+}
+
+void SceneSection::relayout(int x, int y)
+{
+    const int titleHeight = m_widgets.titleBar->height();
+    m_widgets.titleBar->setGeometry(0, 0, width(), titleHeight);
+    if (m_folded)
+        resize(width(), titleHeight + kFoldedMargin);
+    else
+        WidgetTabel::relayout(x, y == 0 ? titleHeight + kTitleGap : y);
+    updateMask();
+}
+
+void SceneSection::resizeEvent(QResizeEvent* event)
+{
+    WidgetTabel::resizeEvent(event);
+    updateMask();
+}
+
+bool SceneSection::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_widgets.titleBar && event->type() == QEvent::MouseButtonPress)
+        setFold(!m_folded);
+    return WidgetTabel::eventFilter(watched, event);
+}
+
+void SceneSection::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+    emit sgnTrySelectedlScene();
+}
+
+void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
+{
+    if (!now || now == this)
+        return;
+    // Qt passes the focus on when its widget is disabled or hidden; the operator moved nothing.
+    const bool isPushed = old && !(old->isEnabled() && old->isVisible());
+    if (isPushed && m_selected && isAncestorOf(old) && !isAncestorOf(now))
+        setFocus();
+    if (isPushed || !isAncestorOf(now))
+        return;
+    if (m_folded)
+        setFold(false);
+    if (!m_selected)
+        emit sgnTrySelectedlScene();
+}
+
+void SceneSection::dropFocus()
+{
+    QWidget* focused = QApplication::focusWidget();
+    if (focused && isAncestorOf(focused))
+        focused->clearFocus();
+}

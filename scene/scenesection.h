@@ -1,0 +1,57 @@
+#pragma once
+
+#include "scene/scenewidgets.h"
+#include "tabel/widgettabel.h"
+
+/**
+ * A section of the side panel as a widget: it folds by its title bar, and is covered by a mask
+ * until it is selected. It knows nothing of what it shows.
+ */
+class SceneSection : public WidgetTabel
+{
+    Q_OBJECT
+
+public:
+    explicit SceneSection(QWidget* parent = nullptr);
+
+    void relayout(int x, int y) override;
+
+    /// Makes this the section whose canvas is worked on.
+    virtual void setSelected(bool selected);
+    bool getSelected() const { return m_selected; }
+    /// In select mode entries can be picked and enabled, nothing else. Set before the data.
+    virtual void setSelectMode(bool on);
+    bool getSelectMode() const { return m_selectMode; }
+
+    void setFold(bool folded);
+    bool getFold() const { return m_folded; }
+    /// Commits an edit in progress, or restores the old value where its text is refused.
+    void finishEdits();
+
+signals:
+    /// The operator wants to work on this section.
+    void sgnTrySelectedlScene();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+    /// Shows what the section's contents call for, and lays it out.
+    virtual void checkLayout();
+    /// Whether there is an entry whose attributes can be shown.
+    virtual bool hasCurrentEntry() const = 0;
+
+    const SceneWidgets& widgets() const { return m_widgets; }
+
+private:
+    void updateMask();
+    void updateContentWidgets();
+    void focusMoved(const QWidget* old, const QWidget* now);
+    void dropFocus();
+
+    SceneWidgets m_widgets;
+    bool m_folded = false;
+    bool m_selected = false;
+    bool m_selectMode = false;
+};

@@ -1,0 +1,99 @@
+#include "scene/scenewidgets.h"
+
+#include "scene/scenetitlebar.h"
+#include "tabel/controlitemwidgettabel.h"
+#include "tabel/ruleitemwidgettabel.h"
+#include "tabel/rulewidgettabel.h"
+#include "tabel/titlelabel.h"
+
+#include <QPushButton>
+
+namespace
+{
+
+constexpr int kMargin = 5;
+constexpr int kBarPadding = 3;
+constexpr int kHintHeight = 20;
+constexpr int kButtonsPerRow = 3;
+const QSize kBarButtonSize(143, 28);
+const QSize kActionButtonSize(80, 26);
+
+} // namespace
+
+SceneWidgets::SceneWidgets(WidgetTabel* panel)
+    : titleBar(new SceneTitleBar(panel)),
+      ruleFucBar(new RuleWidgetTabel(panel)),
+      drawItems(new RuleItemWidgetTabel(panel)),
+      actions(new WidgetTabel(panel)),
+      hint(new TitleLabel(panel)),
+      childFucBar(new RuleWidgetTabel(panel)),
+      childDrawItems(new RuleItemWidgetTabel(panel)),
+      controls(new ControlItemWidgetTabel(panel)),
+      mask(new QWidget(panel))
+{
+    nameWidgets();
+    buildBar(ruleFucBar);
+    buildBar(childFucBar);
+    actions->setItemType(ItemSizeType::ItemFixSize);
+    actions->setFixCountLimit(1, kButtonsPerRow);
+    actions->setItemSize(kActionButtonSize);
+    actions->setPaddingLeft(kMargin);
+    actions->setPaddingTop(kBarPadding);
+    redrawButton = buildAction(QStringLiteral("redraw"), tr("Redraw"));
+    deleteButton = buildAction(QStringLiteral("delete"), tr("Delete"));
+    controls->setPaddingLeft(0);
+    controls->setPaddingTop(kMargin);
+    mask->setAttribute(Qt::WA_StyledBackground);
+    mask->hide();
+    buildHint();
+    fillPanel(panel);
+}
+
+void SceneWidgets::nameWidgets()
+{
+    ruleFucBar->setObjectName(QStringLiteral("ruleFucBar"));
+    drawItems->setObjectName(QStringLiteral("drawItems"));
+    actions->setObjectName(QStringLiteral("actions"));
+    hint->setObjectName(QStringLiteral("hint"));
+    childFucBar->setObjectName(QStringLiteral("childFucBar"));
+    childDrawItems->setObjectName(QStringLiteral("childDrawItems"));
+    controls->setObjectName(QStringLiteral("controls"));
+    mask->setObjectName(QStringLiteral("mask"));
+}
+
+void SceneWidgets::buildBar(RuleWidgetTabel* bar)
+{
+    bar->setItemType(ItemSizeType::ItemFixSize);
+    bar->setFixCountLimit(1, kButtonsPerRow);
+    bar->setItemSize(kBarButtonSize);
+    bar->setPaddingLeft(kMargin);
+    bar->setPaddingTop(kBarPadding);
+}
+
+QPushButton* SceneWidgets::buildAction(const QString& name, const QString& text)
+{
+    auto* button = new QPushButton(text, actions);
+    button->setObjectName(name);
+    button->setVisible(true);
+    actions->addWidget(button, false);
+    return button;
+}
+
+void SceneWidgets::buildHint()
+{
+    hint->setTitle(tr("Left click adds a point, right click finishes."));
+    hint->setFixedHeight(kHintHeight);
+}
+
+void SceneWidgets::fillPanel(WidgetTabel* panel)
+{
+    panel->setPaddingLeft(kMargin);
+    panel->setPaddingTop(kMargin);
+    panel->addWidgetLayout(ruleFucBar, false);
+    panel->addWidgetLayout(drawItems, false);
+    panel->addWidgetLayout(actions, false);
+    panel->addWidget(hint, false);
+    panel->addWidgetLayout(childFucBar, false);
+    panel->addWidgetLayout(childDrawItems, false);
+    panel->addWidgetLayout(controls, false);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "tabel/controltabel.h"
+
+class QCheckBox;
+
+/// Row with an on/off switch.
+class BoolTabel : public ControlTabel
+{
+    Q_OBJECT
+
+public:
+    explicit BoolTabel(QWidget* parent = nullptr);
+
+    void init() override;
+    void setValue(const QVariant& value, bool emitChange) override;
+    QVariant value() const override;
+
+private:
+    QCheckBox* m_switch;
+};

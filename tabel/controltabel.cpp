@@ -1,0 +1,71 @@
+#include "tabel/controltabel.h"
+
+#include "Protocol/ruleprotocolitem.h"
+#include "tabel/titlelabel.h"
+
+ControlTabel::ControlTabel(QWidget* parent) : WidgetTabel(parent)
+{
+    titleLabel()->show();
+}
+
+void ControlTabel::init()
+{
+    setTitle(m_item ? m_item->caption() : QString());
+}
+
+void ControlTabel::setValue(const QVariant&, bool) {}
+
+QVariant ControlTabel::value() const
+{
+    return {};
+}
+
+void ControlTabel::setProtocolItem(RuleProtocolItem* item)
+{
+    m_item = item;
+    if (m_item)
+        m_item->setRow(this);
+    init();
+    rememberLoaded();
+}
+
+QString ControlTabel::key() const
+{
+    return m_item ? m_item->key() : QString();
+}
+
+QVariant ControlTabel::itemValue() const
+{
+    return m_item ? m_item->defaultValue() : QVariant();
+}
+
+void ControlTabel::reset()
+{
+    setValue(QVariant(), false);
+}
+
+void ControlTabel::finishEdit() {}
+
+void ControlTabel::loadValue(const QVariant& value)
+{
+    reset();
+    setValue(value, false);
+    rememberLoaded();
+}
+
+void ControlTabel::rememberLoaded()
+{
+    m_loaded = value();
+    m_touched = false;
+}
+
+bool ControlTabel::isModified() const
+{
+    return m_touched || value() != m_loaded;
+}
+
+void ControlTabel::announce()
+{
+    m_touched = isModified();
+    emit sgnControlValueChange(key());
+}

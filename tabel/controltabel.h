@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Protocol/controlrow.h"
+#include "tabel/widgettabel.h"
+
+class RuleProtocolItem;
+
+/**
+ * A row that edits one attribute: its caption at the left, an editor at the right. Changes are
+ * announced by key only; the receiver reads value().
+ *
+ * Values set by code with the emit flag off, reset() and loadValue() announce nothing.
+ */
+class ControlTabel : public WidgetTabel, public ControlRow
+{
+    Q_OBJECT
+
+public:
+    explicit ControlTabel(QWidget* parent = nullptr);
+
+    /// Builds the editor from the item and shows the item's default value.
+    virtual void init();
+    /// Shows @p value, and announces it if @p emitChange.
+    virtual void setValue(const QVariant& value, bool emitChange);
+    QVariant value() const override;
+
+    /// Ties the row and @p item (not owned) together and calls init().
+    void setProtocolItem(RuleProtocolItem* item);
+    RuleProtocolItem* protocolItem() const { return m_item; }
+    /// The item's key; empty without an item.
+    QString key() const;
+
+    /// Shows nothing: empty edits, no box checked.
+    virtual void reset();
+    /// Commits an edit in progress, or restores the old value where the text is refused.
+    virtual void finishEdit();
+    /// Shows another entry's value, whatever the row showed before.
+    void loadValue(const QVariant& value);
+    /// Whether the row was given another value since it was loaded. Stays so when the operator
+    /// returns to the first one, which then has to be stored again.
+    bool isModified() const;
+
+    bool isRowVisible() const override { return !isHidden(); }
+    const QObject* rowObject() const override { return this; }
+
+signals:
+    /// @p key is the item's, empty without an item.
+    void sgnControlValueChange(const QString& key);
+
+protected:
+    /// The item's default value; invalid without an item.
+    QVariant itemValue() const;
+    void announce();
+
+private:
+    void rememberLoaded();
+
+    RuleProtocolItem* m_item = nullptr;
+    QVariant m_loaded;
+    bool m_touched = false;
+};

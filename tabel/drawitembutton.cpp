@@ -1,0 +1,102 @@
+#include "tabel/drawitembutton.h"
+
+#include "tabel/plaintext.h"
+
+#include <QCheckBox>
+#include <QEvent>
+
+namespace
+{
+
+constexpr int kMaxTextLength = 5;
+
+} // namespace
+
+DrawItemButton::DrawItemButton(int id, int dataId, BaseDrawType type, QWidget* parent)
+    : QPushButton(parent), m_id(id), m_dataId(dataId), m_drawType(type)
+{
+    setCheckable(true);
+}
+
+DrawItemButton::~DrawItemButton()
+{
+    delete m_checkBox.data();
+}
+
+void DrawItemButton::setText(const QString& text)
+{
+    m_fullText = text;
+    const bool isLong = text.size() > kMaxTextLength;
+    const QString shown = isLong ? text.left(kMaxTextLength - 1) + QLatin1String("...") : text;
+    QPushButton::setText(PlainText::button(shown));
+    setToolTip(PlainText::toolTip(text));
+}
+
+void DrawItemButton::setEnabledState(bool on)
+{
+    m_enabledState = on;
+    if (m_checkBox)
+        m_checkBox->setChecked(on);
+}
+
+void DrawItemButton::setEnableCheckBoxVisible(bool visible)
+{
+    m_carriesCheckBox = visible;
+    if (visible) {
+        setStyleSheet(QStringLiteral("QPushButton{padding-left: 10px;}"));
+        if (!m_checkBox)
+            createCheckBox();
+    }
+    syncCheckBox();
+}
+
+void DrawItemButton::createCheckBox()
+{
+    m_checkBox = new QCheckBox(parentWidget());
+    m_checkBox->setStyleSheet(QStringLiteral(
+        "QCheckBox{background: transparent;}; QCheckBox::indicator{subcontrol-origin: border; "
+        "subcontrol-position: left center; }"));
+    m_checkBox->setChecked(m_enabledState);
+    connect(m_checkBox, &QCheckBox::clicked, this, [this](bool on) {
+        m_enabledState = on;
+        emit sgnEnableChanged(m_dataId, on);
+    });
+}
+
+void DrawItemButton::syncCheckBox()
+{
+    if (!m_checkBox)
+        return;
+    if (m_checkBox->parentWidget() != parentWidget())
+        m_checkBox->setParent(parentWidget());
+    m_checkBox->setGeometry(x() - 1, y() + height() / 2 - 7, 17, 14);
+    m_checkBox->setEnabled(isEnabled());
+    const bool shown = m_carriesCheckBox && !isHidden() && parentWidget();
+    m_checkBox->setVisible(shown);
+    // Named only while it shows, so that nobody finds the box of a button that is going away.
+    m_checkBox->setObjectName(shown ? QStringLiteral("enable") : QString());
+    m_checkBox->raise();
+}
+
+bool DrawItemButton::event(QEvent* event)
+{
+    const bool handled = QPushButton::event(event);
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+    case QEvent::ParentChange:
+    case QEvent::EnabledChange:
+        syncCheckBox();
+        break;
+    default:
+        break;
+    }
+    return handled;
+}
+
+void DrawItemButton::nextCheckState()
+{
+    setChecked(true);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "draw/basedrawtype.h"
+
+#include <QPointer>
+#include <QPushButton>
+
+class QCheckBox;
+
+/**
+ * Stands for one drawn figure, or for an entry without one. It may carry an enable check box,
+ * which is a sibling of the button: it follows it, hides with it and goes with it.
+ */
+class DrawItemButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /// @p id is the figure's item id, 0 without a figure; @p dataId the entry's.
+    DrawItemButton(int id, int dataId, BaseDrawType type, QWidget* parent = nullptr);
+    ~DrawItemButton() override;
+
+    int id() const { return m_id; }
+    int dataId() const { return m_dataId; }
+    BaseDrawType drawType() const { return m_drawType; }
+
+    /// Shows @p text, shortened where it is longer than five characters; the tool tip has it all.
+    void setText(const QString& text);
+    const QString& fullText() const { return m_fullText; }
+
+    bool enabledState() const { return m_enabledState; }
+    /// Announces nothing.
+    void setEnabledState(bool on);
+    void setEnableCheckBoxVisible(bool visible);
+
+signals:
+    /// The enable check box was clicked.
+    void sgnEnableChanged(int dataId, bool on);
+
+protected:
+    bool event(QEvent* event) override;
+    /// A press never unchecks: the current button stays current.
+    void nextCheckState() override;
+
+private:
+    void createCheckBox();
+    void syncCheckBox();
+
+    int m_id;
+    int m_dataId;
+    BaseDrawType m_drawType;
+    QString m_fullText;
+    bool m_enabledState = true;
+    bool m_carriesCheckBox = false;
+    QPointer<QCheckBox> m_checkBox; ///< made when first asked for; the button's sibling
+};

@@ -1,0 +1,182 @@
+#include "tabel/inputboxtabel.h"
+
+#include "Protocol/ruleprotocolitem.h"
+#include "tabel/inputboxwidget.h"
+#include "tabel/intvalidator.h"
+#include "tabel/numberlocale.h"
+#include "tabel/rowedit.h"
+
+#include <QDoubleValidator>
+#include <limits>
+
+namespace
+{
+
+constexpr int kDecimals = 2;
+
+ValueType typeOf(const RuleProtocolItem* item)
+{
+    return item ? item->valueType() : ValueType::None;
+}
+
+bool hasRange(const RuleProtocolItem& item)
+{
+    return item.rangeMinimum().isValid() || item.rangeMaximum().isValid();
+}
+
+template<class Number>
+Number limit(const QVariant& value, Number open)
+{
+    return value.isValid() ? value.value<Number>() : open;
+}
+
+QString shownText(const QVariant& value)
+{
+    if (value.type() == QVariant::Double)
+        return QString::number(value.toDouble(), 'f', QLocale::FloatingPointShortest);
+    return value.toString();
+}
+
+} // namespace
+
+InputBoxTabel::InputBoxTabel(QWidget* parent)
+    : ControlTabel(parent), m_box(new InputBoxWidget(this))
+{
+    addWidget(m_box, false);
+    m_box->show();
+    connect(m_box->lineEdit(), &RowEdit::textEdited, this, &InputBoxTabel::textEdited);
+    connect(m_box->lineEdit(), &RowEdit::editingFinished, this, &InputBoxTabel::editingFinished);
+}
+
+void InputBoxTabel::init()
+{
+    ControlTabel::init();
+    const RuleProtocolItem* item = protocolItem();
+    if (typeOf(item) == ValueType::Int)
+        m_box->lineEdit()->replaceValidator(createIntValidator());
+    else if (typeOf(item) == ValueType::Float)
+        m_box->lineEdit()->replaceValidator(createFloatValidator());
+    else
+        m_box->lineEdit()->replaceValidator(nullptr);
+    m_box->setUnit(item ? item->units() : QString());
+    setValue(itemValue(), false);
+}
+
+QValidator* InputBoxTabel::createIntValidator() const
+{
+    const RuleProtocolItem& item = *protocolItem();
+    if (!hasRange(item))
+        return new IntValidator(m_box->lineEdit());
+    using Limits = std::numeric_limits<int>;
+    return new IntValidator(limit(item.rangeMinimum(), Limits::min()),
+                            limit(item.rangeMaximum(), Limits::max()), m_box->lineEdit());
+}
+
+QValidator* InputBoxTabel::createFloatValidator() const
+{
+    const RuleProtocolItem& item = *protocolItem();
+    auto* validator = new QDoubleValidator(m_box->lineEdit());
+    if (hasRange(item)) {
+        const double infinity = std::numeric_limits<double>::infinity();
+        validator->setRange(limit(item.rangeMinimum(), -infinity),
+                            limit(item.rangeMaximum(), infinity));
+    }
+    validator->setDecimals(kDecimals);
+    validator->setNotation(QDoubleValidator::StandardNotation);
+    validator->setLocale(numberLocale());
+    return validator;
+}
+
+void InputBoxTabel::setValue(const QVariant& value, bool emitChange)
+{
+    m_box->lineEdit()->showValue(shownText(value));
+    if (emitChange)
+        announce();
+}
+
+QVariant InputBoxTabel::value() const
+{
+    const QString text = m_box->lineEdit()->text();
+    const ValueType type = typeOf(protocolItem());
+    if (type != ValueType::Int && type != ValueType::Float)
+        return text;
+    if (text.isEmpty())
+        return {};
+    return type == ValueType::Int ? QVariant(text.toInt()) : QVariant(text.toDouble());
+}
+
+void InputBoxTabel::finishEdit()
+{
+    m_box->lineEdit()->finishEdit();
+}
+
+void InputBoxTabel::setControlEnable(bool enable)
+{
+    storeControlEnable(enable);
+    m_box->lineEdit()->setEnabled(enable);
+}
+
+void InputBoxTabel::setValidator(const QValidator* validator)
+{
+    m_box->lineEdit()->replaceValidator(validator);
+}
+
+void InputBoxTabel::setMaxLength(int length)
+{
+    m_box->lineEdit()->setMaxLength(length);
+}
+
+void InputBoxTabel::textEdited(const QString& text)
+{
+    const ValueType type = typeOf(protocolItem());
+    if (type != ValueType::Int && type != ValueType::Float)
+        return;
+    const QVariant& maximum = protocolItem()->rangeMaximum();
+    bool isNumber = false;
+    const double typed = type == ValueType::Int ? text.toInt(&isNumber) : text.toDouble(&isNumber);
+    // Too small a number may be on its way to a longer one; too large a one only grows.
+    if (isNumber && maximum.isValid() && maximum.toDouble() < typed)
+        setValue(maximum, true);
+}
+
+void InputBoxTabel::editingFinished()
+{
+    const QString text = m_box->lineEdit()->text();
+    switch (typeOf(protocolItem())) {
+    case ValueType::Int:
+        finishInt(text);
+        break;
+    case ValueType::Float:
+        finishFloat(text);
+        break;
+    default:
+        setValue(text, true);
+        break;
+    }
+}
+
+void InputBoxTabel::finishInt(const QString& text)
+{
+    const int number = text.toInt();
+    const QVariant minimum = protocolItem()->rangeMinimum();
+    const QVariant maximum = protocolItem()->rangeMaximum();
+    if (minimum.isValid() && minimum.toInt() > number)
+        setValue(minimum.toInt(), true);
+    if (maximum.isValid() && maximum.toInt() < number)
+        setValue(maximum.toInt(), true);
+    // Receivers rely on the typed number being announced last.
+    setValue(number, true);
+}
+
+void InputBoxTabel::finishFloat(const QString& text)
+{
+    const QVariant minimum = protocolItem()->rangeMinimum();
+    const QVariant maximum = protocolItem()->rangeMaximum();
+    bool isNumber = false;
+    double number = text.toDouble(&isNumber);
+    if (minimum.isValid() && (!isNumber || minimum.toDouble() > number))
+        number = minimum.toDouble();
+    if (maximum.isValid() && maximum.toDouble() < number)
+        number = maximum.toDouble();
+    setValue(number, true);
+}

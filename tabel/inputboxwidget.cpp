@@ -1,0 +1,54 @@
+#include "tabel/inputboxwidget.h"
+
+#include "tabel/rowedit.h"
+
+#include <QLabel>
+
+namespace
+{
+
+constexpr int kEditHeight = 30;
+constexpr int kUnitHeight = 26;
+constexpr int kUnitMargin = 5;
+
+} // namespace
+
+InputBoxWidget::InputBoxWidget(QWidget* parent)
+    : QWidget(parent), m_edit(new RowEdit(this)), m_unit(new QLabel(this))
+{
+    setFixedHeight(kEditHeight);
+    m_edit->setObjectName(QStringLiteral("edit"));
+    m_edit->setFixedHeight(kEditHeight);
+    m_unit->setObjectName(QStringLiteral("unit"));
+    m_unit->setTextFormat(Qt::PlainText);
+    m_unit->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_unit->setFixedHeight(kUnitHeight);
+    m_unit->hide();
+    setFocusProxy(m_edit);
+}
+
+void InputBoxWidget::setUnit(const QString& unit)
+{
+    m_unit->setText(unit);
+    m_unit->setVisible(!unit.isEmpty());
+    place();
+}
+
+void InputBoxWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    place();
+}
+
+void InputBoxWidget::place()
+{
+    m_edit->setGeometry(0, 0, width(), m_edit->height());
+    if (m_unit->text().isEmpty()) {
+        m_edit->setTextMargins(0, 0, 0, 0);
+        return;
+    }
+    // At most half of the edit, so that a long unit leaves room for the number.
+    m_unit->resize(qMin(m_unit->sizeHint().width(), width() / 2), m_unit->height());
+    m_unit->move(width() - m_unit->width() - kUnitMargin, (height() - m_unit->height()) / 2);
+    m_edit->setTextMargins(0, 0, m_unit->width() + kUnitMargin, 0);
+}

@@ -1,0 +1,38 @@
+#include "tabel/inputrangeedittabel.h"
+
+#include "tabel/inputrangeedit.h"
+
+InputRangeEditTabel::InputRangeEditTabel(QWidget* parent)
+    : ControlTabel(parent), m_edit(new InputRangeEdit(this))
+{
+    m_edit->show();
+    addWidget(m_edit, false);
+    connect(m_edit, &InputRangeEdit::sgnRangeValueChange, this, [this] { announce(); });
+}
+
+void InputRangeEditTabel::init()
+{
+    ControlTabel::init();
+    setValue(itemValue(), false);
+}
+
+void InputRangeEditTabel::setValue(const QVariant& value, bool emitChange)
+{
+    if (value.type() == QVariant::Size)
+        m_edit->setRange(value.toSize(), emitChange);
+}
+
+QVariant InputRangeEditTabel::value() const
+{
+    return m_edit->range();
+}
+
+void InputRangeEditTabel::reset()
+{
+    m_edit->setRange(QSize(-1, -1), false);
+}
+
+void InputRangeEditTabel::finishEdit()
+{
+    m_edit->finishEdits();
+}

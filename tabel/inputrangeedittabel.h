@@ -1,0 +1,24 @@
+#pragma once
+
+#include "tabel/controltabel.h"
+
+class InputRangeEdit;
+
+/// Row with a minimum and a maximum edit; its value is a QSize (minimum, maximum).
+class InputRangeEditTabel : public ControlTabel
+{
+    Q_OBJECT
+
+public:
+    explicit InputRangeEditTabel(QWidget* parent = nullptr);
+
+    void init() override;
+    /// Takes a QSize and ignores anything else.
+    void setValue(const QVariant& value, bool emitChange) override;
+    QVariant value() const override;
+    void reset() override;
+    void finishEdit() override;
+
+private:
+    InputRangeEdit* m_edit;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QIntValidator>
+
+/// Whole numbers in a range. Limits that were set, rather than left open, also mend the text
+/// that an edit is left with.
+class IntValidator : public QIntValidator
+{
+    Q_OBJECT
+
+public:
+    /// Any number; mends nothing.
+    explicit IntValidator(QObject* parent = nullptr);
+    IntValidator(int bottom, int top, QObject* parent = nullptr);
+
+    /// From here on both limits mend. QIntValidator::setRange() limits without mending.
+    void setRange(int bottom, int top) override;
+    void fixup(QString& text) const override;
+
+private:
+    bool m_bottomSet = false;
+    bool m_topSet = false;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QLineEdit>
+
+/**
+ * The line edit of rows. Left with text that its validator refuses and cannot mend, it shows what
+ * it showed before and announces nothing; left as it was, it announces nothing either.
+ */
+class RowEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit RowEdit(QWidget* parent = nullptr);
+
+    /// Shows @p text as the value that an abandoned edit falls back to.
+    void showValue(const QString& text);
+    /// Ends an edit in progress the way leaving does; nothing when there is none.
+    void finishEdit();
+    /// As setValidator(), and deletes the validator that this edit owns as its parent.
+    void replaceValidator(const QValidator* newValidator);
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool mend();
+    void leaveUntouched(QFocusEvent* event);
+
+    QString m_value;
+};

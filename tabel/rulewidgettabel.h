@@ -1,0 +1,33 @@
+#pragma once
+
+#include "draw/basedrawtype.h"
+#include "tabel/widgettabel.h"
+
+class DrawFucButton;
+
+/// The bar of a scene's function buttons.
+class RuleWidgetTabel : public WidgetTabel
+{
+    Q_OBJECT
+
+public:
+    explicit RuleWidgetTabel(QWidget* parent = nullptr);
+
+    /// Appends @p button, enabled as the bar is, and relays its presses.
+    void addButton(DrawFucButton* button);
+    const QList<DrawFucButton*>& buttons() const { return m_buttons; }
+    /// The figure kinds of the buttons, in order.
+    QList<BaseDrawType> drawTypes() const;
+
+    void removeWidget(QWidget* widget) override;
+
+signals:
+    /// A button was pressed; @p type is its BaseDrawType.
+    void sgnBtnClicked(int type);
+
+protected:
+    void forgetWidget(const QObject* child) override;
+
+private:
+    QList<DrawFucButton*> m_buttons;
+};

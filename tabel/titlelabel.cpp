@@ -1,0 +1,47 @@
+#include "tabel/titlelabel.h"
+
+#include "tabel/plaintext.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
+TitleLabel::TitleLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void TitleLabel::setTitle(const QString& text)
+{
+    setText(text);
+    setToolTip(PlainText::toolTip(text));
+}
+
+bool TitleLabel::isElided() const
+{
+    return fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+bool TitleLabel::event(QEvent* event)
+{
+    // A tip that repeats what can be read is only in the way.
+    if (event->type() == QEvent::ToolTip && !isElided()) {
+        event->ignore();
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+void TitleLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    drawFrame(&painter);
+    QStyleOption option;
+    option.initFrom(this);
+    const QRect area = contentsRect();
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
+    style()->drawItemText(&painter, area, int(alignment()), option.palette, isEnabled(), shown,
+                          foregroundRole());
+}

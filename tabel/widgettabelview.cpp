@@ -1,0 +1,38 @@
+#include "tabel/widgettabelview.h"
+
+#include "tabel/widgettabel.h"
+
+WidgetTabelView::WidgetTabelView(QWidget* parent)
+    : QScrollArea(parent), m_content(new WidgetTabel(this))
+{
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_content->setPaddingLeft(0);
+    m_content->setPaddingTop(0);
+    setWidget(m_content);
+}
+
+void WidgetTabelView::addWidget(QWidget* widget)
+{
+    m_content->addWidget(widget, true);
+}
+
+void WidgetTabelView::addWidgetLayout(WidgetLayout* layout)
+{
+    m_content->addWidgetLayout(layout, true);
+}
+
+void WidgetTabelView::clearAll()
+{
+    m_content->deleteAll();
+}
+
+void WidgetTabelView::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    // The rows give the height. Setting the view's first would hide the scroll bar for a moment,
+    // which resizes the view again.
+    const bool hasRows = !m_content->getVisibleItems().isEmpty();
+    m_content->resize(viewport()->width(), hasRows ? m_content->height() : viewport()->height());
+    m_content->relayout(0, 0);
+}

@@ -1,0 +1,487 @@
+#include "Protocol/calibrateareatemplate.h"
+#include "Protocol/datatemplate.h"
+#include "Protocol/figuremaker.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleparser.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "Protocol/valueconversion.h"
+#include "draw/basedraw.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+#include "host/reader.h"
+#include "tests/support/rulestest.h"
+
+#include <QDir>
+#include <functional>
+
+using kql::Json::Value;
+
+namespace
+{
+
+using Texts = QStringList;
+
+Value json(const QString& text)
+{
+    Value value;
+    kql::Json::Reader reader;
+    if (!reader.parse(text, value))
+        qWarning("not JSON: %s in %s", qPrintable(reader.errorText()), qPrintable(text));
+    return value;
+}
+
+QString text(const Value& value)
+{
+    return value.toStyledText().simplified();
+}
+
+/// A section of controls "path|type|index|facade" (the last two may be left out), keyed by
+/// their paths, and their details.
+struct Section {
+    Section(const QString& name, const QString& parent, const Texts& controls)
+    {
+        Texts described;
+        Texts details;
+        for (const QString& control : controls) {
+            const Texts parts = control.split(QLatin1Char('|'));
+            const QString index = parts.value(2).isEmpty() ? "-1" : parts[2];
+            const QString facade = parts.value(3).isEmpty() ? "inputBoxNumber" : parts[3];
+            described += QString(R"({"key": "%1", "protocol": {"name": "%1", "type": "%2",
+                                     "index": %3}})")
+                             .arg(parts[0], parts[1], index);
+            details += QString(R"("%1": {"describe": "%1", "facade": "%2"})").arg(parts[0], facade);
+        }
+        description = QString(R"("%1": {"parent": "%2", "controls": [%3]})")
+                          .arg(name, parent, described.join(QLatin1Char(',')));
+        items = details.join(QLatin1Char(','));
+    }
+
+    QString description;
+    QString items;
+};
+
+QString makeTemplate(const QString& sections, const QString& items, const QString& skeleton)
+{
+    return QString(R"({"configDescription": {%1}, "configItems": {%2}, "configTemplate": %3})")
+        .arg(sections, items, skeleton);
+}
+
+QString rules(const Texts& controls, const QString& skeleton, const char* section = "rules",
+              const char* parent = "R[]")
+{
+    const Section part(section, parent, controls);
+    return makeTemplate(R"("ruleDescription": {)" + part.description + "}", part.items, skeleton);
+}
+
+/// Lanes under "L" with rules of number "N" and name under "R".
+QString laneRules(const QString& skeleton)
+{
+    const Section part{"rules", "R[]", {"N|int", "Line[]|point||line"}};
+    const QString handed =
+        QString(R"("lanes": {"parent": "L[]"}, "ruleDescription": {%1})").arg(part.description);
+    return makeTemplate(QString(handed).replace(R"("key": "N")", R"("key": "ruleLaneNumber")"),
+                        part.items, skeleton);
+}
+
+const QString kLaneSkeleton = R"({"L": [{"Number": 0}], "R": [{"N": 0, "Line": []}]})";
+
+QString calibrate(const char* method, const QString& skeleton)
+{
+    const QString section = R"("calibrateArea": {"parent": "C[]", "method": "%1",
+                                "defaultWidth": 3, "defaultHeight": 9.5})";
+    return makeTemplate(section.arg(method), QString(), skeleton);
+}
+
+const QString kAreaSkeleton = R"({"C": [{"Area": [], "Method": "", "Staffs": [{"Unit": "m"}]}]})";
+
+QString fight(const QString& skeleton)
+{
+    return makeTemplate(R"("fightCalibrate": {"parent": "F[]"})", QString(), skeleton);
+}
+
+QString detection(const QString& skeleton)
+{
+    return rules({"A[]|point||region", "B|int"}, skeleton, "detectArea", "D");
+}
+
+struct Load {
+    RuleParser parser;
+
+    Load(const QString& templateText, const QString& config)
+    {
+        isRead = parser.parseTemplate(templateText) && parser.readData(config);
+    }
+    RuleData& scene() const { return *parser.getAllData().front(); }
+    RuleDataInfo& entry(int position = 0) const
+    {
+        return *scene().getAllData()[static_cast<std::size_t>(position)];
+    }
+    DrawItem* figure(int position) const { return figures().value(position); }
+    QList<DrawItem*> figures() const
+    {
+        return scene().getDrawScene()->getItemList(BaseDrawType::None, 0);
+    }
+    RuleDataInfo& addEntry() const { return *scene().addDataInfo(scene().newDataInfo()); }
+    /// Draws a figure of the template's item at @p item for @p entry.
+    void draw(int item, const RuleDataInfo& entry, const QVector<QPoint>& points) const
+    {
+        const auto& protocolItem = scene().getTemplate()->items()[static_cast<std::size_t>(item)];
+        auto drawn = FigureMaker::make(scene(), *protocolItem, entry.id(),
+                                       DrawItemForbidenAreaType::ForbidenNone);
+        for (const QPoint& point : points)
+            drawn->figure()->appendPoint(point);
+        drawn->figure()->setFinished(true);
+        scene().getDrawScene()->addItem(std::move(drawn), -1);
+    }
+    QString written() const
+    {
+        Value config;
+        return parser.writeData(config) ? text(config) : QStringLiteral("not written");
+    }
+
+    bool isRead = false;
+};
+
+QString roundTrip(const QString& templateText, const QString& config)
+{
+    return Load(templateText, config).written();
+}
+
+QString file(const QString& path)
+{
+    QFile source(path);
+    return source.open(QIODevice::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString();
+}
+
+Texts exampleFolders()
+{
+    const QDir examples(QStringLiteral(RULES_SOURCE_DIR "/examples"));
+    Texts folders;
+    for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        folders += examples.filePath(name);
+    if (folders.isEmpty())
+        qWarning("no examples");
+    return folders;
+}
+
+/// Calls @p visit with every document that differs from @p document in one value.
+void mutate(Value& document, Value& place, const std::function<void()>& visit)
+{
+    static const Value kinds = json(R"([null, true, -7, 1e300, 99999999999, "x", [], [[1, 2]],
+                                        {}, [null], [{}], {"Name": []}])");
+    for (int i = 0; i < place.size(); ++i)
+        mutate(document, place.isArray() ? place[i] : place.memberValue(i), visit);
+    const Value original = place;
+    for (int i = 0; i < kinds.size(); ++i) {
+        place = kinds[i];
+        visit();
+    }
+    place = original;
+}
+
+} // namespace
+
+class TstConfig : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void values()
+    {
+        const auto check = [](const char* name, const char* type, int index, const char* found,
+                              const QVariant& value, const char* target, const char* written) {
+            RuleProtocolItem item;
+            item.setValueType(RuleParser::parseToValueType(type));
+            item.setIndex(index);
+            const Value source = json(found);
+            const QVariant read = ValueConversion::parseJsonToValue(source, item);
+            QVERIFY2(read == value && read.userType() == value.userType(), name);
+            Value place = json(target);
+            ValueConversion::toJson(read, item, place, &source);
+            QVERIFY2(text(place) == text(json(written)), name);
+
+            const QString before = text(place);
+            const bool isCleared = item.valueType() == ValueType::String && place.isArray();
+            ValueConversion::toJson(QVariant(), item, place);
+            QCOMPARE(text(place), isCleared ? QStringLiteral("[]") : before);
+        };
+        check("text", "string", -1, R"("a")", "a", R"("")", R"("a")");
+        check("texts", "string", -1, R"(["a", "b"])", Texts{"a", "b"}, R"(["x"])", R"(["a", "b"])");
+        check("texts into a text", "string", -1, R"(["a", "b"])", Texts{"a", "b"}, R"("")",
+              R"(["a", "b"])");
+        check("text into texts", "string", -1, R"("a")", "a", R"(["x", "y"])", R"(["a"])");
+        check("no texts", "string", -1, "[]", QVariant(), R"(["x"])", "[]");
+        check("bool", "bool", -1, "true", true, "false", "true");
+        check("number as bool", "bool", -1, "0.5", true, "false", "true");
+        check("int of ints", "int", 0, "[7, 8]", 7, "[1, 2]", "[7, 2]");
+        check("int beyond ints", "int", 2, "[7, 8]", 0, "[1, 2]", "[1, 2]");
+        check("fraction as int", "int", -1, "7.9", 7, "0", "7");
+        check("huge int", "int", -1, "1e300", 2147483647, "0", "2147483647");
+        check("null", "int", -1, "null", QVariant(), "4", "4");
+        check("float kept a float", "float", -1, "7.0", 7.0, "2", "7.0");
+        check("interval", "array int", -1, "[3, 9]", QSize(3, 9), "[0, 0]", "[3, 9]");
+        check("open interval", "array int", -1, R"(["x", 7])", QSize(-1, 7), "[5, 5]", "[0, 7]");
+        check("longer interval", "array int", -1, "[3, 9, 1]", QSize(3, 9), "[0, 0, 4]",
+              "[3, 9, 4]");
+        check("interval of intervals", "array int", 1, "[[1, 2], [3, 4]]", QSize(3, 4),
+              "[0, [0, 0]]", "[0, [3, 4]]");
+        check("object", "object", -1, R"({"b": 1, "a": [2.0]})",
+              json(R"({"b": 1, "a": [2.0]})").toStyledText(), "0", R"({"b": 1, "a": [2.0]})");
+        check("unknown", "array", -1, "[1, 2]", QVariant(), "5", "5");
+    }
+
+    void documents()
+    {
+        const auto row = [](const char* name, const QString& templateText, const char* config,
+                            const char* expected = nullptr) {
+            const QString written = roundTrip(templateText, config);
+            QVERIFY2(json(written) == json(expected ? expected : config),
+                     qPrintable(name + (": " + written)));
+            QCOMPARE(roundTrip(templateText, written), written);
+        };
+        const Texts items = {"A|int", "B.C|string", "P[]|point||region"};
+        const QString ruled =
+            rules(items, R"({"R": [{"X": 1, "A": 5, "B": {"C": "d"}, "P": [[1, 1]]}],
+                                               "Y": 2})");
+        row("rules", ruled, R"({"R": [
+            {"X": 1, "A": 6, "B": {"C": "e"}, "P": [[1, 2], [3, 4]], "Name": "n", "Enable": false},
+            {"X": 1, "A": 7, "B": {"C": ""}, "P": [], "Name": "", "Enable": true}], "Y": 2})",
+            R"({"R": [
+            {"X": 1, "A": 6, "B": {"C": "e"}, "P": [[1, 2], [3, 4]], "Name": "n", "Enable": false},
+            {"X": 1, "A": 7, "B": {"C": ""}, "P": [], "Name": "Rule2", "Enable": true}], "Y": 2})");
+        row("skeleton's members win", ruled,
+            R"({"R": [null, {"X": 9, "B": 4}, 3, {"P": 5}], "Y": 3})",
+            R"({"R": [
+            {"X": 1, "A": 5, "B": {"C": "d"}, "P": [[1, 1]], "Name": "Rule1", "Enable": true},
+            {"X": 1, "A": 5, "B": {"C": "d"}, "P": [[1, 1]], "Name": "Rule2", "Enable": true}], "Y": 2})");
+        for (const char* skeleton : {R"({})", R"({"R": []})", R"({"R": null})", R"({"R": [7]})"}) {
+            row(skeleton, rules(items, skeleton),
+                R"({"R": [{"A": 6, "B": {"C": "e"}, "P": [[1, 2]], "Name": "n", "Enable": true}]})");
+        }
+        row("made places",
+            rules({"L|string", "I[]|int|1", "J[]|int|0", "V|array int", "S[].T|int"}, "{}"),
+            R"({"R": [{"L": ["a"], "I": [null, 5], "J": [6], "V": [7, 8], "S": [{"T": 1}],
+                       "Name": "n", "Enable": true}]})");
+        row("absent places",
+            rules({"L|string", "V|array int", "F|float", "S.T|int"}, R"({"R": [{}]})"),
+            R"({"R": [{"L": ["a", "b"], "V": [7, 8], "F": 2, "S": {"T": 4}, "Name": "n", "Enable": true},
+                      {"L": [], "V": [7], "Name": "m", "Enable": true}]})",
+            R"({"R": [{"L": ["a", "b"], "V": [7, 8], "F": 2, "Name": "n", "Enable": true},
+                      {"Name": "m", "Enable": true}]})");
+        row("points of other kinds", rules({"P[]|point||region"}, "{}"),
+            R"({"R": [{"P": [[1, 2.9], [3], 4, [5, "6"], [-7, 1e300], [8, 9, 10], [-1, 99999]]}]})",
+            R"({"R": [{"P": [[1, 2], [-7, 2147483647], [-1, 99999]], "Name": "Rule1", "Enable": true}]})");
+        row("parallelogram", rules({"P[]|point||parallelogram"}, "{}"),
+            R"({"R": [{"P": [[0, 0], [8, 0], [8, 4], [0, 4]], "Config": {"Direction": [[7, 1], [1, 1]]},
+                       "Name": "n", "Enable": true}]})");
+
+        const QString global = rules({"A|int"}, R"({"G": {"A": 1, "X": 2}})", "global", "G");
+        row("global", global, R"({"G": {"A": 5, "X": 2}})");
+        row("global made", rules({"A|int"}, "{}", "global", "H.G"), R"({"H": {"G": {"A": 5}}})");
+
+        row("detection objects", detection(R"({"D": [{"A": [], "X": 1}]})"),
+            R"({"D": [{"A": [[1, 1], [2, 2]], "X": 1, "B": 4}, {"A": [], "X": 1}]})");
+        row("detection lists", detection(R"({"D": [[]]})"), R"({"D": [[[1, 1], [2, 2]], []]})");
+        row("detection bare list", detection(R"({"D": []})"), R"({"D": [[1, 1], [2, 2]]})");
+        row("detection object", detection(R"({"D": {"X": 1}})"),
+            R"({"D": {"A": [[1, 1]], "X": 1}})", R"({"D": {"X": 1}})");
+
+        row("fight", fight(R"({"F": [{"CalibrateArea": {"Area": [], "Rects": []}, "X": 1}]})"),
+            R"({"F": [{"CalibrateArea": {"Area": [[1, 1], [2, 2], [3, 1]],
+                       "Rects": [[[1, 1], [2, 2]], [[3, 3], [4, 4]]]}, "X": 1}]})");
+        row("fight made", fight("{}"),
+            R"({"F": [{"CalibrateArea": {"Area": [[1, 1]], "Rects": [[1, 2], [3, 4]]}},
+                      {"CalibrateArea": {"Area": [], "Rects": [[[1, 1]], 5, [[1, 1], [2, 2], [3, 3]]]}}]})",
+            R"({"F": [{"CalibrateArea": {"Area": [[1, 1]], "Rects": [[[1, 2], [3, 4]]]}},
+                      {"CalibrateArea": {"Area": [], "Rects": []}}]})");
+
+        row("staffs", calibrate("Scene", kAreaSkeleton),
+            R"({"C": [{"Area": [[1, 1]], "Method": "Scene", "Staffs": [
+                {"Type": "Horizontal", "Length": 2, "Start": [1, 2], "End": [3, 4], "Unit": "m"},
+                {"Type": "Vertical", "Length": 1.5, "Start": [5, 6], "End": [7, 8], "Unit": "m"},
+                {"Type": "Vertical", "Length": 2.5, "Start": [5, 6], "End": [9, 9], "Unit": "m"}]}]})");
+        row("staffs of other kinds", calibrate("Lane", "{}"),
+            R"({"C": [{"Area": [[1, 1], [2, 2], [3, 1]], "Staffs": [{"Type": "Diagonal"}, 4,
+                {"Type": "Vertical", "Length": "long", "Start": [5, 6], "End": [7, 8]},
+                {"Type": "Vertical", "Length": 2, "Start": [5, 6], "End": [7]},
+                {"Type": "Horizontal", "Start": [5, 6], "End": [9, 9]}]}]})",
+            R"({"C": [{"Area": [[1, 1], [2, 2], [3, 1]], "Method": "Lane", "Staffs": [
+                {"Type": "Vertical", "Length": 2.0, "Start": [5, 6], "End": [7, 8]},
+                {"Type": "Horizontal", "Length": 3.0, "Start": [5, 6], "End": [9, 9]}]}]})");
+
+        const QString lanes = makeTemplate(R"("lanes": {"parent": "L[]"})", QString(),
+                                           R"({"L": [{"LeftLineType": "Yellow", "X": 1}]})");
+        row("lanes", lanes, R"({"L": [{"Number": 2, "LeftLineType": "WhiteSolid", "X": 1,
+            "LeftLine": [[0, 9], [0, 0]], "RightLine": [[5, 9], [5, 0]]}]})");
+        row("lane drawn right to left", lanes, R"({"L": [{"LeftLineType": "Yellow", "X": 1,
+            "LeftLine": [[5, 9], [5, 0]], "RightLine": [[0, 9], [0, 0]]}]})",
+            R"({"L": [{"LeftLineType": "Yellow", "X": 1,
+            "LeftLine": [[0, 9], [0, 0]], "RightLine": [[5, 9], [5, 0]]}]})");
+        row("lane with too few points", lanes,
+            R"({"L": [{"LeftLine": [[5, 9]], "RightLine": []}]})",
+            R"({"L": [{"LeftLineType": "Yellow", "X": 1}]})");
+        row("lanes and rules", laneRules(kLaneSkeleton),
+            R"({"L": [{"Number": 1}, {"Number": 2}, {"Number": 3}], "R": [
+                {"N": 2, "Line": [[1, 1], [2, 2]], "Name": "b", "Enable": true},
+                {"N": 7, "Line": [], "Name": "a", "Enable": false},
+                {"N": 3, "Line": [], "Name": "c", "Enable": true},
+                {"N": 2, "Name": "spare", "Z": 1}, {"N": 8}]})",
+            R"({"L": [{"Number": 1}, {"Number": 2}, {"Number": 3}], "R": [
+                {"N": 7, "Line": [], "Name": "a", "Enable": false},
+                {"N": 2, "Line": [[1, 1], [2, 2]], "Name": "b", "Enable": true},
+                {"N": 3, "Line": [], "Name": "c", "Enable": true},
+                {"N": 2, "Name": "spare", "Z": 1}, {"N": 8}]})");
+        row("lane without a rule", laneRules(kLaneSkeleton), R"({"L": [{"Number": 4}], "R": []})",
+            R"({"L": [{"Number": 4}], "R": [{"N": 4, "Line": [], "Name": "Rule1", "Enable": true}]})");
+    }
+
+    void figures()
+    {
+        const Load load(rules({"P[]|point||region", "A[]|point||directLine"}, "{}"),
+                        R"({"R": [{"P": [[1, 2], [3, 4]], "A": [[5, 6], [7, 8]]}, {"P": []}]})");
+        QCOMPARE(load.entry(1).id() - load.entry(0).id(), 2);
+        QCOMPARE(load.figures().size(), 3);
+        const DrawItem& arrow = *load.figure(1);
+        QCOMPARE(arrow.drawType(), BaseDrawType::Direction);
+        QCOMPARE(arrow.label() + arrow.templateKey(), QStringLiteral("A[]A[]"));
+        QVERIFY(arrow.isFinished());
+
+        const Load area(calibrate("Lane", kAreaSkeleton), R"({"C": [{"Area": [[1, 1]], "Staffs": [
+            {"Type": "Horizontal", "Length": 4, "Start": [1, 2], "End": [3, 4]}]}]})");
+        const DrawItem& staff = *area.figure(1);
+        QCOMPARE(staff.drawType(), BaseDrawType::HorizontalRuler);
+        QCOMPARE(staff.parent(), area.figure(0));
+        QCOMPARE(staff.label(), QStringLiteral("horizontalLine"));
+        QCOMPARE(area.entry().value("calibrateAreaHorizontal"), QVariant(4.0));
+        QCOMPARE(area.entry().value("calibrateAreaVertical"), QVariant(9.5));
+    }
+
+    void edits()
+    {
+        Load load(
+            rules({"A|int", "M|string", "W|string"}, R"({"R": [{"A": 0, "M": "", "Config": 1}]})"),
+            R"({"R": [{"A": 1, "M": "x", "Name": "first"}, {"A": 2}]})");
+        load.scene().removeDataInfo(load.entry(0).id());
+        load.entry(0).setValue("A", 5);
+        load.entry(0).setValue("W", Texts{"w"});
+        load.addEntry().setValue("A", "not a number");
+        QCOMPARE(
+            json(load.written()),
+            json(
+                R"({"R": [{"A": 5, "M": "", "W": ["w"], "Name": "Rule1", "Enable": true, "Config": 1},
+                                {"A": 0, "M": "", "Name": "Rule2", "Enable": true, "Config": 1}]})"));
+
+        Load typed(rules({"A|int"}, R"({"R": [{}]})"), R"({"R": [{}]})");
+        typed.parser.setAlgorithmInfo(2, "code");
+        QVERIFY(!json(typed.written())["R"][0].isMember("Config"));
+        typed.parser.setAlgorithmInfo(1, "code");
+        QCOMPARE(json(typed.written())["R"][0]["Config"]["Type"], Value("code"));
+    }
+
+    void laneEdits()
+    {
+        const Load load(laneRules(kLaneSkeleton), R"({"L": [{"Number": 1}, {"Number": 2}], "R": [
+            {"N": 2, "Name": "b"}, {"N": 1, "Name": "a"}, {"N": 9, "Name": "spare"}]})");
+        QCOMPARE(load.entry(0).name(), QStringLiteral("a"));
+        load.scene().removeDataInfo(load.entry(0).id());
+        RuleDataInfo& added = load.addEntry();
+        added.setValue("lanesNum", 5);
+        added.setValue("ruleLaneNumber", 5);
+        load.draw(0, added, {{5, 9}, {5, 0}, {1, 9}, {1, 0}});
+        QCOMPARE(json(load.written()), json(R"({"L": [{"Number": 2},
+                  {"Number": 5, "LeftLine": [[1, 9], [1, 0]], "RightLine": [[5, 9], [5, 0]]}],
+            "R": [{"N": 2, "Line": [], "Name": "b", "Enable": true},
+                  {"N": 5, "Line": [], "Name": "Rule2", "Enable": true}, {"N": 9, "Name": "spare"}]})"));
+    }
+
+    void staffEdits()
+    {
+        const QString config = R"({"C": [{"Area": [[0, 0], [9, 0], [9, 9]], "Staffs": [
+            {"Type": "Vertical", "Length": 1, "Start": [1, 1], "End": [2, 2]},
+            {"Type": "Vertical", "Length": 2, "Start": [1, 1], "End": [3, 3]}]}]})";
+        const auto lengths = [](const Load& load) {
+            const Value document = json(load.written());
+            const Value& staffs = document["C"][0]["Staffs"];
+            Texts found;
+            for (int i = 0; i < staffs.size(); ++i)
+                found += staffs[i]["Type"].asString().left(1) + text(staffs[i]["Length"]);
+            return found;
+        };
+        const Load scene(calibrate("Scene", kAreaSkeleton), config);
+        scene.draw(1, scene.entry(), {{4, 4}, {5, 5}});
+        QCOMPARE(lengths(scene), (Texts{"V1", "V2", "V1.0"}));
+        scene.scene().getDrawScene()->removeItem(scene.figure(1)->itemId());
+        QCOMPARE(lengths(scene), (Texts{"V2", "V1.0"}));
+        scene.entry().setValue("calibrateAreaVertical", 3.5);
+        QCOMPARE(lengths(scene), (Texts{"V3.5", "V3.5"}));
+
+        const Load lane(calibrate("Lane", kAreaSkeleton), config);
+        lane.scene().getDrawScene()->redrawItem(lane.figure(0)->itemId());
+        while (lane.figures().size() > 1)
+            lane.scene().getDrawScene()->removeItem(lane.figure(1)->itemId());
+        for (const QPoint& point : {QPoint(0, 9), QPoint(0, 0), QPoint(5, 0)})
+            lane.figure(0)->figure()->appendPoint(point);
+        lane.entry().setValue("calibrateAreaVertical", 12.0);
+        QCOMPARE(json(lane.written())["C"][0]["Staffs"], json(R"([
+            {"Unit": "m", "Type": "Vertical", "Length": 12.0, "Start": [0, 9], "End": [0, 0]},
+            {"Unit": "m", "Type": "Horizontal", "Length": 3.0, "Start": [0, 0], "End": [5, 0]}])"));
+    }
+
+    void detectionEdits()
+    {
+        const auto check = [](const char* skeleton, const char* config, const char* expected) {
+            const Load load(detection(skeleton), config);
+            load.draw(0, load.addEntry(), {{7, 7}, {8, 8}});
+            QCOMPARE(text(json(load.written())["D"]), text(json(expected)));
+        };
+        const char* const bare = R"({"D": [[1, 1], [2, 2]]})";
+        check("{}", bare, "[[[1, 1], [2, 2]], [[7, 7], [8, 8]]]");
+        check(bare, "{}", "[[7, 7], [8, 8]]");
+        check(R"({"D": [{"X": 1, "A": []}]})", bare,
+              R"([[[1, 1], [2, 2]], {"X": 1, "A": [[7, 7], [8, 8]]}])");
+        check("{}", "{}", R"([{"A": [[7, 7], [8, 8]], "B": null}])");
+    }
+
+    void refusals()
+    {
+        Load unread(rules({"A|int"}, "{}"), "{");
+        QVERIFY(!unread.isRead);
+        QCOMPARE(unread.scene().getDataCount(), 0);
+        QCOMPARE(unread.written(), QStringLiteral("{}"));
+        const Load bare(R"({"configDescription": {"calibrateArea": {"parent": "C"}}})", "{}");
+        QVERIFY(bare.isRead);
+        QCOMPARE(bare.written(), QStringLiteral("not written"));
+    }
+
+    /// An example stays as it is. One value after another of an example's documents becomes
+    /// something else: whatever is read of that and written stays as it is from then on.
+    void examplesAndTheirMutations()
+    {
+        for (const QString& folder : exampleFolders()) {
+            Value templateDocument = json(file(folder + "/template.json"));
+            Value config = json(file(folder + "/config.json"));
+            const Load example(templateDocument.toStyledText(), config.toStyledText());
+            QVERIFY2(example.isRead && json(example.written()) == config, qPrintable(folder));
+            for (const auto& scene : example.parser.getAllData()) {
+                QString message;
+                QVERIFY2(scene->checkData(message), qPrintable(message));
+            }
+            int tried = 0;
+            const auto expectStable = [&] {
+                const QString templateText = templateDocument.toStyledText();
+                const Load load(templateText, config.toStyledText());
+                const QString written = load.written();
+                if (load.isRead && written != "not written")
+                    QCOMPARE(roundTrip(templateText, written), written);
+                ++tried;
+            };
+            mutate(config, config, expectStable);
+            mutate(templateDocument, templateDocument["configTemplate"], expectStable);
+            QVERIFY(tried > 500);
+        }
+    }
+};
+
+QTEST_MAIN(TstConfig)
+#include "tst_config.moc"

@@ -1,0 +1,333 @@
+#include "Protocol/calibrateareadata.h"
+#include "Protocol/calibrateareatemplate.h"
+#include "Protocol/controlrow.h"
+#include "Protocol/figuremaker.h"
+#include "Protocol/lanesdata.h"
+#include "Protocol/lanestemplate.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleparser.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "Protocol/validity.h"
+#include "draw/basedraw.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+#include "tests/support/rulestest.h"
+
+#include <QSize>
+
+namespace
+{
+
+class FakeRow : public QObject, public ControlRow
+{
+public:
+    QVariant value() const override { return shown; }
+    bool isRowVisible() const override { return visible; }
+    const QObject* rowObject() const override { return this; }
+
+    QVariant shown;
+    bool visible = true;
+};
+
+/// A rules scene that tests fill item by item.
+class Scene
+{
+public:
+    explicit Scene(CountRange count = {0, kAnyCount})
+    {
+        data.setSceneType(SceneType::Rules);
+        data.setTemplate(std::make_unique<DataTemplate>());
+        data.getTemplate()->setCountRange(count);
+    }
+
+    RuleProtocolItem* add(const QString& key, FacadeType facade,
+                          ValueType type = ValueType::None) const
+    {
+        auto item = std::make_unique<RuleProtocolItem>();
+        item->setKey(key);
+        item->setCaption(key.toUpper());
+        item->setFacade(facade);
+        item->setValueType(type);
+        item->setCountRange({1, 1});
+        return data.getTemplate()->addItem(std::move(item));
+    }
+
+    RuleDataInfo* addEntry() { return data.addDataInfo(data.newDataInfo()); }
+
+    DrawItem* draw(const RuleDataInfo* entry, const RuleProtocolItem* item, bool finished = true,
+                   int parentId = -1) const
+    {
+        DrawItem* const figure = data.getDrawScene()->addItem(
+            FigureMaker::make(data, *item, entry->id(), FigureMaker::forbiddenType(data, *item)),
+            parentId);
+        figure->setLabel("figure");
+        figure->figure()->setFinished(finished);
+        return figure;
+    }
+
+    /// What checkData says; empty when it has nothing to say.
+    QString complaint() const
+    {
+        QString message;
+        const bool ok = data.checkData(message);
+        return ok == message.isEmpty() ? message : QStringLiteral("result and message differ");
+    }
+
+    RuleData data;
+};
+
+void controlledBy(RuleProtocolItem* item, const QString& key, const QStringList& values)
+{
+    item->addValidity({key, values});
+}
+
+} // namespace
+
+class TstRuleData : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void entryCounts()
+    {
+        QString message = "untouched";
+        QVERIFY(!RuleData().checkData(message));
+        QCOMPARE(message, QStringLiteral("untouched"));
+        Scene several({1, 10});
+        QCOMPARE(several.complaint(), QStringLiteral("Please add 1-10 Rule."));
+        several.addEntry();
+        QCOMPARE(several.complaint(), QString());
+        Scene one({1, 1});
+        one.data.setRuleFucTitle("%1 Area");
+        QCOMPARE(one.complaint(), QStringLiteral("Please add 1 %1 Area."));
+    }
+
+    void ranges()
+    {
+        Scene scene;
+        RuleProtocolItem* const item =
+            scene.add("span", FacadeType::NumericalInterval, ValueType::ArrayInt);
+        scene.addEntry();
+        QCOMPARE(scene.complaint(), QString());
+        auto row = std::make_unique<FakeRow>();
+        item->setRow(row.get());
+        const QString empty = QStringLiteral("SPAN:The %1 value cannot be empty.");
+        const std::pair<QVariant, QString> rows[] = {{QVariant(), {}},
+                                                     {-1, {}},
+                                                     {QSize(0, 0), {}},
+                                                     {QSize(3, -1), empty.arg("maximum")},
+                                                     {QSize(-1, -1), empty.arg("minimum")}};
+        for (const auto& [shown, complaint] : rows) {
+            row->shown = shown;
+            QCOMPARE(scene.complaint(), complaint);
+        }
+        row->visible = false;
+        QCOMPARE(scene.complaint(), QString());
+        row->visible = true;
+        row.reset();
+        QCOMPARE(scene.complaint(), QString());
+    }
+
+    void figures()
+    {
+        Scene scene;
+        RuleProtocolItem* const item = scene.add("zone", FacadeType::Region);
+        const RuleDataInfo* const entry = scene.addEntry();
+        const auto said = [&](CountRange range) {
+            item->setCountRange(range);
+            return scene.complaint();
+        };
+        QCOMPARE(said({1, 1}), QStringLiteral("Please draw 1 ZONE."));
+        DrawItem* const first = scene.draw(entry, item, false);
+        QCOMPARE(said({1, 1}), QStringLiteral("Please finish drawing figure."));
+        first->figure()->setFinished(true);
+        QCOMPARE(said({1, 1}), QString());
+        scene.draw(entry, item, false);
+        QCOMPARE(said({1, 1}), QStringLiteral("Please draw 1 ZONE."));
+        QCOMPARE(said({3, 4}), QStringLiteral("Please draw 3-4 ZONE."));
+        QCOMPARE(said({0, 0}), QString());
+        QCOMPARE(said({2, 2}), QStringLiteral("Please finish drawing figure."));
+    }
+
+    void crossChecks()
+    {
+        const QStringList reasons{"greater than", "less than", "equal", "greater than or equal",
+                                  "less than or equal"};
+        // Where >, <, ==, >= and <= hold.
+        const std::tuple<QVariant, QVariant, const char*> pairs[] = {
+            {1, 1, "--+++"},
+            {2, 10, "-+--+"},
+            {2.5, 2, "+--+-"},
+            {"10", 9, "+--+-"},
+            {"10", "9", "+--+-"},
+            {"b", "a", "+--+-"},
+            {-1, "", "+--+-"},
+            {QSize(1, 2), QSize(1, 3), "++-++"},
+            {QStringList{"a"}, QStringList{"a"}, "+++++"},
+            {QVariant(), 1, "+++++"},
+        };
+        for (int type = 1; type <= reasons.size(); ++type) {
+            Scene scene;
+            scene.add("a", FacadeType::InputBoxNumber);
+            scene.add("b", FacadeType::InputBoxNumber);
+            scene.data.getTemplate()->addCheckRule({"a", "unknown", CheckRuleOperatorType::Equal});
+            scene.data.getTemplate()->addCheckRule({"a", "b", CheckRuleOperatorType(type)});
+            RuleDataInfo* const entry = scene.addEntry();
+            const QString text = QStringLiteral("A must be %1 to B").arg(reasons[type - 1]);
+            for (const auto& [first, second, holds] : pairs) {
+                entry->setValue("a", first);
+                entry->setValue("b", second);
+                QCOMPARE(scene.complaint(), holds[type - 1] == '+' ? QString() : text);
+            }
+            entry->setValue("a", type % 2 ? 1 : 2);
+            entry->setValue("b", 1 + (type == 3));
+            for (const char* key : {"a", "b"}) {
+                entry->setValid(key, false);
+                QCOMPARE(scene.complaint(), QString());
+                entry->setValid(key, true);
+            }
+        }
+    }
+
+    void entries()
+    {
+        QVERIFY(!RuleData().newDataInfo());
+        Scene scene;
+        scene.add("zone", FacadeType::Region);
+        scene.add("number", FacadeType::InputBoxNumber)->setDefaultValue(4);
+        const int last = RuleParser::createId();
+        const int ids[] = {scene.addEntry()->id(), scene.addEntry()->id(), scene.addEntry()->id()};
+        QCOMPARE(ids[0], last + 1);
+        QCOMPARE(ids[2], last + 3);
+        RuleData& data = scene.data;
+        QVERIFY(!data.getDataInfo(ids[1])->hasValue("zone"));
+        QCOMPARE(data.getDataInfo(ids[1])->value("number"), QVariant(4));
+        QVERIFY(data.getDataInfo(ids[1])->isEnabled() && !data.getDataInfo(0));
+        data.setSelectedDataId(ids[0]);
+        data.removeDataInfo(ids[0]);
+        QCOMPARE(data.getSelectedDataId(), ids[0]);
+        QVERIFY(!data.selectedDataInfo() && !data.getDataInfo(ids[0]));
+        QCOMPARE(data.indexOf(ids[2]), 1);
+        data.removeDataInfo(ids[0]);
+        QCOMPARE(data.getSelectedDataId(), 0);
+    }
+
+    void copies()
+    {
+        Scene scene({1, 3});
+        RuleProtocolItem* const zone = scene.add("zone", FacadeType::Region);
+        RuleProtocolItem* const inner = scene.add("inner", FacadeType::Rect);
+        inner->setLinkedItem(zone);
+        FakeRow row;
+        zone->setRow(&row);
+        RuleDataInfo* const entry = scene.addEntry();
+        entry->setName("gate");
+        const DrawItem* const parent = scene.draw(entry, zone);
+        scene.draw(entry, inner, true, parent->itemId());
+        scene.data.setSelectedDataId(entry->id());
+        RuleData copy(scene.data);
+        RuleData assigned;
+        assigned = copy;
+        assigned = *&assigned;
+        entry->setName("changed");
+        scene.data.getDrawScene()->removeItem(parent->itemId());
+        for (RuleData* const data : {&copy, &assigned}) {
+            const auto& items = data->getTemplate()->items();
+            QVERIFY(items[0].get() != zone && !items[0]->row());
+            QCOMPARE(items[1]->linkedItem(), items[0].get());
+            QCOMPARE(data->selectedDataInfo()->name(), QStringLiteral("gate"));
+            for (const auto& item : items)
+                QCOMPARE(data->figuresOf(entry->id(), *item).size(), 1);
+            QString message;
+            QVERIFY2(data->checkData(message), qPrintable(message));
+        }
+    }
+
+    void madeFigures()
+    {
+        using Forbiden = DrawItemForbidenAreaType;
+        CalibrateAreaData area;
+        CalibrateAreaTemplate& items = *area.calibrateTemplate();
+        const std::pair<const char*, EdgeLabelMode> modes[] = {
+            {"", EdgeLabelMode::Name},
+            {"Lane", EdgeLabelMode::LengthAndWidth},
+            {"Scene", EdgeLabelMode::Scene}};
+        items.setAreaPointCount({4, 5});
+        for (const auto& [method, mode] : modes) {
+            items.setMethod(method);
+            const auto made =
+                FigureMaker::make(area, *items.regionItem(), 7, Forbiden::ForbidenSelf);
+            QCOMPARE(made->figure()->edgeLabelMode(), mode);
+            QCOMPARE(made->figure()->minimumPointCount(), 4);
+            QCOMPARE(made->figure()->maximumPointCount(), 5);
+        }
+        const Scene scene;
+        const RuleProtocolItem* const line = scene.add("line", FacadeType::Line);
+        const LanesData lanes;
+        const std::tuple<const RuleData*, const RuleProtocolItem*, Forbiden> types[] = {
+            {&area, items.regionItem(), Forbiden::ForbidenOtherItems},
+            {&area, items.verticalStaffItem(), Forbiden::ForbidenOutsideParent},
+            {&scene.data, line, Forbiden::ForbidenNone},
+            {&lanes, lanes.lanesTemplate()->laneItem(), Forbiden::ForbidenSelf},
+            {&lanes, line, Forbiden::ForbidenOutsideParent}};
+        for (const auto& [data, item, type] : types)
+            QCOMPARE(FigureMaker::forbiddenType(*data, *item), type);
+    }
+
+    void validity()
+    {
+        Scene scene;
+        scene.add("radio", FacadeType::RadioButton);
+        scene.add("boxes", FacadeType::CheckBox);
+        scene.add("switch", FacadeType::Bool);
+        scene.add("number", FacadeType::InputBoxNumber);
+        const auto check = [&scene](const QString& controller, const QVariant& value,
+                                    const QStringList& values, bool isValid) {
+            const auto& items = scene.data.getTemplate()->items();
+            const QString key = QString::number(items.size());
+            controlledBy(scene.add(key, FacadeType::InputBoxNumber), controller, values);
+            RuleDataInfo entry;
+            entry.setValue(controller, value);
+            Validity::update(*scene.data.getTemplate(), entry);
+            QCOMPARE(entry.isValid(key), isValid);
+        };
+        check("radio", "a", {"a", "b"}, true);
+        check("radio", "c", {"a", "b"}, false);
+        check("radio", QVariant(), {"a", ""}, false);
+        check("boxes", QStringList{"x", "b"}, {"a", "b"}, true);
+        check("boxes", QStringList{"x"}, {"a", "b"}, false);
+        check("boxes", "b", {"b"}, true);
+        check("switch", true, {"true"}, true);
+        check("switch", true, {"false"}, false);
+        check("switch", QVariant(), {"false"}, true);
+        check("number", 7.5, {"7.5"}, true);
+        check("nobody", 1, {"2"}, true);
+        check("radio", "c", {}, true);
+    }
+
+    void validityChains()
+    {
+        Scene scene;
+        RuleProtocolItem* const top = scene.add("top", FacadeType::RadioButton);
+        RuleProtocolItem* const middle = scene.add("middle", FacadeType::RadioButton);
+        RuleProtocolItem* const low = scene.add("low", FacadeType::InputBoxNumber);
+        middle->setDefaultValue("on");
+        controlledBy(middle, "top", {"on"});
+        controlledBy(low, "middle", {"on"});
+        const DataTemplate& items = *scene.data.getTemplate();
+        const auto entry = scene.data.newDataInfo();
+        QVERIFY(!entry->isValid("middle") && entry->isValid("low"));
+        QVERIFY(Validity::hiddenItems(items, *entry).contains(low));
+        QVERIFY(!Validity::hiddenItems(items, *entry).contains(top));
+        entry->setValue("top", "on");
+        QVERIFY(!Validity::hiddenItems(items, *entry).contains(low));
+        controlledBy(top, "low", {"5"});
+        QVERIFY(Validity::hiddenItems(items, *entry).contains(low));
+        entry->setValue("low", 5);
+        QVERIFY(!Validity::hiddenItems(items, *entry).contains(low));
+    }
+};
+
+QTEST_MAIN(TstRuleData)
+#include "tst_ruledata.moc"

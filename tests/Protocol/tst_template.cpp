@@ -1,0 +1,334 @@
+#include "Protocol/lanesdata.h"
+#include "Protocol/lanestemplate.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleparser.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "host/reader.h"
+#include "tests/support/rulestest.h"
+
+using kql::Json::Value;
+
+namespace
+{
+
+const CountRange kAny{0, kAnyCount};
+
+Value json(const QString& text)
+{
+    Value value;
+    kql::Json::Reader().parse(text, value);
+    return value;
+}
+
+QString description(const QString& sections, const QString& configItems = QStringLiteral("{}"))
+{
+    return QStringLiteral(R"({"configDescription": {%1}, "configItems": %2})")
+        .arg(sections, configItems);
+}
+
+QString rules(const QString& members, const QString& configItems = QStringLiteral("{}"))
+{
+    return description(QStringLiteral(R"("ruleDescription": {"rules": {%1}})").arg(members),
+                       configItems);
+}
+
+/// One rules control with the key "a", of that value type and with these details.
+QString oneControl(const QString& type, const QString& details)
+{
+    return rules(QStringLiteral(R"("parent": "R[]", "controls": [
+                     {"key": "a", "protocol": {"name": "A", "type": "%1"}}])")
+                     .arg(type),
+                 QStringLiteral(R"({"a": %1})").arg(details));
+}
+
+QList<CountRange> ranges(const std::vector<RuleProtocolItem*>& items)
+{
+    QList<CountRange> all;
+    for (const RuleProtocolItem* const item : items)
+        all << item->countRange() << item->pointCount();
+    return all;
+}
+
+} // namespace
+
+class TstTemplate : public RulesTest
+{
+    Q_OBJECT
+
+private:
+    /// The scene of that type in @p text; the parser lives until the next call.
+    RuleData* parse(const QString& text, SceneType type = SceneType::Rules)
+    {
+        m_parser = std::make_unique<RuleParser>();
+        return m_parser->parseTemplate(text) && m_parser->checkTemplate() ? m_parser->getData(type)
+                                                                          : nullptr;
+    }
+
+    const RuleProtocolItem* parseItem(const QString& text)
+    {
+        const RuleData* const data = parse(text);
+        return data ? data->getTemplate()->findItem(QStringLiteral("a")) : nullptr;
+    }
+
+    std::unique_ptr<RuleParser> m_parser;
+
+private slots:
+    void refusesOtherDocuments()
+    {
+        RuleParser parser;
+        QVERIFY(parser.parseTemplate(description(R"("lanes": {})")));
+        QCOMPARE(parser.getAllData().size(), std::size_t(1));
+        for (const char* text : {"", "{", "{}", "[1]", "3", R"({"configdescription": {}})"}) {
+            QVERIFY2(!parser.parseTemplate(text), text);
+            QVERIFY2(parser.getAllData().empty(), text);
+        }
+        QVERIFY(parser.parseTemplate(description({})));
+        QVERIFY(parser.getAllData().empty() && !parser.getData(SceneType::Lanes));
+    }
+
+    void findsScenesInOrder()
+    {
+        const QString counted = R"({"parent": "P.%1", "%2": [1, %3]})";
+        QVERIFY(parse(description(
+            QStringLiteral(R"("ruleDescription": {"detectArea": %1, "global": %2, "rules": %3},
+                              "lanes": %4, "fightCalibrate": %5, "calibrateArea": %6)")
+                .arg(counted.arg("d", "count", "6"), counted.arg("g", "count", "5"),
+                     counted.arg("r", "count", "4"), counted.arg("l", "countOfLane", "3"),
+                     counted.arg("f", "celibateArea", "2"))
+                .arg(counted.arg("c", "celibateArea", "1")))));
+        const QStringList names{"calibrateArea", "fightCalibrate", "lanes",
+                                "rules",         "global",         "detectArea"};
+        const QStringList words{"Area", "Area", "Lanes", "Rule", "Rule", "Rule"};
+        QCOMPARE(static_cast<int>(m_parser->getAllData().size()), names.size());
+        for (int i = 0; i < names.size(); ++i) {
+            const RuleData& data = *m_parser->getAllData()[static_cast<std::size_t>(i)];
+            QCOMPARE(static_cast<int>(data.getSceneType()), i + 1);
+            QCOMPARE(data.getRuleFucTitle(), words[i]);
+            QCOMPARE(data.getTemplate()->name(), names[i]);
+            QCOMPARE(data.getTemplate()->parent(), QStringLiteral("P.") + names[i][0]);
+            QCOMPARE(data.getTemplate()->countRange(), (CountRange{1, i + 1}));
+        }
+        QVERIFY(!parse(description(R"("calibrateArea": null, "lanes": null,
+                                      "ruleDescription": {"rules": null})")));
+        QVERIFY(m_parser->getAllData().empty());
+    }
+
+    void toleratesOtherKinds()
+    {
+        const QStringList kinds{"1", "-2.5e300", "true", "\"x\"", "[]", "{}", "[[], {}, null, 7]"};
+        const QString whole = description(
+            R"("calibrateArea": %1, "fightCalibrate": {"celibateArea": %1, "rectOfArea": %1},
+               "lanes": {"parent": %1, "countOfLane": %1}, "ruleDescription": {"global": %1,
+               "detectArea": {"parent": %1, "controls": %1}, "rules": {"count": %1, "parent": "R",
+               "checkValueControls": %1, "controls": [%1, {"key": "a", "valid": %1, "depend": %1,
+               "protocol": %1}, {"key": "b", "protocol": {"index": %1, "type": %1, "name": %1},
+               "valid": {"enumValueArray": %1}, "depend": [%1]}]}})",
+            R"({"a": %1, "b": {"facade": "checkbox", "enumeration": %1, "default": %1}})");
+        for (const QString& kind : kinds) {
+            QVERIFY2(parse(QString(whole).replace("%1", kind)), qPrintable(kind));
+            QCOMPARE(m_parser->getAllData().size(), std::size_t(6));
+            QCOMPARE(m_parser->getAllData()[2]->getTemplate()->countRange(),
+                     kind.startsWith("[[") ? (CountRange{0, 0}) : kAny);
+            for (const auto& data : m_parser->getAllData())
+                QVERIFY(data->newDataInfo());
+        }
+    }
+
+    void spellings()
+    {
+        const auto check = [](auto read, const QList<std::pair<QString, int>>& rows) {
+            for (const auto& [text, number] : rows)
+                QCOMPARE(static_cast<int>(read(text)), number);
+        };
+        check(&RuleParser::parseToFacadeType, {{"region", 2},
+                                               {"line", 3},
+                                               {"directLine", 4},
+                                               {"rect", 5},
+                                               {"parallelogram", 9},
+                                               {"inputBoxNumber", 102},
+                                               {"checkbox", 103},
+                                               {"radioButton", 104},
+                                               {"bool", 105},
+                                               {"numericalInterval", 106},
+                                               {"Region", 0},
+                                               {"", 0}});
+        check(&RuleParser::parseToValueType, {{"bool", 1},
+                                              {"int", 2},
+                                              {"float", 6},
+                                              {"string", 10},
+                                              {"array int", 21},
+                                              {"point", 25},
+                                              {"object", 1024},
+                                              {"array", 0},
+                                              {"Int", 0}});
+        check(&RuleParser::parseToDirectionType,
+              {{"RightToLeft", 1}, {"LeftToRight", 2}, {"Both", 3}, {"both", 0}});
+        check(&RuleParser::parseToOperatorType,
+              {{">", 1}, {"<", 2}, {"==", 3}, {">=", 4}, {"<=", 5}, {"!=", 0}, {"=", 0}});
+    }
+
+    void controlDescription()
+    {
+        const RuleData* const data = parse(rules(R"("parent": "Cfg.R[]", "controls": [
+              {"key": "a", "protocol": {"name": "A.B[]", "type": "int", "index": 1},
+               "valid": {"controlKey": "c", "enumValue": "x", "enumValueArray": ["y"]}},
+              {"key": "b", "valid": {"controlKey": "c", "enumValueArray": ["y", "z"]}},
+              {"key": "c", "valid": {"controlKey": "c", "enumValueArray": "y"}}])"));
+        const auto& items = data->getTemplate()->items();
+        QCOMPARE(items.size(), std::size_t(3));
+        QCOMPARE(items[0]->path().text(), QStringLiteral("A.B[]"));
+        QCOMPARE(items[0]->index(), 1);
+        QCOMPARE(items[1]->index(), -1);
+        const QStringList values[] = {{"x"}, {"y", "z"}, {}};
+        for (std::size_t i = 0; i < items.size(); ++i)
+            QCOMPARE(items[i]->validity().first().values, values[i]);
+    }
+
+    void dependenciesComeFromLaterControls()
+    {
+        const auto check = [this](const QString& controls, const QList<QStringList>& expected) {
+            QList<QStringList> all;
+            const RuleData* const data =
+                parse(rules(R"("parent": "R", "controls": [)" + controls + "]"));
+            for (const auto& item : data->getTemplate()->items())
+                all.append(item->dependencies());
+            QCOMPARE(all, expected);
+        };
+        const QString two = R"({"depend": [{"key": "a"}, {"key": "b"}]})";
+        check(two, {{"a"}});
+        check(two + ", {}", {{"a"}, {}});
+        check(two + "," + two, {{"a", "b"}, {"a", "b"}});
+    }
+
+    void defaults()
+    {
+        const auto check = [this](const char* type, const char* details, const QVariant& expected) {
+            const RuleProtocolItem* const item = parseItem(oneControl(type, details));
+            QVERIFY(item && item->isControl());
+            const QVariant found = m_parser->getData(SceneType::Rules)->newDataInfo()->value("a");
+            QCOMPARE(found.userType(), expected.userType());
+            QCOMPARE(found, expected);
+        };
+        check("int", R"({"facade": "inputBoxNumber", "default": 7.9})", 7);
+        check("int", R"({"facade": "inputBoxNumber", "default": 1e99})", 2147483647);
+        check("float", R"({"facade": "inputBoxNumber", "default": 7})", 7.0);
+        check("string", R"({"facade": "inputBoxNumber", "default": "7"})", "7");
+        check("int", R"({"facade": "inputBoxNumber", "default": null})", {});
+        check("bool", R"({"facade": "inputBoxNumber", "default": true})", {});
+        check("int", R"({"facade": "inputBoxNumber"})", {});
+        check("string", R"({"facade": "radioButton", "default": "A"})", "A");
+        check("string", R"({"facade": "checkbox", "default": "A"})", QStringList{"A"});
+        check("bool", R"({"facade": "bool", "default": true})", true);
+        check("bool", R"({"facade": "bool"})", false);
+        check("array int", R"({"facade": "numericalInterval", "default": [1, 2]})", {});
+    }
+
+    void details()
+    {
+        const RuleProtocolItem* item = parseItem(oneControl("int", R"({"describe": "Dwell",
+            "facade": "inputBoxNumber", "range": [1, 1e12], "units": "s", "enumeration": [{}]})"));
+        QCOMPARE(item->caption() + item->units(), QStringLiteral("Dwells"));
+        QCOMPARE(item->rangeMinimum(), QVariant(1));
+        QCOMPARE(item->rangeMaximum(), QVariant(2147483647));
+        QVERIFY(item->enumeration().isEmpty());
+        item = parseItem(oneControl("int", R"({"facade": "inputBoxNumber", "range": null})"));
+        QVERIFY(!item->rangeMinimum().isValid() && !item->rangeMaximum().isValid());
+        item = parseItem(oneControl("string", R"({"facade": "checkbox", "units": "s",
+            "enumeration": [{"name": "All", "value": "all", "isAll": true, "describe": "tip"},
+                            {"name": "Obj", "value": {"k": 1}}, {"name": "Num", "value": 5}]})"));
+        const QList<EnumOption>& options = item->enumeration();
+        QCOMPARE(options.size(), 3);
+        QVERIFY(item->hasAllChoice() && options[0].isAll && !options[1].isAll);
+        QCOMPARE(options[0].text + options[0].value + options[0].description,
+                 QStringLiteral("Allalltip"));
+        QCOMPARE(json(options[1].value), json(R"({"k": 1})"));
+        QCOMPARE(options[2].value + item->units(), QString());
+    }
+
+    void figurePoints()
+    {
+        using Limits = std::optional<CountRange>;
+        const auto check = [this](const char* facade, const char* range, CountRange points,
+                                  const Limits& limits) {
+            const QString details =
+                QStringLiteral(R"({"facade": "%1", "range": %2})").arg(facade, range);
+            const RuleProtocolItem* const item = parseItem(oneControl("point", details));
+            QVERIFY2(item->isFigure() && item->countRange() == (CountRange{1, 1}), facade);
+            QVERIFY2(item->pointCount() == points, qPrintable(details));
+            QVERIFY2(item->figurePointLimits() == limits, qPrintable(details));
+        };
+        const CountRange polygon{3, kAnyCount};
+        check("region", "null", {-1, -1}, polygon);
+        check("region", "[4, 6]", {4, 6}, CountRange{4, 6});
+        check("region", "[6, 4]", {6, 4}, polygon);
+        check("region", "4", {0, 0}, polygon);
+        check("line", "4", {0, 0}, {});
+        check("line", "null", {-1, -1}, CountRange{2, kAnyCount});
+        check("line", "[2, 5]", {2, 5}, CountRange{2, 5});
+        check("parallelogram", "null", {-1, -1}, {});
+    }
+
+    void lanesTakeRulesOver()
+    {
+        const QString sections = R"("lanes": {}, "ruleDescription": {"rules": {"parent": "R[]",
+            "controls": [{"key": "x"}, {"key": "%1"}], "checkValueControls": [
+              {"firstKey": "x", "secondKey": "y", "rule": {"operator": "!="}},
+              {"firstKey": "x", "secondKey": "y", "rule": {"operator": "<="}},
+              {"firstKey": "x", "rule": {"operator": "<"}}, {"firstKey": "x", "secondKey": "y"}]}})";
+        const auto checks = [](const RuleData* data) {
+            return data->getTemplate()->checkRules().size();
+        };
+        const RuleData* const apart = parse(description(sections.arg("y")));
+        QCOMPARE(int(checks(apart)), 1);
+        QCOMPARE(int(checks(m_parser->getData(SceneType::Lanes))), 0);
+        auto* data = static_cast<LanesData*>(
+            parse(description(sections.arg("ruleLaneNumber")), SceneType::Lanes));
+        QVERIFY(!m_parser->getData(SceneType::Rules));
+        QCOMPARE(int(checks(data)), 1);
+        const LanesTemplate& lanes = *data->lanesTemplate();
+        QCOMPARE(lanes.rulesParent(), QStringLiteral("R[]"));
+        QCOMPARE(lanes.items().size(), std::size_t(6));
+        QCOMPARE(ranges({lanes.laneItem()}), (QList<CountRange>{{1, 1}, {4, 4}}));
+    }
+
+    void paths()
+    {
+        const Value root = json(R"({"A": [], "B": [{"C": [1, 2]}, 0], "D": {"": 4, "E": null},
+                                    "F[]": 5})");
+        const auto check = [&root](const char* path, const char* expected = nullptr) {
+            const Value* const value = JsonPath(path).readPath(root);
+            QVERIFY2(expected ? value && *value == json(expected) : !value, path);
+        };
+        check("A", "[]");
+        check("A[]", "[]");
+        check("B[].C", "[1,2]");
+        check("B[].C[]", "[1,2]");
+        check("D.", "4");
+        check("D.E", "null");
+        for (const char* absent : {"A[].B", "B.C", "D[].E", "D.E.X", "a", "", "F[]", "B[].C[].X"})
+            check(absent);
+        QVERIFY(!JsonPath().readPath(root));
+    }
+
+    void createsPaths()
+    {
+        const auto check = [](const QString& before, const QString& path, const QString& after) {
+            Value root = json(before);
+            const Value* const made = JsonPath(path).create(root);
+            QVERIFY2(root == json(after), qPrintable(path + root.toStyledText()));
+            QCOMPARE(made, JsonPath(path).probe(static_cast<const Value&>(root)));
+        };
+        check("null", "A[].B.C[]", R"({"A": [{"B": {"C": []}}]})");
+        check(R"({"A": null, "X": 1})", "A.B", R"({"A": {"B": null}, "X": 1})");
+        check(R"({"A": [null, 2]})", "A[].B", R"({"A": [{"B": null}, 2]})");
+        check(R"({"A": {"B": 7}})", "A.B", R"({"A": {"B": 7}})");
+        check(R"({"A": 3})", "A.B", R"({"A": 3})");
+        check(R"({"A": {}})", "A[].B", R"({"A": {}})");
+        check("[1]", "A", "[1]");
+        check("{}", QString("A[].").repeated(100) + "B", "{}");
+    }
+};
+
+QTEST_MAIN(TstTemplate)
+#include "tst_template.moc"

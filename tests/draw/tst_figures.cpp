@@ -1,0 +1,318 @@
+#include "draw/basedraw.h"
+#include "draw/crosstestdraw.h"
+#include "draw/drawfactory.h"
+#include "draw/labelfont.h"
+#include "tests/support/rulestest.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTranslator>
+#include <climits>
+
+using Type = BaseDrawType;
+using Direction = BaseDrawDirectionType;
+using Points = QVector<QPoint>;
+
+namespace
+{
+
+constexpr QRgb kNormal = 0xFF007DFF;
+constexpr QRgb kSelected = 0xFFFFD700;
+constexpr QRgb kRed = 0xFFFF0000;
+constexpr int kExtent = 8192;
+constexpr int kPixels = 128; // 64 units of the normalized space each, so nothing is rounded
+
+std::shared_ptr<BaseDraw> makeFigure(Type type, int canvas, const Points& clicks = {})
+{
+    auto figure = createDraw(type);
+    if (type == Type::Polygon)
+        figure->setPointLimits(3, INT_MAX);
+    figure->setCanvasSize(canvas, canvas);
+    for (const QPoint& click : clicks)
+        figure->addPoint(click.x(), click.y());
+    return figure;
+}
+
+Points pointsOf(const BaseDraw& figure)
+{
+    Points points;
+    figure.getPoints(points);
+    return points;
+}
+
+QImage painted(BaseDraw& figure)
+{
+    QImage image(kPixels, kPixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    Gdiplus::Graphics graphics(&painter);
+    figure.draw(&graphics);
+    return image;
+}
+
+QImage filled(const QVector<QRect>& areas, QRgb color)
+{
+    QImage image(kPixels, kPixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    for (const QRect& area : areas)
+        painter.fillRect(area, QColor::fromRgba(color));
+    return image;
+}
+
+int inked(const QImage& image, const QRect& area)
+{
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += qAlpha(image.pixel(x, y)) ? 1 : 0;
+    }
+    return count;
+}
+
+/// Notes the texts that figures have translated.
+class TextNotes : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        if (QLatin1String(context).endsWith(QLatin1String("Draw")))
+            notes << QLatin1String(context) + QLatin1String("/") + QLatin1String(text);
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+
+    mutable QStringList notes;
+};
+
+} // namespace
+
+class TstFigures : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void cleanupTestCase() { LabelFont::release(); }
+
+    void takesPoints()
+    {
+        const auto check = [](Type type, const Points& clicks, const QVector<bool>& refused,
+                              const Points& points, bool isFinished = true) {
+            const auto figure = makeFigure(type, kExtent);
+            for (int i = 0; i < clicks.size(); ++i)
+                QCOMPARE(figure->addPoint(clicks[i].x(), clicks[i].y()), refused[i]);
+            QCOMPARE(pointsOf(*figure), points);
+            QCOMPARE(figure->isFinished(), isFinished);
+            figure->clear();
+            QVERIFY(!figure->isFinished() && pointsOf(*figure).isEmpty());
+        };
+        const Points corner{{0, 0}, {800, 10}, {700, 500}};
+        const Points wedge{{0, 0}, {800, 10}, {400, 500}};
+        const Points box{{100, 100}, {800, 200}, {700, 500}, {90, 97}};
+        const Points lane{{300, 900}, {350, 100}, {700, 900}, {500, 100}};
+        for (const Type type : {Type::DirectionLine, Type::Rectangle, Type::Ruler,
+                                Type::HorizontalRuler, Type::Direction})
+            check(type, corner, {0, 0, 1}, corner.mid(0, 2));
+        check(Type::VerticalRuler, corner, {0, 0, 1}, {{0, 0}, {0, 10}});
+        check(Type::Polygon, box, {0, 0, 0, 0}, box, false);
+        // The new edge, then the closing edge would cross another.
+        check(Type::Polygon, corner + Points{{300, -200}}, {0, 0, 0, 1}, corner, false);
+        check(Type::Polygon, wedge + Points{{1000, 200}}, {0, 0, 0, 1}, wedge, false);
+        check(Type::VehicleLane, lane + Points{{1, 1}}, {0, 0, 0, 0, 1}, lane);
+        check(Type::VehicleLane, lane.mid(2) + lane.mid(0, 2), {0, 0, 0, 0}, lane);
+        check(Type::Parallelogram, {{100, 100}, {500, 200}, {600, 800}, {7, 7}}, {0, 0, 0, 1},
+              {{100, 100}, {500, 200}, {600, 800}, {200, 700}});
+    }
+
+    void openLinesMayCloseOverThemselves()
+    {
+        const auto line = makeFigure(Type::DirectionLine, kExtent);
+        line->setPointLimits(2, INT_MAX);
+        for (const QPoint& click : Points{{0, 0}, {800, 10}, {400, 500}, {1000, 200}})
+            QVERIFY(!line->addPoint(click.x(), click.y()));
+        QVERIFY(line->addPoint(390, 3));
+        QVERIFY(line->tryFinish() && line->addPoint(2000, 2000));
+        QCOMPARE(line->pointCount(), 4);
+    }
+
+    void staffHasNoRubberBandBeforeItsFirstPoint()
+    {
+        const auto staff = makeFigure(Type::VerticalRuler, kExtent);
+        staff->setMovePoint(50, 60);
+        QVERIFY(!staff->movePoint());
+        staff->addPoint(10, 20);
+        staff->setMovePoint(50, 60);
+        QCOMPARE(staff->movePoint().value(), QPoint(10, 60));
+        staff->setMovePoint(std::nullopt);
+        QVERIFY(!staff->movePoint());
+    }
+
+    void keepsDirectionPointsUntilSomethingChanges()
+    {
+        const auto figure =
+            makeFigure(Type::Parallelogram, kExtent, {{0, 0}, {400, 0}, {400, 200}});
+        QCOMPARE(figure->directionPoints(), (Points{{0, 100}, {400, 100}}));
+        const Points read{{390, 5}, {17, 9}};
+        figure->setDirectionPoints(read);
+        QCOMPARE(figure->direction(), Direction::RightToLeft);
+        figure->setDirection(Direction::RightToLeft);
+        QCOMPARE(figure->directionPoints(), read);
+        const auto copy = createDraw(Type::Parallelogram);
+        copy->copyStateFrom(*figure);
+        QCOMPARE(copy->directionPoints(), read);
+        figure->setDirection(Direction::LeftToRight);
+        QCOMPARE(figure->directionPoints(), (Points{{0, 100}, {400, 100}}));
+        copy->clear();
+        QVERIFY(copy->directionPoints().isEmpty());
+    }
+
+    void paintsExactly()
+    {
+        const auto check = [](Type type, const Points& points, const QVector<QRect>& areas) {
+            const auto figure = makeFigure(type, kPixels, points);
+            figure->setMovePoint(90, 60);
+            if (points.size() >= 2)
+                figure->setFinished(true);
+            QCOMPARE(painted(*figure), filled(areas, kNormal));
+            figure->setSelected(true);
+            QCOMPARE(painted(*figure), filled(areas, kSelected));
+            figure->draw(nullptr);
+        };
+        const Points flat{{30, 60}, {90, 60}};
+        const QRect line(30, 59, 60, 2);
+        const QVector<QRect> ruler{line, {29, 40, 2, 40}, {89, 40, 2, 40}};
+        const QVector<QRect> frame{
+            {29, 39, 62, 2}, {29, 59, 62, 2}, {29, 39, 2, 22}, {89, 39, 2, 22}};
+        const Points box{{30, 20}, {90, 20}, {90, 60}, {30, 60}};
+        const QVector<QRect> edges{
+            {30, 19, 60, 2}, {89, 20, 2, 40}, {30, 59, 60, 2}, {29, 20, 2, 40}};
+        check(Type::DirectionLine, flat, {line});
+        check(Type::DirectionLine, flat.mid(0, 1), {line});
+        check(Type::HorizontalRuler, flat, {line});
+        check(Type::Ruler, flat, ruler);
+        check(Type::Ruler, flat.mid(0, 1), ruler);
+        check(Type::VerticalRuler, {{60, 30}, {60, 90}},
+              {{59, 30, 2, 60}, {40, 29, 40, 2}, {40, 89, 40, 2}});
+        check(Type::Rectangle, {{90, 40}, {30, 60}}, frame);
+        check(Type::Rectangle, {{30, 40}}, frame);
+        check(Type::Polygon, box, edges);
+        check(Type::Parallelogram, box, edges);
+        check(Type::VehicleLane, {{30, 20}, {90, 20}, {95, 20}, {99, 20}},
+              {{30, 19, 60, 2}, {95, 19, 4, 2}});
+        check(Type::VehicleLane, {}, {});
+    }
+
+    void crossTestPaintsTwoSegments()
+    {
+        CrossTestDraw test;
+        test.setCanvasSize(kPixels, kPixels);
+        for (const QPoint& click : Points{{30, 60}, {90, 60}, {30, 90}})
+            test.addPoint(click.x(), click.y());
+        QCOMPARE(painted(test), filled({{30, 59, 60, 2}}, kNormal));
+        test.setMovePoint(90, 90);
+        QCOMPARE(painted(test), filled({{30, 59, 60, 2}, {30, 89, 60, 2}}, kNormal));
+        QCOMPARE(test.type(), Type::None);
+    }
+
+    void arrowsShowTheDirection()
+    {
+        const auto line = makeFigure(Type::DirectionLine, kPixels, {{20, 64}, {108, 64}});
+        const auto box =
+            makeFigure(Type::Parallelogram, kPixels, {{14, 20}, {114, 20}, {114, 100}});
+        for (const Direction direction :
+             {Direction::None, Direction::RightToLeft, Direction::LeftToRight, Direction::Both}) {
+            const bool left = direction == Direction::RightToLeft || direction == Direction::Both;
+            const bool right = direction == Direction::LeftToRight || direction == Direction::Both;
+            line->setDirection(direction);
+            const QImage across = painted(*line);
+            QCOMPARE(inked(across, {63, 44, 2, 40}), left || right ? 80 : 4);
+            for (const int wingX : {56, 65}) {
+                QCOMPARE(inked(across, {wingX, 45, 7, 7}) > 8, left);
+                QCOMPARE(inked(across, {wingX, 76, 7, 7}) > 8, right);
+            }
+            box->setDirection(direction);
+            const QImage along = painted(*box);
+            QCOMPARE(inked(along, {39, 50, 8, 9}) > 8, left);
+            QCOMPARE(inked(along, {81, 50, 8, 9}) > 8, right);
+        }
+        const auto arrow = makeFigure(Type::Direction, kPixels, {{20, 64}, {108, 64}});
+        const QImage head = painted(*arrow);
+        QVERIFY(inked(head, {101, 56, 7, 7}) > 8 && inked(head, {101, 65, 7, 7}) > 8);
+        QVERIFY(!inked(head, {20, 50, 70, 12}));
+    }
+
+    void rubberBandTurnsRedWhereItCrosses()
+    {
+        const auto region = makeFigure(Type::Polygon, kPixels, {{10, 20}, {110, 24}, {100, 100}});
+        region->setMovePoint(40, 110);
+        QCOMPARE(painted(*region).pixel(70, 104), kNormal);
+        region->setMovePoint(60, 4);
+        const QImage crossing = painted(*region);
+        QCOMPARE(crossing.pixel(80, 52), kRed);
+        QCOMPARE(crossing.pixel(35, 12), kNormal);
+    }
+
+    void finishedFiguresAreLabelled()
+    {
+        const QRect below(10, 24, 60, 14);
+        for (const Type type : {Type::Polygon, Type::DirectionLine, Type::Ruler,
+                                Type::HorizontalRuler, Type::Parallelogram}) {
+            const auto figure =
+                makeFigure(type, kPixels, {{5, 20}, {120, 20}, {120, 110}, {5, 110}});
+            QCOMPARE(inked(painted(*figure), below), 0);
+            figure->setLabel(QStringLiteral("Rule1"));
+            figure->tryFinish();
+            const QImage image = painted(*figure);
+            QVERIFY(inked(image, below) > 30 && !inked(image, {10, 45, 60, 12}));
+            figure->setFinished(false);
+            QCOMPARE(inked(painted(*figure), below), 0);
+        }
+    }
+
+    void edgesAndLanesAreNamed()
+    {
+        const auto check = [](Type type, const Points& clicks, const QString& texts) {
+            const auto figure = makeFigure(type, kPixels, clicks);
+            figure->setEdgeLabelMode(EdgeLabelMode::LengthAndWidth);
+            figure->tryFinish();
+            TextNotes notes;
+            QCoreApplication::installTranslator(&notes);
+            painted(*figure);
+            QCoreApplication::removeTranslator(&notes);
+            QCOMPARE(notes.notes.join(QLatin1Char(' ')), texts);
+        };
+        const QString left = QStringLiteral("VehicleLaneDraw/Left");
+        const QString right = QStringLiteral("VehicleLaneDraw/Right");
+        const Points lane{{30, 99}, {35, 9}, {70, 99}, {60, 9}};
+        check(Type::Polygon, {{9, 9}, {90, 9}, {90, 90}},
+              QStringLiteral("PolygonDraw/Length PolygonDraw/Width"));
+        check(Type::VehicleLane, lane, left + " " + right);
+        check(Type::VehicleLane, lane.mid(2) + lane.mid(0, 2), right + " " + left);
+        check(Type::VehicleLane, lane.mid(0, 3), left);
+        check(Type::VehicleLane, lane.mid(0, 2), {});
+    }
+
+    void absurdPointsPaint()
+    {
+        const Points absurd{{INT_MIN, INT_MAX}, {INT_MAX, INT_MIN}, {0, INT_MIN}};
+        for (int kind = 1; kind <= 9; ++kind) {
+            for (const int canvas : {32767, 0}) {
+                const auto figure = makeFigure(Type(kind), canvas);
+                figure->setLabel(QStringLiteral("x"));
+                figure->setDirection(Direction::Both);
+                for (const QPoint& point : absurd)
+                    figure->appendPoint(point);
+                figure->setMovePoint(INT_MIN, INT_MIN);
+                painted(*figure);
+                figure->addPoint(INT_MAX, INT_MAX);
+                figure->setFinished(true);
+                painted(*figure);
+                QVERIFY(pointsOf(*figure).size() >= 3);
+            }
+        }
+        QVERIFY(!createDraw(Type::None) && !createDraw(Type(10)) && !createDraw(Type(-1)));
+    }
+};
+
+QTEST_MAIN(TstFigures)
+#include "tst_figures.moc"

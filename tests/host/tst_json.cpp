@@ -1,0 +1,291 @@
+#include "host/dprintlog.h"
+#include "host/reader.h"
+#include "host/value.h"
+#include "tests/support/rulestest.h"
+
+#include <limits>
+
+using kql::Json::Reader;
+using kql::Json::Value;
+using kql::Json::ValueType;
+
+namespace
+{
+
+Value parsed(const QByteArray& text)
+{
+    Value root;
+    Reader reader;
+    const std::string_view utf8(text.constData(), std::size_t(text.size()));
+    if (!reader.parse(utf8, root))
+        qCritical("%s refused: %s", text.left(60).constData(), qPrintable(reader.errorText()));
+    return root;
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray(depth, '[') + QByteArray(depth, ']');
+}
+
+/// All typed reads of one value in one line: bool, int, int64, double, text.
+QString reads(const Value& value)
+{
+    return QStringLiteral("%1 %2 %3 %4 '%5'")
+        .arg(int(value.asBool()))
+        .arg(value.asInt())
+        .arg(value.asInt64())
+        .arg(value.asDouble(), 0, 'g', 17)
+        .arg(value.asString());
+}
+
+} // namespace
+
+class TstJson : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void readsAreTotal()
+    {
+        const auto row = [](const QByteArray& text, const char* expected) {
+            const Value value = parsed(text);
+            QCOMPARE(reads(value), QString::fromUtf8(expected));
+            const bool isArray = text.startsWith('[');
+            const bool isObject = text.startsWith('{');
+            QCOMPARE(value.size(), isArray || isObject ? 1 : 0);
+            QCOMPARE(value[0].asInt(), isArray ? 1 : 0);
+            QCOMPARE(value["a"].asInt(), isObject ? 1 : 0);
+            QCOMPARE(value.isMember("a"), isObject);
+            QVERIFY(value[-1].isNull() && value[1].isNull() && value["b"][3]["c"].isNull());
+            QVERIFY(value.memberName(1).empty() && value.memberValue(-1).isNull());
+            QCOMPARE(value.memberNames().size(), isObject ? 1 : 0);
+        };
+        row("null", "0 0 0 0 ''");
+        row("7", "1 7 7 7 ''");
+        row("-0", "0 0 0 0 ''");
+        row("0.5", "1 0 0 0.5 ''");
+        row("-2.9", "1 -2 -2 -2.8999999999999999 ''");
+        row("-9223372036854775808",
+            "1 -2147483648 -9223372036854775808 -9.2233720368547758e+18 ''");
+        row("9223372036854775808", "1 2147483647 9223372036854775807 9.2233720368547758e+18 ''");
+        row("-9223372036854775809",
+            "1 -2147483648 -9223372036854775808 -9.2233720368547758e+18 ''");
+        row("1e300", "1 2147483647 9223372036854775807 1.0000000000000001e+300 ''");
+        row("1e-400", "0 0 0 0 ''");
+        row("0.1e-2147483647", "0 0 0 0 ''");
+        row("\"12\"", "0 0 0 0 '12'");
+        row("\"\\u00e4\\ud83d\\ude00 and much more text\"", "0 0 0 0 'ä😀 and much more text'");
+        row("[1]", "0 0 0 0 ''");
+        row("{\"a\":1}", "0 0 0 0 ''");
+    }
+
+    void refusesText()
+    {
+        const auto row = [](const char* name, const QByteArray& text, int line, int column) {
+            Value root(5);
+            Reader reader;
+            const std::string_view utf8(text.constData(), std::size_t(text.size()));
+            QVERIFY2(!reader.parse(utf8, root) && root.isNull(), name);
+            QVERIFY2(!reader.errorText().isEmpty(), name);
+            QVERIFY2(reader.errorLine() == line && reader.errorColumn() == column, name);
+            QVERIFY(reader.parse(QStringLiteral("[]"), root));
+            QVERIFY(reader.errorText().isEmpty() && reader.errorLine() == 0);
+        };
+        row("empty", "", 1, 1);
+        row("comment alone", "/* [] */", 1, 9);
+        row("text after root", "{}\n x", 2, 2);
+        row("NUL after root", QByteArray("[] \0[", 5), 1, 4);
+        row("open object", "{\"a\": 1,\n", 2, 1);
+        row("open comment", "[] /* a", 1, 8);
+        row("comma at the end", "[1,]", 1, 4);
+        row("NaN", "[NaN]", 1, 2);
+        row("infinity", "[-Infinity]", 1, 3);
+        row("beyond a double", "[1, 100000e308]", 1, 5);
+        row("very many digits", QByteArray(400, '9'), 1, 1);
+        row("broken UTF-8", "[\n\"a\xFF\"]", 2, 3);
+        row("encoded surrogate", "\"\xED\xA0\x80\"", 1, 2);
+        row("too large a code point", "\"\xF4\x90\x80\x80\"", 1, 2);
+        row("lone low surrogate", "\"\\udc00\"", 1, 9);
+        row("lone high surrogate", "\"\\ud800\"", 1, 2);
+        row("control character", "\"a\nb\"", 1, 3);
+        row("too deep", nested(513), 1, 513);
+        row("a million brackets", QByteArray(1000000, '['), 1, 513);
+        row("a million objects", QByteArray("{\"a\":").repeated(1000000), 1, 512 * 5 + 1);
+    }
+
+    void writesWhatItReads()
+    {
+        for (const char* text :
+             {"1.0", "-0.0", "0.1", "1e21", "5e-324", "2.2250738585072014e-308",
+              "123456789012345680.0", "1.7976931348623157e308", "9223372036854775807",
+              "-9223372036854775808", "\"\"", "\"fourteen chars\"", "\"fifteen chars..\"", "[]",
+              "{}", "\"a\\u0000\\n\\\"\\\\/\"",
+              "{\"z\":[{},[],null],\"a\":{\"\":1,\"\\u00e4\":[true,2,2.5]},\"m\":\"\\u2028\"}"}) {
+            const Value value = parsed(text);
+            const std::string written = value.toStyledString();
+            const Value again = parsed(QByteArray::fromStdString(written));
+            QVERIFY2(again == value, text);
+            QCOMPARE(again.toStyledString(), written);
+        }
+    }
+
+    void acceptsCommentsMarkAndDepth()
+    {
+        const Value value =
+            parsed("\xEF\xBB\xBF// one\n{ /* two **/ \"a\" : [ 1 // three\n ] } // four");
+        QCOMPARE(value["a"][0].asInt(), 1);
+        int depth = 0;
+        const Value deep = parsed(nested(512));
+        for (const Value* level = &deep; level->isArray(); level = &(*level)[0])
+            ++depth;
+        QCOMPARE(depth, 512);
+        QVERIFY(parsed(QByteArray::fromStdString(deep.toStyledString())) == deep);
+    }
+
+    void writesMakeTheirKind()
+    {
+        Value value;
+        value["a"]["b"][2] = "x";
+        value["nan"] = std::numeric_limits<double>::quiet_NaN();
+        value["list"].append(1);
+        value["list"].append(value["list"]);
+        const Value written = parsed(QByteArray::fromStdString(value.toStyledString()));
+        QVERIFY(written == parsed(R"({"a":{"b":[null,null,"x"]},"nan":null,"list":[1,[1]]})"));
+
+        Value& list = value["list"];
+        list[-1] = 5;
+        list[2000000000] = 5;
+        list[std::size_t(-1)] = 5;
+        QCOMPARE(list.size(), 2);
+        list.clear();
+        QVERIFY(list.isArray() && list.empty());
+        value["a"]["b"]["now"] = 1;
+        QVERIFY(value["a"]["b"] == parsed(R"({"now":1})"));
+    }
+
+    void lastOfDuplicatesCountsInPlaceOfFirst()
+    {
+        const Value value = parsed(R"({"a":[1],"a long name, not in place":1,"b":2,"a":"three",
+                                       "a long name, not in place":4})");
+        QCOMPARE(value.memberNames().join(QLatin1Char(' ')),
+                 QStringLiteral("a a long name, not in place b"));
+        QCOMPARE(value["a"].asString(), QStringLiteral("three"));
+        QCOMPARE(value["a long name, not in place"].asInt(), 4);
+    }
+
+    void largeObjectsKeepOrderAndNames()
+    {
+        const int count = 50000;
+        const auto name = [](int i) { return "member number " + std::to_string(i); };
+        Value built;
+        for (int i = 0; i < count; ++i)
+            built[name(i)] = i;
+        Value value = parsed(QByteArray::fromStdString(built.toStyledString()));
+        QVERIFY(value == built && value.size() == count);
+        value.removeMember(name(100));
+        for (int i = 101; i < count; ++i)
+            QCOMPARE(value[name(i)].asInt(), i);
+        QVERIFY(value.memberName(100) == name(101) && !value.isMember(name(100)));
+    }
+
+    void copiesAreIndependent()
+    {
+        const Value before = parsed(R"({"list":[{"text":"a text that is shared by copies"}]})");
+        Value original = before;
+        Value copy = original;
+        copy["list"][0]["text"] = "other";
+        QVERIFY(original == before);
+        const Value part = std::move(original["list"]);
+        QVERIFY(original["list"].isNull());
+        original = Value();
+        QVERIFY(part == before["list"]);
+    }
+
+    void comparesByKindAndName()
+    {
+        QVERIFY(parsed(R"({"a":1,"b":[2]})") == parsed(R"({"b":[2],"a":1})"));
+        QVERIFY(parsed(R"({"a":1})") != parsed(R"({"b":1})") && parsed("[1,2]") != parsed("[2,1]"));
+        QVERIFY(Value(2) != Value(2.0) && Value(1) != Value(true) && Value("1") != Value(1));
+        QVERIFY(Value(-0.0) == Value(0.0) && Value(ValueType::String) == Value(""));
+        QVERIFY(Value() != Value(ValueType::Array) && Value(ValueType::Object) != Value());
+    }
+
+    void partsReplaceTheirWhole()
+    {
+        Value value = parsed(R"({"a":{"b":["a text that is shared by copies",{"c":1}]}})");
+        value["a"]["whole"] = value["a"];
+        QCOMPARE(value["a"]["whole"]["b"].size(), 2);
+        value["a"] = value["a"]["b"];
+        QVERIFY(value == parsed(R"({"a":["a text that is shared by copies",{"c":1}]})"));
+        Value& list = value["a"];
+        for (int i = 0; i < 40; ++i)
+            list.append(list[i]);
+        QCOMPARE(list[40].asString(), QStringLiteral("a text that is shared by copies"));
+        value = std::move(value["a"][41]);
+        value = *&value;
+        QCOMPARE(value["c"].asInt(), 1);
+    }
+
+    void spoiltTextsAreRefusedOrRoundTrip()
+    {
+        const QByteArray text = "{\"a\":[1,-2.5e3,\"\xC3\xA4\\u00e4\\n\",true,null],/*c*/"
+                                "\"a long name, not in place\":{\"a\":{}},\"a\":false}";
+        Reader reader;
+        Value value;
+        for (int length = 0; length < text.size(); ++length)
+            QVERIFY2(!reader.parse({text.constData(), std::size_t(length)}, value),
+                     text.left(length).constData());
+        int read = 0;
+        for (int at = 0; at < text.size(); ++at) {
+            for (int byte = 0; byte < 256; ++byte) {
+                QByteArray spoilt = text;
+                spoilt[at] = char(byte);
+                if (!reader.parse({spoilt.constData(), std::size_t(spoilt.size())}, value)) {
+                    QVERIFY(value.isNull() && reader.errorLine() >= 1 && reader.errorColumn() >= 1);
+                    continue;
+                }
+                ++read;
+                const std::string written = value.toStyledString();
+                Value again;
+                QVERIFY2(reader.parse(written, again) && again == value, spoilt.constData());
+            }
+        }
+        QVERIFY(read > text.size());
+    }
+
+    void acceptsEveryLengthOfUtf8()
+    {
+        for (const char* text :
+             {"\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80",
+              "\xEF\xBF\xBF", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
+            for (int shift = 0; shift < 9; ++shift) {
+                const QByteArray content = QByteArray(shift, 'x') + text;
+                QCOMPARE(QByteArray::fromStdString(parsed('"' + content + '"').asStdString()),
+                         content);
+            }
+        }
+    }
+
+    void readsIntoTheValueThatHoldsTheText()
+    {
+        Value value = parsed("[\"[\\\"a text that is not held in place\\\"]\"]");
+        Reader reader;
+        QVERIFY(reader.parse(value[0].asView(), value));
+        QCOMPARE(value[0].asString(), QStringLiteral("a text that is not held in place"));
+    }
+
+    void logTakesArgumentsAsText()
+    {
+        using Log = kql::DPrintLog;
+        QCOMPARE(Log::formatted("ReadPath failed.Path:%d", QStringLiteral("%s/%n")),
+                 QStringLiteral("ReadPath failed.Path:%s/%n"));
+        QCOMPARE(
+            Log::formatted("%s|%-5.2lf|%lld|%08x|%s", "c", 0.25, qint64(-1), 10u, std::string("é")),
+            QStringLiteral("c|0.25|-1|10|é"));
+        QCOMPARE(Log::formatted("100%% of %d, %d", 1), QStringLiteral("100% of 1, %d"));
+        QCOMPARE(Log::formatted("%", 1), QStringLiteral("%"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TstJson)
+#include "tst_json.moc"

@@ -1,0 +1,120 @@
+#include "host/channelsources.h"
+#include "host/picturesource.h"
+#include "host/qrtspvideownd.h"
+#include "host/samplecamerasource.h"
+#include "tests/support/rulestest.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolButton>
+
+using namespace UICommonMdl;
+
+/// The tools over a pane that shows the sample camera.
+class TstPictureStrip : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void showsOnHoverAndGivesWay()
+    {
+        QSignalSpy presses(m_surface.get(), &QRtspVideoWnd::sgnWndClick);
+        QVERIFY(!strip()->isVisible());
+        hover();
+        QTRY_VERIFY(strip()->isVisible());
+        QVERIFY(m_surface->rect().contains(strip()->geometry()));
+        const QPoint onButton = child<QToolButton>("freeze")->geometry().center();
+        QTest::mousePress(child<QToolButton>("freeze"), Qt::RightButton);
+        QCOMPARE(presses.count(), 1); // it draws, where the pointer is
+        const QPoint at(presses[0][1].toInt(), presses[0][2].toInt());
+        QVERIFY((at - strip()->geometry().topLeft() - onButton).manhattanLength() < 4);
+        QVERIFY(!strip()->isVisible());
+        QTRY_VERIFY(strip()->isVisible());
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(m_surface.get(), &leave);
+        QVERIFY(!strip()->isVisible());
+    }
+
+    void freezes()
+    {
+        child<QToolButton>("freeze")->click();
+        QVERIFY(m_surface->isFrozen());
+        QVERIFY(!m_surface->statusText().isEmpty());
+        const QImage held = shown();
+        const QImage snapshot = m_surface->snapshot();
+        QCOMPARE(snapshot.size(), QSize(1280, 720));
+        SampleCameraSource camera;
+        QSignalSpy ready(&camera, &PictureSource::sgnPictureReady);
+        camera.start();
+        QTRY_VERIFY(ready.count() > 5); // the pane's camera went on as well
+        QCOMPARE(shown(), held);
+        QCOMPARE(m_surface->snapshot(), snapshot);
+        child<QToolButton>("freeze")->click();
+        QVERIFY(!m_surface->isFrozen());
+        QCOMPARE(m_surface->statusText(), QString());
+        QTRY_VERIFY(shown() != held);
+        m_surface->setFrozen(true);
+        QVERIFY(child<QToolButton>("freeze")->isChecked());
+        QVERIFY(m_surface->openLivePicture(QStringLiteral("channel")));
+        QVERIFY(!m_surface->isFrozen() && !child<QToolButton>("freeze")->isChecked());
+    }
+
+    void tellsStatistics()
+    {
+        auto* const text = child<QLabel>("statisticsText");
+        QVERIFY(!text->isVisible());
+        child<QToolButton>("statistics")->click();
+        QVERIFY(text->isVisible());
+        QVERIFY(text->text().contains(QStringLiteral("Size: 1280 x 720")));
+        QTRY_VERIFY(!text->text().contains(QStringLiteral("second: 0.0")));
+        m_surface->resetToolBar(0);
+        QVERIFY(!text->isVisible());
+    }
+
+    void savesSnapshots()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("picture.png"));
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QTimer::singleShot(0, this, [path]() {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->selectFile(path);
+            QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+        });
+        child<QToolButton>("snapshot")->click();
+        QCOMPARE(QImage(path).size(), QSize(1280, 720));
+    }
+
+protected:
+    void prepareTest() override
+    {
+        m_surface = std::make_unique<QRtspVideoWnd>();
+        m_surface->resize(640, 360);
+        m_surface->show();
+        QVERIFY(m_surface->openLivePicture(QStringLiteral("channel")));
+        QVERIFY(!m_surface->paneRect(0).isEmpty());
+    }
+
+private:
+    QWidget* strip() const { return child<QWidget>("pictureStrip"); }
+    template<typename T>
+    T* child(const char* name) const
+    {
+        return m_surface->findChild<T*>(QLatin1String(name));
+    }
+    QImage shown() const { return m_surface->grab().toImage(); }
+    void hover()
+    {
+        QApplication::sendEvent(m_surface.get(), std::make_unique<QEvent>(QEvent::Enter).get());
+    }
+
+    std::unique_ptr<QRtspVideoWnd> m_surface;
+};
+
+QTEST_MAIN(TstPictureStrip)
+#include "tst_picturestrip.moc"

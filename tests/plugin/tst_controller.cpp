@@ -1,0 +1,392 @@
+#include "draw/basedraw.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+#include "host/channelsources.h"
+#include "host/cinterfacesetmanager.h"
+#include "host/picturesource.h"
+#include "host/qrtspvideownd.h"
+#include "plugin/cintelligentrulesctrl.h"
+#include "scene/basetabelscene.h"
+#include "tests/support/boxanswerer.h"
+#include "tests/support/mailbox.h"
+#include "tests/support/rulestest.h"
+#include "tests/support/sampledocuments.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QTemporaryDir>
+
+using namespace SampleDocuments;
+using IntelligentRulesUI::CIntelligentRulesCtrl;
+using kql::Json::Value;
+
+namespace
+{
+
+const QByteArray kChannel = R"("channalId": "C7")";
+const char kPrompt[] = "Prompt: The current operation may affect the already running task. "
+                       "Please confirm whether to modify it?";
+const char kFullBlock[] = R"(, "selectionMode": true, "algorithmType": 1, "algorithmCode": "X9",
+    "iPlayType": 3, "rtspUrl": "rtsp:host")";
+const QString kSaved = R"({"result": 0, "algorithmId": "crossing", "channalId": "C7",
+    "channelId": "C7", "algorithmType": %1, "algorithmCode": "%2", "channelAbilityPO": %3})";
+const char kExited[] = R"({"result": -1, "algorithmId": "crossing", "channalId": "C7",
+    "channelId": "C7", "algorithmType": 0, "algorithmCode": ""})";
+const QByteArray kEveryScene = R"({"configDescription": {
+    "lanes": {"parent": "Lanes[]", "countOfLane": [1, 4]},
+    "calibrateArea": {"parent": "Areas[]", "method": "Scene", "celibateArea": [1, 2]},
+    "fightCalibrate": {"parent": "Fights[]", "celibateArea": [1, 2]},
+    "ruleDescription": {"detectArea": {"parent": "D[]"}, "global": {"parent": "G"},
+                        "rules": {"parent": "R[]"}}}})";
+const char kExitPrompt[] = "Prompt: Do you want to exit the current configuration?";
+
+UICommonMdl::ChannelSources& sources()
+{
+    return KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance();
+}
+
+/// A rules window on its host, and what an operator does in it.
+struct Desk {
+    Desk()
+    {
+        window->setInterfaceSetManager(&manager);
+        window->show();
+    }
+    ~Desk() { delete window; }
+
+    void load(const QString& json) const { window->setData(json, 5); }
+    void load(const QByteArray& rules = rule("Gate"), const QByteArray& more = {}) const
+    {
+        load(block(kChannel + more, config(rules)));
+    }
+
+    template<class T = QWidget>
+    T* find(const QByteArray& name) const
+    {
+        return window->findChild<T*>(QString::fromLatin1(name));
+    }
+    BaseTabelScene* panel(const char* name) const { return find<BaseTabelScene>(name); }
+    QRtspVideoWnd* picture() const { return find<QRtspVideoWnd>("playerWin"); }
+    QRect pictureRect() const { return picture()->paneRect(0); }
+    DrawScene* canvas() const { return panel("rules")->getDrawScene(); }
+    const BaseDraw* figure(int number) const
+    {
+        return canvas()->getItemList(BaseDrawType::None, -1).at(number)->figure();
+    }
+
+    /// Class names of the panels, the selected ones in brackets.
+    QString panels() const
+    {
+        QStringList names;
+        for (const BaseTabelScene* panel : window->findChildren<BaseTabelScene*>()) {
+            const QString name = panel->metaObject()->className();
+            if (panel->isVisible() && !panel->objectName().isEmpty())
+                names.append(panel->getSelected() ? '[' + name + ']' : name);
+        }
+        return names.join(' ');
+    }
+
+    void click(const QByteArray& name) const { QTest::mouseClick(find(name), Qt::LeftButton); }
+    void press(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QTest::mouseClick(picture(), button, {}, pictureRect().topLeft() + at);
+    }
+    bool isPaintedOver() const
+    {
+        const QImage image = picture()->grab(pictureRect()).toImage();
+        QImage grey(image.size(), image.format());
+        grey.fill(Qt::gray);
+        return image != grey;
+    }
+    Value takeMessage() { return Mailbox::json(mailbox.take().value(0).p2.toString()); }
+
+    CommonData::CInterfaceSetManager manager;
+    QPointer<CIntelligentRulesCtrl> window{new CIntelligentRulesCtrl(QStringLiteral("W1"))};
+    Mailbox mailbox;
+    BoxAnswerer boxes{QMessageBox::Yes};
+};
+
+} // namespace
+
+class TstController : public RulesTest
+{
+    Q_OBJECT
+
+    void prepare() override
+    {
+        sources().addMaker([this](const QString& address, const auto&...) {
+            m_opened.append(address);
+            return nullptr;
+        });
+    }
+    void prepareTest() override { showPicture({640, 360}); }
+
+    /// Gives every channel a grey picture of that size.
+    void showPicture(const QSize& size)
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        const QString file = m_folder.filePath(QStringLiteral("%1.png").arg(size.width()));
+        QVERIFY(image.save(file));
+        sources().setDefaultAddress(file);
+        m_opened.clear();
+    }
+
+    QTemporaryDir m_folder;
+    QStringList m_opened; ///< addresses that surfaces asked for
+
+private slots:
+    void readsParameterBlock()
+    {
+        const auto check = [](const QByteArray& members, const char* code, const char* channel,
+                              bool isEditable = true) {
+            Desk desk;
+            desk.load(block(members, config(rule("Gate"))));
+            QCOMPARE(desk.find<QLabel>("lblChnCode")->text(), QString(code));
+            QCOMPARE(desk.find<QLabel>("lblChnName")->text(), QStringLiteral("Gate 7"));
+            QCOMPARE(desk.find("wgtChannelInfo")->isEnabled(), isEditable);
+            QCOMPARE(desk.find("btnSave")->isVisible(), isEditable);
+            QCOMPARE(desk.find("btnCancel")->isVisible(), isEditable);
+            desk.window->sltCancel();
+            const Value exited = desk.takeMessage();
+            QCOMPARE(exited["channalId"].asString(), QString(channel));
+            QCOMPARE(exited["channelId"].asString(), QString(channel));
+        };
+        check(R"("channelId": "other", "channalId": "C7")", "C7", "C7");
+        check(R"("channelId": "other")", "other", "other");
+        check(R"("channelId": "other", "channalId": [1])", "", "");
+        check(kChannel + R"(, "channelSn": "SN1")", "SN1", "C7");
+        check(kChannel + R"(, "channelSn": "")", "", "C7");
+        check(kChannel + R"(, "editable": null)", "C7", "C7", false);
+        check(kChannel + R"(, "editable": false, "selectionMode": true)", "C7", "C7");
+    }
+
+    void refusedBlockLeavesNothing()
+    {
+        QStringList refused{"", "{", "[1]", "null"};
+        for (const char* member : {"algorithmId", "channalId", "channelName",
+                                   "videoConfigRuleProperty", "channelAbilityPO"}) {
+            Value whole = Mailbox::json(block(kChannel, config(rule("Gate"))));
+            whole.removeMember(member);
+            refused.append(whole.toStyledText());
+        }
+        Desk desk;
+        for (const QString& json : refused) {
+            desk.load(rule("Gate"), R"(, "channelSn": "SN1", "editable": false)");
+            QCOMPARE(desk.panels(), QStringLiteral("[RuleScene] GlobalScene"));
+            desk.load(json);
+            for (const char* name : {"lblChnCode", "lblChnName"})
+                QCOMPARE(desk.find<QLabel>(name)->text(), QString());
+            QCOMPARE(desk.panels(), QString());
+            QVERIFY(desk.find("wgtChannelInfo")->isEnabled() && desk.pictureRect().isEmpty());
+            desk.click("btnSave");
+            QCOMPARE(desk.boxes.takeBoxes() + desk.mailbox.takeHeads(), QStringList());
+        }
+    }
+
+    void laterLoadStartsFromDefaults()
+    {
+        Desk desk;
+        const QString live = sources().address(QStringLiteral("C7"));
+        const QString rtsp = QStringLiteral("rtsp:host");
+        desk.load(rule("Gate"), kFullBlock);
+        desk.click("btnSave");
+        QCOMPARE(desk.boxes.takeBoxes(), QStringList());
+        const QByteArray typed = rule("Gate", R"(, "Config": {"Type": "X9"})");
+        QCOMPARE(desk.takeMessage(), Mailbox::json(kSaved.arg("1", "X9", config(typed))));
+
+        desk.load();
+        desk.click("btnSave");
+        QCOMPARE(desk.boxes.takeBoxes(), QStringList(kPrompt));
+        QCOMPARE(desk.takeMessage(), Mailbox::json(kSaved.arg("0", "", config(rule("Gate")))));
+        desk.load();
+        QCOMPARE(m_opened, QStringList({rtsp, live, live}));
+        desk.load(block(R"("channalId": "")", config(rule("Gate"))));
+        QCOMPARE(m_opened.size(), 3);
+        QVERIFY(desk.pictureRect().isEmpty());
+    }
+
+    void makesAPanelForEachScene()
+    {
+        Desk desk;
+        desk.load(block(kChannel, "{}", kEveryScene));
+        QCOMPARE(desk.panels(),
+                 QStringLiteral("[CalibrateAreaScene] FightCalibrateScene LanesScene RuleScene "
+                                "GlobalScene DetectionScene"));
+        for (const QByteArray& none : {kNoScenes, QByteArray("{}"), QByteArray("\"text\"")}) {
+            desk.load(block(kChannel, config(rule("Gate")), none));
+            QCOMPARE(desk.panels(), QString());
+        }
+    }
+
+    void routesTheMouse()
+    {
+        Desk desk;
+        // A second binding must not deliver anything twice.
+        desk.window->setInterfaceSetManager(&desk.manager);
+        const auto isUnfinished = [&desk](const char* channel = "C7", const char* algorithm = "") {
+            return desk.window->isDrawUnfinished(channel, algorithm);
+        };
+        desk.load();
+        desk.press({10, 10});
+        QVERIFY(!isUnfinished());
+        desk.click("addRule");
+        const BaseDraw* const drawn = desk.figure(1);
+        desk.press({10, 10}, Qt::MiddleButton);
+        QCOMPARE(drawn->pointCount(), 0);
+        desk.press({300, 100});
+        QCOMPARE(drawn->pointCount(), 1);
+        QVERIFY(isUnfinished() && isUnfinished("other", "crossing"));
+        QVERIFY(!isUnfinished("other", "other"));
+        QTest::mouseMove(desk.picture(), desk.pictureRect().topLeft() + QPoint(350, 120));
+        const QPoint moved = drawn->movePoint().value_or(QPoint());
+        QVERIFY((moved - QPoint(350, 120)).manhattanLength() <= 2);
+
+        desk.click("btnSave");
+        QCOMPARE(desk.boxes.takeBoxes(), QStringList("Error: Please finish drawing Rule2."));
+        desk.press({400, 100});
+        desk.press({400, 200});
+        desk.press({0, 0}, Qt::RightButton);
+        QVERIFY(drawn->isFinished() && isUnfinished());
+        desk.click("btnSave");
+        QVERIFY(!isUnfinished());
+        // What was drawn before the save does not count for a press after it.
+        desk.press({10, 10});
+        QVERIFY(!isUnfinished());
+    }
+
+    void selectionModeOnlySelects()
+    {
+        Desk desk;
+        desk.load(rule("Gate", R"(, "High": 0, "Enable": false)"), R"(, "selectionMode": true)");
+        desk.click("btnSave");
+        QCOMPARE(desk.boxes.takeBoxes(), QStringList("Error: Please select at least one rule"));
+        QCOMPARE(desk.mailbox.takeHeads(), QStringList());
+        desk.find<QAbstractButton>("enable")->click();
+        desk.click("btnSave");
+        QCOMPARE(desk.boxes.takeBoxes(), QStringList());
+        QCOMPARE(desk.mailbox.takeHeads(), QStringList("996 W1"));
+        desk.canvas()->redrawItem(desk.canvas()->getFirstDrawItem()->itemId());
+        desk.press({300, 100});
+        QCOMPARE(desk.figure(0)->pointCount(), 0);
+    }
+
+    void canvasFollowsThePicture()
+    {
+        Desk desk;
+        QSignalSpy sizes(desk.window, &CIntelligentRulesCtrl::sgnNotifyVideoSize);
+        desk.load(block(kChannel, "{}", kNoScenes));
+        QCoreApplication::sendPostedEvents();
+        desk.window->resize(900, 500);
+        desk.load();
+        QVERIFY(desk.isPaintedOver());
+        const auto fits = [&desk] {
+            return desk.canvas()->canvasSize() == desk.pictureRect().size();
+        };
+        QVERIFY(fits());
+        const QSize before = desk.pictureRect().size();
+        desk.window->resize(1200, 700);
+        QVERIFY(desk.pictureRect().size() != before && fits());
+        // Only a double click fits the canvas anew.
+        desk.canvas()->setCanvasSize(1, 1);
+        desk.window->OnWndClick(0, 5, 5);
+        QVERIFY(!fits());
+        desk.window->OnWndDbClick(1, 5, 5);
+        QVERIFY(fits());
+        showPicture({300, 300});
+        QVERIFY(desk.pictureRect().width() == desk.pictureRect().height() && fits());
+        QCOMPARE(sizes, QList<QVariantList>({{640, 360}}));
+
+        QTest::mouseClick(desk.panel("global"), Qt::LeftButton);
+        QCOMPARE(desk.panels(), QStringLiteral("RuleScene [GlobalScene]"));
+        QCOMPARE(desk.panel("global")->getDrawScene()->canvasSize(), desk.pictureRect().size());
+        QVERIFY(!desk.isPaintedOver());
+    }
+
+    void saveRefuses()
+    {
+        const auto check = [](const char* message, const QByteArray& config, bool isInRules) {
+            Desk desk;
+            desk.load(block(kChannel, config));
+            desk.panel("rules")->setFold(true);
+            desk.window->selectScene(desk.panel("global"));
+            desk.click("btnSave");
+            QCOMPARE(desk.boxes.takeBoxes(), QStringList(QStringLiteral("Error: ") + message));
+            QCOMPARE(desk.panel("rules")->getSelected(), isInRules);
+            QCOMPARE(desk.panel("rules")->getFold(), !isInRules);
+            QCOMPARE(desk.mailbox.takeHeads(), QStringList());
+        };
+        check("Please add 1-3 Rule.", config(""), true);
+        check("Please draw 1 Region.", config(R"({"Name": "A"})"), true);
+        check("Low must be less than to High", config(rule("A", R"(, "High": 2)")), true);
+        check("Duplicate rule name exists", config(rule("A") + "," + rule("A")), false);
+        check("Duplicate rule name exists", config(rule("Rule2") + "," + rule("")), false);
+        check("Span:The minimum value cannot be empty.", config(rule("A"), R"(["x", 5])"), false);
+        check("Span:The maximum value cannot be empty.", config(rule("A"), R"([5, "x"])"), false);
+    }
+
+    void asksBeforeItPosts()
+    {
+        Desk desk;
+        const auto answers = [&desk](const char* button, QMessageBox::StandardButton answer) {
+            desk.boxes.setAnswer(answer);
+            desk.click(button);
+            return desk.boxes.takeBoxes();
+        };
+        desk.load(rule("Gate") + ", " + rule("gate") + ", " + rule(""));
+        QCOMPARE(answers("btnCancel", QMessageBox::No), QStringList(kExitPrompt));
+        QCOMPARE(answers("btnSave", QMessageBox::No), QStringList(kPrompt));
+        QCOMPARE(desk.mailbox.takeHeads(), QStringList());
+        answers("btnSave", QMessageBox::Yes);
+        const QByteArray named = rule("Gate") + ", " + rule("gate") + ", " + rule("Rule3");
+        QCOMPARE(desk.takeMessage()["channelAbilityPO"], Mailbox::json(config(named)));
+        answers("btnCancel", QMessageBox::Yes);
+        QCOMPARE(desk.takeMessage(), Mailbox::json(kExited));
+
+        // Where nothing runs yet, nothing is asked; where nothing can be written, nothing is sent.
+        desk.load(block(kChannel, "{}", kNoScenes));
+        QCOMPARE(answers("btnSave", QMessageBox::No), QStringList());
+        QCOMPARE(desk.mailbox.takeHeads(), QStringList("996 W1"));
+        desk.load(block(kChannel, config(rule("Gate")), kUnwritableTemplate));
+        QCOMPARE(answers("btnSave", QMessageBox::Yes), QStringList(kPrompt));
+        QCOMPARE(desk.mailbox.takeHeads(), QStringList());
+    }
+
+    void stopsWhenLoadOrWindowIsGone()
+    {
+        enum Happening { Deleted, Cleared, Loaded };
+        const auto check = [](const QByteArray& rules, const char* button, Happening what) {
+            Desk desk;
+            desk.load(rules);
+            bool happened = false;
+            const auto happen = [&] {
+                happened = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (what == Deleted)
+                    delete desk.window;
+                else if (what == Cleared)
+                    desk.window->clearData();
+                else
+                    desk.load(rules);
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            };
+            // Posted before the click, it comes before the answer to the box.
+            QMetaObject::invokeMethod(qApp, happen, Qt::QueuedConnection);
+            desk.click(button);
+            QVERIFY2(happened, button);
+            QCOMPARE(desk.mailbox.takeHeads(), QStringList());
+            if (what == Loaded)
+                QCOMPARE(desk.panels(), QStringLiteral("[RuleScene] GlobalScene"));
+        };
+        for (const Happening what : {Deleted, Cleared, Loaded}) {
+            check(rule("Gate", R"(, "High": 0)"), "btnSave", what); // error
+            check(rule("A") + ", " + rule("A"), "btnSave", what);
+            check(rule("Gate"), "btnSave", what); // prompt
+            check(rule("Gate"), "btnCancel", what);
+            check(rule("Gate"), "delete", what); // last rule
+        }
+    }
+};
+
+QTEST_MAIN(TstController)
+#include "tst_controller.moc"

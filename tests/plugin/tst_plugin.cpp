@@ -1,0 +1,272 @@
+#include "host/iabstractui.h"
+#include "host/iabstractwidget.h"
+#include "host/iclientlogicalpluginapi.h"
+#include "host/iclientuipluginapi.h"
+#include "tests/support/boxanswerer.h"
+#include "tests/support/mailbox.h"
+#include "tests/support/rulestest.h"
+#include "tests/support/sampledocuments.h"
+
+#include <QAbstractButton>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QPluginLoader>
+#include <QPointer>
+#include <QProcess>
+#include <QStandardPaths>
+
+using namespace SampleDocuments;
+using kql::Json::Value;
+using KQPluginAPI::IAbstractWidget;
+using KQPluginAPI::IClientUIPluginAPI;
+
+namespace
+{
+
+const QString kFile = QStringLiteral(RULES_BIN_DIR "/IntelligentRulesUI.so");
+const char kMe[] = "IntelligentRulesUI1";
+
+enum Message { CloseRules = 0, OpenRules = 160, QueryDraw = 222, OpenRulesAlt = 566 };
+
+struct LogicalPlugin : KQPluginAPI::IClientLogicalPluginAPI {
+    std::string GetPluginName() override { return "Logical"; }
+    std::string GetRightName() override { return {}; }
+};
+
+QString address(const QString& widgetId)
+{
+    return QStringLiteral(R"({"pluginWidgetID": "%1", "iSessionID": 4} // who)").arg(widgetId);
+}
+
+QString rules(const QByteArray& channel)
+{
+    return block("\"channalId\": \"" + channel + "\"", config(rule("Gate")));
+}
+
+const QString kQuery =
+    QStringLiteral(R"({"params": {"algorithmId": "crossing", "channalId": "C1"}})");
+
+} // namespace
+
+class TstPlugin : public RulesTest
+{
+    Q_OBJECT
+
+    IAbstractWidget* widget() { return m_plugin->GetUI()->CreateWidget(); }
+
+    static bool isLoaded(const QWidget* window)
+    {
+        return window->findChild<QWidget*>(QStringLiteral("rules"));
+    }
+    static void click(const QWidget* window, const char* button)
+    {
+        window->findChild<QAbstractButton*>(QLatin1String(button))->click();
+    }
+
+    /// Loaded anew for each test, so that none depends on what another left.
+    void prepareTest() override
+    {
+        QLocale::setDefault(QLocale::c());
+        reload();
+    }
+
+    void reload()
+    {
+        if (m_loader.isLoaded()) {
+            m_plugin->UnInit();
+            QVERIFY2(m_loader.unload(), qPrintable(m_loader.errorString()));
+        }
+        m_plugin = qobject_cast<IClientUIPluginAPI*>(m_loader.instance());
+        QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
+        QVERIFY(!m_plugin->GetUI());
+        m_plugin->Init();
+    }
+
+    QPluginLoader m_loader{kFile};
+    IClientUIPluginAPI* m_plugin = nullptr;
+
+private slots:
+    void showsOnlyWhatTheHostLooksFor()
+    {
+        const QJsonObject data = m_loader.metaData();
+        QCOMPARE(data["IID"].toString(), QString("com.KQPluginAPI.IClientUIPluginAPI(1.0)"));
+        QCOMPARE(data["className"].toString(), QString("CIntelligentRulesUIPlugin"));
+        QCOMPARE(data["MetaData"].toObject(),
+                 QJsonObject({{"Keys", QJsonArray({"IntelligentRulesUI"})}}));
+        const QString nm = QStandardPaths::findExecutable(QStringLiteral("nm"));
+        if (nm.isEmpty())
+            QSKIP("nm is not installed");
+        QProcess process;
+        process.start(nm, {"-D", "-P", "--defined-only", kFile});
+        QVERIFY(process.waitForFinished());
+        QStringList names;
+        for (const QByteArray& line : process.readAllStandardOutput().trimmed().split('\n'))
+            names.append(line.left(line.indexOf(' ')));
+        names.sort();
+        QCOMPARE(names, QStringList({"qt_plugin_instance", "qt_plugin_query_metadata"}));
+    }
+
+    void answersTheHost()
+    {
+        QCOMPARE(m_plugin->GetPluginName(), std::string("IntelligentRulesUI"));
+        QCOMPARE(m_plugin->GetRightName(), std::string("Default Right"));
+        QVERIFY(m_plugin->IsAvailable());
+        LogicalPlugin logical;
+        QVERIFY(!m_plugin->AddLogicalPlugin(nullptr));
+        QVERIFY(m_plugin->AddLogicalPlugin(&logical) && !m_plugin->AddLogicalPlugin(&logical));
+        QVERIFY(m_plugin->RemoveLogicalPlugin(&logical));
+        QVERIFY(!m_plugin->RemoveLogicalPlugin(&logical));
+        auto* const ui = m_plugin->GetUI();
+        m_plugin->Init();
+        QCOMPARE(m_plugin->GetUI(), ui);
+
+        IAbstractWidget* const first = widget();
+        IAbstractWidget* const second = widget();
+        QCOMPARE(ui->FindWidget(kMe), first);
+        QCOMPARE(ui->FindWidget("IntelligentRulesUI2"), second);
+        for (const char* other : {"", "IntelligentRulesUI", "IntelligentRulesUI3"})
+            QVERIFY2(!ui->FindWidget(other), other);
+        QCOMPARE(first->GetTitle() + first->GetSecondTitle() + first->GetThirdTitle(),
+                 QStringLiteral("IntelligentRules").repeated(3));
+        QCOMPARE(first->GetDetail(), QStringLiteral("IntelligentRulesDetail"));
+        QWidget parent;
+        QWidget* const window = first->GetWidget(&parent);
+        QCOMPARE(window->parentWidget(), &parent);
+        QCOMPARE(first->GetWidget(nullptr), window);
+    }
+
+    void speaksTheOperatorsLanguage()
+    {
+        QLocale::setDefault(QLocale(QLocale::German));
+        reload();
+        const auto title = [] {
+            return QCoreApplication::translate("IntelligentRulesUI::CIntelligentRulesWidget",
+                                               "IntelligentRules");
+        };
+        const QString german = title();
+        QCOMPARE(widget()->GetTitle(), german);
+        m_plugin->UnInit();
+        QVERIFY(title() != german);
+    }
+
+    /// To a widget without a window, to one that is empty, and to one that is loaded.
+    void readsMessages()
+    {
+        enum Answer { Refused, Accepted, Replied };
+        Mailbox mailbox;
+        IAbstractWidget* const target = widget();
+        const auto check = [&](int id, const QVariant& p1, const QVariant& p2, Answer answer) {
+            const QString text = QString::number(id) + p1.toString() + p2.toString();
+            QVERIFY2(target->OnPluginMessage(id, p1, p2) == (answer != Refused), qPrintable(text));
+            QVERIFY2(mailbox.take().size() == int(answer == Replied), qPrintable(text));
+        };
+        const auto sendAll = [&] {
+            check(QueryDraw, kMe, {}, Refused);
+            check(QueryDraw, "other", "{]", Refused);
+            check(QueryDraw, kMe, R"({"param": {}})", Refused);
+            check(QueryDraw, kMe, R"(["params"])", Refused);
+            check(QueryDraw, kMe, R"({"params": 3})", Replied);
+            check(QueryDraw, "other", kQuery, Accepted);
+            check(QueryDraw, kMe, kQuery, Replied);
+            check(CloseRules, "other", {}, Accepted);
+            check(996, kMe, rules("C1"), Accepted);
+            for (const int id : {OpenRules, OpenRulesAlt}) {
+                check(id, {}, {}, Refused);
+                check(id, kMe, rules("C1"), Refused);
+                check(id, R"({"iSessionID": 1})", rules("C1"), Accepted);
+                check(id, "[1]", rules("C1"), Accepted);
+                check(id, address("intelligentrulesui1"), rules("C1"), Accepted);
+                check(id, address("IntelligentRulesUI2"), rules("C1"), Accepted);
+            }
+        };
+        QWidget parent;
+        sendAll();
+        QVERIFY(target->OnPluginMessage(OpenRules, address(kMe), rules("C1")));
+        const QWidget* const window = target->GetWidget(&parent);
+        sendAll();
+        QVERIFY(!isLoaded(window));
+        QVERIFY(target->OnPluginMessage(OpenRules, address(kMe), rules("C1")));
+        sendAll();
+        QVERIFY(isLoaded(window));
+        QVERIFY(target->OnPluginMessage(OpenRulesAlt, address(kMe), "{"));
+        QVERIFY(!isLoaded(window));
+    }
+
+    void windowsWorkSideBySide()
+    {
+        Mailbox mailbox;
+        BoxAnswerer boxes(QMessageBox::Yes);
+        QWidget parent;
+        IAbstractWidget* const first = widget();
+        IAbstractWidget* const second = widget();
+        QWidget* const windows[] = {first->GetWidget(&parent), second->GetWidget(&parent)};
+        for (IAbstractWidget* const target : {first, second}) {
+            target->OnPluginMessage(OpenRules, address(kMe), rules("C1"));
+            target->OnPluginMessage(OpenRulesAlt, address("IntelligentRulesUI2"), rules("C2"));
+        }
+        click(windows[0], "addRule");
+        click(windows[0], "btnCancel");
+        click(windows[0], "btnSave");
+        click(windows[1], "btnSave");
+        first->OnPluginMessage(QueryDraw, kMe, kQuery);
+        for (IAbstractWidget* const target : {first, second})
+            target->OnPluginMessage(CloseRules, kMe, {});
+        QVERIFY(!isLoaded(windows[0]));
+        QVERIFY(isLoaded(windows[1]));
+        QCOMPARE(boxes.takeBoxes().value(1), QStringLiteral("Error: Please finish drawing Rule2."));
+
+        const QList<Mailbox::Message> messages = mailbox.take();
+        QCOMPARE(messages.size(), 3);
+        QCOMPARE(messages[1].p1.toString(), QStringLiteral("IntelligentRulesUI2"));
+        const Value saved = Mailbox::json(messages[1].p2.toString());
+        QCOMPARE(saved["channalId"].asString(), QStringLiteral("C2"));
+        QCOMPARE(saved["channelAbilityPO"], Mailbox::json(config(rule("Gate"))));
+        QCOMPARE(Mailbox::json(messages[2].p2.toString()),
+                 Mailbox::json(R"({"unFinishedDraw": true, "algorithmId": "crossing",
+                                   "channalId": "C1"})"));
+    }
+
+    void partsEndInAnyOrder()
+    {
+        IAbstractWidget* const target = widget();
+        QWidget parent;
+        const QPointer<QWidget> window = target->GetWidget(&parent);
+        {
+            QWidget firstParent;
+            widget()->GetWidget(&firstParent);
+            window->setParent(&firstParent);
+            firstParent.show();
+            target->OnPluginMessage(OpenRules, address(kMe), rules("C1"));
+        }
+        QVERIFY(!window);
+        QVERIFY(target->OnPluginMessage(OpenRules, address(kMe), rules("C1")));
+        QVERIFY(target->GetWidget(&parent));
+        QVERIFY(target->OnPluginMessage(OpenRules, address(kMe), rules("C1")));
+        const QPointer<QWidget> ownerless = widget()->GetWidget(nullptr);
+        parent.show();
+        m_plugin->UnInit();
+        QVERIFY(!ownerless);
+        QVERIFY(isLoaded(&parent));
+        QVERIFY(!parent.grab().isNull());
+    }
+
+    void unloadsAndLoadsAgain()
+    {
+        {
+            QWidget parent;
+            IAbstractWidget* const target = widget();
+            target->GetWidget(&parent);
+            parent.show();
+            for (const char* channel : {"C1", "C2"})
+                target->OnPluginMessage(OpenRules, address(kMe), rules(channel));
+        }
+        reload();
+        // Nothing of the module that is gone is called any more.
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        QCOMPARE(widget()->GetWidgetID(), std::string(kMe));
+    }
+};
+
+QTEST_MAIN(TstPlugin)
+#include "tst_plugin.moc"

@@ -1,0 +1,345 @@
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+#include "scene/basetabelscene.h"
+#include "scene/scenefactory.h"
+#include "tests/support/panelbench.h"
+#include "tests/support/rulestest.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <memory>
+
+namespace
+{
+
+const QVector<QPoint> kArea{{100, 100}, {500, 100}, {500, 500}, {100, 500}};
+
+QByteArray scene(const QByteArray& section)
+{
+    return R"({"configDescription": {)" + section + "}}";
+}
+
+QByteArray lanes(const QByteArray& count)
+{
+    return scene(R"("lanes": {"parent": "Lanes", "countOfLane": )" + count + "}");
+}
+
+QByteArray calibrate(const QByteArray& method)
+{
+    return scene(R"("calibrateArea": {"parent": "Areas", "celibateArea": [1, 2],
+        "pointOfArea": [4, 4], "method": ")" +
+                 method + R"("})");
+}
+
+const QByteArray kLaneRules = R"({
+  "configDescription": {
+    "lanes": {"parent": "Lanes", "countOfLane": [1, 4]},
+    "ruleDescription": {"rules": {"count": [1, 4], "parent": "Rules", "controls": [
+      {"key": "ruleLaneNumber", "protocol": {"name": "Lane", "type": "int"}},
+      {"key": "trip", "protocol": {"name": "Line[]", "type": "point"}},
+      {"key": "speed", "protocol": {"name": "Speed", "type": "int"},
+       "valid": {"controlKey": "ruleLaneNumber", "enumValueArray": ["1", "3"]}}]}}},
+  "configItems": {
+    "ruleLaneNumber": {"describe": "Lane", "facade": "inputBoxNumber", "range": [1, 9]},
+    "trip": {"describe": "Trip", "facade": "line"},
+    "speed": {"describe": "Speed", "facade": "inputBoxNumber", "range": [1, 99]}}})";
+
+const QByteArray kFight = scene(R"("fightCalibrate": {"parent": "Areas", "celibateArea": [1, 1],
+    "pointOfArea": [3, 8], "rectOfArea": [1, 2]})");
+
+const QByteArray kGlobal = R"({
+  "configDescription": {"ruleDescription": {"global": {"count": [1, 1], "parent": "Global",
+    "controls": [{"key": "level", "protocol": {"name": "Level", "type": "int"}}]}}},
+  "configItems": {"level": {"describe": "Level", "facade": "inputBoxNumber", "default": 3}}})";
+
+const QByteArray kDetect = R"({
+  "configDescription": {"ruleDescription": {"detectArea": {"count": [0, 2], "parent": "Detect",
+    "controls": [{"key": "area", "protocol": {"name": "Area[]", "type": "point"}}]}}},
+  "configItems": {"area": {"describe": "Area", "facade": "region", "range": [3, 8]}}})";
+
+QString heading(PanelBench& bench)
+{
+    return bench.find<QLabel>("titleLabel")->text();
+}
+
+QString caption(PanelBench& bench, const QString& key)
+{
+    return bench.find(key)->findChild<QLabel*>("title")->text();
+}
+
+void drawArea(PanelBench& bench)
+{
+    bench.click("fuc1");
+    bench.press(kArea);
+    bench.pressRight();
+}
+
+void drawLane(PanelBench& bench, int x)
+{
+    bench.click("fuc8");
+    bench.press({{x, 100}, {x, 500}, {x + 80, 100}, {x + 80, 500}});
+}
+
+} // namespace
+
+class TstScenes : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void foldingMaskAndSelection();
+    void focusSelectsSection();
+    void globalHasOneEntryAndNoFigures();
+    void detectionNumbersItsAreas();
+    void lanesTakeFreeNumbers();
+    void laneNumberGoesToItsRule();
+    void calibrateByScene();
+    void calibrateByLane();
+    void fightRectsLiveInTheirArea();
+    void tabFollowsTheRows();
+    void dataMayGoAfterItsPanelLetGo();
+};
+
+void TstScenes::foldingMaskAndSelection()
+{
+    PanelBench bench(kDetect, "{}", SceneType::Detection);
+    drawArea(bench);
+    BaseTabelScene& panel = bench.panel();
+    QWidget* titleBar = bench.find("titleBar");
+    QWidget* mask = bench.find("mask");
+    const int openHeight = panel.height();
+
+    QTest::mouseClick(titleBar, Qt::LeftButton);
+    QVERIFY(panel.getFold() && titleBar->property("bFold").toBool());
+    QCOMPARE(panel.height(), titleBar->height() + 2);
+    QVERIFY(!bench.isShown("actions") && !mask->isVisible());
+    QTest::mouseClick(titleBar, Qt::LeftButton);
+    QCOMPARE(panel.height(), openHeight);
+    QVERIFY(bench.isShown("actions") && bench.isShown("hint"));
+
+    panel.setSelected(false);
+    QVERIFY(mask->isVisible());
+    QCOMPARE(mask->geometry(), panel.rect());
+    QCOMPARE(panel.childAt(titleBar->geometry().center()), mask);
+    QSignalSpy wanted(&panel, &BaseTabelScene::sgnTrySelectedlScene);
+    QTest::mouseClick(mask, Qt::LeftButton, {}, titleBar->geometry().center());
+    QCOMPARE(wanted.count(), 1);
+    QVERIFY(!panel.getFold()); // the first press only selects
+    panel.setSelected(true);
+    QVERIFY(!mask->isVisible());
+    QCOMPARE(titleBar->property("selected"), QVariant(true));
+}
+
+void TstScenes::focusSelectsSection()
+{
+    PanelBench bench(kGlobal, "{}", SceneType::Global);
+    bench.panel().setSelected(false);
+    bench.panel().setFold(true);
+    QSignalSpy wanted(&bench.panel(), &BaseTabelScene::sgnTrySelectedlScene);
+    auto* edit = bench.find("level")->findChild<QLineEdit*>();
+    edit->setFocus(Qt::TabFocusReason);
+    QCOMPARE(wanted.count(), 1);
+    QVERIFY(!bench.panel().getFold());
+    bench.panel().setSelected(true);
+    bench.panel().setFold(true);
+    QVERIFY(!edit->hasFocus()); // nothing is typed into what cannot be seen
+}
+
+void TstScenes::globalHasOneEntryAndNoFigures()
+{
+    PanelBench bench(kGlobal, "{}", SceneType::Global);
+    QCOMPARE(heading(bench), QStringLiteral("Global configuration"));
+    QCOMPARE(bench.data().getDataCount(), 1);
+    QCOMPARE(bench.find("level")->findChild<QLineEdit*>()->text(), QStringLiteral("3"));
+    for (const char* name : {"ruleFucBar", "drawItems", "actions", "hint", "childFucBar"})
+        QVERIFY2(!bench.isShown(name), name);
+    bench.enter("level", "4");
+    QCOMPARE(bench.entry(0).value("level"), QVariant(4));
+}
+
+void TstScenes::detectionNumbersItsAreas()
+{
+    PanelBench bench(kDetect, "{}", SceneType::Detection);
+    QCOMPARE(heading(bench), QStringLiteral("Detection configuration"));
+    QVERIFY(!bench.isShown("actions"));
+    drawArea(bench);
+    bench.click("fuc1");
+    QCOMPARE(bench.buttons(), QStringLiteral("Detection area1 [Detection area2]"));
+    QCOMPARE(bench.canvas().message(), QStringLiteral("Please draw Detection area2!"));
+    bench.press(kArea);
+    bench.pressRight();
+    bench.click("fuc1"); // two are allowed
+    QCOMPARE(bench.data().getDataCount(), 2);
+    bench.click("delete");
+    bench.click("delete");
+    QCOMPARE(bench.data().getSelectedDataId(), 0);
+    QVERIFY(bench.canvas().getItemList(BaseDrawType::None, 0).isEmpty());
+    QVERIFY(!bench.isShown("actions") && bench.find("fuc1")->isEnabled());
+}
+
+void TstScenes::lanesTakeFreeNumbers()
+{
+    PanelBench bench(lanes("[1, 3]"), "{}", SceneType::Lanes);
+    QCOMPARE(heading(bench), QStringLiteral("Lanes configuration"));
+    QVERIFY(!bench.isShown("controls"));
+    const auto number = [&bench](int i) { return bench.entry(i).value("lanesNum").toInt(); };
+    for (int i = 0; i < 3; ++i)
+        drawLane(bench, 100 + 150 * i);
+    QCOMPARE(bench.buttons(), QStringLiteral("Lanes1 Lanes2 [Lanes3]"));
+    QCOMPARE(number(0) * 100 + number(1) * 10 + number(2), 123);
+    QCOMPARE(caption(bench, "lanesNum"), QStringLiteral("Lane number"));
+    bench.click("fuc8"); // three are allowed
+    QCOMPARE(bench.data().getDataCount(), 3);
+
+    bench.pick(0);
+    bench.click("delete");
+    drawLane(bench, 600);
+    QCOMPARE(number(2), 1);
+    bench.click("delete");
+    bench.enter("lanesNum", "1"); // 1 and 2 are taken now
+    drawLane(bench, 600);
+    QCOMPARE(number(2), 3);
+    bench.click("delete");
+
+    // A lane whose figure is gone holds its number, and the scene has room for one more.
+    bench.canvas().removeItem(bench.canvas().getFirstDrawItem()->itemId());
+    drawLane(bench, 600);
+    drawLane(bench, 800);
+    QCOMPARE(number(3), 4);
+}
+
+void TstScenes::laneNumberGoesToItsRule()
+{
+    PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
+    QVERIFY(!bench.isShown("childFucBar"));
+    drawLane(bench, 100);
+    QCOMPARE(bench.entry(0).value("ruleLaneNumber"), QVariant(1));
+    QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
+    bench.enter("lanesNum", "2");
+    QVERIFY(!bench.entry(0).isValid("speed") && !bench.isShown("speed"));
+    bench.enter("lanesNum", "3");
+    QCOMPARE(bench.entry(0).value("ruleLaneNumber"), QVariant(3));
+    QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
+    QVERIFY(!bench.panel().findChild<QWidget*>("ruleLaneNumber"));
+    QCOMPARE(caption(bench, "speed"), QStringLiteral("Speed"));
+    bench.click("fuc2");
+    bench.press({{120, 200}, {160, 210}});
+    QCOMPARE(bench.buttons("childDrawItems"), QStringLiteral("[Trip]"));
+    QCOMPARE(bench.figures(0), QStringLiteral("lanesLanes: 4, trip: 2"));
+}
+
+void TstScenes::calibrateByScene()
+{
+    PanelBench bench(calibrate("Scene"), "{}", SceneType::CalibrateArea);
+    QCOMPARE(heading(bench), QStringLiteral("Scene calibration"));
+    QCOMPARE(caption(bench, "calibrateAreaVertical"), QStringLiteral("Vertical length"));
+    drawArea(bench);
+    QVERIFY(bench.isShown("fuc6") && bench.isShown("fuc5"));
+    auto* vertical = bench.find("calibrateAreaVertical")->findChild<QLineEdit*>();
+    auto* horizontal = bench.find("calibrateAreaHorizontal")->findChild<QLineEdit*>();
+    QVERIFY(vertical->isEnabled() && horizontal->isEnabled());
+    for (int i = 0; i < 3; ++i) {
+        bench.click("fuc6");
+        QVERIFY(!bench.find("fuc6")->isEnabled());
+        bench.press({{200 + 50 * i, 200}, {210 + 50 * i, 400}});
+    }
+    bench.click("fuc6"); // three are allowed
+    QCOMPARE(bench.buttons("childDrawItems"),
+             QStringLiteral("verticalLine1 verticalLine2 [verticalLine3]"));
+    QVERIFY(!vertical->isEnabled() && horizontal->isEnabled());
+
+    bench.pick(1, "childDrawItems");
+    bench.click("delete");
+    QCOMPARE(bench.buttons("childDrawItems"), QStringLiteral("verticalLine1 verticalLine2"));
+    QCOMPARE(bench.selectedFigure(), QStringLiteral("calibrateAreaRegion"));
+    bench.pick(0, "childDrawItems");
+    bench.click("redraw");
+    QCOMPARE(bench.canvas().message(), QStringLiteral("Please draw verticalLine1!"));
+    bench.press({{50, 50}}); // outside the area
+    QVERIFY(bench.figures(0).contains("calibrateAreaVerticalLine: 0..."));
+}
+
+void TstScenes::calibrateByLane()
+{
+    PanelBench bench(calibrate("Lane"), R"({"Areas": [{"Area": [[0, 0], [800, 0], [800, 800],
+        [0, 800]], "Staffs": [{"Type": "Vertical", "Length": 2, "Start": [100, 100],
+        "End": [100, 700]}]}]})",
+                     SceneType::CalibrateArea);
+    QCOMPARE(heading(bench), QStringLiteral("Lane calibration"));
+    QCOMPARE(caption(bench, "calibrateAreaVertical"), QStringLiteral("Length"));
+    QCOMPARE(caption(bench, "calibrateAreaHorizontal"), QStringLiteral("Width"));
+    // Staffs are kept, but not offered.
+    QCOMPARE(bench.canvas().itemCount(BaseDrawType::VerticalRuler, 0), 1);
+    QVERIFY(!bench.isShown("childFucBar") && !bench.isShown("childDrawItems"));
+    bench.enter("calibrateAreaVertical", "2.5");
+    QCOMPARE(bench.entry(0).value("calibrateAreaVertical"), QVariant(2.5));
+    bench.click("fuc1");
+    bench.press({{50, 50}}); // inside the first area
+    QCOMPARE(bench.figures(1), QStringLiteral("calibrateAreaRegion: 0..."));
+    bench.click("delete");
+    bench.click("redraw");
+    QCOMPARE(bench.figures(0), QStringLiteral("calibrateAreaRegion: 0..."));
+}
+
+void TstScenes::fightRectsLiveInTheirArea()
+{
+    PanelBench bench(kFight, "{}", SceneType::FightCalibrate);
+    QCOMPARE(heading(bench), QStringLiteral("Fight configuration"));
+    drawArea(bench);
+    QCOMPARE(bench.buttons(), QStringLiteral("[Area]"));
+    for (int i = 0; i < 3; ++i) {
+        bench.click("fuc3");
+        bench.press({{50, 50}, {200, 200}, {300, 300}}); // the first one is outside
+    }
+    QCOMPARE(bench.buttons("childDrawItems"), QStringLiteral("Calibrate rect1 [Calibrate rect2]"));
+    QCOMPARE(bench.canvas().getFirstDrawItem()->children().size(), std::size_t(2));
+
+    bench.pick(0); // no child is current any more
+    bench.click("redraw");
+    QCOMPARE(bench.figures(0), QStringLiteral("fightCalibrateRegion: 0..."));
+    QVERIFY(!bench.isShown("childDrawItems"));
+    bench.press(kArea);
+    bench.pressRight();
+    bench.click("fuc3");
+    bench.press({{200, 200}, {300, 300}});
+    bench.pick(0);
+    bench.click("delete");
+    QVERIFY(bench.canvas().getItemList(BaseDrawType::None, 0).isEmpty());
+    QCOMPARE(bench.data().getDataCount(), 0);
+}
+
+void TstScenes::tabFollowsTheRows()
+{
+    PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
+    drawLane(bench, 100);
+    bench.find("fuc8")->setFocus();
+    QStringList order;
+    for (int i = 0; i < 5; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const QWidget* focused = QApplication::focusWidget();
+        order.append(focused->objectName().isEmpty() ? QStringLiteral("-") : focused->objectName());
+    }
+    QCOMPARE(order.join(' '), QStringLiteral("- redraw delete fuc2 edit"));
+}
+
+void TstScenes::dataMayGoAfterItsPanelLetGo()
+{
+    auto parser = std::make_unique<RuleParser>();
+    QVERIFY(parser->parseTemplate(QString::fromUtf8(kLaneRules)));
+    const std::unique_ptr<BaseTabelScene> panel(createScene(SceneType::Lanes, nullptr));
+    panel->setRuleData(parser->getData(SceneType::Lanes));
+    panel->sltTabelRuleFucBtnClicked(8);
+    panel->setRuleData(nullptr);
+    parser.reset();
+    QCoreApplication::processEvents();
+    panel->setFold(true);
+    panel->setSelected(true);
+    QVERIFY(!panel->ruleData());
+}
+
+QTEST_MAIN(TstScenes)
+#include "tst_scenes.moc"

@@ -1,0 +1,126 @@
+// An RTSP server on the loopback address that serves colour bars at /bars until it is killed.
+// It prints the port that it listens on.
+
+#include <gst/gst.h>
+#include <gst/rtsp-server/rtsp-server.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace
+{
+
+struct Settings {
+    gint port = 0;
+    gint width = 320;
+    gint height = 240;
+    gchar* user = nullptr;
+    gchar* password = nullptr;
+    gchar* codec = nullptr;
+    gboolean udpOnly = FALSE;
+    gboolean silent = FALSE;
+};
+
+bool readSettings(int argc, char** argv, Settings& settings)
+{
+    const GOptionEntry entries[] = {
+        {"port", 0, 0, G_OPTION_ARG_INT, &settings.port, "0 for a free one", "N"},
+        {"width", 0, 0, G_OPTION_ARG_INT, &settings.width, "Of the picture", "N"},
+        {"height", 0, 0, G_OPTION_ARG_INT, &settings.height, "Of the picture", "N"},
+        {"user", 0, 0, G_OPTION_ARG_STRING, &settings.user, "Asked for when given", "NAME"},
+        {"password", 0, 0, G_OPTION_ARG_STRING, &settings.password, "Of the user", "TEXT"},
+        {"codec", 0, 0, G_OPTION_ARG_STRING, &settings.codec, "h264, h265 or jpeg", "NAME"},
+        {"udp-only", 0, 0, G_OPTION_ARG_NONE, &settings.udpOnly, "Refuse TCP", nullptr},
+        {"silent", 0, 0, G_OPTION_ARG_NONE, &settings.silent, "Take connections, no more", nullptr},
+        {nullptr, 0, 0, G_OPTION_ARG_NONE, nullptr, nullptr, nullptr}};
+    GOptionContext* const context = g_option_context_new(nullptr);
+    g_option_context_add_main_entries(context, entries, nullptr);
+    const bool read = g_option_context_parse(context, &argc, &argv, nullptr);
+    g_option_context_free(context);
+    return read;
+}
+
+std::string coding(const gchar* codec)
+{
+    if (g_strcmp0(codec, "jpeg") == 0)
+        return "jpegenc ! rtpjpegpay name=pay0 pt=26";
+    if (g_strcmp0(codec, "h265") == 0)
+        return "x265enc tune=zerolatency speed-preset=ultrafast key-int-max=10 ! "
+               "rtph265pay name=pay0 pt=96 config-interval=1";
+    return "x264enc tune=zerolatency speed-preset=ultrafast key-int-max=10 ! "
+           "rtph264pay name=pay0 pt=96 config-interval=1";
+}
+
+GstRTSPMediaFactory* makeBars(const Settings& settings)
+{
+    const std::string pipeline = "( videotestsrc is-live=true pattern=smpte ! "
+                                 "video/x-raw,format=I420,framerate=25/1,width=" +
+                                 std::to_string(settings.width) +
+                                 ",height=" + std::to_string(settings.height) + " ! " +
+                                 coding(settings.codec) + " )";
+    GstRTSPMediaFactory* const factory = gst_rtsp_media_factory_new();
+    gst_rtsp_media_factory_set_launch(factory, pipeline.c_str());
+    gst_rtsp_media_factory_set_shared(factory, TRUE);
+    if (settings.udpOnly)
+        gst_rtsp_media_factory_set_protocols(factory, GST_RTSP_LOWER_TRANS_UDP);
+    return factory;
+}
+
+void askForPassword(GstRTSPServer* server, GstRTSPMediaFactory* factory, const Settings& settings)
+{
+    GstRTSPAuth* const auth = gst_rtsp_auth_new();
+    gst_rtsp_auth_set_supported_methods(auth, GST_RTSP_AUTH_DIGEST);
+    GstRTSPToken* const token =
+        gst_rtsp_token_new(GST_RTSP_TOKEN_MEDIA_FACTORY_ROLE, G_TYPE_STRING, "viewer", nullptr);
+    gst_rtsp_auth_add_digest(auth, settings.user, settings.password, token);
+    gst_rtsp_token_unref(token);
+    gst_rtsp_media_factory_add_role(factory, "viewer", GST_RTSP_PERM_MEDIA_FACTORY_ACCESS,
+                                    G_TYPE_BOOLEAN, TRUE, GST_RTSP_PERM_MEDIA_FACTORY_CONSTRUCT,
+                                    G_TYPE_BOOLEAN, TRUE, nullptr);
+    gst_rtsp_server_set_auth(server, auth);
+    g_object_unref(auth);
+}
+
+/// The port of a running server; 0 or below when it cannot be had.
+int serve(const Settings& settings)
+{
+    GstRTSPServer* const server = gst_rtsp_server_new();
+    gst_rtsp_server_set_address(server, "127.0.0.1");
+    gst_rtsp_server_set_service(server, std::to_string(settings.port).c_str());
+    GstRTSPMediaFactory* const factory = makeBars(settings);
+    if (settings.user)
+        askForPassword(server, factory, settings);
+    GstRTSPMountPoints* const mounts = gst_rtsp_server_get_mount_points(server);
+    gst_rtsp_mount_points_add_factory(mounts, "/bars", factory);
+    g_object_unref(mounts);
+    return gst_rtsp_server_attach(server, nullptr) ? gst_rtsp_server_get_bound_port(server) : 0;
+}
+
+/// Connections are made by the system, and nobody takes them up.
+int listenOnly()
+{
+    GSocket* const socket =
+        g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_STREAM, G_SOCKET_PROTOCOL_TCP, nullptr);
+    GSocketAddress* const any = g_inet_socket_address_new_from_string("127.0.0.1", 0);
+    if (!g_socket_bind(socket, any, TRUE, nullptr) || !g_socket_listen(socket, nullptr))
+        return 0;
+    GSocketAddress* const bound = g_socket_get_local_address(socket, nullptr);
+    return g_inet_socket_address_get_port(G_INET_SOCKET_ADDRESS(bound));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    gst_init(nullptr, nullptr);
+    Settings settings;
+    if (!readSettings(argc, argv, settings))
+        return EXIT_FAILURE;
+    const int port = settings.silent ? listenOnly() : serve(settings);
+    if (port <= 0)
+        return EXIT_FAILURE;
+    std::printf("%d\n", port);
+    std::fflush(stdout);
+    g_main_loop_run(g_main_loop_new(nullptr, FALSE));
+}

@@ -1,0 +1,58 @@
+#include "tests/support/rulestest.h"
+
+namespace
+{
+
+RulesTest* g_running = nullptr;
+QtMessageHandler g_previousHandler = nullptr;
+
+// Said by Qt's offscreen platform for every shown window; it tells nothing about our code.
+const auto kPlatformNoise = QStringLiteral("This plugin does not support");
+
+} // namespace
+
+RulesTest::~RulesTest()
+{
+    if (g_running == this)
+        g_running = nullptr;
+}
+
+void RulesTest::expectWarning(const QRegularExpression& pattern)
+{
+    m_expected.append(pattern);
+}
+
+void RulesTest::initTestCase()
+{
+    g_running = this;
+    g_previousHandler = qInstallMessageHandler(&RulesTest::handleMessage);
+    prepare();
+}
+
+void RulesTest::init()
+{
+    m_expected.clear();
+    m_unexpected.clear();
+    prepareTest();
+}
+
+void RulesTest::cleanup()
+{
+    QVERIFY2(m_unexpected.isEmpty(), qPrintable(m_unexpected.join(QLatin1Char('\n'))));
+}
+
+void RulesTest::handleMessage(QtMsgType type, const QMessageLogContext& context,
+                              const QString& text)
+{
+    if (text.startsWith(kPlatformNoise))
+        return;
+    if (g_running && (type == QtWarningMsg || type == QtCriticalMsg)) {
+        for (const QRegularExpression& pattern : qAsConst(g_running->m_expected)) {
+            if (pattern.match(text).hasMatch())
+                return;
+        }
+        g_running->m_unexpected.append(text);
+    }
+    if (g_previousHandler)
+        g_previousHandler(type, context, text);
+}

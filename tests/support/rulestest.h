@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QtTest>
+
+/**
+ * Base of every test case: a warning that a test does not expect fails that test.
+ * Derived cases use initTestCase() only through prepare(), which they may override.
+ */
+class RulesTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~RulesTest() override;
+
+    /// Warnings that match @p pattern are expected until the running test function ends.
+    void expectWarning(const QRegularExpression& pattern);
+
+protected:
+    /// Called once before the first test function.
+    virtual void prepare() {}
+    /// Called before each test function.
+    virtual void prepareTest() {}
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+private:
+    static void handleMessage(QtMsgType type, const QMessageLogContext& context,
+                              const QString& text);
+
+    QList<QRegularExpression> m_expected;
+    QStringList m_unexpected;
+};

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// A small template with a rules and a global section, rules for it, and the parameter block in
+/// which a host hands template and configuration over.
+namespace SampleDocuments
+{
+
+inline const QByteArray kSections = R"({"configDescription": {"ruleDescription": {
+  "rules": {"count": [1, 3], "parent": "Rules[]", "controls": [
+    {"key": "region", "protocol": {"name": "Area[]", "type": "point"}},
+    {"key": "low", "protocol": {"name": "Low", "type": "int"}},
+    {"key": "high", "protocol": {"name": "High", "type": "int"}}],
+   "checkValueControls": [
+    {"firstKey": "low", "secondKey": "high", "rule": {"operator": "<"}}]},
+  "global": {"count": [1, 1], "parent": "Global", "controls": [
+    {"key": "span", "protocol": {"name": "Span[]", "type": "array int"}},
+    {"key": "level", "protocol": {"name": "Level", "type": "int"}}]}}},
+ "configItems": {
+  "region": {"describe": "Region", "facade": "region", "range": [3, 4]},
+  "span": {"describe": "Span", "facade": "numericalInterval"},
+  "low": {"describe": "Low", "facade": "inputBoxNumber", "range": [0, 9]},
+  "high": {"describe": "High", "facade": "inputBoxNumber", "range": [0, 9]},
+  "level": {"describe": "Level", "facade": "inputBoxNumber", "range": [0, 9]}})";
+
+inline const QByteArray kTemplate = kSections + R"(, "configTemplate": {
+  "Rules": [{"Area": [], "Low": 0, "High": 0}], "Global": {"Span": [0, 0], "Level": 0}}})";
+/// The sections without a document to write into.
+inline const QByteArray kUnwritableTemplate = kSections + "}";
+inline const QByteArray kNoScenes = R"({"configDescription": {}, "configTemplate": {}})";
+
+inline const QByteArray kArea = R"(, "Area": [[800, 800], [4000, 800], [4000, 4000]])";
+
+/// A complete rule; members in @p more come first in what is read.
+inline QByteArray rule(const QByteArray& name, const QByteArray& more = {})
+{
+    return R"({"Name": ")" + name + R"(", "Enable": true)" + kArea + R"(, "Low": 2, "High": 6)" +
+           more + "}";
+}
+
+inline QByteArray config(const QByteArray& rules, const QByteArray& span = "[1, 5]")
+{
+    return R"({"Rules": [)" + rules + R"(], "Global": {"Span": )" + span + R"(, "Level": 4}})";
+}
+
+/// @p members says which channel, and what else there is; it may repeat what the block has.
+inline QString block(const QByteArray& members, const QByteArray& configText,
+                     const QByteArray& templateText = kTemplate)
+{
+    return QString::fromUtf8(R"({"algorithmId": "crossing", "channelName": "Gate 7", )"
+                             R"("channelAbilityPO": )" +
+                             configText + R"(, "videoConfigRuleProperty": )" + templateText + ", " +
+                             members + "}");
+}
+
+} // namespace SampleDocuments

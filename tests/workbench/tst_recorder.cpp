@@ -1,0 +1,399 @@
+#include "host/qrtspvideownd.h"
+#include "host/reader.h"
+#include "tests/support/rulestest.h"
+#include "workbench/boxwatcher.h"
+#include "workbench/compactjson.h"
+#include "workbench/messagerecord.h"
+#include "workbench/panelfinder.h"
+#include "workbench/sessionplayer.h"
+#include "workbench/sessionrecorder.h"
+#include "workbench/sessionscript.h"
+#include "workbench/workbenchwindow.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+
+#include <memory>
+
+using kql::Json::Value;
+
+namespace
+{
+
+constexpr int kResult = 996;
+constexpr QSize kSize(1200, 820);
+
+WorkbenchOptions example(const QString& name = QStringLiteral("perimeter"))
+{
+    const QString folder = QStringLiteral(RULES_SOURCE_DIR "/examples/%1/").arg(name);
+    WorkbenchOptions options;
+    options.templateFile = folder + QStringLiteral("template.json");
+    options.configFile = folder + QStringLiteral("config.json");
+    return options;
+}
+
+/// A started workbench and the last result that it posted.
+class Bench
+{
+public:
+    explicit Bench(const WorkbenchOptions& options) : m_window(options)
+    {
+        QObject::connect(&m_window, &WorkbenchWindow::sgnMessage, &m_window,
+                         [this](const MessageRecord& message) {
+                             if (message.id == kResult)
+                                 kql::Json::Reader().parse(message.p2, m_result);
+                         });
+        m_window.resize(kSize);
+        m_window.show();
+        m_window.setReplaying(true);
+        m_started = m_window.start(m_error);
+    }
+
+    bool isReady()
+    {
+        return m_started && QTest::qWaitForWindowExposed(&m_window) &&
+               QTest::qWaitFor([this] { return !surface()->paneRect(0).isEmpty(); });
+    }
+    WorkbenchWindow& window() { return m_window; }
+    const QString& error() const { return m_error; }
+    const Value& result() const { return m_result; }
+    QRtspVideoWnd* surface() { return m_window.videoSurface(); }
+    PanelFinder finder() { return PanelFinder(m_window.rulesWindow()); }
+    QWidget* panel(const char* scene) { return finder().panel(QString::fromLatin1(scene)); }
+    QWidget* part(const char* scene, const char* name)
+    {
+        return finder().part(panel(scene), QString::fromLatin1(name));
+    }
+    QLineEdit* edit(const char* scene, const char* key, const char* name = "edit")
+    {
+        return part(scene, key)->findChild<QLineEdit*>(QString::fromLatin1(name));
+    }
+    QAbstractButton* option(const char* key, const char* value)
+    {
+        for (auto* button : part("rules", key)->findChildren<QAbstractButton*>()) {
+            if (button->property("value").toString() == QLatin1String(value))
+                return button;
+        }
+        return nullptr;
+    }
+    QAbstractButton* entry(int number, const char* scene = "rules")
+    {
+        return finder().entryButtons(panel(scene), false).value(number - 1);
+    }
+    QAbstractButton* child(int number, const char* scene)
+    {
+        return finder().entryButtons(panel(scene), true).value(number - 1);
+    }
+    void press(QWidget* widget)
+    {
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {6, widget->height() / 2});
+    }
+    void draw(QPoint percent, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(surface(), button, {}, at(percent));
+    }
+    QPoint at(QPoint percent)
+    {
+        const QRect picture = surface()->paneRect(0);
+        return picture.topLeft() +
+               QPoint(picture.width() * percent.x() / 100, picture.height() * percent.y() / 100);
+    }
+    void point(QPoint percent)
+    {
+        QMouseEvent move(QEvent::MouseMove, at(percent), Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(surface(), &move);
+    }
+    void type(QLineEdit* edit, const QString& text)
+    {
+        press(edit);
+        edit->setFocus();
+        edit->selectAll();
+        for (const QChar c : text)
+            QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString(c), {});
+    }
+
+private:
+    WorkbenchWindow m_window;
+    Value m_result;
+    QString m_error;
+    bool m_started = false;
+};
+
+} // namespace
+
+/// Sessions are recorded off real mouse and key events and compared line by line, then replayed
+/// in another window, which has to post the same result.
+class TstRecorder : public RulesTest
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    QString m_path = m_folder.filePath(QStringLiteral("session.jsonl"));
+    std::unique_ptr<Bench> m_bench;
+    BoxWatcher* m_boxes = nullptr;
+
+    /// Questions get @p answer; null leaves them to somebody else.
+    bool record(const WorkbenchOptions& options, const char* answer)
+    {
+        m_bench.reset();
+        m_bench = std::make_unique<Bench>(options);
+        QString error;
+        if (!m_bench->isReady())
+            return false;
+        auto* recorder = new SessionRecorder(m_bench->window(), &m_bench->window());
+        m_boxes = answer ? new BoxWatcher(&m_bench->window()) : nullptr;
+        if (m_boxes)
+            m_boxes->begin(QString::fromLatin1(answer));
+        return recorder->open(m_path, error);
+    }
+
+    /// What was recorded after the first line, which tells the window's size.
+    QStringList recorded()
+    {
+        QFile file(m_path);
+        file.open(QIODevice::ReadOnly);
+        QStringList lines =
+            QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        return lines.mid(1);
+    }
+
+    void compareRecorded(const QStringList& expected)
+    {
+        const QStringList lines = recorded();
+        for (int i = 0; i < qMin(lines.size(), expected.size()); ++i)
+            QCOMPARE(lines[i], expected[i]);
+        QCOMPARE(lines.size(), expected.size());
+    }
+
+    QString lastBox() const
+    {
+        return m_boxes ? m_boxes->lastText().value_or(QString()) : QString();
+    }
+
+    void play(Bench& bench, const QString& path)
+    {
+        SessionScript script;
+        QString error;
+        QVERIFY2(script.read(path, error), qPrintable(error));
+        SessionPlayer player(bench.window(), std::move(script));
+        QSignalSpy finished(&player, &SessionPlayer::sgnFinished);
+        player.start();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 30000);
+        QCOMPARE(finished[0][0].toString(), QString());
+    }
+
+    void compareReplayed(const WorkbenchOptions& options)
+    {
+        QTRY_VERIFY2(m_bench->result().isObject(), qPrintable(lastBox()));
+        const Value wanted = m_bench->result();
+        m_bench.reset();
+        Bench replay(options);
+        QVERIFY2(replay.isReady(), qPrintable(replay.error()));
+        play(replay, m_path);
+        QTRY_VERIFY(replay.result().isObject());
+        QCOMPARE(replay.result().toStyledText(), wanted.toStyledText());
+    }
+
+private slots:
+    void recordsRows()
+    {
+        QVERIFY(record(example(), "Yes"));
+        Bench& bench = *m_bench;
+        bench.press(bench.entry(2));
+        bench.type(bench.edit("rules", "ruleName"), QString::fromUtf8("Ladehof大门"));
+        bench.type(bench.edit("rules", "ruleSpeed"), QStringLiteral("999"));
+        QTest::keyClick(bench.edit("rules", "ruleSpeed"), Qt::Key_Return);
+        QTest::keyClick(bench.option("ruleObjects", "Human"), Qt::Key_Space);
+        bench.press(bench.option("ruleAction", "Stay"));
+        bench.type(bench.edit("rules", "ruleSize", "minimum"), QStringLiteral("12"));
+        bench.type(bench.edit("rules", "ruleSize", "maximum"), QString());
+        QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Backspace);
+        QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Return);
+        bench.type(bench.edit("rules", "ruleSize", "maximum"), QStringLiteral("80"));
+        bench.press(bench.part("rules", "ruleTrack")->findChild<QAbstractButton*>());
+        bench.type(bench.edit("rules", "ruleDwell"), QStringLiteral("44"));
+        bench.press(bench.part("global", "mask"));
+        bench.type(bench.edit("global", "globalSensitivity"), QStringLiteral("3"));
+        bench.press(bench.part("global", "titleBar"));
+        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
+        compareRecorded({
+            R"({"do":"pick","scene":"rules","entry":2})",
+            QString::fromUtf8(
+                R"({"do":"set","scene":"rules","key":"ruleName","value":"Ladehof大门"})"),
+            R"({"do":"set","scene":"rules","key":"ruleSpeed","value":"200"})",
+            R"({"do":"set","scene":"rules","key":"ruleObjects","value":["Human","Vehicle"]})",
+            R"({"do":"set","scene":"rules","key":"ruleAction","value":"Stay"})",
+            R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,100]})",
+            R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,null]})",
+            R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,80]})",
+            R"({"do":"set","scene":"rules","key":"ruleTrack","value":false})",
+            R"({"do":"type","scene":"rules","key":"ruleDwell","text":"44"})",
+            R"({"do":"select","scene":"global"})",
+            R"({"do":"type","scene":"global","key":"globalSensitivity","text":"3"})",
+            R"({"do":"fold","scene":"global","fold":true})",
+            R"({"do":"save","answer":"Yes"})",
+        });
+        compareReplayed(example());
+    }
+
+    void recordsDrawing()
+    {
+        QVERIFY(record(example(), "Yes"));
+        Bench& bench = *m_bench;
+        bench.press(bench.part("rules", "addRule"));
+        bench.point({10, 10});
+        bench.point({30, 20});
+        bench.draw({30, 20});
+        bench.draw({70, 20});
+        QTest::mouseClick(bench.surface(), Qt::MiddleButton, {}, bench.at({50, 50}));
+        bench.draw({70, 60});
+        QTest::mouseDClick(bench.surface(), Qt::LeftButton, {}, bench.at({70, 60}));
+        bench.draw({31, 70});
+        bench.draw({50, 50}, Qt::RightButton);
+        bench.draw({40, 40});
+        bench.draw({60, 50});
+        const QRect picture = bench.surface()->paneRect(0);
+        bench.window().resize(kSize + QSize(40, 30));
+        QTRY_VERIFY(bench.surface()->paneRect(0) != picture);
+        bench.press(bench.part("rules", "redraw"));
+        bench.draw({20, 30});
+        bench.draw({60, 30});
+        bench.draw({60, 60});
+        bench.draw({20, 60}, Qt::RightButton);
+        bench.draw({30, 30});
+        bench.draw({50, 45});
+        bench.type(bench.edit("rules", "ruleSize", "minimum"), QStringLiteral("5"));
+        bench.type(bench.edit("rules", "ruleSize", "maximum"), QStringLiteral("50"));
+        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
+        QStringList kinds;
+        for (const QString& line : recorded()) {
+            Value step;
+            QVERIFY(kql::Json::Reader().parse(line, step));
+            const Value& what = step[step.isMember("object") ? "object" : "do"];
+            kinds.append(what.asString());
+        }
+        QCOMPARE(kinds.join(QLatin1Char(' ')),
+                 "addRule wait move press press double press press press press "
+                 "size redraw press press press press press press set set save");
+        compareReplayed(example());
+    }
+
+    void recordsKeyboard()
+    {
+        QVERIFY(record(example(), "Yes"));
+        Bench& bench = *m_bench;
+        bench.edit("rules", "ruleName")->setFocus();
+        QLineEdit* edit = bench.edit("global", "globalSensitivity");
+        for (int i = 0; i < 50 && !edit->hasFocus(); ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QVERIFY(edit->hasFocus());
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_4);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QAbstractButton* radio =
+            bench.part("global", "globalSurrounding")->findChildren<QAbstractButton*>().value(0);
+        radio->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(radio, Qt::Key_Down);
+        QTest::keyClick(bench.finder().windowButton(QStringLiteral("btnSave")), Qt::Key_Space);
+        compareRecorded({
+            R"({"do":"select","scene":"global"})",
+            R"({"do":"set","scene":"global","key":"globalSensitivity","value":"4"})",
+            R"({"do":"set","scene":"global","key":"globalSurrounding","value":"Fence"})",
+            R"({"do":"save","answer":"Yes"})",
+        });
+        compareReplayed(example());
+    }
+
+    void recordsChildren()
+    {
+        const WorkbenchOptions options = example(QStringLiteral("scene-calibration"));
+        QVERIFY(record(options, "Yes"));
+        Bench& bench = *m_bench;
+        bench.press(bench.child(2, "calibrateArea"));
+        bench.press(bench.part("calibrateArea", "redraw"));
+        bench.draw({55, 75});
+        bench.draw({55, 60});
+        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
+        const QStringList lines = recorded();
+        QCOMPARE(lines.value(0), R"({"do":"pick","scene":"calibrateArea","entry":1,"child":2})");
+        QCOMPARE(lines.size(), 6);
+        compareReplayed(options);
+    }
+
+    void recordsExamples_data()
+    {
+        QTest::addColumn<QString>("name");
+        const QDir examples(QStringLiteral(RULES_SOURCE_DIR "/examples"));
+        for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    void recordsExamples()
+    {
+        QFETCH(const QString, name);
+        QVERIFY(record(example(name), nullptr));
+        play(*m_bench, QFileInfo(example(name).templateFile).dir().filePath("session.jsonl"));
+        compareReplayed(example(name));
+    }
+
+    void recordsSelectionMode()
+    {
+        WorkbenchOptions options = example();
+        options.selectionMode = true;
+        QVERIFY(record(options, "Yes"));
+        Bench& bench = *m_bench;
+        bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(2)));
+        bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(3)));
+        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
+        compareRecorded({
+            R"({"do":"enable","scene":"rules","entry":2,"on":false})",
+            R"({"do":"enable","scene":"rules","entry":3,"on":true})",
+            R"({"do":"save"})",
+        });
+        compareReplayed(options);
+    }
+
+    void recordsAnswersAndLoads()
+    {
+        QVERIFY(record(example(), "No"));
+        Bench& bench = *m_bench;
+        QAbstractButton* cancel = bench.finder().windowButton(QStringLiteral("btnCancel"));
+        bench.press(cancel);
+        WorkbenchOptions other = example();
+        other.algorithmType = 7;
+        other.configFile.clear();
+        QString error;
+        QVERIFY2(bench.window().load(other, error), qPrintable(error));
+        // A button that the pointer leaves before letting go was not clicked.
+        QWidget* add = bench.part("rules", "addRule");
+        QTest::mousePress(add, Qt::LeftButton);
+        QMouseEvent leave(QEvent::MouseMove, QPoint(-50, -50), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(add, &leave);
+        QTest::mouseRelease(add, Qt::LeftButton, {}, {-50, -50});
+        m_boxes->begin(QStringLiteral("Yes"));
+        bench.press(cancel);
+        Value load(kql::Json::ValueType::Object);
+        load["do"] = "load";
+        load["template"] = other.templateFile;
+        load["config"] = Value();
+        load["type"] = 7;
+        compareRecorded({R"({"do":"cancel","answer":"No"})",
+                         QString::fromUtf8(CompactJson::text(load)),
+                         R"({"do":"cancel","answer":"Yes"})"});
+        compareReplayed(example());
+    }
+
+    void refusesUnwritableFile()
+    {
+        m_bench.reset();
+        m_bench = std::make_unique<Bench>(example());
+        QVERIFY(m_bench->isReady());
+        QString error;
+        QVERIFY(!SessionRecorder(m_bench->window(), nullptr).open(m_folder.path(), error));
+        QVERIFY(error.startsWith(m_folder.path()));
+    }
+};
+
+QTEST_MAIN(TstRecorder)
+#include "tst_recorder.moc"

@@ -1,0 +1,390 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>CalibrateAreaScene</name>
+    <message>
+        <source>Calibrate area</source>
+        <translation>Kalibrierbereich</translation>
+    </message>
+    <message>
+        <source>Vertical length</source>
+        <translation>Senkr. Länge</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Horizontal length</source>
+        <translation>Waager. Länge</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Vertical ruler</source>
+        <translation>Senkrechte Latte</translation>
+    </message>
+    <message>
+        <source>Horizontal ruler</source>
+        <translation>Waagerechte Latte</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrateAreaTemplate</name>
+    <message>
+        <source>region</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>verticalLine</source>
+        <translation>Senkrechte Latte</translation>
+    </message>
+    <message>
+        <source>horizontalLine</source>
+        <translation>Waagerechte Latte</translation>
+    </message>
+    <message>
+        <source>vertical</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>meter</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>horizontal</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>Lane calibration</source>
+        <translation>Fahrspurkalibrierung</translation>
+    </message>
+    <message>
+        <source>Scene calibration</source>
+        <translation>Szenenkalibrierung</translation>
+    </message>
+</context>
+<context>
+    <name>DetectionScene</name>
+    <message>
+        <source>Detection area</source>
+        <translation>Erkennungsbereich</translation>
+    </message>
+    <message>
+        <source>Detection configuration</source>
+        <translation>Erkennungskonfiguration</translation>
+    </message>
+</context>
+<context>
+    <name>DrawScene</name>
+    <message>
+        <source>Please draw %1!</source>
+        <translation>Bitte %1 zeichnen!</translation>
+    </message>
+    <message>
+        <source>Draw %1 complete!</source>
+        <translation>%1 ist fertig gezeichnet!</translation>
+    </message>
+</context>
+<context>
+    <name>FightCalibrateScene</name>
+    <message>
+        <source>Calibrate area</source>
+        <translation>Kalibrierbereich</translation>
+    </message>
+    <message>
+        <source>Calibrate rect</source>
+        <translation>Kalibrierrechteck</translation>
+    </message>
+</context>
+<context>
+    <name>FightCalibrateTemplate</name>
+    <message>
+        <source>Fight configuration</source>
+        <translation>Konfiguration der Schlägereierkennung</translation>
+    </message>
+    <message>
+        <source>Calibrate area</source>
+        <translation>Kalibrierbereich</translation>
+    </message>
+    <message>
+        <source>Calibrate rect</source>
+        <translation>Kalibrierrechteck</translation>
+    </message>
+</context>
+<context>
+    <name>GlobalScene</name>
+    <message>
+        <source>Global configuration</source>
+        <translation>Globale Konfiguration</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesCtrl</name>
+    <message>
+        <source>Channel information</source>
+        <translation>Kanalinformationen</translation>
+    </message>
+    <message>
+        <source>Channel Code:</source>
+        <translation>Kanalcode:</translation>
+    </message>
+    <message>
+        <source>Channel Name:</source>
+        <translation>Kanalname:</translation>
+    </message>
+    <message>
+        <source>Rule information</source>
+        <translation>Regelinformationen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::CIntelligentRulesCtrl</name>
+    <message>
+        <source>Duplicate rule name exists</source>
+        <translation>Ein Regelname kommt doppelt vor</translation>
+    </message>
+    <message>
+        <source>Please select at least one rule</source>
+        <translation>Bitte mindestens eine Regel auswählen</translation>
+    </message>
+    <message>
+        <source>The current operation may affect the already running task. Please confirm whether to modify it?</source>
+        <translation>Dieser Vorgang kann die bereits laufende Aufgabe beeinflussen. Soll sie wirklich geändert werden?</translation>
+    </message>
+    <message>
+        <source>Do you want to exit the current configuration?</source>
+        <translation>Soll die aktuelle Konfiguration verlassen werden?</translation>
+    </message>
+    <message>
+        <source>Prompt</source>
+        <translation>Rückfrage</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
+    <message>
+        <source>IntelligentRules</source>
+        <translation>Intelligente Regeln</translation>
+    </message>
+    <message>
+        <source>IntelligentRulesDetail</source>
+        <translation>Konfiguration der intelligenten Regeln eines Kanals</translation>
+    </message>
+</context>
+<context>
+    <name>LanesScene</name>
+    <message>
+        <source>Lane</source>
+        <translation>Fahrspur</translation>
+    </message>
+    <message>
+        <source>Lane number</source>
+        <translation>Spurnummer</translation>
+    </message>
+    <message>
+        <source>Left lane line</source>
+        <translation>Linke Linie</translation>
+    </message>
+    <message>
+        <source>Right lane line</source>
+        <translation>Rechte Linie</translation>
+    </message>
+</context>
+<context>
+    <name>LanesTemplate</name>
+    <message>
+        <source>Lanes configuration</source>
+        <translation>Fahrspurkonfiguration</translation>
+    </message>
+    <message>
+        <source>lanes</source>
+        <translation>Fahrspur</translation>
+    </message>
+    <message>
+        <source>Lanes num</source>
+        <translation>Spurnummer</translation>
+    </message>
+    <message>
+        <source>White solid</source>
+        <translation>Weiß, durchgezogen</translation>
+    </message>
+    <message>
+        <source>White dotted</source>
+        <translation>Weiß, gestrichelt</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>left line</source>
+        <translation>Linke Linie</translation>
+    </message>
+    <message>
+        <source>right line</source>
+        <translation>Rechte Linie</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonDraw</name>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+</context>
+<context>
+    <name>RuleData</name>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Please add %1 %2.</source>
+        <translation>Bitte hinzufügen: %1 × %2.</translation>
+    </message>
+    <message>
+        <source>Please add %1-%2 %3.</source>
+        <translation>Bitte hinzufügen: %1-%2 × %3.</translation>
+    </message>
+    <message>
+        <source>%1:%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The minimum value cannot be empty.</source>
+        <translation>Der Mindestwert darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>The maximum value cannot be empty.</source>
+        <translation>Der Höchstwert darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>Please finish drawing %1.</source>
+        <translation>Bitte %1 fertig zeichnen.</translation>
+    </message>
+    <message>
+        <source>Please draw %1 %2.</source>
+        <translation>Bitte zeichnen: %1 × %2.</translation>
+    </message>
+    <message>
+        <source>Please draw %1-%2 %3.</source>
+        <translation>Bitte zeichnen: %1-%2 × %3.</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>größer als</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>kleiner als</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>greater than or equal</source>
+        <translation>größer als oder gleich</translation>
+    </message>
+    <message>
+        <source>less than or equal</source>
+        <translation>kleiner als oder gleich</translation>
+    </message>
+    <message>
+        <source>%1 must be %2 to %3</source>
+        <translation>%1 muss %2 %3 sein</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Lanes</source>
+        <translation>Fahrspur</translation>
+    </message>
+</context>
+<context>
+    <name>RuleScene</name>
+    <message>
+        <source>Add rule</source>
+        <translation>Regel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Rule configuration</source>
+        <translation>Regelkonfiguration</translation>
+    </message>
+    <message>
+        <source>Rule name</source>
+        <translation>Regelname</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>At least one Rule!</source>
+        <translation>Mindestens eine Regel muss bleiben!</translation>
+    </message>
+</context>
+<context>
+    <name>SceneWidgets</name>
+    <message>
+        <source>Redraw</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Left click adds a point, right click finishes.</source>
+        <translation>Linksklick setzt Punkte, Rechtsklick schließt ab.</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsDirection</name>
+    <message>
+        <source>Detection direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Left to right</source>
+        <translation>Von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Von rechts nach links</translation>
+    </message>
+</context>
+<context>
+    <name>VehicleLaneDraw</name>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+</context>
+</TS>

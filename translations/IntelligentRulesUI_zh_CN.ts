@@ -1,0 +1,390 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>CalibrateAreaScene</name>
+    <message>
+        <source>Calibrate area</source>
+        <translation>标定区域</translation>
+    </message>
+    <message>
+        <source>Vertical length</source>
+        <translation>垂直长度</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Horizontal length</source>
+        <translation>水平长度</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Vertical ruler</source>
+        <translation>垂直标尺</translation>
+    </message>
+    <message>
+        <source>Horizontal ruler</source>
+        <translation>水平标尺</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrateAreaTemplate</name>
+    <message>
+        <source>region</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>verticalLine</source>
+        <translation>垂直线</translation>
+    </message>
+    <message>
+        <source>horizontalLine</source>
+        <translation>水平线</translation>
+    </message>
+    <message>
+        <source>vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>meter</source>
+        <translation>米</translation>
+    </message>
+    <message>
+        <source>horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Lane calibration</source>
+        <translation>车道标定</translation>
+    </message>
+    <message>
+        <source>Scene calibration</source>
+        <translation>场景标定</translation>
+    </message>
+</context>
+<context>
+    <name>DetectionScene</name>
+    <message>
+        <source>Detection area</source>
+        <translation>检测区域</translation>
+    </message>
+    <message>
+        <source>Detection configuration</source>
+        <translation>检测配置</translation>
+    </message>
+</context>
+<context>
+    <name>DrawScene</name>
+    <message>
+        <source>Please draw %1!</source>
+        <translation>请绘制%1！</translation>
+    </message>
+    <message>
+        <source>Draw %1 complete!</source>
+        <translation>%1绘制完成！</translation>
+    </message>
+</context>
+<context>
+    <name>FightCalibrateScene</name>
+    <message>
+        <source>Calibrate area</source>
+        <translation>标定区域</translation>
+    </message>
+    <message>
+        <source>Calibrate rect</source>
+        <translation>标定矩形</translation>
+    </message>
+</context>
+<context>
+    <name>FightCalibrateTemplate</name>
+    <message>
+        <source>Fight configuration</source>
+        <translation>斗殴检测配置</translation>
+    </message>
+    <message>
+        <source>Calibrate area</source>
+        <translation>标定区域</translation>
+    </message>
+    <message>
+        <source>Calibrate rect</source>
+        <translation>标定矩形</translation>
+    </message>
+</context>
+<context>
+    <name>GlobalScene</name>
+    <message>
+        <source>Global configuration</source>
+        <translation>全局配置</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesCtrl</name>
+    <message>
+        <source>Channel information</source>
+        <translation>通道信息</translation>
+    </message>
+    <message>
+        <source>Channel Code:</source>
+        <translation>通道编码：</translation>
+    </message>
+    <message>
+        <source>Channel Name:</source>
+        <translation>通道名称：</translation>
+    </message>
+    <message>
+        <source>Rule information</source>
+        <translation>规则信息</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::CIntelligentRulesCtrl</name>
+    <message>
+        <source>Duplicate rule name exists</source>
+        <translation>存在重复的规则名称</translation>
+    </message>
+    <message>
+        <source>Please select at least one rule</source>
+        <translation>请至少选择一条规则</translation>
+    </message>
+    <message>
+        <source>The current operation may affect the already running task. Please confirm whether to modify it?</source>
+        <translation>当前操作可能会影响正在运行的任务，请确认是否修改？</translation>
+    </message>
+    <message>
+        <source>Do you want to exit the current configuration?</source>
+        <translation>是否退出当前配置？</translation>
+    </message>
+    <message>
+        <source>Prompt</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
+    <message>
+        <source>IntelligentRules</source>
+        <translation>智能规则</translation>
+    </message>
+    <message>
+        <source>IntelligentRulesDetail</source>
+        <translation>通道智能规则配置</translation>
+    </message>
+</context>
+<context>
+    <name>LanesScene</name>
+    <message>
+        <source>Lane</source>
+        <translation>车道</translation>
+    </message>
+    <message>
+        <source>Lane number</source>
+        <translation>车道号</translation>
+    </message>
+    <message>
+        <source>Left lane line</source>
+        <translation>左车道线</translation>
+    </message>
+    <message>
+        <source>Right lane line</source>
+        <translation>右车道线</translation>
+    </message>
+</context>
+<context>
+    <name>LanesTemplate</name>
+    <message>
+        <source>Lanes configuration</source>
+        <translation>车道配置</translation>
+    </message>
+    <message>
+        <source>lanes</source>
+        <translation>车道</translation>
+    </message>
+    <message>
+        <source>Lanes num</source>
+        <translation>车道号</translation>
+    </message>
+    <message>
+        <source>White solid</source>
+        <translation>白色实线</translation>
+    </message>
+    <message>
+        <source>White dotted</source>
+        <translation>白色虚线</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄线</translation>
+    </message>
+    <message>
+        <source>left line</source>
+        <translation>左侧线</translation>
+    </message>
+    <message>
+        <source>right line</source>
+        <translation>右侧线</translation>
+    </message>
+</context>
+<context>
+    <name>PolygonDraw</name>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+</context>
+<context>
+    <name>RuleData</name>
+    <message>
+        <source>Rule</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Please add %1 %2.</source>
+        <translation>请添加%1个%2。</translation>
+    </message>
+    <message>
+        <source>Please add %1-%2 %3.</source>
+        <translation>请添加%1-%2个%3。</translation>
+    </message>
+    <message>
+        <source>%1:%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>The minimum value cannot be empty.</source>
+        <translation>最小值不能为空。</translation>
+    </message>
+    <message>
+        <source>The maximum value cannot be empty.</source>
+        <translation>最大值不能为空。</translation>
+    </message>
+    <message>
+        <source>Please finish drawing %1.</source>
+        <translation>请完成%1的绘制。</translation>
+    </message>
+    <message>
+        <source>Please draw %1 %2.</source>
+        <translation>请绘制%1个%2。</translation>
+    </message>
+    <message>
+        <source>Please draw %1-%2 %3.</source>
+        <translation>请绘制%1-%2个%3。</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>大于</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>小于</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>等于</translation>
+    </message>
+    <message>
+        <source>greater than or equal</source>
+        <translation>大于等于</translation>
+    </message>
+    <message>
+        <source>less than or equal</source>
+        <translation>小于等于</translation>
+    </message>
+    <message>
+        <source>%1 must be %2 to %3</source>
+        <translation>%1必须%2%3</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>Lanes</source>
+        <translation>车道</translation>
+    </message>
+</context>
+<context>
+    <name>RuleScene</name>
+    <message>
+        <source>Add rule</source>
+        <translation>添加规则</translation>
+    </message>
+    <message>
+        <source>Rule configuration</source>
+        <translation>规则配置</translation>
+    </message>
+    <message>
+        <source>Rule name</source>
+        <translation>规则名称</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>At least one Rule!</source>
+        <translation>至少保留一条规则！</translation>
+    </message>
+</context>
+<context>
+    <name>SceneWidgets</name>
+    <message>
+        <source>Redraw</source>
+        <translation>重绘</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Left click adds a point, right click finishes.</source>
+        <translation>单击左键添加点，单击右键完成绘制。</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsDirection</name>
+    <message>
+        <source>Detection direction</source>
+        <translation>检测方向</translation>
+    </message>
+    <message>
+        <source>Left to right</source>
+        <translation>从左到右</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>从右到左</translation>
+    </message>
+</context>
+<context>
+    <name>VehicleLaneDraw</name>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,155 @@
+#include "workbench/commandline.h"
+
+#include "host/maskedaddress.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+QString translated(const char* source)
+{
+    return QCoreApplication::translate("CommandLine", source);
+}
+
+struct FileOption {
+    const char* name;
+    const char* description;
+    QString WorkbenchOptions::*target;
+    const char* valueName;
+};
+
+const FileOption kTextOptions[] = {
+    {"template", "Template document to load.", &WorkbenchOptions::templateFile, "F"},
+    {"config", "Configuration document to load; none is an empty one.",
+     &WorkbenchOptions::configFile, "F"},
+    {"source",
+     "Address or file that gives the channel's picture, in place of the sample camera: an RTSP "
+     "address, a video, a still picture.",
+     &WorkbenchOptions::source, "ADDRESS-OR-FILE"},
+    {"picture", "The same as --source.", &WorkbenchOptions::source, "F"},
+    {"channel", "Channel id.", &WorkbenchOptions::channelId, "ID"},
+    {"name", "Channel name.", &WorkbenchOptions::channelName, "TEXT"},
+    {"algorithm", "Algorithm id.", &WorkbenchOptions::algorithmId, "ID"},
+    {"code", "Algorithm code.", &WorkbenchOptions::algorithmCode, "TEXT"},
+    {"plugin", "Plug-in to load in place of the one beside the program.",
+     &WorkbenchOptions::pluginFile, "FILE"},
+    {"result", "Write the object of the last result message here.", &WorkbenchOptions::resultFile,
+     "F"},
+    {"screenshot", "Save a picture of the window here before it closes.",
+     &WorkbenchOptions::screenshotFile, "F"},
+    {"replay", "Do what this session says, then close.", &WorkbenchOptions::replayFile, "F"},
+    {"record", "Write what the operator does to this session.", &WorkbenchOptions::recordFile, "F"},
+};
+
+constexpr char kType[] = "type";
+constexpr char kChannelSource[] = "channel-source";
+constexpr char kEditable[] = "editable";
+constexpr char kSelectionMode[] = "selection-mode";
+
+} // namespace
+
+CommandLine::CommandLine()
+{
+    m_parser.setApplicationDescription(
+        translated("Stand-alone host of the rules window.\n"
+                   "Exit status: 0 saved or closed, 1 left without saving, 2 unusable arguments or "
+                   "files, 3 a step of a replayed session failed."));
+    for (const FileOption& option : kTextOptions)
+        m_parser.addOption({QString::fromLatin1(option.name), translated(option.description),
+                            QString::fromLatin1(option.valueName)});
+    m_parser.addOption({QString::fromLatin1(kChannelSource),
+                        translated("Address or file that gives this channel's picture; may be "
+                                   "repeated."),
+                        QStringLiteral("ID=ADDRESS")});
+    m_parser.addOption(
+        {QString::fromLatin1(kType), translated("Algorithm type, a number."), QStringLiteral("N")});
+    m_parser.addOption({QString::fromLatin1(kSelectionMode),
+                        translated("Let the operator select rules, not edit them.")});
+    m_parser.addOption({QString::fromLatin1(kEditable),
+                        translated("Pass the member \"editable\". Its presence locks the window, "
+                                   "whatever its value, unless selection mode is on."),
+                        QStringLiteral("true|false")});
+    m_parser.addHelpOption();
+    m_parser.addVersionOption();
+}
+
+CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
+{
+    if (!m_parser.parse(arguments)) {
+        m_text = m_parser.errorText();
+        return Outcome::Unusable;
+    }
+    m_wantsHelp = m_parser.isSet(QStringLiteral("help"));
+    if (m_wantsHelp)
+        return Outcome::ShowText;
+    if (m_parser.isSet(QStringLiteral("version"))) {
+        m_text = QCoreApplication::applicationName() + QLatin1Char(' ') +
+                 QCoreApplication::applicationVersion() + QLatin1Char('\n');
+        return Outcome::ShowText;
+    }
+    if (!m_parser.positionalArguments().isEmpty()) {
+        m_text = translated("Unexpected argument: %1").arg(m_parser.positionalArguments().first());
+        return Outcome::Unusable;
+    }
+    return readOptions() ? Outcome::Run : Outcome::Unusable;
+}
+
+bool CommandLine::readOptions()
+{
+    for (const FileOption& option : kTextOptions) {
+        const QString name = QString::fromLatin1(option.name);
+        if (m_parser.isSet(name))
+            m_options.*option.target = m_parser.value(name);
+    }
+    m_options.selectionMode = m_parser.isSet(QString::fromLatin1(kSelectionMode));
+    return readChannelSources() &&
+           readNumber(QString::fromLatin1(kType), m_options.algorithmType) &&
+           readSwitch(QString::fromLatin1(kEditable), m_options.editable);
+}
+
+QString CommandLine::text() const
+{
+    return m_wantsHelp ? m_parser.helpText() : UICommonMdl::maskedAddress(m_text);
+}
+
+bool CommandLine::readChannelSources()
+{
+    for (const QString& value : m_parser.values(QString::fromLatin1(kChannelSource))) {
+        const int separator = value.indexOf(QLatin1Char('='));
+        const QString channel = value.left(separator);
+        const QString address = value.mid(separator + 1);
+        // An address alone may have an equals sign as well.
+        if (separator < 1 || address.isEmpty() || channel.contains(QStringLiteral("://"))) {
+            m_text = translated("--%1 takes ID=ADDRESS, not \"%2\"")
+                         .arg(QString::fromLatin1(kChannelSource), value);
+            return false;
+        }
+        m_options.channelSources.insert(channel, address);
+    }
+    return true;
+}
+
+bool CommandLine::readNumber(const QString& name, int& target)
+{
+    if (!m_parser.isSet(name))
+        return true;
+    bool isNumber = false;
+    target = m_parser.value(name).toInt(&isNumber);
+    if (!isNumber)
+        m_text = translated("--%1 takes a number, not \"%2\"").arg(name, m_parser.value(name));
+    return isNumber;
+}
+
+bool CommandLine::readSwitch(const QString& name, std::optional<bool>& target)
+{
+    if (!m_parser.isSet(name))
+        return true;
+    const QString value = m_parser.value(name);
+    if (value != QLatin1String("true") && value != QLatin1String("false")) {
+        m_text = translated("--%1 takes true or false, not \"%2\"").arg(name, value);
+        return false;
+    }
+    target = value == QLatin1String("true");
+    return true;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+/// Where windows can be shown.
+namespace Display
+{
+
+/// Whether there is a display, or the environment names a Qt platform that needs none.
+bool isThere();
+
+/// Makes Qt show windows in memory only; to be called before the application is made.
+/// Returns whether that could be set up.
+bool useOffscreen();
+
+} // namespace Display

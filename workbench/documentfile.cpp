@@ -1,0 +1,42 @@
+#include "workbench/documentfile.h"
+
+#include "host/reader.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QSaveFile>
+
+namespace DocumentFile
+{
+
+bool read(const QString& path, kql::Json::Value& document, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return false;
+    }
+    const QByteArray bytes = file.readAll();
+    kql::Json::Reader reader;
+    if (reader.parse(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
+                     document))
+        return true;
+    error = QStringLiteral("%1:%2:%3: %4")
+                .arg(path)
+                .arg(reader.errorLine())
+                .arg(reader.errorColumn())
+                .arg(reader.errorText());
+    return false;
+}
+
+bool write(const QString& path, const QString& text, QString& error)
+{
+    QSaveFile file(path);
+    const QByteArray bytes = text.toUtf8();
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return true;
+    error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    return false;
+}
+
+} // namespace DocumentFile

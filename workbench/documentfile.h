@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/value.h"
+
+#include <QString>
+
+/// JSON documents kept as files.
+namespace DocumentFile
+{
+
+/// Reads @p path into @p document; on failure @p error is one line that says which file, line
+/// and column, and why.
+bool read(const QString& path, kql::Json::Value& document, QString& error);
+
+/// Replaces @p path by @p text in one step, so that a failure leaves the old file.
+bool write(const QString& path, const QString& text, QString& error);
+
+} // namespace DocumentFile

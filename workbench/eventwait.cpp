@@ -1,0 +1,29 @@
+#include "workbench/eventwait.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+namespace EventWait
+{
+
+namespace
+{
+constexpr int kSlice = 10; // milliseconds
+}
+
+bool until(int milliseconds, const std::function<bool()>& condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > milliseconds)
+            return false;
+        QEventLoop loop;
+        QTimer::singleShot(kSlice, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    return true;
+}
+
+} // namespace EventWait

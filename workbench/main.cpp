@@ -1,0 +1,50 @@
+#include "workbench/commandline.h"
+#include "workbench/display.h"
+#include "workbench/workbench.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+namespace
+{
+
+QStringList argumentsOf(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+int refuse(const QString& why)
+{
+    QTextStream(stderr) << "rules-workbench: " << why << '\n';
+    return Workbench::Unusable;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication::setApplicationName(QStringLiteral("rules-workbench"));
+    QApplication::setApplicationVersion(QStringLiteral(RULES_VERSION));
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+
+    // Parsed before there is a graphical application, so that help needs no display.
+    CommandLine commandLine;
+    const CommandLine::Outcome outcome = commandLine.parse(argumentsOf(argc, argv));
+    if (outcome == CommandLine::Outcome::ShowText) {
+        const QCoreApplication application(argc, argv);
+        QTextStream(stdout) << commandLine.text();
+        return Workbench::SavedOrClosed;
+    }
+    if (outcome == CommandLine::Outcome::Unusable)
+        return refuse(commandLine.text());
+    const bool replays = !commandLine.options().replayFile.isEmpty();
+    if (!Display::isThere() && !(replays && Display::useOffscreen()))
+        return refuse(QStringLiteral("there is no display; only --replay works without one"));
+
+    QApplication application(argc, argv);
+    return Workbench(commandLine.options()).run();
+}

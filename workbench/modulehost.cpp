@@ -1,0 +1,99 @@
+#include "workbench/modulehost.h"
+
+#include "host/cuipluginmessage.h"
+#include "host/iabstractui.h"
+#include "host/iabstractwidget.h"
+#include "host/iclientuipluginapi.h"
+#include "host/kqsingleton.h"
+#include "host/pluginmsg_param.h"
+#include "host/value.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace
+{
+
+constexpr int kCloseRules = 0;
+constexpr int kOpenRules = 160;
+constexpr int kQueryUnfinishedDraw = 222;
+
+constexpr char kPluginName[] = "IntelligentRulesUI";
+
+} // namespace
+
+ModuleHost::ModuleHost(QObject* parent) : QObject(parent)
+{
+    connect(&KQGUI::KQSingleton<UICommonMdl::CUIPluginMessage>::Instance(),
+            &UICommonMdl::CUIPluginMessage::sgnPluginMessage, this, &ModuleHost::receive);
+}
+
+ModuleHost::~ModuleHost()
+{
+    if (m_plugin)
+        m_plugin->UnInit();
+    m_loader.unload();
+}
+
+bool ModuleHost::load(const QString& pluginFile)
+{
+    m_loader.setFileName(pluginFile.isEmpty() ? QCoreApplication::applicationDirPath() +
+                                                    QLatin1Char('/') + QLatin1String(kPluginName)
+                                              : pluginFile);
+    m_plugin = qobject_cast<KQPluginAPI::IClientUIPluginAPI*>(m_loader.instance());
+    if (!m_plugin) {
+        m_errorText = m_loader.isLoaded() ? tr("%1: not a rules plug-in").arg(m_loader.fileName())
+                                          : m_loader.errorString();
+        return false;
+    }
+    // A plug-in finds a skin of its own in the folder beside it.
+    QCoreApplication::addLibraryPath(QFileInfo(m_loader.fileName()).absolutePath());
+    m_plugin->Init();
+    m_widget = m_plugin->GetUI()->CreateWidget();
+    return true;
+}
+
+QWidget* ModuleHost::createWindow(QWidget* parent)
+{
+    return m_widget ? m_widget->GetWidget(parent) : nullptr;
+}
+
+QString ModuleHost::widgetId() const
+{
+    return m_widget ? QString::fromStdString(m_widget->GetWidgetID()) : QString();
+}
+
+bool ModuleHost::open(const QString& parameterBlock)
+{
+    kql::Json::Value address(kql::Json::ValueType::Object);
+    address["pluginWidgetID"] = widgetId();
+    address["iSessionID"] = 1;
+    return send(kOpenRules, address.toStyledText(), parameterBlock);
+}
+
+bool ModuleHost::queryUnfinishedDraw(const QString& algorithmId, const QString& channelId)
+{
+    kql::Json::Value query(kql::Json::ValueType::Object);
+    query["params"]["algorithmId"] = algorithmId;
+    query["params"]["channalId"] = channelId;
+    return send(kQueryUnfinishedDraw, widgetId(), query.toStyledText());
+}
+
+bool ModuleHost::close()
+{
+    return send(kCloseRules, widgetId(), {});
+}
+
+bool ModuleHost::send(int id, const QString& p1, const QString& p2)
+{
+    if (!m_widget)
+        return false;
+    emit sgnMessage({MessageRecord::Direction::ToModule, id, p1, p2});
+    return m_widget->OnPluginMessage(id, p1, p2);
+}
+
+void ModuleHost::receive(const UICommonMdl::PluginMsg_Param& message)
+{
+    emit sgnMessage({MessageRecord::Direction::FromModule, message.id, message.p1.toString(),
+                     message.p2.toString()});
+}

@@ -1,0 +1,111 @@
+#include "workbench/operatorhand.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestmouse.h>
+
+namespace OperatorHand
+{
+
+namespace
+{
+
+constexpr int kOptionInset = 12;
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("OperatorHand", text);
+}
+
+QString obstacle(QWidget* widget, const QPoint& position)
+{
+    if (!widget)
+        return say("there is no such widget");
+    if (!widget->isVisible())
+        return say("it is hidden");
+    if (!widget->isEnabled())
+        return say("it is disabled");
+    const QWidget* hit = widget->window()->childAt(widget->mapTo(widget->window(), position));
+    if (hit != widget && !(hit && widget->isAncestorOf(hit)))
+        return say("it is covered; select its section first");
+    return {};
+}
+
+// Letter by letter, as QTest::keyClicks() does, but in any script.
+void typeText(QLineEdit* edit, const QString& text)
+{
+    for (const uint letter : text.toUcs4())
+        QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString::fromUcs4(&letter, 1),
+                            Qt::NoModifier);
+}
+
+} // namespace
+
+void scrollIntoView(QWidget* widget)
+{
+    for (QWidget* above = widget ? widget->parentWidget() : nullptr; above;
+         above = above->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(above))
+            area->ensureWidgetVisible(widget);
+    }
+}
+
+QString click(QWidget* widget)
+{
+    if (!widget)
+        return obstacle(widget, {});
+    scrollIntoView(widget);
+    // Check boxes and radio buttons react on indicator and text, which begin at the left; the
+    // middle of an entry's button is beside its check box.
+    const bool isOption = qobject_cast<QCheckBox*>(widget) != nullptr ||
+                          qobject_cast<QRadioButton*>(widget) != nullptr;
+    const QPoint middle = widget->rect().center();
+    const QPoint position(isOption ? qMin(middle.x(), kOptionInset) : middle.x(), middle.y());
+    return clickAt(widget, position, Qt::LeftButton);
+}
+
+QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+{
+    const QString why = obstacle(widget, position);
+    if (why.isEmpty())
+        QTest::mouseClick(widget, button, Qt::NoModifier, position);
+    return why;
+}
+
+QString doubleClickAt(QWidget* widget, const QPoint& position)
+{
+    const QString why = obstacle(widget, position);
+    if (why.isEmpty()) {
+        QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, position);
+        QTest::mouseDClick(widget, Qt::LeftButton, Qt::NoModifier, position);
+    }
+    return why;
+}
+
+QString moveTo(QWidget* widget, const QPoint& position)
+{
+    const QString why = obstacle(widget, position);
+    if (why.isEmpty())
+        QTest::mouseMove(widget, position);
+    return why;
+}
+
+QString type(QLineEdit* edit, const QString& text, bool finish)
+{
+    const QString why = click(edit);
+    if (!why.isEmpty())
+        return why;
+    edit->setFocus(Qt::MouseFocusReason);
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    typeText(edit, text);
+    if (finish)
+        QTest::keyClick(edit, Qt::Key_Return);
+    return {};
+}
+
+} // namespace OperatorHand

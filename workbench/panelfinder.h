@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QAbstractButton;
+class QWidget;
+
+/**
+ * Finds the widgets of the rules window by the names and properties that they carry, without
+ * knowing their classes' code. Everything is null or empty when there is no such widget.
+ */
+class PanelFinder
+{
+public:
+    explicit PanelFinder(QWidget* rulesWindow) : m_window(rulesWindow) {}
+
+    /// The panel of a scene, by its template's name; the selected one for an empty name.
+    QWidget* panel(const QString& scene) const;
+    /// A part of the panel by object name.
+    QWidget* part(QWidget* panel, const QString& name) const;
+    /// A shown button of the panel, by its text.
+    QAbstractButton* buttonByText(QWidget* panel, const QString& text) const;
+    /// The buttons of the panel's entries, or of the current entry's children, in their order.
+    QList<QAbstractButton*> entryButtons(QWidget* panel, bool children) const;
+    /// The check box that enables the entry of @p button; null when it carries none.
+    QAbstractButton* enableBox(QWidget* panel, const QAbstractButton& button) const;
+    /// The attribute row of the panel that edits @p key.
+    QWidget* row(QWidget* panel, const QString& key) const;
+    /// A button of the window itself, by object name.
+    QAbstractButton* windowButton(const QString& name) const;
+
+private:
+    QWidget* m_window; ///< not owned
+};

@@ -1,0 +1,51 @@
+#include "workbench/parameterblock.h"
+
+#include "host/value.h"
+#include "workbench/documentfile.h"
+#include "workbench/workbenchoptions.h"
+
+#include <QCoreApplication>
+
+namespace ParameterBlock
+{
+
+namespace
+{
+
+bool readTemplate(const QString& path, kql::Json::Value& document, QString& error)
+{
+    if (!DocumentFile::read(path, document, error))
+        return false;
+    if (document.isMember("configDescription"))
+        return true;
+    error = QCoreApplication::translate("ParameterBlock",
+                                        "%1:1:1: the template has no \"configDescription\"")
+                .arg(path);
+    return false;
+}
+
+} // namespace
+
+QString build(const WorkbenchOptions& options, QString& error)
+{
+    kql::Json::Value block(kql::Json::ValueType::Object);
+    kql::Json::Value rulesTemplate;
+    kql::Json::Value config(kql::Json::ValueType::Object);
+    if (!readTemplate(options.templateFile, rulesTemplate, error))
+        return {};
+    if (!options.configFile.isEmpty() && !DocumentFile::read(options.configFile, config, error))
+        return {};
+    block["algorithmId"] = options.algorithmId;
+    block["algorithmType"] = options.algorithmType;
+    block["algorithmCode"] = options.algorithmCode;
+    block["channalId"] = options.channelId;
+    block["channelName"] = options.channelName;
+    block["selectionMode"] = options.selectionMode;
+    if (options.editable)
+        block["editable"] = *options.editable;
+    block["videoConfigRuleProperty"] = std::move(rulesTemplate);
+    block["channelAbilityPO"] = std::move(config);
+    return block.toStyledText();
+}
+
+} // namespace ParameterBlock

@@ -1,0 +1,233 @@
+#include "workbench/recordedstep.h"
+
+#include "host/maskedaddress.h"
+#include "workbench/panelfinder.h"
+#include "workbench/rowhand.h"
+#include "workbench/sourcebook.h"
+#include "workbench/workbenchoptions.h"
+
+#include <QAbstractButton>
+#include <QFileInfo>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace RecordedStep
+{
+
+using kql::Json::ValueType;
+
+namespace
+{
+
+constexpr int kNormalizedExtent = 8192;
+
+Value step(const char* name)
+{
+    Value result(ValueType::Object);
+    result["do"] = name;
+    return result;
+}
+
+Value stepIn(const QWidget& panel, const char* name)
+{
+    Value result = step(name);
+    result["scene"] = panel.objectName();
+    return result;
+}
+
+Value pairOf(int first, int second)
+{
+    Value result(ValueType::Array);
+    result.append(first);
+    result.append(second);
+    return result;
+}
+
+int normalized(int pixel, int extent)
+{
+    return static_cast<int>(static_cast<qint64>(pixel) * kNormalizedExtent / extent);
+}
+
+QWidget* around(const QWidget& widget, const char* className)
+{
+    QWidget* above = widget.parentWidget();
+    while (above && !above->inherits(className))
+        above = above->isWindow() ? nullptr : above->parentWidget();
+    return above;
+}
+
+template<class Predicate>
+int numberOf(const QList<QAbstractButton*>& buttons, Predicate isWanted)
+{
+    const auto found = std::find_if(buttons.begin(), buttons.end(), isWanted);
+    return found == buttons.end() ? 0 : static_cast<int>(found - buttons.begin()) + 1;
+}
+
+Value pick(const PanelFinder& finder, QWidget* panel, const QAbstractButton& button)
+{
+    const auto isButton = [&button](const QAbstractButton* other) { return other == &button; };
+    const auto entries = finder.entryButtons(panel, false);
+    Value result = stepIn(*panel, "pick");
+    if (const int entry = numberOf(entries, isButton)) {
+        result["entry"] = entry;
+        return result;
+    }
+    result["entry"] =
+        numberOf(entries, [](const QAbstractButton* entry) { return entry->isChecked(); });
+    result["child"] = numberOf(finder.entryButtons(panel, true), isButton);
+    return result;
+}
+
+Value enable(const PanelFinder& finder, QWidget* panel, const QAbstractButton& box)
+{
+    Value result = stepIn(*panel, "enable");
+    result["entry"] = numberOf(finder.entryButtons(panel, false),
+                               [&finder, panel, &box](const QAbstractButton* entry) {
+                                   return finder.enableBox(panel, *entry) == &box;
+                               });
+    result["on"] = box.isChecked();
+    return result;
+}
+
+Value click(const QWidget& panel, const QAbstractButton& button)
+{
+    Value result = stepIn(panel, "click");
+    if (button.objectName().isEmpty())
+        result["text"] = button.text();
+    else
+        result["object"] = button.objectName();
+    return result;
+}
+
+Value windowButton(const QAbstractButton& button)
+{
+    if (button.objectName() == QLatin1String("btnSave"))
+        return step("save");
+    return button.objectName() == QLatin1String("btnCancel") ? step("cancel") : Value();
+}
+
+Value pathOf(const QString& file)
+{
+    return file.isEmpty() ? Value() : Value(QFileInfo(file).absoluteFilePath());
+}
+
+/// Sessions are passed on; passwords are not.
+bool isSecret(const QString& source)
+{
+    return UICommonMdl::maskedAddress(source) != source;
+}
+
+Value sourceOf(const QString& source)
+{
+    return source.isEmpty() ? Value() : Value(SourceBook::absolute(source));
+}
+
+template<class T>
+void addChanged(Value& result, const char* name, const T& before, const T& now)
+{
+    if (before != now)
+        result[name] = now;
+}
+
+} // namespace
+
+QWidget* panelAround(const QWidget& widget)
+{
+    return around(widget, "BaseTabelScene");
+}
+
+QWidget* rowAround(const QWidget& widget)
+{
+    return around(widget, "ControlTabel");
+}
+
+Value size(const QWidget& window)
+{
+    Value result = step("size");
+    result["window"] = pairOf(window.width(), window.height());
+    return result;
+}
+
+Value onPicture(const char* name, const QPoint& position, const QRect& picture)
+{
+    const QPoint inPicture = position - picture.topLeft();
+    Value result = step(name);
+    result["at"] = pairOf(normalized(inPicture.x(), picture.width()),
+                          normalized(inPicture.y(), picture.height()));
+    return result;
+}
+
+Value waitForPicture()
+{
+    Value result = step("wait");
+    result["picture"] = true;
+    return result;
+}
+
+Value button(const PanelFinder& finder, const QAbstractButton& button)
+{
+    QWidget* panel = panelAround(button);
+    if (!panel)
+        return windowButton(button);
+    if (rowAround(button))
+        return {};
+    if (button.inherits("DrawItemButton"))
+        return pick(finder, panel, button);
+    if (button.objectName() == QLatin1String("enable"))
+        return enable(finder, panel, button);
+    return click(*panel, button);
+}
+
+Value select(const QWidget& panel)
+{
+    return stepIn(panel, "select");
+}
+
+Value fold(const QWidget& panel, bool folded)
+{
+    Value result = stepIn(panel, "fold");
+    result["fold"] = folded;
+    return result;
+}
+
+Value set(const QWidget& row)
+{
+    const QWidget* panel = panelAround(row);
+    Value result = panel ? stepIn(*panel, "set") : step("set");
+    result["key"] = row.objectName();
+    result["value"] = RowHand::shown(&row);
+    return result;
+}
+
+Value typed(const QWidget& row, const QLineEdit& edit)
+{
+    // Only the first edit of a row can be left unfinished by a session.
+    const QWidget* panel = panelAround(row);
+    if (!panel || row.findChild<QLineEdit*>() != &edit)
+        return set(row);
+    Value result = stepIn(*panel, "type");
+    result["key"] = row.objectName();
+    result["text"] = edit.text();
+    return result;
+}
+
+Value load(const WorkbenchOptions& before, const WorkbenchOptions& now)
+{
+    Value result = step("load");
+    result["template"] = pathOf(now.templateFile);
+    result["config"] = pathOf(now.configFile);
+    if (before.source != now.source && !isSecret(now.source))
+        result["source"] = sourceOf(now.source);
+    addChanged(result, "channel", before.channelId, now.channelId);
+    addChanged(result, "name", before.channelName, now.channelName);
+    addChanged(result, "algorithm", before.algorithmId, now.algorithmId);
+    addChanged(result, "type", before.algorithmType, now.algorithmType);
+    addChanged(result, "code", before.algorithmCode, now.algorithmCode);
+    addChanged(result, "selection-mode", before.selectionMode, now.selectionMode);
+    if (before.editable != now.editable)
+        result["editable"] = now.editable ? Value(*now.editable) : Value();
+    return result;
+}
+
+} // namespace RecordedStep

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/value.h"
+
+class PanelFinder;
+class QAbstractButton;
+class QLineEdit;
+class QPoint;
+class QRect;
+class QWidget;
+struct WorkbenchOptions;
+
+/// The steps of a session, made of the widgets that the operator used. The other direction of
+/// what a session player does.
+namespace RecordedStep
+{
+
+using kql::Json::Value;
+
+/// The section around @p widget; null when there is none.
+QWidget* panelAround(const QWidget& widget);
+/// The attribute row around @p widget; null when there is none.
+QWidget* rowAround(const QWidget& widget);
+
+Value size(const QWidget& window);
+/// A step @p name at @p position, both it and @p picture in widget pixels, written in 0..8192.
+Value onPicture(const char* name, const QPoint& position, const QRect& picture);
+Value waitForPicture();
+
+/// What pressing @p button does: save, cancel, pick, enable or click; null for other buttons and
+/// for those of rows. To be asked before the press takes effect on the other widgets.
+Value button(const PanelFinder& finder, const QAbstractButton& button);
+Value select(const QWidget& panel);
+Value fold(const QWidget& panel, bool folded);
+
+/// The row as it is shown now.
+Value set(const QWidget& row);
+/// The row with @p edit left unfinished.
+Value typed(const QWidget& row, const QLineEdit& edit);
+
+/// Loading @p now where @p before was loaded; names what differs, and the documents always.
+Value load(const WorkbenchOptions& before, const WorkbenchOptions& now);
+
+} // namespace RecordedStep

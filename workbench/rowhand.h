@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+/// Sets and reads an attribute row as an operator does, whatever edits it.
+namespace RowHand
+{
+
+/**
+ * Types or clicks @p value into @p row: a text or number for an input box, a bool for a switch,
+ * a stored value for radio buttons, a list of stored values for check boxes, [minimum, maximum]
+ * with null for empty for a range. Returns why it could not be done, or an empty text.
+ */
+QString set(QWidget* row, const kql::Json::Value& value);
+
+/// Types @p text into the row's first edit and leaves the edit unfinished.
+QString type(QWidget* row, const QString& text);
+
+/// What the row shows, in the form that set() takes; a text for an input box.
+kql::Json::Value shown(const QWidget* row);
+
+/// Whether an operator could change the row: some editor of it is enabled.
+bool isUsable(const QWidget* row);
+
+} // namespace RowHand

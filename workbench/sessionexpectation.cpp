@@ -1,0 +1,157 @@
+#include "workbench/sessionexpectation.h"
+
+#include "host/reader.h"
+#include "workbench/eventwait.h"
+#include "workbench/panelfinder.h"
+#include "workbench/rowhand.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QLabel>
+
+#include <algorithm>
+
+using kql::Json::Value;
+
+namespace
+{
+
+constexpr int kMessageTimeout = 5000; // milliseconds
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("SessionExpectation", text);
+}
+
+QString shownText(const Value& value)
+{
+    return value.isNull() ? QStringLiteral("null") : value.toStyledText().simplified();
+}
+
+// An input box shows text; a session may name the number that it stands for.
+bool isSame(const Value& found, const Value& wanted)
+{
+    if (found == wanted)
+        return true;
+    return found.isString() && wanted.isNumeric() &&
+           found.asString().toDouble() == wanted.asDouble();
+}
+
+QString compare(const QString& what, const Value& found, const Value& wanted)
+{
+    if (isSame(found, wanted))
+        return {};
+    return say("%1 is %2, not %3").arg(what, shownText(found), shownText(wanted));
+}
+
+} // namespace
+
+SessionExpectation::SessionExpectation(const PanelFinder& finder, const std::optional<QString>& box,
+                                       const QList<MessageRecord>& posted)
+    : m_finder(finder), m_box(box), m_posted(posted)
+{
+}
+
+QString SessionExpectation::check(const Value& step) const
+{
+    QString why = checkBox(step);
+    if (why.isEmpty())
+        why = checkPosted(step);
+    return why.isEmpty() ? checkPanel(step) : why;
+}
+
+QString SessionExpectation::checkBox(const Value& step) const
+{
+    if (!step.isMember("box"))
+        return {};
+    return compare(say("the last box"), m_box ? Value(*m_box) : Value(), step["box"]);
+}
+
+QString SessionExpectation::checkPosted(const Value& step) const
+{
+    if (!step.isMember("posted"))
+        return {};
+    const Value& members = step["posted"];
+    if (members.isNull()) {
+        // The bus delivers later, so give it a turn before saying that nothing came.
+        EventWait::until(0, [] { return false; });
+        return m_posted.isEmpty() ? QString() : say("a message was posted");
+    }
+    if (!EventWait::until(kMessageTimeout, [this] { return !m_posted.isEmpty(); }))
+        return m_box ? say("no message was posted; the last box said: %1").arg(*m_box)
+                     : say("no message was posted");
+    return checkMembers(members);
+}
+
+QString SessionExpectation::checkMembers(const Value& members) const
+{
+    Value posted;
+    kql::Json::Reader().parse(m_posted.last().p2, posted);
+    for (int i = 0; i < members.size(); ++i) {
+        const std::string_view name = members.memberName(i);
+        const Value& found = qAsConst(posted)[name];
+        const QString what = QString::fromUtf8(name.data(), static_cast<int>(name.size()));
+        const QString why = compare(what, found, members.memberValue(i));
+        if (!why.isEmpty())
+            return why;
+    }
+    return {};
+}
+
+QString SessionExpectation::checkPanel(const Value& step) const
+{
+    const auto asked = {"hint", "entries", "current", "row"};
+    if (std::none_of(asked.begin(), asked.end(), [&](const char* n) { return step.isMember(n); }))
+        return {};
+    QWidget* panel = m_finder.panel(step["scene"].asString());
+    if (!panel)
+        return say("there is no such section");
+    QString why = checkHint(*panel, step);
+    if (why.isEmpty())
+        why = checkEntries(*panel, step);
+    return why.isEmpty() ? checkRow(*panel, step) : why;
+}
+
+QString SessionExpectation::checkHint(QWidget& panel, const Value& step) const
+{
+    if (!step.isMember("hint"))
+        return {};
+    const auto* hint = qobject_cast<QLabel*>(m_finder.part(&panel, QStringLiteral("hint")));
+    const Value shown = hint && !hint->isHidden() ? Value(hint->text()) : Value();
+    return compare(say("the hint"), shown, step["hint"]);
+}
+
+QString SessionExpectation::checkEntries(QWidget& panel, const Value& step) const
+{
+    const auto buttons = m_finder.entryButtons(&panel, false);
+    if (step.isMember("entries")) {
+        const QString why = compare(say("the number of entries"), buttons.size(), step["entries"]);
+        if (!why.isEmpty())
+            return why;
+    }
+    if (!step.isMember("current"))
+        return {};
+    const auto current = std::find_if(buttons.begin(), buttons.end(),
+                                      [](const QAbstractButton* b) { return b->isChecked(); });
+    const bool none = current == buttons.end();
+    return compare(say("the current entry"),
+                   none ? Value() : Value(static_cast<int>(current - buttons.begin()) + 1),
+                   step["current"]);
+}
+
+QString SessionExpectation::checkRow(QWidget& panel, const Value& step) const
+{
+    if (!step.isMember("row"))
+        return {};
+    QWidget* row = m_finder.row(&panel, step["row"].asString());
+    if (!row)
+        return say("there is no such row");
+    QString why;
+    if (step.isMember("value"))
+        why = compare(say("the row's value"), RowHand::shown(row), step["value"]);
+    if (why.isEmpty() && step.isMember("visible"))
+        why = compare(say("the row's visibility"), !row->isHidden(), step["visible"]);
+    if (why.isEmpty() && step.isMember("enabled"))
+        why = compare(say("the row's enabled state"), RowHand::isUsable(row), step["enabled"]);
+    return why;
+}

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "workbench/messagerecord.h"
+#include "workbench/panelfinder.h"
+#include "workbench/sessionscript.h"
+
+#include <QList>
+#include <QObject>
+
+class BoxWatcher;
+class WorkbenchWindow;
+
+/**
+ * Does a recorded session again: each step through the real widgets, with real mouse and key
+ * events, and only if an operator could do it. Between steps the event loop runs.
+ */
+class SessionPlayer : public QObject
+{
+    Q_OBJECT
+
+public:
+    SessionPlayer(WorkbenchWindow& window, SessionScript script, QObject* parent = nullptr);
+
+    void start();
+
+signals:
+    /// @p error is empty, or one line with the step that failed and why.
+    void sgnFinished(const QString& error);
+
+private:
+    using Value = kql::Json::Value;
+    /// Does one step; why it could not be done, or an empty text.
+    using Action = QString (SessionPlayer::*)(const Value&);
+
+    static Action actionFor(const QString& name);
+    void runNext();
+    QString run(const Value& step);
+
+    QString doSize(const Value& step);
+    QString doPress(const Value& step);
+    QString doMove(const Value& step);
+    QString doDouble(const Value& step);
+    QString doClick(const Value& step);
+    QString doPick(const Value& step);
+    QString doEnable(const Value& step);
+    QString doSet(const Value& step);
+    QString doType(const Value& step);
+    QString doFold(const Value& step);
+    QString doSelect(const Value& step);
+    QString doSave(const Value& step);
+    QString doCancel(const Value& step);
+    QString doQuery(const Value& step);
+    QString doClose(const Value& step);
+    QString doLoad(const Value& step);
+    QString doScreenshot(const Value& step);
+    QString doWait(const Value& step);
+    QString doExpect(const Value& step);
+
+    QWidget* panelOf(const Value& step, QString& why) const;
+    QWidget* rowOf(const Value& step, QString& why) const;
+    QString file(const Value& name) const;
+    bool picturePosition(const Value& at, QPoint& position) const;
+
+    WorkbenchWindow& m_window;
+    SessionScript m_script;
+    PanelFinder m_finder;
+    BoxWatcher* m_boxes;
+    QList<MessageRecord> m_posted; ///< by the module, since the last step that is no expectation
+    std::size_t m_next = 0;
+};

@@ -1,0 +1,271 @@
+#include "workbench/sessionrecorder.h"
+
+#include "host/qrtspvideownd.h"
+#include "workbench/recordedstep.h"
+#include "workbench/workbenchwindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMouseEvent>
+
+namespace
+{
+
+bool isQuestion(const kql::Json::Value& step)
+{
+    const QString name = step["do"].asString();
+    return name == QLatin1String("save") || name == QLatin1String("cancel");
+}
+
+} // namespace
+
+SessionRecorder::SessionRecorder(WorkbenchWindow& window, QObject* parent)
+    : QObject(parent),
+      m_window(window),
+      m_rulesWindow(window.rulesWindow()),
+      m_finder(m_rulesWindow),
+      m_loaded(window.options())
+{
+}
+
+bool SessionRecorder::open(const QString& path, QString& error)
+{
+    if (!m_file.open(path, error))
+        return false;
+    for (QWidget* widget : m_rulesWindow->findChildren<QWidget*>())
+        watch(widget);
+    connect(&m_window, &WorkbenchWindow::sgnLoad, this, &SessionRecorder::sltLoad,
+            Qt::UniqueConnection);
+    qApp->installEventFilter(this);
+    m_size = m_window.size();
+    append(RecordedStep::size(m_window));
+    return true;
+}
+
+void SessionRecorder::watch(QWidget* widget)
+{
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        connect(button, &QAbstractButton::released, this, &SessionRecorder::sltButtonReleased,
+                Qt::UniqueConnection);
+        connect(button, &QAbstractButton::clicked, this, &SessionRecorder::sltButtonClicked,
+                Qt::UniqueConnection);
+    } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+        connect(edit, &QLineEdit::textEdited, this, &SessionRecorder::sltTextEdited,
+                Qt::UniqueConnection);
+    }
+}
+
+bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
+{
+    if (m_rulesWindow && watched->isWidgetType()) {
+        auto* widget = static_cast<QWidget*>(watched);
+        auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(widget) : nullptr;
+        if (box)
+            watchQuestion(*box);
+        else if (m_rulesWindow->isAncestorOf(widget))
+            see(*widget, *event);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void SessionRecorder::see(QWidget& widget, QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::Polish:
+        watch(&widget);
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        seePress(widget, static_cast<QMouseEvent&>(event));
+        break;
+    case QEvent::MouseButtonRelease:
+        m_isReleaseClick = true;
+        break;
+    case QEvent::KeyRelease:
+        m_isReleaseClick = true;
+        m_isTabbing = false;
+        break;
+    case QEvent::MouseMove:
+        seeMove(widget, static_cast<QMouseEvent&>(event));
+        break;
+    case QEvent::KeyPress:
+        seeKey(widget, static_cast<QKeyEvent&>(event));
+        break;
+    case QEvent::FocusIn:
+        if (m_isTabbing)
+            seeTab(widget);
+        break;
+    case QEvent::FocusOut:
+        seeFocusOut(widget, static_cast<QFocusEvent&>(event).reason());
+        break;
+    default:
+        break;
+    }
+}
+
+// A press on a child comes again for each parent that it is handed on to; only the widget that
+// acts counts.
+void SessionRecorder::seePress(QWidget& widget, const QMouseEvent& event)
+{
+    if (&widget == m_window.videoSurface()) {
+        pressPicture(event);
+        return;
+    }
+    const QWidget* panel = RecordedStep::panelAround(widget);
+    if (!panel || event.type() != QEvent::MouseButtonPress)
+        return;
+    if (widget.objectName() == QLatin1String("mask"))
+        record(RecordedStep::select(*panel));
+    else if (widget.objectName() == QLatin1String("titleBar"))
+        record(RecordedStep::fold(*panel, !widget.property("bFold").toBool()));
+}
+
+void SessionRecorder::pressPicture(const QMouseEvent& event)
+{
+    const QRect picture = m_window.videoSurface()->paneRect(0);
+    const bool isLeft = event.button() == Qt::LeftButton;
+    if (!picture.contains(event.pos()) || (!isLeft && event.button() != Qt::RightButton))
+        return;
+    Value press = RecordedStep::onPicture("press", event.pos(), picture);
+    press["button"] = isLeft ? "left" : "right";
+    // A double click is a press followed by this event; both draw.
+    if (isLeft && event.type() == QEvent::MouseButtonDblClick && m_move.isNull() &&
+        m_last == press) {
+        m_last = RecordedStep::onPicture("double", event.pos(), picture);
+        m_file.replaceLast(m_last);
+        return;
+    }
+    record(press);
+}
+
+void SessionRecorder::seeMove(QWidget& widget, const QMouseEvent& event)
+{
+    m_isReleaseClick = false;
+    if (&widget != m_window.videoSurface())
+        return;
+    const QRect picture = m_window.videoSurface()->paneRect(0);
+    if (picture.contains(event.pos()))
+        m_move = RecordedStep::onPicture("move", event.pos(), picture);
+}
+
+void SessionRecorder::seeKey(QWidget& widget, const QKeyEvent& event)
+{
+    m_isReleaseClick = true;
+    // Focus that Qt passes on, as its widget was disabled, has the same reason as a tabulator's.
+    m_isTabbing = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    auto* edit = qobject_cast<QLineEdit*>(&widget);
+    if (edit && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter))
+        finishEdit(*edit);
+}
+
+// The tabulator reaches rows of other sections, which are then selected and unfolded.
+void SessionRecorder::seeTab(QWidget& widget)
+{
+    QWidget* panel = RecordedStep::panelAround(widget);
+    if (!panel)
+        return;
+    const QWidget* titleBar = m_finder.part(panel, QStringLiteral("titleBar"));
+    if (titleBar && titleBar->property("bFold").toBool())
+        record(RecordedStep::fold(*panel, false));
+    else if (!panel->property("selected").toBool())
+        record(RecordedStep::select(*panel));
+}
+
+void SessionRecorder::seeFocusOut(QWidget& widget, Qt::FocusReason reason)
+{
+    if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
+        // The window itself takes the focus away as an effect of a step that is written already.
+        if (reason == Qt::OtherFocusReason && m_typed == edit)
+            m_typed.clear();
+        if (reason != Qt::PopupFocusReason)
+            finishEdit(*edit);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+        m_isReleaseClick = m_isReleaseClick && !button->isDown();
+    }
+}
+
+void SessionRecorder::sltTextEdited()
+{
+    auto* edit = qobject_cast<QLineEdit*>(sender());
+    if (edit && RecordedStep::rowAround(*edit))
+        m_edited = edit;
+}
+
+void SessionRecorder::finishEdit(QLineEdit& edit)
+{
+    const bool isUnwritten = m_edited == &edit || (m_typed == &edit && edit.isModified());
+    const QWidget* row = RecordedStep::rowAround(edit);
+    if (!isUnwritten || !row)
+        return;
+    m_edited.clear();
+    m_typed.clear();
+    record(RecordedStep::set(*row));
+}
+
+void SessionRecorder::sltButtonReleased()
+{
+    const auto* button = qobject_cast<QAbstractButton*>(sender());
+    if (!button || !m_isReleaseClick || !m_rulesWindow->isAncestorOf(button))
+        return;
+    const Value step = RecordedStep::button(m_finder, *button);
+    if (!step.isNull())
+        record(step);
+}
+
+void SessionRecorder::sltButtonClicked()
+{
+    const auto* button = qobject_cast<QAbstractButton*>(sender());
+    const QWidget* row = button ? RecordedStep::rowAround(*button) : nullptr;
+    if (row)
+        record(RecordedStep::set(*row));
+}
+
+void SessionRecorder::watchQuestion(QMessageBox& box)
+{
+    if (!(box.standardButtons() & QMessageBox::No) || !isQuestion(m_last))
+        return;
+    connect(&box, &QDialog::finished, this, [this](int result) {
+        if (!isQuestion(m_last))
+            return;
+        m_last["answer"] = result == QMessageBox::Yes ? "Yes" : "No";
+        m_file.replaceLast(m_last);
+    });
+}
+
+void SessionRecorder::sltLoad()
+{
+    record(RecordedStep::load(m_loaded, m_window.options()));
+    m_loaded = m_window.options();
+    m_pictureAwaited = false;
+}
+
+void SessionRecorder::record(const Value& step)
+{
+    if (m_size != m_window.size()) {
+        m_size = m_window.size();
+        append(RecordedStep::size(m_window));
+    }
+    const QWidget* row = m_edited ? RecordedStep::rowAround(*m_edited) : nullptr;
+    if (row)
+        append(RecordedStep::typed(*row, *m_edited));
+    if (m_edited)
+        m_typed = m_edited;
+    m_edited.clear();
+    if (!m_move.isNull())
+        append(m_move);
+    m_move = Value();
+    append(step);
+}
+
+void SessionRecorder::append(const Value& step)
+{
+    const bool isOnPicture = step.isMember("at");
+    if (isOnPicture && !m_pictureAwaited)
+        m_file.append(RecordedStep::waitForPicture());
+    m_pictureAwaited = m_pictureAwaited || isOnPicture;
+    m_file.append(step);
+    m_last = step;
+}

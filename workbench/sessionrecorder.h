@@ -1,0 +1,77 @@
+#pragma once
+
+#include "host/value.h"
+#include "workbench/panelfinder.h"
+#include "workbench/sessionfile.h"
+#include "workbench/workbenchoptions.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QSize>
+
+class QAbstractButton;
+class QKeyEvent;
+class QLineEdit;
+class QMessageBox;
+class QMouseEvent;
+class WorkbenchWindow;
+
+/**
+ * Writes what the operator does in a rules window as the steps of a session, so that replaying it
+ * at the same window size gives the same result. It only watches: events go on as they came.
+ *
+ * A button's step is written before the button acts, an attribute row's when the edit is finished
+ * or the option clicked. Of pointer movements only the last one before another step counts.
+ */
+class SessionRecorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p window has its rules window already; it is not owned.
+    explicit SessionRecorder(WorkbenchWindow& window, QObject* parent = nullptr);
+
+    /// Starts recording into @p path, which is replaced; false with one line in @p error.
+    bool open(const QString& path, QString& error);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private slots:
+    void sltButtonReleased();
+    void sltButtonClicked();
+    void sltTextEdited();
+    void sltLoad();
+
+private:
+    using Value = kql::Json::Value;
+
+    void watch(QWidget* widget);
+    void watchQuestion(QMessageBox& box);
+    void see(QWidget& widget, QEvent& event);
+    void seePress(QWidget& widget, const QMouseEvent& event);
+    void seeMove(QWidget& widget, const QMouseEvent& event);
+    void seeKey(QWidget& widget, const QKeyEvent& event);
+    void seeTab(QWidget& widget);
+    void seeFocusOut(QWidget& widget, Qt::FocusReason reason);
+    void pressPicture(const QMouseEvent& event);
+    void finishEdit(QLineEdit& edit);
+
+    /// Writes what came before and is not written yet, then @p step.
+    void record(const Value& step);
+    void append(const Value& step);
+
+    WorkbenchWindow& m_window;
+    QPointer<QWidget> m_rulesWindow; ///< not owned; goes before the recorder
+    PanelFinder m_finder;
+    SessionFile m_file;
+    Value m_last; ///< the step written last
+    Value m_move; ///< the pointer's last movement; null when it is written
+    QSize m_size; ///< of the window, as written
+    WorkbenchOptions m_loaded;
+    QPointer<QLineEdit> m_edited; ///< typed into, and not written yet
+    QPointer<QLineEdit> m_typed;  ///< written as unfinished
+    bool m_pictureAwaited = false;
+    bool m_isTabbing = false;
+    bool m_isReleaseClick = true; ///< a button let go now was clicked, not just left
+};

@@ -1,0 +1,38 @@
+#include "workbench/sessionscript.h"
+
+#include "host/reader.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+bool SessionScript::read(const QString& path, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return false;
+    }
+    folder = QFileInfo(path).absolutePath();
+    for (int line = 1; !file.atEnd(); ++line) {
+        const QByteArray bytes = file.readLine().trimmed();
+        if (bytes.isEmpty())
+            continue;
+        Step step;
+        step.line = line;
+        kql::Json::Reader reader;
+        const bool parsed = reader.parse(bytes.toStdString(), step.step);
+        if (!parsed || !qAsConst(step.step)["do"].isString()) {
+            error = QStringLiteral("%1:%2:%3: %4")
+                        .arg(path)
+                        .arg(line)
+                        .arg(parsed ? 1 : reader.errorColumn())
+                        .arg(parsed ? QCoreApplication::translate("SessionScript",
+                                                                  "no text member \"do\"")
+                                    : reader.errorText());
+            return false;
+        }
+        steps.push_back(std::move(step));
+    }
+    return true;
+}

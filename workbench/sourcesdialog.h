@@ -1,0 +1,39 @@
+#pragma once
+
+#include "workbench/sourcebook.h"
+
+#include <QDialog>
+
+class QDialogButtonBox;
+class QLabel;
+class QPushButton;
+class QTableWidget;
+
+/// Which address gives each channel's picture. User names and passwords show only in the address
+/// that is being edited.
+class SourcesDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SourcesDialog(const SourceBook::Addresses& addresses, QWidget* parent = nullptr);
+
+    /// What the table says; rows without channel and address do not count.
+    SourceBook::Addresses addresses() const;
+
+private:
+    QPushButton* addButton(const char* name, const QString& text);
+    void createButtons();
+    void appendRow(const QString& channel, const QString& address);
+    void addChannel();
+    void removeChannel();
+    void editAddress();
+    void chooseFile();
+    QString problem() const;
+    QString textAt(int row, int column) const;
+    void check();
+
+    QTableWidget* m_table;
+    QLabel* m_problem;
+    QDialogButtonBox* m_buttons;
+};

@@ -1,0 +1,85 @@
+#include "workbench/workbench.h"
+
+#include "host/maskedaddress.h"
+#include "workbench/sessionplayer.h"
+#include "workbench/sessionrecorder.h"
+#include "workbench/sessionscript.h"
+#include "workbench/sourcebook.h"
+#include "workbench/workbenchwindow.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+namespace
+{
+
+void complain(const QString& line)
+{
+    QTextStream(stderr) << "rules-workbench: " << line << '\n';
+}
+
+} // namespace
+
+Workbench::Workbench(const WorkbenchOptions& options)
+    : m_window(std::make_unique<WorkbenchWindow>(options))
+{
+}
+
+Workbench::~Workbench() = default;
+
+int Workbench::run()
+{
+    QString error;
+    if (!start(error)) {
+        complain(UICommonMdl::maskedAddress(error));
+        return Unusable;
+    }
+    QApplication::exec();
+    m_player.reset();
+    const QString failure = m_replayError.isEmpty() ? m_window->resultError() : m_replayError;
+    if (!failure.isEmpty())
+        complain(failure);
+    if (!m_replayError.isEmpty())
+        return StepFailed;
+    if (!m_window->resultError().isEmpty())
+        return Unusable;
+    return m_window->wasExited() ? LeftWithoutSaving : SavedOrClosed;
+}
+
+bool Workbench::start(QString& error)
+{
+    m_window->show();
+    // A session is played over what its command line and its steps name, nothing else.
+    if (m_window->options().replayFile.isEmpty())
+        m_window->keepSources(SourceBook::usualFile());
+    if (!m_window->start(error))
+        return false;
+    const WorkbenchOptions& options = m_window->options();
+    if (!options.recordFile.isEmpty()) {
+        auto* recorder = new SessionRecorder(*m_window, m_window.get());
+        if (!recorder->open(options.recordFile, error))
+            return false;
+    }
+    return options.replayFile.isEmpty() || replay(options.replayFile, error);
+}
+
+bool Workbench::replay(const QString& path, QString& error)
+{
+    SessionScript script;
+    if (!script.read(path, error))
+        return false;
+    m_window->setReplaying(true);
+    m_player = std::make_unique<SessionPlayer>(*m_window, std::move(script));
+    connect(m_player.get(), &SessionPlayer::sgnFinished, this, &Workbench::finishReplay);
+    m_player->start();
+    return true;
+}
+
+void Workbench::finishReplay(const QString& error)
+{
+    const WorkbenchOptions& options = m_window->options();
+    m_replayError = error.isEmpty() ? QString() : options.replayFile + QStringLiteral(": ") + error;
+    if (!options.screenshotFile.isEmpty() && !m_window->saveScreenshot(options.screenshotFile))
+        complain(tr("cannot write %1").arg(options.screenshotFile));
+    m_window->close();
+}

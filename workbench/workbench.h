@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+struct WorkbenchOptions;
+class SessionPlayer;
+class WorkbenchWindow;
+
+/// One run of the workbench: the window, the session that is replayed or recorded, the result.
+class Workbench : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum ExitStatus { SavedOrClosed = 0, LeftWithoutSaving = 1, Unusable = 2, StepFailed = 3 };
+
+    explicit Workbench(const WorkbenchOptions& options);
+    ~Workbench() override;
+
+    /// Runs until the window is closed; returns the program's exit status and prints what
+    /// failed to the standard error stream.
+    int run();
+
+private:
+    bool start(QString& error);
+    bool replay(const QString& path, QString& error);
+    void finishReplay(const QString& error);
+
+    std::unique_ptr<WorkbenchWindow> m_window;
+    std::unique_ptr<SessionPlayer> m_player;
+    QString m_replayError;
+};

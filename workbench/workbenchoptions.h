@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <optional>
+
+/// What the workbench was asked to do: documents to load, the parameter block, session files.
+struct WorkbenchOptions {
+    QString templateFile;
+    QString configFile;
+    QString source; ///< address or file of the loaded channel's picture; empty: its own
+    QMap<QString, QString> channelSources; ///< by channel id
+    QString channelId = QStringLiteral("1");
+    QString channelName = QStringLiteral("Sample camera");
+    QString algorithmId = QStringLiteral("sample");
+    int algorithmType = 0;
+    QString algorithmCode;
+    bool selectionMode = false;
+    /// As given; the presence of the member counts, whatever its value.
+    std::optional<bool> editable;
+    QString pluginFile; ///< empty: the one beside the program
+    QString resultFile;
+    QString screenshotFile;
+    QString replayFile;
+    QString recordFile;
+};

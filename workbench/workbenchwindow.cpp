@@ -1,0 +1,308 @@
+#include "workbench/workbenchwindow.h"
+
+#include "host/channelsources.h"
+#include "host/kqsingleton.h"
+#include "host/maskedaddress.h"
+#include "host/qrtspvideownd.h"
+#include "host/reader.h"
+#include "host/value.h"
+#include "workbench/documentfile.h"
+#include "workbench/messagedock.h"
+#include "workbench/messagerecord.h"
+#include "workbench/modulehost.h"
+#include "workbench/parameterblock.h"
+#include "workbench/sourcesdialog.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QStatusBar>
+
+namespace
+{
+
+constexpr int kRulesResult = 996;
+constexpr int kNormalizedExtent = 8192;
+constexpr QSize kInitialSize(1180, 800);
+const auto kSampleCamera = QStringLiteral("sample:");
+
+QString jsonFilter()
+{
+    return QCoreApplication::translate("WorkbenchWindow", "JSON documents (*.json);;All files (*)");
+}
+
+} // namespace
+
+WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options, QWidget* parent)
+    : QMainWindow(parent),
+      m_options(options),
+      m_host(new ModuleHost(this)),
+      m_dock(new MessageDock(this)),
+      m_pointer(new QLabel)
+{
+    setWindowTitle(tr("Rules workbench"));
+    addDockWidget(Qt::BottomDockWidgetArea, m_dock);
+    m_dock->hide();
+    m_book.overlay(m_options.channelSources);
+    createMenus();
+    createStatusBar();
+    resize(kInitialSize);
+    connect(m_host, &ModuleHost::sgnMessage, this, &WorkbenchWindow::takeMessage);
+}
+
+WorkbenchWindow::~WorkbenchWindow()
+{
+    // The window's code lives in the plug-in, which goes with m_host.
+    delete takeCentralWidget();
+}
+
+void WorkbenchWindow::createMenus()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("Open &template..."), this, &WorkbenchWindow::openTemplate,
+                    QKeySequence(tr("Ctrl+T")));
+    file->addAction(tr("Open &configuration..."), this, &WorkbenchWindow::openConfiguration,
+                    QKeySequence(tr("Ctrl+O")));
+    file->addAction(tr("Open &picture or video..."), this, &WorkbenchWindow::openPicture,
+                    QKeySequence(tr("Ctrl+P")));
+    file->addAction(tr("&Sources..."), this, &WorkbenchWindow::editSources);
+    m_recent = file->addMenu(tr("R&ecent sources"));
+    m_recent->setObjectName(QStringLiteral("recentSources"));
+    connect(m_recent, &QMenu::aboutToShow, this, &WorkbenchWindow::fillRecent);
+    file->addAction(tr("&Load again"), this, &WorkbenchWindow::loadAgain, QKeySequence(Qt::Key_F5));
+    file->addSeparator();
+    file->addAction(tr("Save &result as..."), this, &WorkbenchWindow::saveResultAs,
+                    QKeySequence(tr("Ctrl+S")));
+    file->addSeparator();
+    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    view->addAction(m_dock->toggleViewAction());
+}
+
+void WorkbenchWindow::createStatusBar()
+{
+    m_pointer->setObjectName(QStringLiteral("pointer"));
+    statusBar()->addPermanentWidget(m_pointer);
+}
+
+bool WorkbenchWindow::start(QString& error)
+{
+    if (!m_host->load(m_options.pluginFile)) {
+        error = m_host->errorText();
+        return false;
+    }
+    m_rulesWindow = m_host->createWindow(this);
+    setCentralWidget(m_rulesWindow);
+    watchPicture();
+    if (!m_options.templateFile.isEmpty())
+        return load(m_options, error);
+    statusBar()->showMessage(tr("Open a template to begin"));
+    return true;
+}
+
+QRtspVideoWnd* WorkbenchWindow::videoSurface() const
+{
+    return m_rulesWindow ? m_rulesWindow->findChild<QRtspVideoWnd*>() : nullptr;
+}
+
+void WorkbenchWindow::watchPicture()
+{
+    if (QRtspVideoWnd* surface = videoSurface())
+        connect(surface, &QRtspVideoWnd::SignalMoveEvent, this, &WorkbenchWindow::showPointer);
+}
+
+bool WorkbenchWindow::load(const WorkbenchOptions& options, QString& error)
+{
+    const QString block = ParameterBlock::build(options, error);
+    if (block.isEmpty())
+        return false;
+    m_options = options;
+    emit sgnLoad();
+    m_book.addRecent(SourceBook::absolute(m_options.source));
+    applySources();
+    statusBar()->clearMessage();
+    m_host->open(block);
+    return true;
+}
+
+void WorkbenchWindow::openTemplate()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open template"),
+                                                      m_options.templateFile, jsonFilter());
+    if (path.isEmpty())
+        return;
+    WorkbenchOptions options = m_options;
+    options.templateFile = path;
+    options.configFile.clear();
+    loadOrReport(options);
+}
+
+void WorkbenchWindow::openConfiguration()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open configuration"),
+                                                      m_options.configFile, jsonFilter());
+    if (path.isEmpty())
+        return;
+    WorkbenchOptions options = m_options;
+    options.configFile = path;
+    loadOrReport(options);
+}
+
+void WorkbenchWindow::openPicture()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open picture or video"), {},
+        tr("Pictures and videos (*.png *.jpg *.jpeg *.bmp *.mp4 *.mkv *.avi *.ts *.mjpeg *.h264 "
+           "*.h265);;All files (*)"));
+    if (!path.isEmpty())
+        showSource(path);
+}
+
+void WorkbenchWindow::keepSources(const QString& file)
+{
+    m_book.keepIn(file);
+    m_book.overlay(m_options.channelSources);
+}
+
+void WorkbenchWindow::editSources()
+{
+    const SourceBook::Addresses before = sources();
+    SourcesDialog dialog(before, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const SourceBook::Addresses now = dialog.addresses();
+    for (auto i = now.begin(); i != now.end(); ++i) {
+        if (before.value(i.key()) != i.value())
+            m_book.addRecent(i.value());
+    }
+    m_book.setAddresses(now);
+    m_options.source.clear();
+    applySources();
+}
+
+void WorkbenchWindow::fillRecent()
+{
+    m_recent->clear();
+    m_recent->addAction(tr("Sample camera"), this, [this]() { showSource(kSampleCamera); });
+    m_recent->addSeparator();
+    for (const QString& source : m_book.recent()) {
+        if (source == kSampleCamera)
+            continue;
+        QString text = UICommonMdl::maskedAddress(source);
+        text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        m_recent->addAction(text, this, [this, source]() { showSource(source); });
+    }
+}
+
+void WorkbenchWindow::showSource(const QString& source)
+{
+    m_options.source = source;
+    m_book.addRecent(source);
+    applySources();
+}
+
+SourceBook::Addresses WorkbenchWindow::sources() const
+{
+    SourceBook::Addresses addresses = m_book.addresses();
+    if (!m_options.source.isEmpty())
+        addresses.insert(m_options.channelId, m_options.source);
+    return addresses;
+}
+
+void WorkbenchWindow::applySources()
+{
+    KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance().setAddresses(sources());
+}
+
+void WorkbenchWindow::loadAgain()
+{
+    loadOrReport(m_options);
+}
+
+void WorkbenchWindow::loadOrReport(const WorkbenchOptions& options)
+{
+    QString error;
+    if (options.templateFile.isEmpty())
+        report(tr("Open a template first"));
+    else if (!load(options, error))
+        report(error);
+}
+
+void WorkbenchWindow::report(const QString& error)
+{
+    QMessageBox box(QMessageBox::Warning, windowTitle(), UICommonMdl::maskedAddress(error),
+                    QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void WorkbenchWindow::saveResultAs()
+{
+    if (m_lastResult.isEmpty()) {
+        report(tr("Nothing has been saved in the rules window yet"));
+        return;
+    }
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save result"), m_options.resultFile, jsonFilter());
+    QString error;
+    if (!path.isEmpty() && !DocumentFile::write(path, m_lastResult, error))
+        report(error);
+}
+
+void WorkbenchWindow::takeMessage(const MessageRecord& message)
+{
+    m_dock->add(message);
+    if (message.direction == MessageRecord::Direction::FromModule && message.id == kRulesResult)
+        takeResult(message.p2);
+    emit sgnMessage(message);
+}
+
+void WorkbenchWindow::takeResult(const QString& result)
+{
+    m_lastResult = result;
+    kql::Json::Value object;
+    kql::Json::Reader().parse(result, object);
+    m_exited = qAsConst(object)["result"].asInt() < 0;
+    m_resultError.clear();
+    if (!m_options.resultFile.isEmpty())
+        DocumentFile::write(m_options.resultFile, result, m_resultError);
+    m_resultError = UICommonMdl::maskedAddress(m_resultError);
+    statusBar()->showMessage(!m_resultError.isEmpty() ? m_resultError
+                             : m_exited               ? tr("Left without saving")
+                                                      : tr("Saved"));
+    if (!m_exited)
+        return;
+    m_host->close();
+    if (!m_replaying)
+        close();
+}
+
+void WorkbenchWindow::showPointer(const QMouseEvent* event)
+{
+    const QRect picture = videoSurface()->paneRect(0);
+    if (picture.isEmpty())
+        return;
+    m_pointer->setText(tr("%1, %2 px   %3, %4 of %5")
+                           .arg(event->pos().x())
+                           .arg(event->pos().y())
+                           .arg(event->pos().x() * kNormalizedExtent / picture.width())
+                           .arg(event->pos().y() * kNormalizedExtent / picture.height())
+                           .arg(kNormalizedExtent));
+}
+
+bool WorkbenchWindow::saveScreenshot(const QString& path)
+{
+    return grab().save(path);
+}
+
+void WorkbenchWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_options.screenshotFile.isEmpty() && !m_replaying)
+        saveScreenshot(m_options.screenshotFile);
+    m_host->close();
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "workbench/sourcebook.h"
+#include "workbench/workbenchoptions.h"
+
+#include <QMainWindow>
+
+struct MessageRecord;
+class MessageDock;
+class ModuleHost;
+class QLabel;
+class QMenu;
+class QMouseEvent;
+class QRtspVideoWnd;
+
+/**
+ * The workbench's window: a host around one rules window, with menus for the documents, a dock of
+ * messages and the pointer's position over the picture.
+ */
+class WorkbenchWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit WorkbenchWindow(const WorkbenchOptions& options, QWidget* parent = nullptr);
+    ~WorkbenchWindow() override;
+
+    /// Sources are kept in @p file from run to run; without this they end with the window.
+    void keepSources(const QString& file);
+    /// Loads the plug-in and the documents that the options name; false with one line in
+    /// @p error.
+    bool start(QString& error);
+    /// Loads what @p options name into the window; false with one line in @p error.
+    bool load(const WorkbenchOptions& options, QString& error);
+
+    const WorkbenchOptions& options() const { return m_options; }
+    QWidget* rulesWindow() const { return m_rulesWindow; }
+    /// The picture in the rules window; null before start().
+    QRtspVideoWnd* videoSurface() const;
+    ModuleHost& moduleHost() { return *m_host; }
+
+    /// A session runs: an exit without saving leaves the window open, file errors open no boxes.
+    void setReplaying(bool replaying) { m_replaying = replaying; }
+    /// Whether the last result said that the operator left without saving.
+    bool wasExited() const { return m_exited; }
+    /// What went wrong with writing the result file; empty when nothing did.
+    const QString& resultError() const { return m_resultError; }
+    bool saveScreenshot(const QString& path);
+
+signals:
+    /// options() are the new ones; the rules window does not show them yet.
+    void sgnLoad();
+    void sgnMessage(const MessageRecord& message);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void createMenus();
+    void createStatusBar();
+    void watchPicture();
+    void openTemplate();
+    void openConfiguration();
+    void openPicture();
+    void editSources();
+    void fillRecent();
+    void showSource(const QString& source);
+    SourceBook::Addresses sources() const;
+    void applySources();
+    void loadAgain();
+    void saveResultAs();
+    void loadOrReport(const WorkbenchOptions& options);
+    void report(const QString& error);
+    void takeMessage(const MessageRecord& message);
+    void takeResult(const QString& result);
+    void showPointer(const QMouseEvent* event);
+
+    WorkbenchOptions m_options;
+    SourceBook m_book;
+    ModuleHost* m_host;
+    MessageDock* m_dock;
+    QLabel* m_pointer;
+    QMenu* m_recent = nullptr;
+    QWidget* m_rulesWindow = nullptr; ///< the central widget once started
+    QString m_lastResult;
+    QString m_resultError;
+    bool m_replaying = false;
+    bool m_exited = false;
+};
