@@ -2,8 +2,10 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <list>
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -15,30 +17,76 @@ namespace
 
 constexpr std::chrono::seconds kPatience{3};
 
-struct Count {
-    std::mutex mutex;
-    std::condition_variable changed;
-    int running = 0;
-
-    void add(int difference)
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        running += difference;
-        changed.notify_all();
-    }
+/// One started thread; joined when its task is done, so that what it kept for itself is gone too.
+struct Running {
+    std::thread thread;
+    bool isDone = false;
 };
 
-/// Never destroyed: a thread that is stuck in the system may outlast main().
-Count& count()
+class Registry
 {
-    static auto* const instance = new Count;
-    return *instance;
-}
+public:
+    /// Never destroyed: a thread that is stuck in the system may outlast main().
+    static Registry& instance()
+    {
+        static auto* const registry = new Registry;
+        return *registry;
+    }
+
+    bool start(std::function<void()> task)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        joinDone();
+        Running& running = m_running.emplace_back();
+        try {
+            running.thread = std::thread([this, &running, run = std::move(task)]() mutable {
+                run();
+                run = nullptr;
+                markDone(running);
+            });
+        } catch (const std::system_error&) {
+            m_running.pop_back();
+            return false;
+        }
+        return true;
+    }
+
+    void waitForAll()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait_for(lock, kPatience, [this]() {
+            return std::all_of(m_running.cbegin(), m_running.cend(),
+                               [](const Running& running) { return running.isDone; });
+        });
+        joinDone();
+    }
+
+private:
+    void markDone(Running& running)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        running.isDone = true;
+        m_changed.notify_all();
+    }
+
+    /// The mutex is held; a thread that is marked does not take it any more.
+    void joinDone()
+    {
+        m_running.remove_if([](Running& running) {
+            if (running.isDone)
+                running.thread.join();
+            return running.isDone;
+        });
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::list<Running> m_running;
+};
 
 void waitForAll()
 {
-    std::unique_lock<std::mutex> lock(count().mutex);
-    count().changed.wait_for(lock, kPatience, []() { return count().running == 0; });
+    Registry::instance().waitForAll();
 }
 
 } // namespace
@@ -47,18 +95,7 @@ bool StreamThreads::start(std::function<void()> task)
 {
     static std::once_flag once;
     std::call_once(once, []() { qAddPostRoutine(&waitForAll); });
-    count().add(1);
-    try {
-        std::thread([run = std::move(task)]() mutable {
-            run();
-            run = nullptr;
-            count().add(-1);
-        }).detach();
-    } catch (const std::system_error&) {
-        count().add(-1);
-        return false;
-    }
-    return true;
+    return Registry::instance().start(std::move(task));
 }
 
 } // namespace UICommonMdl
