@@ -129,8 +129,7 @@ void AreaWriter::writeStaffs(const Pass& pass) const
 Value AreaWriter::drawnStaffs(const Pass& pass, const Value& prototype) const
 {
     Value staffs(kql::Json::ValueType::Array);
-    const auto figures = m_writer.figures().of(pass.entry.id());
-    for (const DrawItem* figure : figures) {
+    for (const auto& [id, figure] : m_writer.figures().of(pass.entry.id())) {
         for (const CalibrateStaffs::Kind& kind : m_kinds) {
             const bool isOfKind = figure->drawType() == kind.staff->drawType();
             const auto points = isOfKind ? figure->getPoints() : QVector<QPoint>();
@@ -185,7 +184,7 @@ Value AreaWriter::staffLength(const Pass& pass, const CalibrateStaffs::Kind& kin
 
 } // namespace
 
-void CalibrateAreaWriter::writeCalibrateAreaData(const CalibrateAreaData& data,
+bool CalibrateAreaWriter::writeCalibrateAreaData(const CalibrateAreaData& data,
                                                  const WriteContext& context, Value& document)
 {
     EntryTarget target(document, data.getTemplate()->parent());
@@ -197,5 +196,5 @@ void CalibrateAreaWriter::writeCalibrateAreaData(const CalibrateAreaData& data,
         writer.write(*entry, json);
         entries.push_back(std::move(json));
     }
-    target.put(std::move(entries));
+    return target.put(std::move(entries));
 }

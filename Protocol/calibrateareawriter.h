@@ -10,11 +10,11 @@ class Value;
 }
 } // namespace kql
 
-/// Writes calibrate areas and their staffs.
+/// Writes calibrate areas and their staffs. False when there is no place for them.
 namespace CalibrateAreaWriter
 {
 
-void writeCalibrateAreaData(const CalibrateAreaData& data, const WriteContext& context,
+bool writeCalibrateAreaData(const CalibrateAreaData& data, const WriteContext& context,
                             kql::Json::Value& document);
 
 } // namespace CalibrateAreaWriter

@@ -19,7 +19,7 @@ constexpr SceneType kOrder[] = {
     SceneType::Rules,  SceneType::Lanes,         SceneType::Detection,
 };
 
-void writeScene(const RuleData& data, const WriteContext& context, kql::Json::Value& document)
+bool writeScene(const RuleData& data, const WriteContext& context, kql::Json::Value& document)
 {
     switch (data.getSceneType()) {
     case SceneType::CalibrateArea:
@@ -37,8 +37,9 @@ void writeScene(const RuleData& data, const WriteContext& context, kql::Json::Va
     case SceneType::Detection:
         return DetectionWriter::writeDetection(data, context, document);
     case SceneType::None:
-        return;
+        return true;
     }
+    return true;
 }
 
 } // namespace
@@ -55,13 +56,14 @@ void ConfigWriter::setAlgorithmInfo(int id, const QString& name)
     m_algorithmName = name;
 }
 
-void ConfigWriter::write(kql::Json::Value& config) const
+const RuleData* ConfigWriter::write(kql::Json::Value& config) const
 {
     const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
     for (const SceneType type : kOrder) {
         for (const auto& scene : m_scenes) {
-            if (scene->getSceneType() == type)
-                writeScene(*scene, context, config);
+            if (scene->getSceneType() == type && !writeScene(*scene, context, config))
+                return scene.get();
         }
     }
+    return nullptr;
 }

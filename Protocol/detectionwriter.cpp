@@ -70,7 +70,7 @@ Value writePoints(const RuleData& data, const EntryWriter& writer, const RuleDat
 
 } // namespace
 
-void DetectionWriter::writeDetection(const RuleData& data, const WriteContext& context,
+bool DetectionWriter::writeDetection(const RuleData& data, const WriteContext& context,
                                      Value& document)
 {
     EntryTarget target(document, data.getTemplate()->parent());
@@ -88,7 +88,6 @@ void DetectionWriter::writeDetection(const RuleData& data, const WriteContext& c
         }
     }
     if (entries.size() == 1 && shapes.isBare(*data.getAllData().front()))
-        target.replace(std::move(entries.front()));
-    else
-        target.put(std::move(entries));
+        return target.replace(std::move(entries.front()));
+    return target.put(std::move(entries));
 }

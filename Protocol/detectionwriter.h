@@ -11,9 +11,10 @@ class Value;
 } // namespace kql
 
 /// Writes detection areas, each in the shape that it was read in; new ones in the skeleton's.
+/// False when there is no place for them.
 namespace DetectionWriter
 {
 
-void writeDetection(const RuleData& data, const WriteContext& context, kql::Json::Value& document);
+bool writeDetection(const RuleData& data, const WriteContext& context, kql::Json::Value& document);
 
 } // namespace DetectionWriter

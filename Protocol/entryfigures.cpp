@@ -2,25 +2,23 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruleprotocolitem.h"
-#include "draw/drawitem.h"
 #include "draw/drawscene.h"
 
-EntryFigures::EntryFigures(const RuleData& data) : m_template(*data.getTemplate())
+EntryFigures::EntryFigures(const RuleData& data)
+    : m_template(*data.getTemplate()), m_scene(*data.getDrawScene())
 {
-    const auto items = data.getDrawScene()->getItemList(BaseDrawType::None, 0);
-    for (const DrawItem* item : items)
-        m_figures[item->dataId()].append(item);
+}
+
+DrawItemRange EntryFigures::of(int dataId) const
+{
+    return m_scene.itemsOf(dataId);
 }
 
 EntryFigures::Figures EntryFigures::of(int dataId, const RuleProtocolItem& item) const
 {
     Figures matching;
-    const auto found = m_figures.constFind(dataId);
-    if (found == m_figures.constEnd())
-        return matching;
-    for (const DrawItem* figure : *found) {
-        if (m_template.isFigureFor(*figure, item))
+    for (const auto& [id, figure] : of(dataId)) {
+        if (isFor(*figure, item))
             matching.append(figure);
     }
     return matching;
@@ -28,12 +26,14 @@ EntryFigures::Figures EntryFigures::of(int dataId, const RuleProtocolItem& item)
 
 const DrawItem* EntryFigures::first(int dataId, const RuleProtocolItem& item) const
 {
-    const auto found = m_figures.constFind(dataId);
-    if (found == m_figures.constEnd())
-        return nullptr;
-    for (const DrawItem* figure : *found) {
-        if (m_template.isFigureFor(*figure, item))
+    for (const auto& [id, figure] : of(dataId)) {
+        if (isFor(*figure, item))
             return figure;
     }
     return nullptr;
+}
+
+bool EntryFigures::isFor(const DrawItem& figure, const RuleProtocolItem& item) const
+{
+    return m_template.isFigureFor(figure, item);
 }

@@ -1,15 +1,16 @@
 #pragma once
 
-#include <QHash>
-#include <QPoint>
+#include "draw/drawitemrange.h"
+
 #include <QVector>
 
 class DataTemplate;
 class DrawItem;
+class DrawScene;
 class RuleData;
 class RuleProtocolItem;
 
-/// A scene's figures by the entry that they belong to, listed once for writing all entries.
+/// A scene's figures by the entry that they belong to.
 class EntryFigures
 {
 public:
@@ -19,13 +20,15 @@ public:
     explicit EntryFigures(const RuleData& data);
 
     /// The figures of the entry @p dataId in the scene's order.
-    Figures of(int dataId) const { return m_figures.value(dataId); }
+    DrawItemRange of(int dataId) const;
     /// Those that the entry has for @p item.
     Figures of(int dataId, const RuleProtocolItem& item) const;
     /// The first of them; null when there is none.
     const DrawItem* first(int dataId, const RuleProtocolItem& item) const;
+    /// Whether @p figure was read or drawn for @p item.
+    bool isFor(const DrawItem& figure, const RuleProtocolItem& item) const;
 
 private:
     const DataTemplate& m_template;
-    QHash<int, Figures> m_figures;
+    const DrawScene& m_scene;
 };

@@ -4,12 +4,14 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/validity.h"
 #include "Protocol/valueconversion.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "host/value.h"
+
+#include <algorithm>
 
 using kql::Json::Value;
 
@@ -24,18 +26,33 @@ QVector<QPoint> directionPoints(const Value& json)
 
 } // namespace
 
-EntryReader::EntryReader(RuleData& data, const QString& section) : m_figures(data)
+EntryReader::EntryReader(RuleData& data, const QString& section, const EntryReader* before)
+    : m_blank(before ? before->m_blank : data.defaults()), m_figures(data)
 {
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
-            m_items.push_back(item.get());
+            m_sources.push_back({item.get(), EntryKey(item->key())});
     }
+    makeBlank(data);
+}
+
+void EntryReader::makeBlank(const RuleData& data)
+{
+    for (const Source& source : m_sources) {
+        if (source.item->isFigure())
+            continue;
+        m_blank.setValue(source.key, QVariant());
+        ++m_controlCount;
+    }
+    Validity::update(*data.getTemplate(), m_blank);
+    m_blank.shareValues();
 }
 
 void EntryReader::read(const Value& json, RuleDataInfo& entry, const DrawItem* parent) const
 {
-    for (const RuleProtocolItem* item : m_items)
-        parseJsonToDataItem(*item, json, entry, parent);
+    entry.takeCommonValues(m_blank, std::min(m_controlCount, json.size()));
+    for (const Source& source : m_sources)
+        parseJsonToDataItem(source, json, entry, parent);
 }
 
 void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawItem* parent) const
@@ -46,15 +63,23 @@ void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawIte
         entry.setEnabled(enabled->asBool());
 }
 
-void EntryReader::parseJsonToDataItem(const RuleProtocolItem& item, const Value& json,
-                                      RuleDataInfo& entry, const DrawItem* parent) const
+void EntryReader::parseJsonToDataItem(const Source& source, const Value& json, RuleDataInfo& entry,
+                                      const DrawItem* parent) const
 {
+    const RuleProtocolItem& item = *source.item;
     const Value* found = item.path().readPath(json);
     if (!item.isFigure())
-        entry.setValue(item.key(),
-                       found ? ValueConversion::parseJsonToValue(*found, item) : QVariant());
+        entry.setValue(source.key, found ? parseValue(item, *found) : QVariant());
     else if (found && found->isArray())
         addFigure(item, json, PointConversion::toPoints(*found), entry, parent);
+}
+
+QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& found) const
+{
+    QVariant value = ValueConversion::parseJsonToValue(found, item);
+    if (value.userType() == QMetaType::QString && !item.enumeration().isEmpty())
+        return *m_choices.insert(value.toString());
+    return value;
 }
 
 void EntryReader::addFigure(const RuleProtocolItem& item, const Value& json,

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "Protocol/entrykey.h"
 #include "Protocol/figurereader.h"
+#include "Protocol/ruledatainfo.h"
 
+#include <QSet>
 #include <QString>
 #include <vector>
 
 class DrawItem;
 class RuleData;
-class RuleDataInfo;
 class RuleProtocolItem;
 namespace kql
 {
@@ -25,7 +27,8 @@ class EntryReader
 {
 public:
     /// Reads the items of @p data's template that belong to @p section. Nothing is owned.
-    EntryReader(RuleData& data, const QString& section);
+    /// @p before reads other items of the same entries first.
+    EntryReader(RuleData& data, const QString& section, const EntryReader* before = nullptr);
 
     /// Reads @p json into @p entry; figures go inside @p parent when there is one.
     void read(const kql::Json::Value& json, RuleDataInfo& entry,
@@ -35,12 +38,22 @@ public:
                   const DrawItem* parent = nullptr) const;
 
 private:
-    void parseJsonToDataItem(const RuleProtocolItem& item, const kql::Json::Value& json,
+    struct Source {
+        const RuleProtocolItem* item;
+        EntryKey key;
+    };
+
+    void makeBlank(const RuleData& data);
+    void parseJsonToDataItem(const Source& source, const kql::Json::Value& json,
                              RuleDataInfo& entry, const DrawItem* parent) const;
+    QVariant parseValue(const RuleProtocolItem& item, const kql::Json::Value& found) const;
     void addFigure(const RuleProtocolItem& item, const kql::Json::Value& json,
                    const QVector<QPoint>& points, const RuleDataInfo& entry,
                    const DrawItem* parent) const;
 
-    std::vector<const RuleProtocolItem*> m_items;
+    std::vector<Source> m_sources;
+    RuleDataInfo m_blank; ///< as an entry is of which none of the items is found
+    int m_controlCount = 0;
     FigureReader m_figures;
+    mutable QSet<QString> m_choices; ///< texts of enumerations, which entries share
 };

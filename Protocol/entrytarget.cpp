@@ -2,12 +2,19 @@
 
 #include "Protocol/entrylist.h"
 
+#include <algorithm>
 #include <utility>
 
 using kql::Json::Value;
 
 namespace
 {
+
+bool holdNothing(const std::vector<Value>& entries)
+{
+    return std::all_of(entries.begin(), entries.end(),
+                       [](const Value& entry) { return entry.empty(); });
+}
 
 Value listOf(std::vector<Value> entries)
 {
@@ -29,23 +36,25 @@ const Value* EntryTarget::prototype() const
     return EntryList::object(EntryList::getJsonItemList(skeleton()), 0);
 }
 
-void EntryTarget::put(std::vector<Value> entries)
+bool EntryTarget::put(std::vector<Value> entries)
 {
     const Value* before = skeleton();
     const bool isList = before && before->isArray();
     if (entries.empty() && !isList)
-        return;
+        return true;
+    const bool isNothing = holdNothing(entries);
     const bool isObject = before && before->isObject();
     if (isObject || (!isList && m_whenMissing == WhenMissing::Object))
-        replace(std::move(entries.front()));
-    else
-        replace(listOf(std::move(entries)));
+        return replace(std::move(entries.front())) || isNothing;
+    return replace(listOf(std::move(entries))) || isNothing;
 }
 
-void EntryTarget::replace(Value value)
+bool EntryTarget::replace(Value value)
 {
-    if (Value* target = place())
+    Value* target = place();
+    if (target)
         *target = std::move(value);
+    return target;
 }
 
 Value* EntryTarget::place() const

@@ -24,10 +24,10 @@ public:
     const kql::Json::Value* prototype() const;
 
     /// Puts the entries there, the first alone where an object is the only entry. A missing
-    /// place is made.
-    void put(std::vector<kql::Json::Value> entries);
-    /// Replaces whatever is there.
-    void replace(kql::Json::Value value);
+    /// place is made; false when that cannot be done and entries would be lost.
+    bool put(std::vector<kql::Json::Value> entries);
+    /// Replaces whatever is there; false when the place cannot be made.
+    bool replace(kql::Json::Value value);
 
 private:
     kql::Json::Value* place() const;

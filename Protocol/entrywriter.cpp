@@ -4,7 +4,6 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/valueconversion.h"
 #include "draw/basedraw.h"
@@ -19,17 +18,26 @@ using kql::Json::Value;
 namespace
 {
 
-// More than any device has in one field; keeps an absurd index from filling the memory.
-constexpr int kMostElements = 1024;
-
-/// Makes room for an item that is one element of an array-valued field. The index 0 alone does
-/// not make the field an array: devices' templates give it for single values, too.
-void makeElement(Value& field, int index)
+/// Makes room in one entry for items that are elements of array-valued fields.
+class ElementMaker
 {
-    const bool isElement = field.isArray() || (field.isNull() && index > 0);
-    if (isElement && index >= 0 && index < kMostElements && field.size() <= index)
+public:
+    /// The index 0 alone does not make the field an array: devices' templates give it for single
+    /// values, too.
+    void make(Value& field, int index)
+    {
+        const bool isElement = field.isArray() || (field.isNull() && index > 0);
+        if (!isElement || index < field.size() || index - field.size() >= m_room)
+            return;
+        m_room -= index - field.size() + 1;
         field[index] = Value();
-}
+    }
+
+private:
+    // More than any device has in the fields of an entry; keeps absurd indexes, of which a
+    // template may give many, from filling the memory.
+    int m_room = 1024;
+};
 
 void writePointToJson(const QVector<QPoint>& points, const JsonPath& path, Value& json)
 {
@@ -44,13 +52,14 @@ struct EntryWriter::Pass {
     const RuleDataInfo& entry;
     const Value* asRead;
     Value& json;
+    ElementMaker& elements;
 };
 
 EntryWriter::EntryWriter(const RuleData& data, const QString& section) : m_figures(data)
 {
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
-            m_targets.push_back({item.get(), false});
+            m_targets.push_back({item.get(), EntryKey(item->key()), false});
     }
     markSharedPlaces();
 }
@@ -67,10 +76,11 @@ void EntryWriter::markSharedPlaces()
 Value EntryWriter::emptyEntry() const
 {
     Value entry(kql::Json::ValueType::Object);
+    ElementMaker elements;
     for (const Target& target : m_targets) {
         Value* field = target.item->path().create(entry);
         if (field && !target.item->isFigure())
-            makeElement(*field, target.item->index());
+            elements.make(*field, target.item->index());
         if (target.item->drawType() == BaseDrawType::Parallelogram)
             ConfigMember::directionPath().create(entry);
     }
@@ -79,38 +89,40 @@ Value EntryWriter::emptyEntry() const
 
 void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& json) const
 {
-    const Pass pass{entry, asRead, json};
+    ElementMaker elements;
+    const Pass pass{entry, asRead, json, elements};
     // What does not apply goes first, so that the row that the operator sees wins.
     const auto isWrittenFirst = [&entry](const Target& target) {
-        return target.isShared && !entry.isValid(target.item->key());
+        return target.isShared && !entry.isValid(target.key);
     };
     for (const Target& target : m_targets) {
         if (isWrittenFirst(target))
-            writeItem(*target.item, pass);
+            writeItem(target, pass);
     }
     for (const Target& target : m_targets) {
         if (!isWrittenFirst(target))
-            writeItem(*target.item, pass);
+            writeItem(target, pass);
     }
 }
 
-void EntryWriter::writeItem(const RuleProtocolItem& item, const Pass& pass) const
+void EntryWriter::writeItem(const Target& target, const Pass& pass) const
 {
-    if (item.isFigure())
-        writeFigure(item, pass);
+    if (target.item->isFigure())
+        writeFigure(*target.item, pass);
     else
-        writeValueToJson(item, pass);
+        writeValueToJson(target, pass);
 }
 
-void EntryWriter::writeValueToJson(const RuleProtocolItem& item, const Pass& pass) const
+void EntryWriter::writeValueToJson(const Target& source, const Pass& pass)
 {
-    const QVariant value = pass.entry.value(item.key());
+    const RuleProtocolItem& item = *source.item;
+    const QVariant& value = pass.entry.value(source.key);
     const bool needsSource =
         pass.asRead && (item.valueType() == ValueType::Float || item.index() >= 0);
     const Value* asRead = needsSource ? item.path().probe(*pass.asRead) : nullptr;
     if (Value* target = item.path().readPath(pass.json)) {
         if (item.index() >= 0 && target->isNull() && asRead && asRead->isArray())
-            makeElement(*target = Value(kql::Json::ValueType::Array), item.index());
+            pass.elements.make(*target = Value(kql::Json::ValueType::Array), item.index());
         ValueConversion::toJson(value, item, *target, asRead);
         return;
     }

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "Protocol/entryfigures.h"
+#include "Protocol/entrykey.h"
 #include "host/value.h"
 
 #include <QString>
 #include <vector>
 
 class RuleData;
-class RuleDataInfo;
 class RuleProtocolItem;
 
 /**
@@ -32,13 +32,14 @@ public:
 private:
     struct Target {
         const RuleProtocolItem* item;
+        EntryKey key;
         bool isShared; ///< another item writes to the same place
     };
     struct Pass;
 
     void markSharedPlaces();
-    void writeItem(const RuleProtocolItem& item, const Pass& pass) const;
-    void writeValueToJson(const RuleProtocolItem& item, const Pass& pass) const;
+    void writeItem(const Target& target, const Pass& pass) const;
+    static void writeValueToJson(const Target& source, const Pass& pass);
     void writeFigure(const RuleProtocolItem& item, const Pass& pass) const;
 
     std::vector<Target> m_targets;

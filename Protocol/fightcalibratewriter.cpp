@@ -54,7 +54,7 @@ void writeRects(const FightCalibrateData& data, const EntryFigures& figures, int
 
 } // namespace
 
-void FightCalibrateWriter::writeFightCalibrate(const FightCalibrateData& data, Value& document)
+bool FightCalibrateWriter::writeFightCalibrate(const FightCalibrateData& data, Value& document)
 {
     EntryTarget target(document, data.getTemplate()->parent());
     const EntryWriter writer(data, data.getTemplate()->name());
@@ -66,5 +66,5 @@ void FightCalibrateWriter::writeFightCalibrate(const FightCalibrateData& data, V
         writeRects(data, writer.figures(), entry->id(), json);
         entries.push_back(std::move(json));
     }
-    target.put(std::move(entries));
+    return target.put(std::move(entries));
 }

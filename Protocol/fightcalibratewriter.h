@@ -9,10 +9,10 @@ class Value;
 }
 } // namespace kql
 
-/// Writes calibrate areas and the rectangles inside them.
+/// Writes calibrate areas and the rectangles inside them. False when there is no place for them.
 namespace FightCalibrateWriter
 {
 
-void writeFightCalibrate(const FightCalibrateData& data, kql::Json::Value& document);
+bool writeFightCalibrate(const FightCalibrateData& data, kql::Json::Value& document);
 
 } // namespace FightCalibrateWriter

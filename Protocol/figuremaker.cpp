@@ -11,6 +11,8 @@ namespace
 
 EdgeLabelMode edgeLabelMode(const RuleData& data, const RuleProtocolItem& item)
 {
+    if (data.getSceneType() != SceneType::CalibrateArea)
+        return EdgeLabelMode::Name;
     const auto* const area = dynamic_cast<const CalibrateAreaTemplate*>(data.getTemplate());
     if (!area || &item != area->regionItem())
         return EdgeLabelMode::Name;

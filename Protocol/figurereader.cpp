@@ -24,10 +24,7 @@ DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& en
     if (!drawItem || !drawItem->figure())
         return nullptr;
     drawItem->setLabel(label);
-    BaseDraw& figure = *drawItem->figure();
-    for (const QPoint& point : points)
-        figure.appendPoint(point);
-    figure.setFinished(true);
+    drawItem->figure()->setFinishedPoints(points);
     return m_data.getDrawScene()->addItem(std::move(drawItem),
                                           parent ? parent->itemId() : kNoParent);
 }

@@ -31,7 +31,7 @@ public:
         : m_data(data),
           m_rules(*data.lanesTemplate(), document),
           m_laneReader(data, data.lanesTemplate()->name()),
-          m_ruleReader(data, ConfigMember::kRuleSection)
+          m_ruleReader(data, ConfigMember::kRuleSection, &m_laneReader)
     {
     }
 

@@ -48,7 +48,7 @@ void writeLines(const LanesData& data, const EntryFigures& figures, int dataId, 
     json[ConfigMember::kRightLine] = PointConversion::toJson(points.mid(kLinePoints));
 }
 
-void writeLaneList(const LanesData& data, Value& document)
+bool writeLaneList(const LanesData& data, Value& document)
 {
     EntryTarget target(document, data.getTemplate()->parent());
     const EntryWriter writer(data, data.getTemplate()->name());
@@ -60,10 +60,10 @@ void writeLaneList(const LanesData& data, Value& document)
         writer.write(*entry, nullptr, json);
         entries.push_back(std::move(json));
     }
-    target.put(std::move(entries));
+    return target.put(std::move(entries));
 }
 
-void writeRules(const LanesData& data, const WriteContext& context, Value& document)
+bool writeRules(const LanesData& data, const WriteContext& context, Value& document)
 {
     EntryTarget target(document, data.lanesTemplate()->rulesParent());
     const EntryWriter writer(data, ConfigMember::kRuleSection);
@@ -79,14 +79,13 @@ void writeRules(const LanesData& data, const WriteContext& context, Value& docum
     }
     for (const Value* rule : rules.unpaired())
         entries.push_back(*rule);
-    target.put(std::move(entries));
+    return target.put(std::move(entries));
 }
 
 } // namespace
 
-void LanesWriter::writeLanes(const LanesData& data, const WriteContext& context, Value& document)
+bool LanesWriter::writeLanes(const LanesData& data, const WriteContext& context, Value& document)
 {
-    writeLaneList(data, document);
-    if (data.lanesTemplate()->hasRuleItems())
-        writeRules(data, context, document);
+    return writeLaneList(data, document) &&
+           (!data.lanesTemplate()->hasRuleItems() || writeRules(data, context, document));
 }

@@ -10,10 +10,11 @@ class Value;
 }
 } // namespace kql
 
-/// Writes lanes, and their rules where these are edited per lane.
+/// Writes lanes, and their rules where these are edited per lane. False when there is no
+/// place for them.
 namespace LanesWriter
 {
 
-void writeLanes(const LanesData& data, const WriteContext& context, kql::Json::Value& document);
+bool writeLanes(const LanesData& data, const WriteContext& context, kql::Json::Value& document);
 
 } // namespace LanesWriter

@@ -31,9 +31,14 @@ QVector<QPoint> PointConversion::toPoints(const Value& list)
     if (!list.isArray())
         return points;
     points.reserve(list.size());
-    for (int i = 0; i < list.size(); ++i) {
-        if (isPoint(list[i]))
-            points.append(toPoint(list[i]));
+    for (int i = 0, count = list.size(); i < count; ++i) {
+        const Value& pair = list[i];
+        if (!pair.isArray() || pair.size() != 2)
+            continue;
+        const Value& x = pair[0];
+        const Value& y = pair[1];
+        if (x.isNumeric() && y.isNumeric())
+            points.append({x.asInt(), y.asInt()});
     }
     return points;
 }

@@ -2,13 +2,15 @@
 
 #include "Protocol/controlrow.h"
 #include "Protocol/datatemplate.h"
+#include "Protocol/entryfigures.h"
+#include "Protocol/entrykey.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/valuecompare.h"
 #include "draw/drawitem.h"
 
 #include <QSize>
+#include <vector>
 
 namespace
 {
@@ -51,23 +53,9 @@ Failure checkRange(const RuleProtocolItem& item)
     return {};
 }
 
-Failure checkFinished(const QList<DrawItem*>& figures)
+QString wrongFigureCount(const RuleProtocolItem& item)
 {
-    for (const DrawItem* const figure : figures) {
-        if (!figure->isFinished())
-            return RuleData::tr("Please finish drawing %1.").arg(figure->label());
-    }
-    return {};
-}
-
-Failure checkFigures(const RuleData& data, const RuleDataInfo& entry, const RuleProtocolItem& item)
-{
-    const QList<DrawItem*> figures = data.figuresOf(entry.id(), item);
     const CountRange range = item.countRange();
-    if (range.contains(figures.size()))
-        return checkFinished(figures);
-    if (range == kAnyNumber)
-        return {};
     const QString minimum = QString::number(range.min);
     if (range.min == range.max)
         return RuleData::tr("Please draw %1 %2.").arg(minimum, item.caption());
@@ -91,36 +79,91 @@ QString reasonText(CheckRuleOperatorType operatorType)
     }
 }
 
-Failure checkRule(const DataTemplate& dataTemplate, const RuleDataInfo& entry,
-                  const CheckRule& rule)
+/// Checks one entry after another; what is the same for all is looked up once.
+class EntryCheck
 {
-    const RuleProtocolItem* const first = dataTemplate.findItem(rule.firstKey);
-    const RuleProtocolItem* const second = dataTemplate.findItem(rule.secondKey);
-    if (!first || !second || !entry.isValid(rule.firstKey) || !entry.isValid(rule.secondKey))
-        return {};
-    const QVariant firstValue = entry.value(rule.firstKey);
-    const QVariant secondValue = entry.value(rule.secondKey);
-    if (!firstValue.isValid() || !secondValue.isValid())
-        return {};
-    if (ValueCompare::holds(firstValue, rule.operatorType, secondValue))
-        return {};
-    return RuleData::tr("%1 must be %2 to %3")
-        .arg(first->caption(), reasonText(rule.operatorType), second->caption());
+public:
+    explicit EntryCheck(const RuleData& data);
+
+    Failure firstFailure(const RuleDataInfo& entry) const;
+
+private:
+    struct Comparison {
+        const RuleProtocolItem* first;
+        const RuleProtocolItem* second;
+        CheckRuleOperatorType operatorType;
+        EntryKey firstKey;
+        EntryKey secondKey;
+    };
+
+    Failure checkFigures(const RuleDataInfo& entry, const RuleProtocolItem& item) const;
+    static Failure compare(const RuleDataInfo& entry, const Comparison& comparison);
+
+    EntryFigures m_figures;
+    std::vector<const RuleProtocolItem*> m_items; ///< those that there is something to check of
+    std::vector<Comparison> m_comparisons;
+};
+
+EntryCheck::EntryCheck(const RuleData& data) : m_figures(data)
+{
+    const DataTemplate& dataTemplate = *data.getTemplate();
+    for (const auto& item : dataTemplate.items()) {
+        if (item->isFigure() || item->valueType() == ValueType::ArrayInt)
+            m_items.push_back(item.get());
+    }
+    for (const CheckRule& rule : dataTemplate.checkRules()) {
+        const RuleProtocolItem* const first = dataTemplate.findItem(rule.firstKey);
+        const RuleProtocolItem* const second = dataTemplate.findItem(rule.secondKey);
+        if (first && second)
+            m_comparisons.push_back({first, second, rule.operatorType, EntryKey(rule.firstKey),
+                                     EntryKey(rule.secondKey)});
+    }
 }
 
-Failure checkEntry(const RuleData& data, const RuleDataInfo& entry)
+Failure EntryCheck::firstFailure(const RuleDataInfo& entry) const
 {
-    for (const auto& item : data.getTemplate()->items()) {
-        const Failure failure =
-            item->isFigure() ? checkFigures(data, entry, *item) : checkRange(*item);
+    for (const RuleProtocolItem* const item : m_items) {
+        Failure failure = item->isFigure() ? checkFigures(entry, *item) : checkRange(*item);
         if (failure)
             return failure;
     }
-    for (const CheckRule& rule : data.getTemplate()->checkRules()) {
-        if (const Failure failure = checkRule(*data.getTemplate(), entry, rule))
+    for (const Comparison& comparison : m_comparisons) {
+        if (Failure failure = compare(entry, comparison))
             return failure;
     }
     return {};
+}
+
+Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolItem& item) const
+{
+    int count = 0;
+    const DrawItem* unfinished = nullptr;
+    for (const auto& [id, figure] : m_figures.of(entry.id())) {
+        if (!m_figures.isFor(*figure, item))
+            continue;
+        ++count;
+        if (!unfinished && !figure->isFinished())
+            unfinished = figure;
+    }
+    if (!item.countRange().contains(count))
+        return item.countRange() == kAnyNumber ? Failure() : wrongFigureCount(item);
+    if (unfinished)
+        return RuleData::tr("Please finish drawing %1.").arg(unfinished->label());
+    return {};
+}
+
+Failure EntryCheck::compare(const RuleDataInfo& entry, const Comparison& comparison)
+{
+    if (!entry.isValid(comparison.firstKey) || !entry.isValid(comparison.secondKey))
+        return {};
+    const QVariant& first = entry.value(comparison.firstKey);
+    const QVariant& second = entry.value(comparison.secondKey);
+    if (!first.isValid() || !second.isValid() ||
+        ValueCompare::holds(first, comparison.operatorType, second))
+        return {};
+    return RuleData::tr("%1 must be %2 to %3")
+        .arg(comparison.first->caption(), reasonText(comparison.operatorType),
+             comparison.second->caption());
 }
 
 } // namespace
@@ -129,8 +172,9 @@ Failure RuleCheck::firstFailure(const RuleData& data)
 {
     if (const Failure failure = checkEntryCount(data))
         return failure;
+    const EntryCheck check(data);
     for (const auto& entry : data.getAllData()) {
-        if (const Failure failure = checkEntry(data, *entry))
+        if (Failure failure = check.firstFailure(*entry))
             return failure;
     }
     return {};

@@ -35,7 +35,7 @@ void RuleData::copyFrom(const RuleData& other)
     m_entries.clear();
     for (const auto& entry : other.m_entries)
         m_entries.push_back(std::make_unique<RuleDataInfo>(*entry));
-    indexEntries();
+    m_places.clear();
     m_drawScene->copyItemsFrom(*other.m_drawScene);
     setSelectedDataId(other.m_selectedDataId);
 }
@@ -53,27 +53,28 @@ bool RuleData::checkData(QString& message) const
 void RuleData::setTemplate(std::unique_ptr<DataTemplate> dataTemplate)
 {
     m_template = std::move(dataTemplate);
-    m_prototype.reset();
+    m_defaults.reset();
 }
 
-const RuleDataInfo& RuleData::prototype() const
+const RuleDataInfo& RuleData::defaults() const
 {
-    if (!m_prototype) {
-        m_prototype = std::make_unique<RuleDataInfo>();
-        for (const auto& item : m_template->items()) {
-            if (!item->isFigure())
-                m_prototype->setValue(item->key(), item->defaultValue());
-        }
-        Validity::update(*m_template, *m_prototype);
+    if (m_defaults)
+        return *m_defaults;
+    m_defaults = std::make_unique<RuleDataInfo>();
+    for (const auto& item : m_template->items()) {
+        if (!item->isFigure())
+            m_defaults->setValue(item->key(), item->defaultValue());
     }
-    return *m_prototype;
+    Validity::update(*m_template, *m_defaults);
+    m_defaults->shareValues();
+    return *m_defaults;
 }
 
 std::unique_ptr<RuleDataInfo> RuleData::newDataInfo() const
 {
     if (!m_template)
         return nullptr;
-    auto entry = std::make_unique<RuleDataInfo>(prototype());
+    auto entry = std::make_unique<RuleDataInfo>(defaults());
     entry->setId(RuleParser::createId());
     fillNewEntry(*entry);
     return entry;
@@ -85,15 +86,29 @@ RuleDataInfo* RuleData::addDataInfo(std::unique_ptr<RuleDataInfo> entry)
 {
     if (!entry)
         return nullptr;
-    if (indexOf(entry->id()) < 0)
-        m_positions.insert(entry->id(), getDataCount());
+    if (!m_places.empty() && m_places.back().id < entry->id())
+        m_places.push_back({entry->id(), getDataCount()});
+    else
+        m_places.clear();
+    if (!m_entries.empty())
+        entry->shareFlags(*m_entries.back());
     m_entries.push_back(std::move(entry));
     return m_entries.back().get();
 }
 
+void RuleData::reserve(std::size_t count)
+{
+    m_entries.reserve(m_entries.size() + count);
+}
+
 int RuleData::indexOf(int id) const
 {
-    return m_positions.value(id, -1);
+    if (m_places.empty())
+        findPlaces();
+    const auto place =
+        std::lower_bound(m_places.begin(), m_places.end(), id,
+                         [](const Place& one, int wanted) { return one.id < wanted; });
+    return place != m_places.end() && place->id == id ? place->position : -1;
 }
 
 RuleDataInfo* RuleData::getDataInfo(int id) const
@@ -107,18 +122,19 @@ void RuleData::removeDataInfo(int id)
     const int position = indexOf(id);
     if (position >= 0) {
         m_entries.erase(m_entries.begin() + position);
-        indexEntries();
+        m_places.clear();
     } else if (m_selectedDataId == id) {
         m_selectedDataId = 0;
     }
 }
 
-void RuleData::indexEntries()
+void RuleData::findPlaces() const
 {
-    m_positions.clear();
-    m_positions.reserve(getDataCount());
-    for (int position = getDataCount() - 1; position >= 0; --position)
-        m_positions.insert(m_entries[static_cast<std::size_t>(position)]->id(), position);
+    m_places.reserve(m_entries.size());
+    for (const auto& entry : m_entries)
+        m_places.push_back({entry->id(), static_cast<int>(m_places.size())});
+    std::stable_sort(m_places.begin(), m_places.end(),
+                     [](const Place& one, const Place& other) { return one.id < other.id; });
 }
 
 void RuleData::setSelectedDataId(int id)
@@ -133,10 +149,10 @@ QList<DrawItem*> RuleData::figuresOf(int dataId, const RuleProtocolItem& item) c
     // For the canvas an id below 1 stands for all entries.
     if (!m_template || dataId < 1 || !item.isFigure())
         return {};
-    QList<DrawItem*> figures = m_drawScene->getItemList(item.drawType(), dataId);
-    const auto isOther = [&](const DrawItem* figure) {
-        return !m_template->isFigureFor(*figure, item);
-    };
-    figures.erase(std::remove_if(figures.begin(), figures.end(), isOther), figures.end());
+    QList<DrawItem*> figures;
+    for (const auto& [id, figure] : m_drawScene->itemsOf(dataId)) {
+        if (m_template->isFigureFor(*figure, item))
+            figures.append(figure);
+    }
     return figures;
 }

@@ -3,7 +3,6 @@
 #include "Protocol/ruletypes.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QList>
 #include <QString>
 #include <memory>
@@ -47,7 +46,11 @@ public:
     /// A new entry with a fresh id and the default values, not yet in the list; null without a
     /// template. Defaults are taken from the template when the first entry is made.
     std::unique_ptr<RuleDataInfo> newDataInfo() const;
+    /// An entry of the template's default values alone, which newDataInfo() starts from.
+    const RuleDataInfo& defaults() const;
     RuleDataInfo* addDataInfo(std::unique_ptr<RuleDataInfo> entry);
+    /// Makes room for @p count entries more.
+    void reserve(std::size_t count);
     /// The entry with that id; null when there is none.
     RuleDataInfo* getDataInfo(int id) const;
     int getDataCount() const { return static_cast<int>(m_entries.size()); }
@@ -71,16 +74,21 @@ protected:
     virtual void fillNewEntry(RuleDataInfo& entry) const;
 
 private:
+    /// Where the entry with an id is in the list.
+    struct Place {
+        int id;
+        int position;
+    };
+
     void copyFrom(const RuleData& other);
-    void indexEntries();
-    const RuleDataInfo& prototype() const;
+    void findPlaces() const;
 
     SceneType m_sceneType = SceneType::None;
     std::unique_ptr<DataTemplate> m_template;
     std::unique_ptr<DrawScene> m_drawScene;
     Entries m_entries;
-    QHash<int, int> m_positions;                       ///< position of the first entry with an id
-    mutable std::unique_ptr<RuleDataInfo> m_prototype; ///< an entry of defaults, made when needed
+    mutable std::vector<Place> m_places; ///< of all entries by id; empty until one is looked for
+    mutable std::unique_ptr<RuleDataInfo> m_defaults; ///< made when needed
     int m_selectedDataId = 0;
     QString m_ruleFucTitle;
 };

@@ -1,51 +1,138 @@
 #include "Protocol/ruledatainfo.h"
 
+#include "Protocol/entrykey.h"
+
 #include <algorithm>
+
+namespace
+{
+
+const QVariant kNoValue;
+
+} // namespace
 
 void RuleDataInfo::setValue(const QString& key, const QVariant& value)
 {
-    Slot& slot = slotFor(key);
-    slot.value = value;
-    slot.hasValue = true;
+    setAt(findOrAdd(key), value);
+}
+
+void RuleDataInfo::setValue(const EntryKey& key, const QVariant& value)
+{
+    const int slot = key.slotIn(*this);
+    setAt(slot < 0 ? findOrAdd(key.text()) : slot, value);
 }
 
 QVariant RuleDataInfo::value(const QString& key) const
 {
-    const Slot* const slot = find(key);
-    return slot ? slot->value : QVariant();
+    const QVariant* const value = findAt(find(key));
+    return value ? *value : QVariant();
+}
+
+const QVariant& RuleDataInfo::value(const EntryKey& key) const
+{
+    const QVariant* const value = findAt(key.slotIn(*this));
+    return value ? *value : kNoValue;
 }
 
 bool RuleDataInfo::hasValue(const QString& key) const
 {
-    const Slot* const slot = find(key);
-    return slot && slot->hasValue;
+    return findAt(find(key)) != nullptr;
 }
 
 bool RuleDataInfo::isValid(const QString& key) const
 {
-    const Slot* const slot = find(key);
-    return !slot || slot->valid;
+    return isValidAt(find(key));
+}
+
+bool RuleDataInfo::isValid(const EntryKey& key) const
+{
+    return isValidAt(key.slotIn(*this));
 }
 
 void RuleDataInfo::setValid(const QString& key, bool valid)
 {
-    slotFor(key).valid = valid;
+    if (isValid(key) == valid)
+        return;
+    const int slot = findOrAdd(key);
+    if (slot >= m_invalid.size())
+        m_invalid.resize(m_common->slotOf.size());
+    m_invalid.setBit(slot, !valid);
 }
 
-const RuleDataInfo::Slot* RuleDataInfo::find(const QString& key) const
+void RuleDataInfo::shareValues()
 {
-    const auto place =
-        std::lower_bound(m_slots.begin(), m_slots.end(), key,
-                         [](const Slot& slot, const QString& wanted) { return slot.key < wanted; });
-    return place != m_slots.end() && place->key == key ? &*place : nullptr;
+    if (m_own.empty())
+        return;
+    m_common.detach();
+    for (OwnValue& own : m_own)
+        m_common->values[static_cast<std::size_t>(own.slot)] = std::move(own.value);
+    m_own.clear();
 }
 
-RuleDataInfo::Slot& RuleDataInfo::slotFor(const QString& key)
+void RuleDataInfo::takeCommonValues(const RuleDataInfo& other, int more)
 {
-    if (const Slot* const slot = find(key))
-        return const_cast<Slot&>(*slot);
-    const auto place =
-        std::upper_bound(m_slots.begin(), m_slots.end(), key,
-                         [](const QString& wanted, const Slot& slot) { return wanted < slot.key; });
-    return *m_slots.insert(place, Slot{key, QVariant(), false, true});
+    m_common = other.m_common;
+    m_invalid = other.m_invalid;
+    m_own.reserve(m_own.size() + static_cast<std::size_t>(more));
+}
+
+void RuleDataInfo::shareFlags(const RuleDataInfo& other)
+{
+    if (m_invalid == other.m_invalid)
+        m_invalid = other.m_invalid;
+}
+
+int RuleDataInfo::find(const QString& key) const
+{
+    return m_common ? m_common->slotOf.value(key, -1) : -1;
+}
+
+int RuleDataInfo::findOrAdd(const QString& key)
+{
+    const int known = find(key);
+    if (known >= 0)
+        return known;
+    if (!m_common)
+        m_common = new Common;
+    m_common.detach();
+    const int slot = m_common->slotOf.size();
+    m_common->slotOf.insert(key, slot);
+    m_common->values.emplace_back();
+    return slot;
+}
+
+RuleDataInfo::OwnValues::const_iterator RuleDataInfo::ownFrom(int slot) const
+{
+    return std::lower_bound(m_own.begin(), m_own.end(), slot,
+                            [](const OwnValue& own, int wanted) { return own.slot < wanted; });
+}
+
+const QVariant* RuleDataInfo::findAt(int slot) const
+{
+    if (slot < 0)
+        return nullptr;
+    const auto own = ownFrom(slot);
+    if (own != m_own.end() && own->slot == slot)
+        return &own->value;
+    const std::optional<QVariant>& common = m_common->values[static_cast<std::size_t>(slot)];
+    return common ? &*common : nullptr;
+}
+
+void RuleDataInfo::setAt(int slot, const QVariant& value)
+{
+    const std::optional<QVariant>& common = m_common->values[static_cast<std::size_t>(slot)];
+    const bool isCommon = !value.isValid() && common && !common->isValid();
+    const auto own = m_own.begin() + (ownFrom(slot) - m_own.cbegin());
+    const bool isKnown = own != m_own.end() && own->slot == slot;
+    if (isKnown && isCommon)
+        m_own.erase(own);
+    else if (isKnown)
+        own->value = value;
+    else if (!isCommon)
+        m_own.insert(own, {value, slot});
+}
+
+bool RuleDataInfo::isValidAt(int slot) const
+{
+    return slot < 0 || slot >= m_invalid.size() || !m_invalid.testBit(slot);
 }

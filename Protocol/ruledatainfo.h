@@ -1,22 +1,25 @@
 #pragma once
 
+#include <QBitArray>
+#include <QExplicitlySharedDataPointer>
+#include <QHash>
 #include <QString>
 #include <QVariant>
+#include <optional>
 #include <vector>
 
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
+class EntryKey;
 
-/// One entry of a scene: a rule, a lane, an area. Holds the values of the control items by key.
+/**
+ * One entry of a scene: a rule, a lane, an area. Holds the values of the control items by key.
+ *
+ * The entries of a scene share what they have in common; each holds only the values that differ,
+ * so that many entries with many attributes take no more memory than their documents do.
+ */
 class RuleDataInfo
 {
 public:
-    explicit RuleDataInfo(int id = 0) : m_id(id) {}
+    explicit RuleDataInfo(int id = 0) : m_id(id), m_sourceIndex(-1), m_enabled(true) {}
 
     int id() const { return m_id; }
     /// Only before the entry is added to a scene, which finds its entries by id.
@@ -34,27 +37,53 @@ public:
     void setSourceIndex(int index) { m_sourceIndex = index; }
 
     void setValue(const QString& key, const QVariant& value);
+    void setValue(const EntryKey& key, const QVariant& value);
     /// The value under @p key; invalid when there is none.
     QVariant value(const QString& key) const;
+    /// As above; good until the entry changes.
+    const QVariant& value(const EntryKey& key) const;
     bool hasValue(const QString& key) const;
 
     /// Whether the attribute applies; true for keys without a flag.
     bool isValid(const QString& key) const;
+    bool isValid(const EntryKey& key) const;
     void setValid(const QString& key, bool valid);
 
-private:
-    struct Slot {
-        QString key;
-        QVariant value;
-        bool hasValue = false;
-        bool valid = true;
-    };
-    const Slot* find(const QString& key) const;
-    Slot& slotFor(const QString& key);
+    /// Makes all values that this entry has common to it and its copies.
+    void shareValues();
+    /// Puts the common values of @p other, whose keys begin with this entry's, in the place of
+    /// this entry's. Its own ones stay, and room is made for @p more of them.
+    void takeCommonValues(const RuleDataInfo& other, int more);
+    /// Shares the flags of @p other where they are the same.
+    void shareFlags(const RuleDataInfo& other);
 
-    std::vector<Slot> m_slots; ///< sorted by key
+private:
+    friend class EntryKey;
+
+    /// Keys have slots, counted from 0, and there the value of entries without one of their own.
+    struct Common : QSharedData {
+        QHash<QString, int> slotOf;
+        std::vector<std::optional<QVariant>> values;
+    };
+    struct OwnValue {
+        QVariant value;
+        int slot;
+    };
+    using OwnValues = std::vector<OwnValue>;
+
+    int find(const QString& key) const;
+    int findOrAdd(const QString& key);
+    OwnValues::const_iterator ownFrom(int slot) const;
+    const QVariant* findAt(int slot) const;
+    void setAt(int slot, const QVariant& value);
+    bool isValidAt(int slot) const;
+
+    QExplicitlySharedDataPointer<Common> m_common; ///< null until there is a key
+    OwnValues m_own;                               ///< by slot
+    QBitArray m_invalid;                           ///< by slot; what is behind its end is valid
     QString m_name;
     int m_id;
-    int m_sourceIndex = -1;
-    bool m_enabled = true;
+    // Share a word: there are many entries, and no document has room for 2^30 of them.
+    int m_sourceIndex : 31;
+    bool m_enabled : 1;
 };

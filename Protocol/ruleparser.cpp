@@ -2,6 +2,7 @@
 
 #include "Protocol/configreader.h"
 #include "Protocol/configwriter.h"
+#include "Protocol/datatemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/templatereader.h"
 #include "host/reader.h"
@@ -72,9 +73,13 @@ RuleParser::~RuleParser() = default;
 
 int RuleParser::createId()
 {
+    return g_nId = idAfter(g_nId);
+}
+
+int RuleParser::idAfter(int last)
+{
     // From 1 again after the last: entries that old are long gone.
-    g_nId = g_nId == std::numeric_limits<int>::max() ? 1 : g_nId + 1;
-    return g_nId;
+    return last == std::numeric_limits<int>::max() ? 1 : last + 1;
 }
 
 FacadeType RuleParser::parseToFacadeType(const QString& text)
@@ -131,18 +136,31 @@ bool RuleParser::readData(const QString& text)
     return true;
 }
 
-bool RuleParser::writeData(Value& config) const
+bool RuleParser::writeData(Value& config, QString& why) const
 {
     const Value& document = m_templateDocument;
     const Value* const skeleton = document.find("configTemplate");
-    if (!skeleton)
+    if (!skeleton) {
+        why = tr("The template has no \"configTemplate\" to write into.");
         return false;
+    }
     Value written = *skeleton;
     ConfigWriter writer(m_data, m_configuration);
     writer.setAlgorithmInfo(m_algorithmId, m_algorithmName);
-    writer.write(written);
+    if (const RuleData* scene = writer.write(written)) {
+        const DataTemplate& dataTemplate = *scene->getTemplate();
+        why = tr("The template has no place \"%1\" for what is set under \"%2\".")
+                  .arg(dataTemplate.parent(), dataTemplate.name());
+        return false;
+    }
     config = std::move(written);
     return true;
+}
+
+bool RuleParser::writeData(Value& config) const
+{
+    QString why;
+    return writeData(config, why);
 }
 
 bool RuleParser::writeData(QString& text) const

@@ -3,7 +3,7 @@
 #include "Protocol/ruletypes.h"
 #include "host/value.h"
 
-#include <QString>
+#include <QCoreApplication>
 #include <memory>
 #include <vector>
 
@@ -15,6 +15,8 @@ class RuleData;
  */
 class RuleParser
 {
+    Q_DECLARE_TR_FUNCTIONS(RuleParser)
+
 public:
     RuleParser();
     ~RuleParser();
@@ -23,6 +25,8 @@ public:
 
     /// Next id for an entry, unique in the process, from 1.
     static int createId();
+    /// The id that comes behind @p last.
+    static int idAfter(int last);
 
     // Exact, case-sensitive spellings; anything else gives None.
     static FacadeType parseToFacadeType(const QString& text);
@@ -41,7 +45,9 @@ public:
     /// JSON.
     bool readData(const QString& text);
     /// The configuration with the edited data; false when the template carries no
-    /// "configTemplate" to write into.
+    /// "configTemplate" to write into, or that has no place for the entries of a scene. @p why
+    /// then says so in a sentence; @p config stays as it is.
+    bool writeData(kql::Json::Value& config, QString& why) const;
     bool writeData(kql::Json::Value& config) const;
     bool writeData(QString& text) const;
 

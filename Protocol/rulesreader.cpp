@@ -39,6 +39,7 @@ void RulesReader::read(RuleData& data, const Value& document)
     const auto entries =
         EntryList::getJsonItemList(JsonPath(dataTemplate.parent()).readPath(document));
     const EntryReader reader(data, dataTemplate.name());
+    data.reserve(entries.size());
     for (int i = 0; i < static_cast<int>(entries.size()); ++i) {
         if (const Value* json = EntryList::object(entries, i))
             readEntry(data, reader, *json, i);

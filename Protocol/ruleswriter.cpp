@@ -56,16 +56,16 @@ void RulesWriter::writeRuleMembers(const RuleData& data, int position, const Wri
         writeAlgorithm(context.algorithmName, json);
 }
 
-void RulesWriter::writeRule(const RuleData& data, const WriteContext& context, Value& document)
+bool RulesWriter::writeRule(const RuleData& data, const WriteContext& context, Value& document)
 {
     auto entries = writeEntries(data, context, document);
     for (int i = 0; i < data.getDataCount(); ++i)
         writeRuleMembers(data, i, context, entries[static_cast<std::size_t>(i)]);
-    EntryTarget(document, data.getTemplate()->parent()).put(std::move(entries));
+    return EntryTarget(document, data.getTemplate()->parent()).put(std::move(entries));
 }
 
-void RulesWriter::writeGlobal(const RuleData& data, const WriteContext& context, Value& document)
+bool RulesWriter::writeGlobal(const RuleData& data, const WriteContext& context, Value& document)
 {
-    EntryTarget(document, data.getTemplate()->parent(), EntryTarget::WhenMissing::Object)
+    return EntryTarget(document, data.getTemplate()->parent(), EntryTarget::WhenMissing::Object)
         .put(writeEntries(data, context, document));
 }

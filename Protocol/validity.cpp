@@ -4,8 +4,6 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
-#include <QHash>
-#include <QVector>
 #include <algorithm>
 
 namespace
@@ -57,24 +55,27 @@ void Validity::update(const DataTemplate& dataTemplate, RuleDataInfo& entry)
 {
     for (const auto& item : dataTemplate.items()) {
         if (!item->validity().isEmpty())
-            entry.setValid(item->key(), allMet(dataTemplate, entry, *item));
+            update(dataTemplate, entry, *item);
     }
 }
 
-bool Validity::dependsOn(const RuleProtocolItem& item, const QString& key)
+void Validity::update(const DataTemplate& dataTemplate, RuleDataInfo& entry,
+                      const RuleProtocolItem& item)
 {
-    return std::any_of(
-        item.validity().begin(), item.validity().end(),
-        [&key](const ValidCondition& condition) { return condition.controlKey == key; });
+    entry.setValid(item.key(), allMet(dataTemplate, entry, item));
 }
 
-void Validity::updateDependents(const DataTemplate& dataTemplate, RuleDataInfo& entry,
-                                const QString& changedKey)
+Validity::Dependents Validity::dependents(const DataTemplate& dataTemplate)
 {
+    Dependents dependents;
     for (const auto& item : dataTemplate.items()) {
-        if (dependsOn(*item, changedKey))
-            entry.setValid(item->key(), allMet(dataTemplate, entry, *item));
+        for (const ValidCondition& condition : item->validity()) {
+            QVector<const RuleProtocolItem*>& named = dependents[condition.controlKey];
+            if (named.isEmpty() || named.last() != item.get())
+                named.append(item.get());
+        }
     }
+    return dependents;
 }
 
 QSet<const RuleProtocolItem*> Validity::hiddenItems(const DataTemplate& dataTemplate,

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QHash>
 #include <QSet>
+#include <QString>
+#include <QVector>
 
 class DataTemplate;
 class RuleDataInfo;
 class RuleProtocolItem;
-class QString;
 
 /// Works out which attributes of an entry apply, from the entry's own values.
 namespace Validity
@@ -14,12 +16,12 @@ namespace Validity
 /// Flags every conditional item of @p dataTemplate in @p entry.
 void update(const DataTemplate& dataTemplate, RuleDataInfo& entry);
 
-/// Whether a condition of @p item names @p key.
-bool dependsOn(const RuleProtocolItem& item, const QString& key);
+/// Flags one item of @p dataTemplate in @p entry.
+void update(const DataTemplate& dataTemplate, RuleDataInfo& entry, const RuleProtocolItem& item);
 
-/// Flags the items whose condition names @p changedKey.
-void updateDependents(const DataTemplate& dataTemplate, RuleDataInfo& entry,
-                      const QString& changedKey);
+/// By key, the items with a condition that names it, in the template's order.
+using Dependents = QHash<QString, QVector<const RuleProtocolItem*>>;
+Dependents dependents(const DataTemplate& dataTemplate);
 
 /// The items whose rows are not to be shown for @p entry: those whose condition is not met, and
 /// what they control, down the chain.

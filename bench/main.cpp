@@ -1,4 +1,5 @@
 #include "bench/benchrow.h"
+#include "bench/limitreport.h"
 #include "bench/memoryreport.h"
 #include "bench/ratiotable.h"
 #include "draw/labelfont.h"
@@ -45,6 +46,7 @@ int main(int argc, char* argv[])
     benchmark::RunSpecifiedBenchmarks(&table);
     table.print();
     printMemoryReport();
+    printLimitReport();
     LabelFont::release();
     return 0;
 }

@@ -93,6 +93,15 @@ void BaseDraw::appendPoint(const QPoint& normalizedPoint)
     change();
 }
 
+void BaseDraw::setFinishedPoints(const QVector<QPoint>& normalizedPoints)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_points = normalizedPoints;
+    m_directionPoints.clear();
+    m_finished = true;
+    change();
+}
+
 void BaseDraw::clear()
 {
     const QMutexLocker lock(&m_mutex);

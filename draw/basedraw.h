@@ -58,6 +58,8 @@ public:
 
     /// Appends a point in normalized space as it is, as read from a document.
     void appendPoint(const QPoint& normalizedPoint);
+    /// Puts @p normalizedPoints in the place of all points, as they are, and finishes the figure.
+    void setFinishedPoints(const QVector<QPoint>& normalizedPoints);
     void clear();
     /// Sets the rubber band's end in canvas pixels, or drops it.
     void setMovePoint(const std::optional<QPoint>& canvasPoint);

@@ -131,7 +131,7 @@ void DrawItem::replaceFigure(BaseDrawType type)
     figure->setLabel(m_figure->label());
     figure->setDirection(m_figure->direction());
     figure->setSelected(m_figure->isSelected());
-    m_replacedFigures.push_back(m_figure);
+    m_replacedFigures.push_front(m_figure);
     m_figure = figure;
 }
 

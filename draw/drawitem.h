@@ -8,6 +8,7 @@
 #include <QSize>
 #include <QString>
 #include <QVector>
+#include <forward_list>
 #include <memory>
 #include <vector>
 
@@ -95,7 +96,7 @@ private:
     DrawItem* m_parent = nullptr;           ///< not owned
     DrawItemListener* m_listener = nullptr; ///< not owned
     std::shared_ptr<BaseDraw> m_figure;
-    std::vector<std::shared_ptr<BaseDraw>> m_replacedFigures;
+    std::forward_list<std::shared_ptr<BaseDraw>> m_replacedFigures;
     QString m_templateKey;
     DrawItemForbidenAreaType m_forbidenAreaType = DrawItemForbidenAreaType::ForbidenNone;
     int m_itemId;

@@ -5,64 +5,52 @@
 void DrawItemIndex::append(DrawItem* item)
 {
     m_items.append(item);
-    if (m_valid)
-        enter(item);
+    if (!m_valid)
+        return;
+    m_byItemId.add(item->itemId(), item);
+    m_byDataId.add(item->dataId(), item);
 }
 
 void DrawItemIndex::remove(DrawItem* item)
 {
     if (!m_items.removeOne(item) || !m_valid)
         return;
-    if (m_hasSharedIds) {
-        m_valid = false;
-        return;
-    }
-    m_byItemId.remove(item->itemId());
-    const auto sameData = m_byDataId.find(item->dataId());
-    sameData->removeOne(item);
-    if (sameData->isEmpty())
-        m_byDataId.erase(sameData);
+    m_byItemId.remove(item->itemId(), item);
+    m_byDataId.remove(item->dataId(), item);
+    m_valid = !m_byItemId.hasSharedIds(); // they may be gone now
 }
 
 void DrawItemIndex::clear()
 {
     m_items.clear();
-    rebuild();
+    m_byItemId.clear();
+    m_byDataId.clear();
 }
 
 DrawItem* DrawItemIndex::byItemId(int itemId) const
 {
     update();
-    return m_byItemId.value(itemId);
+    const DrawItemRange found = m_byItemId.find(itemId);
+    return found.begin() == found.end() ? nullptr : found.begin()->item;
 }
 
-QList<DrawItem*> DrawItemIndex::byDataId(int dataId) const
+DrawItemRange DrawItemIndex::byDataId(int dataId) const
 {
     update();
-    return m_byDataId.value(dataId);
+    return m_byDataId.find(dataId);
 }
 
-void DrawItemIndex::enter(DrawItem* item) const
+bool DrawItemIndex::hasSharedIds() const
 {
-    if (m_byItemId.contains(item->itemId()))
-        m_hasSharedIds = true;
-    else
-        m_byItemId.insert(item->itemId(), item);
-    m_byDataId[item->dataId()].append(item);
+    update();
+    return m_byItemId.hasSharedIds();
 }
 
 void DrawItemIndex::update() const
 {
-    if (!m_valid)
-        rebuild();
-}
-
-void DrawItemIndex::rebuild() const
-{
-    m_byItemId.clear();
-    m_byDataId.clear();
-    m_hasSharedIds = false;
-    for (DrawItem* item : m_items)
-        enter(item);
+    if (m_valid)
+        return;
+    m_byItemId.fill(m_items, &DrawItem::itemId);
+    m_byDataId.fill(m_items, &DrawItem::dataId);
     m_valid = true;
 }

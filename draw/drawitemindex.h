@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QHash>
+#include "draw/sortedids.h"
+
 #include <QList>
 
 class DrawItem;
 
 /// A list of items in the order added, which finds them by item id and by data id without a walk.
-/// Owns none of them.
+/// Owns none of them. What it needs for that is made when an item is first looked for.
 class DrawItemIndex
 {
 public:
@@ -19,16 +20,16 @@ public:
     const QList<DrawItem*>& all() const { return m_items; }
     /// The first item with that item id; null when there is none.
     DrawItem* byItemId(int itemId) const;
-    QList<DrawItem*> byDataId(int dataId) const;
+    /// In the order added; good until the list changes.
+    DrawItemRange byDataId(int dataId) const;
+    /// Whether two items have the same item id.
+    bool hasSharedIds() const;
 
 private:
-    void enter(DrawItem* item) const;
     void update() const;
-    void rebuild() const;
 
     QList<DrawItem*> m_items;
-    mutable QHash<int, DrawItem*> m_byItemId;
-    mutable QHash<int, QList<DrawItem*>> m_byDataId;
-    mutable bool m_hasSharedIds = false; ///< two items have the same item id
-    mutable bool m_valid = true;
+    mutable SortedIds m_byItemId;
+    mutable SortedIds m_byDataId;
+    mutable bool m_valid = false;
 };

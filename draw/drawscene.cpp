@@ -46,8 +46,8 @@ void DrawScene::copyItemsFrom(const DrawScene& other)
     m_roots.clear();
     m_canvasSize = other.m_canvasSize;
     QHash<const DrawItem*, DrawItem*> copies;
-    for (const auto& [original, owned] : other.m_roots)
-        pairTrees(owned.get(), own(original->clone()), copies);
+    for (const auto& original : other.m_roots)
+        pairTrees(original.get(), own(original->clone()), copies);
     for (const DrawItem* item : other.m_items.all())
         list(*copies.value(item));
 }
@@ -56,7 +56,7 @@ void DrawScene::setCanvasSize(int width, int height)
 {
     m_canvasSize = QSize(std::max(width, 0), std::max(height, 0));
     for (const auto& root : m_roots)
-        root.second->setCanvasSize(width, height);
+        root->setCanvasSize(width, height);
     if (m_forbidenArea)
         resizeForbidenArea();
 }
@@ -86,14 +86,15 @@ void DrawScene::removeItem(int id)
     if (DrawItem* parent = item->parent())
         parent->removeChild(id);
     else
-        m_roots.erase(item);
+        m_roots.erase(std::find_if(m_roots.begin(), m_roots.end(),
+                                   [item](const auto& root) { return root.get() == item; }));
 }
 
 QList<DrawItem*> DrawScene::getItemList(BaseDrawType type, int dataId) const
 {
     if (type == BaseDrawType::None && dataId < 1)
         return m_items.all();
-    QList<DrawItem*> items = dataId < 1 ? m_items.all() : m_items.byDataId(dataId);
+    QList<DrawItem*> items = dataId < 1 ? m_items.all() : getItemListByDataId(dataId);
     const auto isOther = [type](const DrawItem* item) { return item->drawType() != type; };
     items.erase(std::remove_if(items.begin(), items.end(), isOther), items.end());
     return items;
@@ -106,7 +107,10 @@ int DrawScene::itemCount(BaseDrawType type, int dataId) const
 
 QList<DrawItem*> DrawScene::getItemListByDataId(int dataId) const
 {
-    return m_items.byDataId(dataId);
+    QList<DrawItem*> items;
+    for (const auto& [id, item] : itemsOf(dataId))
+        items.append(item);
+    return items;
 }
 
 DrawItem* DrawScene::getFirstDrawItem() const
@@ -117,10 +121,13 @@ DrawItem* DrawScene::getFirstDrawItem() const
 void DrawScene::setSelected(int itemId, int dataId)
 {
     calcDrawForbidenArea(nullptr);
-    for (DrawItem* item : m_items.all()) {
+    DrawItem* selected = nullptr;
+    const QList<DrawItem*> items = changedBySelecting(itemId);
+    for (DrawItem* item : items) {
         bool finished = false;
         if (isSkipped(*item, dataId) || !item->figure() || !item->selectById(itemId, &finished))
             continue;
+        selected = item;
         if (finished) {
             m_message.clear();
         } else {
@@ -128,6 +135,8 @@ void DrawScene::setSelected(int itemId, int dataId)
             calcDrawForbidenArea(item);
         }
     }
+    if (!m_drawByDataId && !m_items.hasSharedIds())
+        noteSelected(selected, true);
     emit sgnSelectedStatusChange();
 }
 
@@ -135,12 +144,32 @@ DrawItem* DrawScene::selectedItem(int dataId) const
 {
     if (m_drawByDataId && dataId >= 1)
         return findSelected(dataId);
-    const quint64 revision = BaseDraw::selectionRevision();
-    if (m_foundAtRevision != revision) {
-        m_foundSelected = findSelected(dataId);
-        m_foundAtRevision = revision;
-    }
+    if (m_foundAtRevision != BaseDraw::selectionRevision())
+        noteSelected(findSelected(dataId), false);
     return m_foundSelected;
+}
+
+void DrawScene::noteSelected(DrawItem* item, bool isOnly) const
+{
+    m_foundSelected = item;
+    m_foundAtRevision = BaseDraw::selectionRevision();
+    m_isFoundOnly = isOnly;
+}
+
+/// The items that selecting that one may change: where it is known that a single one is selected,
+/// that and the new one.
+QList<DrawItem*> DrawScene::changedBySelecting(int itemId) const
+{
+    const bool isKnown = m_foundAtRevision == BaseDraw::selectionRevision() && m_isFoundOnly;
+    if (!isKnown || m_items.hasSharedIds())
+        return m_items.all();
+    QList<DrawItem*> items;
+    if (m_foundSelected)
+        items.append(m_foundSelected);
+    DrawItem* item = m_items.byItemId(itemId);
+    if (item && item != m_foundSelected)
+        items.append(item);
+    return items;
 }
 
 void DrawScene::addDrawPoint(DrawMouseType type, const QPoint& point)
@@ -215,6 +244,12 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
     drawMessage(*graphics);
 }
 
+void DrawScene::dropPainting()
+{
+    m_below.drop();
+    m_above.drop();
+}
+
 bool DrawScene::isPointForbidden(const QPoint& point) const
 {
     return m_forbidenArea && m_forbidenArea->IsVisible(point.x(), point.y());
@@ -249,9 +284,8 @@ void DrawScene::list(DrawItem& item)
 
 DrawItem* DrawScene::own(std::unique_ptr<DrawItem> item)
 {
-    DrawItem* root = item.get();
-    m_roots.emplace(root, std::move(item));
-    return root;
+    m_roots.push_back(std::move(item));
+    return m_roots.back().get();
 }
 
 bool DrawScene::isSkipped(const DrawItem& item, int dataId) const
@@ -359,13 +393,16 @@ DrawItem* DrawScene::itemBeingDrawn() const
 void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
                           const std::vector<BaseDraw*>& figures, bool withForbidenArea) const
 {
+    const bool withArea = withForbidenArea && m_forbidenArea;
+    if (figures.empty() && !withArea)
+        return layer.drop();
     FigureLayer::Revisions shown;
     shown.reserve(figures.size() + 1);
-    shown.push_back(withForbidenArea ? m_forbidenRevision : 0);
+    shown.push_back(withArea ? m_forbidenRevision : 0);
     for (const BaseDraw* figure : figures)
         shown.push_back(figure->revision());
     layer.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
-        if (withForbidenArea)
+        if (withArea)
             drawForbidenArea(target);
         for (BaseDraw* figure : figures)
             figure->draw(&target);
@@ -374,8 +411,6 @@ void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
 
 void DrawScene::drawForbidenArea(Gdiplus::Graphics& graphics) const
 {
-    if (!m_forbidenArea)
-        return;
     const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
     graphics.FillPath(&shade, m_forbidenArea.get());
 }

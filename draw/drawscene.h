@@ -12,7 +12,6 @@
 #include <QString>
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 class BaseDraw;
@@ -61,6 +60,9 @@ public:
     QList<DrawItem*> getItemList(BaseDrawType type, int dataId) const;
     int itemCount(BaseDrawType type, int dataId) const;
     QList<DrawItem*> getItemListByDataId(int dataId) const;
+    /// As getItemListByDataId(), without a list of its own; good until items are added or removed
+    /// or their ids change.
+    DrawItemRange itemsOf(int dataId) const { return m_items.byDataId(dataId); }
     DrawItem* getFirstDrawItem() const;
 
     /// On: only figures of the current data id are painted and selectable.
@@ -82,6 +84,8 @@ public:
     void SetDrawOver(bool over);
 
     void draw(Gdiplus::Graphics* graphics);
+    /// Frees what is kept for the next draw(), which then paints everything anew.
+    void dropPainting();
 
     /// The hint shown in the middle of the canvas; empty for none.
     const QString& message() const { return m_message; }
@@ -98,6 +102,8 @@ private:
 
     DrawItem* own(std::unique_ptr<DrawItem> item);
     void list(DrawItem& item);
+    void noteSelected(DrawItem* item, bool isOnly) const;
+    QList<DrawItem*> changedBySelecting(int itemId) const;
     bool isSkipped(const DrawItem& item, int dataId) const;
     DrawItem* findSelected(int dataId) const;
     void pressLeft(DrawItem& item, const QPoint& point);
@@ -115,9 +121,8 @@ private:
     QString getBeginDrawMsg(const DrawItem* item) const;
     QString getEndDrawMsg(const DrawItem* item) const;
 
-    DrawItemIndex m_items; ///< all items, children too, as added
-    /// The items without a parent, by their address.
-    std::unordered_map<const DrawItem*, std::unique_ptr<DrawItem>> m_roots;
+    DrawItemIndex m_items;                          ///< all items, children too, as added
+    std::vector<std::unique_ptr<DrawItem>> m_roots; ///< the items without a parent
     QSize m_canvasSize{0, 0};
     QString m_message;
     std::unique_ptr<Gdiplus::GraphicsPath> m_forbidenArea;
@@ -128,7 +133,8 @@ private:
     bool m_drawByDataId = false;
     int m_currentDataId = -1;
 
-    // What a walk over all items found selected, good until the revision changes.
+    // The first selected item, good until the revision changes.
     mutable DrawItem* m_foundSelected = nullptr; ///< not owned
     mutable std::optional<quint64> m_foundAtRevision;
+    mutable bool m_isFoundOnly = false; ///< no other is selected
 };

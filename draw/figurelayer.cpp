@@ -7,15 +7,8 @@
 namespace
 {
 
-/// Painting fewer figures takes about as long as laying a picture over another, or less.
-constexpr std::size_t kWorthKeeping = 16;
-/// A canvas of more pixels than any screen has is painted straight, for the memory's sake.
+/// More pixels than any screen has; a layer of them would take too much memory.
 constexpr qint64 kMostPixels = qint64{64} * 1024 * 1024;
-
-bool isWorthKeeping(std::size_t things, const QSize& size)
-{
-    return things >= kWorthKeeping && qint64{size.width()} * size.height() <= kMostPixels;
-}
 
 } // namespace
 
@@ -26,14 +19,17 @@ FigureLayer::~FigureLayer() = default;
 void FigureLayer::draw(Gdiplus::Graphics& graphics, const QSize& size, Revisions shown,
                        const Painter& paint)
 {
-    if (!isWorthKeeping(shown.size(), size))
-        m_kept.reset();
-    else if (!keeps(graphics, size, shown))
+    if (!keeps(graphics, size, shown))
         keep(graphics, size, std::move(shown), paint);
     if (m_kept)
         graphics.DrawImage(m_kept.get(), 0, 0);
     else
         paint(graphics);
+}
+
+void FigureLayer::drop()
+{
+    m_kept.reset();
 }
 
 void FigureLayer::setQuality(Gdiplus::Graphics& graphics)
@@ -51,11 +47,13 @@ bool FigureLayer::keeps(const Gdiplus::Graphics& graphics, const QSize& size,
 void FigureLayer::keep(Gdiplus::Graphics& graphics, const QSize& size, Revisions shown,
                        const Painter& paint)
 {
-    m_kept = std::make_unique<Gdiplus::Bitmap>(size.width(), size.height(), &graphics);
-    if (m_kept->GetLastStatus() != Gdiplus::Ok) {
-        m_kept.reset();
+    m_kept.reset();
+    if (qint64{size.width()} * size.height() > kMostPixels)
         return;
-    }
+    auto bitmap = std::make_unique<Gdiplus::Bitmap>(size.width(), size.height(), &graphics);
+    if (bitmap->GetLastStatus() != Gdiplus::Ok)
+        return;
+    m_kept = std::move(bitmap);
     Gdiplus::Graphics layer(m_kept.get());
     setQuality(layer);
     paint(layer);

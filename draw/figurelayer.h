@@ -13,8 +13,9 @@ class Graphics;
 } // namespace Gdiplus
 
 /**
- * A painting that is kept for as long as nothing in it changes, and laid over picture after
- * picture: painting many figures costs far more than that.
+ * A transparent picture of figures that is kept for as long as nothing in it changes, and laid over
+ * picture after picture: painting many figures costs far more than that. What is seen is the same
+ * whether it was kept or painted just now, and however little is on it.
  */
 class FigureLayer
 {
@@ -29,9 +30,11 @@ public:
 
     /// Shows what @p paint paints on a canvas of @p size pixels. @p paint is called only when
     /// @p shown, a number for each thing painted and another one after it changed, is not what it
-    /// was; and every time while there is so little to paint that keeping it would not pay.
+    /// was. Where no picture of that size can be had, it paints straight, each time.
     void draw(Gdiplus::Graphics& graphics, const QSize& size, Revisions shown,
               const Painter& paint);
+    /// Lets go of the picture until the next draw().
+    void drop();
 
     /// Sets how everything on the canvas is painted: smooth, and text the same way on a layer and
     /// on a screen, where it could else get coloured edges.

@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <tuple>
 
 using Fuzz::InputBytes;
 using Fuzz::require;
@@ -23,6 +24,25 @@ constexpr int kMostOperations = 600;
 constexpr int kMostItems = 120;
 constexpr int kPicture = 160;
 constexpr int kOperations = 18;
+
+/// What a canvas shows of one item.
+struct ItemState {
+    int id;
+    int dataId;
+    const DrawItem* parent;
+    const BaseDraw* figure;
+    QVector<QPoint> points;
+    bool isFinished;
+    bool isSelected;
+    bool isDrawOver;
+
+    bool operator==(const ItemState& other) const
+    {
+        return std::tie(id, dataId, parent, figure, points, isFinished, isSelected, isDrawOver) ==
+               std::tie(other.id, other.dataId, other.parent, other.figure, other.points,
+                        other.isFinished, other.isSelected, other.isDrawOver);
+    }
+};
 
 /// A canvas and the hand of an operator and a program on it.
 class Bench
@@ -60,11 +80,11 @@ private:
         case 5:
             return press(point());
         case 6:
-            return m_scene->addDrawPoint(DrawScene::DrawMouseRightPress, point());
+            return pressRight();
         case 7:
             return m_scene->addDrawPoint(DrawScene::DrawMouseMove, point());
         case 8:
-            return m_scene->redrawItem(id());
+            return redraw(id());
         case 9:
             return remove(id());
         case 10:
@@ -138,25 +158,47 @@ private:
     void remove(int itemId)
     {
         const bool exists = m_scene->findItem(itemId);
-        const int before = itemCount();
+        const auto before = state();
         m_scene->removeItem(itemId);
         require(!m_scene->findItem(itemId), "a removed item is still found");
-        require(exists ? itemCount() < before : itemCount() == before, "the wrong items went");
+        require(exists ? itemCount() < before.size() : state() == before, "the wrong items went");
+    }
+
+    void redraw(int itemId)
+    {
+        const bool exists = m_scene->findItem(itemId);
+        const auto before = state();
+        m_scene->redrawItem(itemId);
+        require(exists || state() == before, "an item that does not exist was drawn anew");
     }
 
     void press(const QPoint& at)
     {
         const DrawItem* item = m_scene->selectedItem(m_scene->currentDataId());
         const bool refused = !item || item->isFinished() || m_scene->isPointForbidden(at);
-        const QVector<QPoint> before = item ? pointsOf(*item) : QVector<QPoint>();
+        const auto before = state();
+        const QString message = m_scene->message();
+        const QVector<QPoint> points = item ? pointsOf(*item) : QVector<QPoint>();
         m_scene->addDrawPoint(DrawScene::DrawMouseLeftPress, at);
+        require(!refused || state() == before, "a refused point changed something");
         if (!item)
             return;
         const QVector<QPoint> after = pointsOf(*item);
-        require(!refused || after == before, "a refused point changed the figure");
-        require(after.mid(0, before.size()) == before, "a point changed the ones before it");
-        if (after.size() == before.size() + 1 && isKeptOnCanvas(*item, at))
-            requireInside(after.last());
+        require(!refused || m_scene->message() == message, "a refused point changed the message");
+        require(after.mid(0, points.size()) == points, "a point changed the ones before it");
+        if (after.size() == points.size() && !item->isFinished())
+            require(state() == before, "a point that was not taken changed something");
+        if (after.size() == points.size() + 1 && isKeptOnCanvas(*item, at))
+            requireAt(after.last(), at);
+    }
+
+    void pressRight()
+    {
+        const DrawItem* item = m_scene->selectedItem(m_scene->currentDataId());
+        const bool refused = !item || item->isFinished() || !item->figure()->isPointCountValid();
+        const auto before = state();
+        m_scene->addDrawPoint(DrawScene::DrawMouseRightPress, point());
+        require(refused ? state() == before : item->isFinished(), "the wrong figure was finished");
     }
 
     /// Other figures keep a point where it was pressed, or in line with the ones before it; a
@@ -170,11 +212,16 @@ private:
                            [&](const QPoint& point) { return canvas.contains(point); });
     }
 
-    static void requireInside(const QPoint& point)
+    /// A point taken on the canvas lies where it was pressed, as far as it can be told there.
+    void requireAt(const QPoint& normalized, const QPoint& pressed) const
     {
         constexpr int extent = DrawGeometry::kNormalizedExtent;
-        require(QRect(0, 0, extent + 1, extent + 1).contains(point),
+        require(QRect(0, 0, extent + 1, extent + 1).contains(normalized),
                 "a point on the canvas lies outside of the figures' space");
+        const QPoint off = DrawGeometry::toCanvas(normalized, m_scene->canvasSize()) - pressed;
+        const QSize step = m_scene->canvasSize() / extent + QSize(1, 1);
+        // A vertical ruler's points stand one above the other.
+        require(std::abs(off.y()) <= step.height(), "a point lies elsewhere than it was pressed");
     }
 
     /// As they were drawn, whatever order the figure reports them in.
@@ -220,6 +267,35 @@ private:
         const DrawItem* selected = m_scene->selectedItem(m_scene->currentDataId());
         require(!selected || m_scene->findItem(selected->itemId()) == selected,
                 "the selected item is not on the canvas");
+        for (const DrawItem* item : m_scene->getItemList(BaseDrawType::None, 0))
+            requireInside(*item);
+    }
+
+    /// What lies in the figures' space lies on the canvas.
+    void requireInside(const DrawItem& item) const
+    {
+        if (!item.figure())
+            return;
+        const QVector<QPoint> points = pointsOf(item);
+        const QVector<QPoint> drawn = item.figure()->canvasPoints();
+        require(item.figure()->canvasSize() == m_scene->canvasSize() &&
+                    drawn.size() == points.size(),
+                "a figure is drawn on another canvas");
+        constexpr int extent = DrawGeometry::kNormalizedExtent + 1;
+        const QRect canvas({0, 0}, m_scene->canvasSize() + QSize(1, 1));
+        for (int i = 0; i < points.size(); ++i)
+            require(!QRect(0, 0, extent, extent).contains(points[i]) || canvas.contains(drawn[i]),
+                    "a point of the figures' space is drawn off the canvas");
+    }
+
+    QVector<ItemState> state() const
+    {
+        QVector<ItemState> items;
+        for (const DrawItem* item : m_scene->getItemList(BaseDrawType::None, 0))
+            items.append({item->itemId(), item->dataId(), item->parent(), item->figure(),
+                          pointsOf(*item), item->isFinished(), item->isSelected(),
+                          item->isDrawOver()});
+        return items;
     }
 
     int itemCount() const { return m_scene->itemCount(BaseDrawType::None, 0); }

@@ -1,6 +1,7 @@
 #include "fuzz/fault.h"
 #include "fuzz/harnesses.h"
 #include "fuzz/inputbytes.h"
+#include "fuzz/roundtrip.h"
 #include "fuzz/scenetext.h"
 
 #include "Protocol/ruledata.h"
@@ -8,9 +9,11 @@
 #include "Protocol/ruleparser.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "host/reader.h"
 #include "host/value.h"
 
 #include <QDir>
+#include <memory>
 
 using Fuzz::require;
 using kql::Json::Value;
@@ -92,21 +95,45 @@ Value written(const RuleParser& parser)
     return config;
 }
 
-/// Reads @p config with the same template and returns what is written then.
-Value writtenAgain(const QString& templateText, const Value& config, std::string& scenes)
+/// A parser of the same template that has read @p config.
+std::unique_ptr<RuleParser> readAgain(const QString& templateText, const Value& config)
 {
-    RuleParser parser;
-    require(parser.parseTemplate(templateText), "a template is refused the second time");
-    require(parser.readData(config.toStyledText()), "what was written cannot be read");
-    requireScenes(parser);
-    scenes = SceneText::of(parser);
-    return written(parser);
+    auto parser = std::make_unique<RuleParser>();
+    require(parser->parseTemplate(templateText), "a template is refused the second time");
+    require(parser->readData(config.toStyledText()), "what was written cannot be read");
+    requireScenes(*parser);
+    return parser;
 }
 
 std::string passes(int pass, const Value& now, const Value& before)
 {
     return "pass " + std::to_string(pass) + " writes\n" + now.toStyledString() + "\nin place of\n" +
            before.toStyledString();
+}
+
+Value skeletonOf(const QString& templateText)
+{
+    Value document;
+    kql::Json::Reader().parse(templateText, document);
+    return document["configTemplate"];
+}
+
+/// What @p parser has read and writes is read, and written, again.
+void requireRoundTrip(const RuleParser& parser, const QString& description, bool isDevices,
+                      const Value& first)
+{
+    const auto again = readAgain(description, first);
+    const Value second = written(*again);
+    const Value skeleton = skeletonOf(description);
+    if (RoundTrip::isOwed(parser, skeleton))
+        RoundTrip::requireSame(parser, *again, skeleton);
+    else if (!isDevices)
+        return;
+    require(second == first, passes(2, second, first));
+    const auto then = readAgain(description, second);
+    require(SceneText::of(*then) == SceneText::of(*again),
+            "the third pass reads\n" + SceneText::of(*then) + "in place of\n" +
+                SceneText::of(*again));
 }
 
 } // namespace
@@ -130,16 +157,5 @@ void Fuzz::documents(std::string_view input)
         return;
     require(written(parser) == first, "writing changes what is written next");
     require(SceneText::of(parser) == scenes, "writing changes the scenes");
-    std::string scenesAgain;
-    const Value second = writtenAgain(description, first, scenesAgain);
-    // A template at odds with itself, with two values in one place or a skeleton that lacks its
-    // fields, need not get back what it wrote. Those of devices do.
-    const bool isDevices = description != text(parts.front());
-    if (!isDevices)
-        return;
-    require(second == first, passes(2, second, first));
-    std::string scenesThen;
-    writtenAgain(description, second, scenesThen);
-    require(scenesThen == scenesAgain,
-            "the third pass reads\n" + scenesThen + "in place of\n" + scenesAgain);
+    requireRoundTrip(parser, description, description != text(parts.front()), first);
 }

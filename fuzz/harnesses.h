@@ -17,9 +17,9 @@ constexpr std::string_view kSeparator = "\n---\n";
 void documents(std::string_view input);
 
 /**
- * Messages to a plug-in's widget with a window, each a line of id and parameter kinds, a first and
- * a second parameter, all separated. Ids that are words are actions of host and operator. Needs a
- * QApplication.
+ * Messages to two plug-in's widgets with a window each: a line of id and parameter kinds, a first
+ * and a second parameter, all separated. Ids that are words are actions of host and operator, on
+ * the second window where the word ends in "@2". Needs a QApplication.
  */
 void messages(std::string_view input);
 

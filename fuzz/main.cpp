@@ -7,8 +7,9 @@
 
 extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments)
 {
-    static QApplication application(*count, *arguments);
-    return 0;
+    // Stays until the process ends, as the widgets that a harness keeps do.
+    static auto* const application = new QApplication(*count, *arguments);
+    return application ? 0 : 1;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <limits>
 #include <new>
 
 namespace kql
@@ -16,6 +17,7 @@ struct BlockArena::Chunk {
 namespace
 {
 
+// Also the unit of offsets.
 constexpr std::size_t kAlignment = alignof(std::max_align_t);
 
 // Users of a chunk that is still open; the true number is set when it is closed, so that taking
@@ -32,7 +34,7 @@ std::size_t aligned(std::size_t bytes)
 BlockArena::Place BlockArena::allocate(std::size_t bytes)
 {
     bytes = aligned(bytes);
-    if (bytes > kLargestChunk / 8)
+    if (bytes > kLargestBlock)
         return allocateAlone(bytes);
     if (bytes > std::size_t(m_end - m_next))
         openChunk(bytes);
@@ -61,6 +63,23 @@ void BlockArena::closeChunk() noexcept
         ::operator delete(m_chunk);
     m_chunk = nullptr;
     m_given = 0;
+}
+
+BlockArena::Offset BlockArena::offset(const Place& place) noexcept
+{
+    static_assert(kLargestChunk / kAlignment <= std::numeric_limits<Offset>::max());
+    if (!place.chunk)
+        return 0;
+    const auto* const chunk = reinterpret_cast<const char*>(place.chunk);
+    return Offset(std::size_t(static_cast<const char*>(place.memory) - chunk) / kAlignment);
+}
+
+BlockArena::Place BlockArena::place(void* memory, Offset offset) noexcept
+{
+    if (offset == 0)
+        return {memory, nullptr};
+    char* const chunk = static_cast<char*>(memory) - offset * kAlignment;
+    return {memory, reinterpret_cast<Chunk*>(chunk)};
 }
 
 void BlockArena::release(Place place) noexcept

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
 
 namespace kql
@@ -21,17 +22,25 @@ public:
         void* memory;
         Chunk* chunk;
     };
+    /// Distance of a block from its chunk's start; 0 for one in no chunk.
+    using Offset = std::uint16_t;
 
     BlockArena() = default;
     BlockArena(const BlockArena&) = delete;
     BlockArena& operator=(const BlockArena&) = delete;
     ~BlockArena() { closeChunk(); }
 
+    /// Blocks of more bytes get a place of their own, in no chunk.
+    static constexpr std::size_t kLargestBlock = 8192;
+
     Place allocate(std::size_t bytes);
 
     /// A place of its own, in no chunk.
     static Place allocateAlone(std::size_t bytes) { return {::operator new(bytes), nullptr}; }
     static void release(Place place) noexcept;
+
+    static Offset offset(const Place& place) noexcept;
+    static Place place(void* memory, Offset offset) noexcept;
 
 private:
     static constexpr std::size_t kFirstChunk = 1024;

@@ -10,6 +10,8 @@
 #include <QMimeDatabase>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace UICommonMdl
 {
 namespace
@@ -46,6 +48,14 @@ std::unique_ptr<PictureSource> fileSource(const QString& path)
     return streamSource(path, true, {});
 }
 
+bool isStreamAddress(const QString& address)
+{
+    const int scheme = address.indexOf(QStringLiteral("://"));
+    // A line break would go into the request, a zero byte would end the address early.
+    return kStreamSchemes.contains(address.left(qMax(0, scheme)), Qt::CaseInsensitive) &&
+           std::all_of(address.begin(), address.end(), [](QChar c) { return c.isPrint(); });
+}
+
 std::unique_ptr<PictureSource> builtInSource(const QString& address, const StreamOptions& options)
 {
     if (address.isEmpty())
@@ -58,7 +68,7 @@ std::unique_ptr<PictureSource> builtInSource(const QString& address, const Strea
     const QUrl url(address);
     if (url.isLocalFile())
         return fileSource(url.toLocalFile());
-    if (kStreamSchemes.contains(address.left(scheme), Qt::CaseInsensitive))
+    if (isStreamAddress(address))
         return streamSource(address, false, options);
     return std::make_unique<NoSignalSource>(
         ChannelSources::tr("Only rtsp and rtsps addresses and files can be played, not %1.")
@@ -108,6 +118,15 @@ std::unique_ptr<PictureSource> ChannelSources::makeSource(const QString& address
             return source;
     }
     return builtInSource(address, options);
+}
+
+std::unique_ptr<PictureSource> ChannelSources::makeForeignSource(const QString& address,
+                                                                 const StreamOptions& options) const
+{
+    if (isStreamAddress(address))
+        return makeSource(address, options);
+    return std::make_unique<NoSignalSource>(
+        tr("Only rtsp and rtsps addresses of a client can be played."));
 }
 
 } // namespace UICommonMdl

@@ -45,6 +45,10 @@ public:
     /// Never null: an address that nothing plays gives a source that says so.
     std::unique_ptr<PictureSource> makeSource(const QString& address,
                                               const StreamOptions& options = {}) const;
+    /// As makeSource(), for an address that came in a message: anything but an rtsp or rtsps
+    /// address is refused, and no maker sees it.
+    std::unique_ptr<PictureSource> makeForeignSource(const QString& address,
+                                                     const StreamOptions& options) const;
 
 signals:
     /// Surfaces that show a channel with another address now open it anew.

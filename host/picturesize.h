@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/kqhostexport.h"
+
 #include <QSize>
 #include <QString>
 
@@ -7,8 +9,8 @@ namespace UICommonMdl
 {
 
 /// False for an empty size and for one that no camera has: it would only take the memory.
-bool isPlausibleSize(const QSize& size);
+KQHOST_EXPORT bool isPlausibleSize(const QSize& size);
 /// Says to the operator that @p size is refused.
-QString implausibleSizeText(const QSize& size);
+KQHOST_EXPORT QString implausibleSizeText(const QSize& size);
 
 } // namespace UICommonMdl

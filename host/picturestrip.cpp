@@ -59,6 +59,7 @@ PictureStrip::PictureStrip(QWidget* pane, Statistics statistics)
     connect(facts, &QToolButton::toggled, this, &PictureStrip::showStatistics);
     m_text->setObjectName(QStringLiteral("statisticsText"));
     m_text->setStyleSheet(kLook);
+    m_text->setTextFormat(Qt::PlainText);
     m_text->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_text->hide();
     m_rest.setSingleShot(true);

@@ -3,6 +3,7 @@
 #include "host/channelsources.h"
 #include "host/kqmessagebox.h"
 #include "host/letterbox.h"
+#include "host/picturefile.h"
 #include "host/picturesource.h"
 #include "host/picturestrip.h"
 #include "host/rtspvideoparam.h"
@@ -12,6 +13,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+
+#include <cmath>
 
 using UICommonMdl::ChannelSources;
 using UICommonMdl::PictureSource;
@@ -29,6 +32,8 @@ constexpr QRgb kStripText = 0xFFE6EAEE;
 constexpr int kTextMargin = 16;
 constexpr int kStripMargin = 6;
 constexpr int kUdpMode = 1;
+/// More than any screen has. On a larger surface the picture is enlarged while it is painted.
+constexpr qreal kMostPixels = 64.0 * 1024 * 1024;
 
 ChannelSources& channelSources()
 {
@@ -44,6 +49,13 @@ QString noSignalText(const PictureStatus& status)
         lines.append(QRtspVideoWnd::tr("Last picture: %1")
                          .arg(QLocale().toString(status.lastPicture, QLocale::ShortFormat)));
     return lines.join(QLatin1Char('\n'));
+}
+
+/// The size in which to keep a picture that fills @p size pixels of the surface.
+QSize keptSize(const QSizeF& size)
+{
+    const qreal pixels = size.width() * size.height();
+    return (pixels <= kMostPixels ? size : size * std::sqrt(kMostPixels / pixels)).toSize();
 }
 
 QMouseEvent movedTo(const QRect& picture, QEvent::Type type, const QMouseEvent& event)
@@ -128,8 +140,9 @@ bool QRtspVideoWnd::openByRtsp(const PreviewLogical::RtspVideoParam& param)
     m_opened = Opened::Rtsp;
     m_sessionId = param.sessionId;
     m_playType = param.playType;
+    const QPointer<QRtspVideoWnd> guard(this);
     openAddress(param.rtspUrl, {param.streamMode == kUdpMode, param.delayTime});
-    return m_source && m_source->status().state != PictureState::NoSignal;
+    return guard && m_source && m_source->status().state != PictureState::NoSignal;
 }
 
 void QRtspVideoWnd::closeRtsp(int sessionId, int playType)
@@ -213,12 +226,18 @@ void QRtspVideoWnd::openAddress(const QString& address, const UICommonMdl::Strea
     closeSource();
     m_opened = opened;
     m_address = address;
-    m_source = channelSources().makeSource(address, options);
+    const QPointer<QRtspVideoWnd> guard(this);
+    auto made = opened == Opened::Rtsp ? channelSources().makeForeignSource(address, options)
+                                       : channelSources().makeSource(address, options);
+    // Makers may run an event loop, in which something else was opened, closed or deleted.
+    if (!guard || m_source || m_opened == Opened::Nothing)
+        return;
+    m_source = std::move(made);
     PictureSource* source = m_source.get();
     connect(source, &PictureSource::sgnPictureReady, this, &QRtspVideoWnd::sltPictureReady);
     connect(source, &PictureSource::sgnStateChanged, this, [this]() { update(); });
-    source->start();
     update();
+    source->start();
 }
 
 void QRtspVideoWnd::closeSource()
@@ -234,8 +253,8 @@ void QRtspVideoWnd::closeSource()
     m_strip->setFrozen(false);
     m_pixmap = QPixmap();
     m_reportedSize = QSize();
-    followPictureRect();
     update();
+    followPictureRect();
 }
 
 void QRtspVideoWnd::sltPictureReady()
@@ -243,9 +262,11 @@ void QRtspVideoWnd::sltPictureReady()
     if (isFrozen())
         return;
     m_pixmap = QPixmap();
+    update(paneRect(selectedPane()));
+    const QPointer<QRtspVideoWnd> guard(this);
     followPictureRect();
-    reportVideoSize();
-    update(m_rect);
+    if (guard)
+        reportVideoSize();
 }
 
 void QRtspVideoWnd::sltAddressesChanged()
@@ -262,7 +283,7 @@ void QRtspVideoWnd::sltSaveSnapshot()
         QDateTime::currentDateTime().toString(QStringLiteral("'snapshot'-yyyyMMdd-HHmmss'.png'"));
     const QString file = QFileDialog::getSaveFileName(this, tr("Save snapshot"), name,
                                                       tr("Pictures (*.png *.jpg *.bmp)"));
-    if (!guard || file.isEmpty() || picture.save(file))
+    if (!guard || file.isEmpty() || UICommonMdl::savePicture(picture, file))
         return;
     KQGUI::KQMessageBox::ShowError(this, tr("Save snapshot"),
                                    tr("The picture cannot be saved as \"%1\".").arg(file));
@@ -343,8 +364,7 @@ void QRtspVideoWnd::paintEvent(QPaintEvent*)
 /// Scales once a picture and size; sources that know the size have done it already.
 void QRtspVideoWnd::preparePixmap(const QRect& picture)
 {
-    const qreal ratio = devicePixelRatioF();
-    const QSize size = (QSizeF(picture.size()) * ratio).toSize();
+    const QSize size = keptSize(QSizeF(picture.size()) * devicePixelRatioF());
     if (m_pixmap.size() == size)
         return;
     m_source->setTargetSize(size);

@@ -20,11 +20,18 @@ namespace Json
 namespace
 {
 
-// Numbers come as text, because the parser's own conversion is not exact at the limits.
-constexpr unsigned kFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseInsituFlag |
-                            rapidjson::kParseCommentsFlag | rapidjson::kParseNumbersAsStringsFlag;
+// Numbers come as text, because the parser's own conversion is not exact at the limits. It calls
+// itself for each level of the document, of which the builder allows only so many.
+constexpr unsigned kFlags = rapidjson::kParseInsituFlag | rapidjson::kParseCommentsFlag |
+                            rapidjson::kParseNumbersAsStringsFlag;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::size_t markLength(std::string_view utf8)
+{
+    const bool isMarked = utf8.substr(0, kByteOrderMark.size()) == kByteOrderMark;
+    return isMarked ? kByteOrderMark.size() : 0;
+}
 
 /// A copy for the parser to write in, ended by the NUL that it stops at.
 std::unique_ptr<char[]> workingCopy(std::string_view text)
@@ -37,57 +44,73 @@ std::unique_ptr<char[]> workingCopy(std::string_view text)
 
 } // namespace
 
+/// What is wrong with a text, and how many bytes before it are not.
+struct Reader::Fault {
+    const char* text = nullptr; ///< null when nothing is
+    std::size_t offset = 0;
+};
+
 bool Reader::parse(std::string_view utf8, Value& root, bool)
 {
-    m_errorText.clear();
-    m_errorLine = m_errorColumn = 0;
+    const std::string_view text = utf8.substr(markLength(utf8));
     // The text may lie in the value that it is read into.
     Value document;
-    const bool done = parseInto(utf8, document);
+    const Fault fault = parseInPlace(workingCopy(text).get(), text.size(), document);
+    report(text, fault);
     root = std::move(document);
-    return done;
+    return !fault.text;
 }
 
-bool Reader::parse(const QString& text, Value& root, bool collectComments)
+bool Reader::parse(const QString& text, Value& root, bool)
 {
-    const QByteArray utf8 = text.toUtf8();
-    return parse({utf8.constData(), std::size_t(utf8.size())}, root, collectComments);
+    QByteArray utf8 = text.toUtf8();
+    const auto mark = static_cast<int>(markLength({utf8.constData(), std::size_t(utf8.size())}));
+    Value document;
+    const Fault fault = parseInPlace(utf8.data() + mark, std::size_t(utf8.size() - mark), document);
+    if (fault.text)
+        utf8 = text.toUtf8(); // as it was before the parser wrote in it
+    report({utf8.constData() + mark, std::size_t(utf8.size() - mark)}, fault);
+    root = std::move(document);
+    return !fault.text;
 }
 
-bool Reader::parseInto(std::string_view utf8, Value& document)
+Reader::Fault Reader::parseInPlace(char* text, std::size_t size, Value& document)
 {
-    if (utf8.substr(0, kByteOrderMark.size()) == kByteOrderMark)
-        utf8.remove_prefix(kByteOrderMark.size());
-    if (utf8.size() > std::size_t(std::numeric_limits<int>::max()))
-        return fail({}, 0, "The text is too long.");
+    const std::string_view utf8(text, size);
+    if (size > std::size_t(std::numeric_limits<int>::max()))
+        return {"The text is too long.", 0};
     const std::size_t invalid = firstInvalidUtf8(utf8);
-    if (invalid < utf8.size())
-        return fail(utf8, invalid, "The text is not valid UTF-8.");
+    if (invalid < size)
+        return {"The text is not valid UTF-8.", invalid};
 
-    const std::unique_ptr<char[]> copy = workingCopy(utf8);
-    rapidjson::InsituStringStream stream(copy.get());
+    rapidjson::InsituStringStream stream(text);
     ValueBuilder builder(utf8.find("\\u") != std::string_view::npos);
     rapidjson::Reader parser;
     const rapidjson::ParseResult result = parser.Parse<kFlags>(stream, builder);
-    if (builder.fault())
-        return fail(utf8, result.Offset(), builder.fault());
+    if (builder.fault()) {
+        // The parser is behind a bracket by then, but before any other fault.
+        const std::size_t bracket = builder.isTooDeep() ? 1 : 0;
+        return {builder.fault(), result.Offset() - bracket};
+    }
     if (result.IsError())
-        return fail(utf8, result.Offset(), rapidjson::GetParseError_En(result.Code()));
-    if (stream.Tell() < utf8.size())
-        return fail(utf8, stream.Tell(), "The text goes on after a NUL.");
+        return {rapidjson::GetParseError_En(result.Code()), result.Offset()};
+    if (stream.Tell() < size)
+        return {"The text goes on after a NUL.", stream.Tell()};
     document = builder.takeRoot();
-    return true;
+    return {};
 }
 
-bool Reader::fail(std::string_view utf8, std::size_t offset, const char* fault)
+void Reader::report(std::string_view utf8, const Fault& fault)
 {
-    const std::string_view before = utf8.substr(0, std::min(offset, utf8.size()));
+    m_errorText = QString::fromLatin1(fault.text);
+    m_errorLine = m_errorColumn = 0;
+    if (!fault.text)
+        return;
+    const std::string_view before = utf8.substr(0, std::min(fault.offset, utf8.size()));
     const std::string_view line = before.substr(before.rfind('\n') + 1);
-    m_errorText = QString::fromLatin1(fault);
     m_errorLine = 1 + int(std::count(before.begin(), before.end(), '\n'));
     m_errorColumn =
         1 + int(std::count_if(line.begin(), line.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-    return false;
 }
 
 } // namespace Json

@@ -36,8 +36,11 @@ public:
     int errorColumn() const { return m_errorColumn; }
 
 private:
-    bool parseInto(std::string_view utf8, Value& document);
-    bool fail(std::string_view utf8, std::size_t offset, const char* fault);
+    struct Fault;
+
+    /// Writes in @p text, which a NUL follows.
+    static Fault parseInPlace(char* text, std::size_t size, Value& document);
+    void report(std::string_view utf8, const Fault& fault);
 
     QString m_errorText;
     int m_errorLine = 0;

@@ -72,14 +72,15 @@ void StreamMailbox::countDropped(int pictures)
     m_dropped += pictures;
 }
 
-void StreamMailbox::postPicture(const QImage& picture, std::shared_ptr<const AVFrame> frame)
+void StreamMailbox::postPicture(const QImage& picture,
+                                std::shared_ptr<const DecodedPicture> decoded)
 {
     const Lock lock(m_mutex);
     if (!m_wake)
         return;
     m_dropped += m_news.picture.isNull() ? 0 : 1;
     m_news.picture = picture;
-    m_news.frame = std::move(frame);
+    m_news.decoded = std::move(decoded);
     wakeOnce();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/kqhostexport.h"
 #include "host/streamnews.h"
 
 #include <QSize>
@@ -17,7 +18,7 @@ namespace UICommonMdl
  * was not fetched in time counts as dropped. Once closed, nothing wakes the GUI side any more, and
  * the stream's threads end by themselves.
  */
-class StreamMailbox
+class KQHOST_EXPORT StreamMailbox
 {
 public:
     using Clock = std::chrono::steady_clock;
@@ -40,7 +41,7 @@ public:
     QSize targetSize() const;
     void setCodec(const QString& codec);
     void countDropped(int pictures);
-    void postPicture(const QImage& picture, std::shared_ptr<const AVFrame> frame);
+    void postPicture(const QImage& picture, std::shared_ptr<const DecodedPicture> decoded);
     void postFailure(const QString& reason);
 
 private:

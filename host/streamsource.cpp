@@ -1,10 +1,14 @@
 #include "host/streamsource.h"
 
+#include "host/decodedpicture.h"
 #include "host/dprintlog.h"
 #include "host/maskedaddress.h"
-#include "host/picturescaler.h"
-#include "host/streamdecoder.h"
+#include "host/streamlibrary.h"
 #include "host/streammailbox.h"
+#include "host/streamplayer.h"
+#include "host/streamthreads.h"
+
+#include <QPointer>
 
 namespace UICommonMdl
 {
@@ -15,6 +19,12 @@ constexpr int kFirstWait = 1;
 constexpr int kLongestWait = 30;
 constexpr int kMillisecondsPerSecond = 1000;
 constexpr int kLogLevel = 2;
+
+void play(const StreamRequest& request, StreamMailbox& mailbox)
+{
+    StreamPlayer* const player = StreamLibrary::player();
+    mailbox.postFailure(player ? player->play(request, mailbox) : StreamLibrary::missingText());
+}
 
 } // namespace
 
@@ -54,7 +64,7 @@ QSize StreamSource::pictureSize() const
 
 QImage StreamSource::fullPicture() const
 {
-    return m_frame ? PictureScaler().convert(*m_frame, m_pictureSize) : QImage();
+    return m_decoded ? m_decoded->image() : QImage();
 }
 
 void StreamSource::setTargetSize(const QSize& size)
@@ -81,24 +91,28 @@ void StreamSource::sltConnect()
         QMetaObject::invokeMethod(this, &StreamSource::sltNews, Qt::QueuedConnection);
     });
     m_mailbox->setTargetSize(m_targetSize);
-    StreamDecoder::launch(m_request, m_mailbox);
+    const bool started = StreamThreads::start(
+        [request = m_request, mailbox = m_mailbox]() { play(request, *mailbox); });
+    if (!started)
+        m_mailbox->postFailure(tr("There is not enough memory."));
 }
 
 void StreamSource::sltNews()
 {
     if (!m_mailbox)
         return;
+    const QPointer<StreamSource> guard(this);
     const StreamNews news = m_mailbox->fetch();
     if (!news.picture.isNull()) {
         m_wait = kFirstWait;
         m_picture = news.picture;
-        m_frame = news.frame;
-        m_pictureSize = QSize(m_frame->width, m_frame->height);
+        m_decoded = news.decoded;
+        m_pictureSize = m_decoded->size();
         setState(PictureState::Playing);
         announcePicture();
     }
-    // Whoever heard of the picture may have stopped this source.
-    if (news.failure && m_mailbox)
+    // Whoever heard of the picture may have stopped or deleted this source.
+    if (guard && news.failure && m_mailbox)
         lose(*news.failure);
 }
 

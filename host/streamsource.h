@@ -7,11 +7,10 @@
 
 #include <memory>
 
-struct AVFrame;
-
 namespace UICommonMdl
 {
 
+class DecodedPicture;
 class StreamMailbox;
 
 /**
@@ -49,7 +48,7 @@ private:
     int m_wait; ///< seconds until the next try
     QSize m_targetSize;
     QImage m_picture;
-    std::shared_ptr<const AVFrame> m_frame; ///< m_picture as it was decoded
+    std::shared_ptr<const DecodedPicture> m_decoded; ///< the same picture
     QSize m_pictureSize;
 };
 

@@ -73,7 +73,7 @@ Value::Value(const Value& other)
         hold(Kind::LongText, other.block<TextBlock>());
         break;
     case Kind::Array:
-        hold(Kind::Array, ItemBlock::copy(other.items()));
+        hold(Items::copy(other.items()));
         break;
     case Kind::Object:
         hold(Kind::Object, MemberBlock::copy(other.members()));
@@ -102,7 +102,7 @@ void Value::release() noexcept
     if (m_bytes.kind == Kind::LongText)
         block<TextBlock>()->release();
     else if (m_bytes.kind == Kind::Array)
-        ItemBlock::release(items());
+        items().release();
     else if (m_bytes.kind == Kind::Object)
         MemberBlock::release(members());
 }
@@ -120,7 +120,7 @@ bool Value::operator==(const Value& other) const
     case Kind::Real:
         return load<double>() == other.load<double>();
     case Kind::Array:
-        return empty() || std::equal(items()->begin(), items()->end(), other.items()->begin());
+        return std::equal(items().begin(), items().end(), other.items().begin());
     case Kind::Object:
         return empty() ||
                std::all_of(members()->begin(), members()->end(), [&other](const Member& member) {
@@ -183,8 +183,8 @@ int Value::bounded(std::size_t index) noexcept
 
 const Value& Value::operator[](int index) const
 {
-    const ItemBlock* block = items();
-    return block && index >= 0 && index < block->size ? block->begin()[index] : nullValue();
+    const Items all = items();
+    return index >= 0 && std::uint32_t(index) < all.size ? all.first[index] : nullValue();
 }
 
 Value& Value::operator[](int index)
@@ -194,24 +194,23 @@ Value& Value::operator[](int index)
         return thrownAway();
     for (int missing = index - count; missing >= 0; --missing)
         append(Value());
-    return items()->begin()[index];
+    return items().first[index];
 }
 
 Value& Value::append(Value value)
 {
     if (!isArray())
         *this = Value(ValueType::Array);
-    ItemBlock* block = ItemBlock::grown(items());
-    hold(Kind::Array, block);
-    auto* item = new (block->end()) Value(std::move(value));
-    ++block->size;
-    return *item;
+    Items all = items();
+    all.append(std::move(value));
+    hold(all);
+    return *(all.end() - 1);
 }
 
 int Value::size() const noexcept
 {
-    if (const ItemBlock* block = items())
-        return block->size;
+    if (isArray())
+        return int(items().size);
     const MemberBlock* block = members();
     return block ? block->size : 0;
 }

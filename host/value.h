@@ -16,7 +16,7 @@ namespace kql
 namespace Json
 {
 
-struct ItemBlock;
+struct Items;
 struct MemberBlock;
 struct TextBlock;
 
@@ -128,10 +128,15 @@ public:
 
 private:
     friend class ValueBuilder;
+    template<typename Writer>
+    friend class ValueWriter;
     friend struct MemberBlock;
 
     enum class Kind : unsigned char { Null, Bool, Int, Real, ShortText, LongText, Array, Object };
     static constexpr std::size_t kShortText = 14;
+    // Of an array, behind the pointer to its elements.
+    static constexpr std::size_t kSizeAt = 8;
+    static constexpr std::size_t kOffsetAt = 12;
 
     /// Unused bytes are zero, so that short texts compare as two words.
     struct Bytes {
@@ -159,6 +164,7 @@ private:
         return static_cast<Block*>(load<void*>());
     }
     void hold(Kind kind, void* content) noexcept { store(kind, content); }
+    void hold(const Items& items) noexcept;
     void takeFrom(Value& other) noexcept
     {
         m_bytes = other.m_bytes;
@@ -186,7 +192,7 @@ private:
                asView() == other.asView();
     }
     void release() noexcept;
-    ItemBlock* items() const noexcept { return isArray() ? block<ItemBlock>() : nullptr; }
+    Items items() const noexcept;
     MemberBlock* members() const noexcept { return isObject() ? block<MemberBlock>() : nullptr; }
 
     Bytes m_bytes;

@@ -59,52 +59,70 @@ void TextBlock::release() noexcept
         BlockArena::release({this, chunk});
 }
 
-ItemBlock* ItemBlock::make(int capacity, BlockArena* arena)
+Items Items::makeAlone(std::uint32_t capacity)
 {
-    const auto [memory, chunk] =
-        allocate(sizeof(ItemBlock) + std::size_t(capacity) * sizeof(Value), arena);
-    return new (memory) ItemBlock{0, capacity, chunk};
+    void* const memory =
+        BlockArena::allocateAlone((std::size_t(capacity) + 1) * sizeof(Value)).memory;
+    new (memory) std::uint32_t(capacity);
+    return {static_cast<Value*>(memory) + 1, 0, 0};
 }
 
-ItemBlock* ItemBlock::copy(const ItemBlock* other)
+std::uint32_t Items::capacity() const noexcept
 {
-    if (!other || other->size == 0)
-        return nullptr;
-    ItemBlock* block = make(other->size);
-    for (const Value& item : *other) {
-        new (block->end()) Value(item);
-        ++block->size;
+    return first && offset == 0 ? *reinterpret_cast<const std::uint32_t*>(first - 1) : size;
+}
+
+Items Items::copy(const Items& other)
+{
+    if (other.size == 0)
+        return {};
+    Items items = makeAlone(other.size);
+    for (const Value& item : other)
+        new (items.first + items.size++) Value(item);
+    return items;
+}
+
+Items Items::take(Value* values, int count, BlockArena& arena)
+{
+    const std::size_t bytes = std::size_t(count) * sizeof(Value);
+    Items items;
+    if (bytes <= BlockArena::kLargestBlock) {
+        const BlockArena::Place place = arena.allocate(bytes);
+        items = {static_cast<Value*>(place.memory), 0, BlockArena::offset(place)};
+    } else {
+        items = makeAlone(std::uint32_t(count));
     }
-    return block;
+    moveBytes(items.first, values, count);
+    items.size = std::uint32_t(count);
+    return items;
 }
 
-ItemBlock* ItemBlock::take(Value* values, int count, BlockArena& arena)
+void Items::append(Value&& value)
 {
-    ItemBlock* block = make(count, &arena);
-    moveBytes(block->begin(), values, count);
-    block->size = count;
-    return block;
-}
-
-ItemBlock* ItemBlock::grown(ItemBlock* block)
-{
-    if (block && block->size < block->capacity)
-        return block;
-    ItemBlock* larger = make(grownCapacity(block ? block->size : 0, 2));
-    if (block) {
-        moveBytes(larger->begin(), block->begin(), block->size);
-        larger->size = block->size;
-        BlockArena::release({block, block->chunk});
+    if (size == capacity()) {
+        Items larger = makeAlone(std::uint32_t(grownCapacity(int(size), 2)));
+        if (first) {
+            moveBytes(larger.first, first, int(size));
+            freeMemory();
+        }
+        larger.size = size;
+        *this = larger;
     }
-    return larger;
+    new (end()) Value(std::move(value));
+    ++size;
 }
 
-void ItemBlock::release(ItemBlock* block) noexcept
+void Items::release() noexcept
 {
-    if (!block)
-        return;
-    std::for_each(block->begin(), block->end(), [](Value& item) { item.~Value(); });
-    BlockArena::release({block, block->chunk});
+    for (Value& item : *this)
+        item.~Value();
+    if (first)
+        freeMemory();
+}
+
+void Items::freeMemory() noexcept
+{
+    BlockArena::release(BlockArena::place(offset == 0 ? first - 1 : first, offset));
 }
 
 MemberBlock* MemberBlock::make(int capacity, BlockArena* arena)

@@ -25,24 +25,29 @@ struct TextBlock {
     }
 };
 
-/// The elements of one array. They follow the block; one without elements needs no block.
-struct ItemBlock {
-    int size;
-    int capacity;
-    BlockArena::Chunk* chunk;
+/**
+ * The elements of one array, which the value that holds them owns. In a chunk they lie as they are
+ * and take no more of them, alone they lie behind the number of those that they have room for.
+ */
+struct Items {
+    Value* first = nullptr;
+    std::uint32_t size = 0;
+    BlockArena::Offset offset = 0;
 
-    static ItemBlock* make(int capacity, BlockArena* arena = nullptr);
-    static ItemBlock* copy(const ItemBlock* other);
+    static Items copy(const Items& other);
     /// Takes over the bytes of @p count values, which are no values any more then.
-    static ItemBlock* take(Value* values, int count, BlockArena& arena);
-    /// @p block, or a larger one that replaces it, with room for one more element.
-    static ItemBlock* grown(ItemBlock* block);
-    static void release(ItemBlock* block) noexcept;
+    static Items take(Value* values, int count, BlockArena& arena);
+    /// Adds an element.
+    void append(Value&& value);
+    void release() noexcept;
 
-    Value* begin() noexcept { return reinterpret_cast<Value*>(this + 1); }
-    const Value* begin() const noexcept { return reinterpret_cast<const Value*>(this + 1); }
-    Value* end() noexcept { return begin() + size; }
-    const Value* end() const noexcept { return begin() + size; }
+    Value* begin() const noexcept { return first; }
+    Value* end() const noexcept { return first + size; }
+
+private:
+    static Items makeAlone(std::uint32_t capacity);
+    std::uint32_t capacity() const noexcept;
+    void freeMemory() noexcept;
 };
 
 struct Member {
@@ -86,6 +91,24 @@ private:
     static bool namesDiffer(const Member* members, int count) noexcept;
     std::uint32_t* table() noexcept { return reinterpret_cast<std::uint32_t*>(begin() + capacity); }
 };
+
+inline Items Value::items() const noexcept
+{
+    Items items;
+    if (!isArray())
+        return items;
+    items.first = static_cast<Value*>(load<void*>());
+    std::memcpy(&items.size, m_bytes.content + kSizeAt, sizeof items.size);
+    std::memcpy(&items.offset, m_bytes.content + kOffsetAt, sizeof items.offset);
+    return items;
+}
+
+inline void Value::hold(const Items& items) noexcept
+{
+    hold(Kind::Array, items.first);
+    std::memcpy(m_bytes.content + kSizeAt, &items.size, sizeof items.size);
+    std::memcpy(m_bytes.content + kOffsetAt, &items.offset, sizeof items.offset);
+}
 
 } // namespace Json
 } // namespace kql

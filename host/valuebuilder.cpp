@@ -76,7 +76,7 @@ bool ValueBuilder::EndArray(unsigned count)
     --m_depth;
     Value array(ValueType::Array);
     if (count > 0) {
-        array.hold(Value::Kind::Array, ItemBlock::take(m_open.newest(count), int(count), m_arena));
+        array.hold(Items::take(m_open.newest(count), int(count), m_arena));
         m_open.forgetNewest(count);
     }
     return add(std::move(array));

@@ -41,6 +41,8 @@ public:
     /// The finished document.
     Value takeRoot();
     const char* fault() const { return m_fault; }
+    /// Whether the fault is that the last bracket goes too deep.
+    bool isTooDeep() const { return m_depth > kDeepest; }
 
 private:
     template<typename... Args>

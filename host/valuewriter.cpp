@@ -1,5 +1,6 @@
 #include "host/value.h"
 
+#include "host/textstream.h"
 #include "host/valueblocks.h"
 
 #include <cmath>
@@ -12,87 +13,93 @@ namespace kql
 namespace Json
 {
 
-namespace
+/// Tells a writer of any kind of text what a document holds.
+template<typename Writer>
+class ValueWriter
 {
+public:
+    explicit ValueWriter(Writer& writer) : m_writer(writer) {}
 
-using Writer = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
-
-void write(Writer& writer, const Value& value);
-
-void writeArray(Writer& writer, const Value& array)
-{
-    writer.StartArray();
-    for (int index = 0, count = array.size(); index < count; ++index)
-        write(writer, array[index]);
-    writer.EndArray();
-}
-
-void writeObject(Writer& writer, const Value& object)
-{
-    writer.StartObject();
-    for (int position = 0, count = object.size(); position < count; ++position) {
-        const std::string_view name = object.memberName(position);
-        writer.Key(name.data(), rapidjson::SizeType(name.size()));
-        write(writer, object.memberValue(position));
+    void write(const Value& value)
+    {
+        switch (value.m_bytes.kind) {
+        case Value::Kind::Null:
+            m_writer.Null();
+            break;
+        case Value::Kind::Bool:
+            m_writer.Bool(value.load<bool>());
+            break;
+        case Value::Kind::Int:
+            m_writer.Int64(value.load<qint64>());
+            break;
+        case Value::Kind::Real:
+            writeReal(value.load<double>());
+            break;
+        case Value::Kind::ShortText:
+        case Value::Kind::LongText:
+            m_writer.String(value.asView().data(), length(value));
+            break;
+        case Value::Kind::Array:
+            writeArray(value.items());
+            break;
+        case Value::Kind::Object:
+            writeObject(value.members());
+            break;
+        }
     }
-    writer.EndObject();
-}
 
-void writeReal(Writer& writer, double number)
-{
-    if (std::isfinite(number))
-        writer.Double(number);
-    else
-        writer.Null();
-}
-
-void write(Writer& writer, const Value& value)
-{
-    switch (value.type()) {
-    case ValueType::Null:
-        writer.Null();
-        break;
-    case ValueType::Int:
-        writer.Int64(value.asInt64());
-        break;
-    case ValueType::Real:
-        writeReal(writer, value.asDouble());
-        break;
-    case ValueType::String:
-        writer.String(value.asView().data(), rapidjson::SizeType(value.asView().size()));
-        break;
-    case ValueType::Bool:
-        writer.Bool(value.asBool());
-        break;
-    case ValueType::Array:
-        writeArray(writer, value);
-        break;
-    case ValueType::Object:
-        writeObject(writer, value);
-        break;
+private:
+    static rapidjson::SizeType length(const Value& text)
+    {
+        return rapidjson::SizeType(text.asView().size());
     }
-}
 
-rapidjson::StringBuffer styled(const Value& value)
-{
-    rapidjson::StringBuffer buffer;
-    Writer writer(buffer);
-    write(writer, value);
-    return buffer;
-}
+    void writeReal(double number)
+    {
+        if (std::isfinite(number))
+            m_writer.Double(number);
+        else
+            m_writer.Null();
+    }
 
-} // namespace
+    void writeArray(const Items& items)
+    {
+        m_writer.StartArray();
+        for (const Value& item : items)
+            write(item);
+        m_writer.EndArray();
+    }
+
+    void writeObject(const MemberBlock* members)
+    {
+        m_writer.StartObject();
+        if (members) {
+            for (const Member& member : *members) {
+                m_writer.Key(member.name.asView().data(), length(member.name));
+                write(member.value);
+            }
+        }
+        m_writer.EndObject();
+    }
+
+    Writer& m_writer;
+};
 
 std::string Value::toStyledString() const
 {
-    const rapidjson::StringBuffer buffer = styled(*this);
-    return {buffer.GetString(), buffer.GetSize()};
+    rapidjson::StringBuffer text;
+    rapidjson::PrettyWriter<rapidjson::StringBuffer> writer(text);
+    ValueWriter(writer).write(*this);
+    return {text.GetString(), text.GetSize()};
 }
 
 QString Value::toStyledText() const
 {
-    const rapidjson::StringBuffer buffer = styled(*this);
-    return QString::fromUtf8(buffer.GetString(), int(buffer.GetSize()));
+    TextStream text;
+    rapidjson::PrettyWriter<TextStream, rapidjson::UTF8<>, rapidjson::UTF16<TextStream::Ch>> writer(
+        text);
+    ValueWriter(writer).write(*this);
+    return text.take();
 }
 
 } // namespace Json

@@ -34,6 +34,8 @@ namespace
 // A styled document this short is an empty object: nothing is running that a save could affect.
 constexpr int kEmptyConfigLength = 10;
 constexpr int kQuestionType = 1;
+// Some lines of the narrow column; names from documents can be of any length.
+constexpr int kLongestHint = 300;
 
 } // namespace
 
@@ -58,6 +60,7 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
     connect(m_form->btnCancel, &QPushButton::clicked, this, &CIntelligentRulesCtrl::sltCancel);
     connect(this, &CIntelligentRulesCtrl::sgnNotifyVideoSize, this,
             &CIntelligentRulesCtrl::sltNotifyVideoSize, Qt::QueuedConnection);
+    m_form->lblHint->hide();
     applySkin();
 }
 
@@ -112,11 +115,10 @@ void CIntelligentRulesCtrl::connectSurface()
 void CIntelligentRulesCtrl::drawOverPicture(void* deviceContext, void* user)
 {
     auto* ctrl = static_cast<CIntelligentRulesCtrl*>(user);
-    if (!ctrl)
+    if (!ctrl || !ctrl->m_drawScene)
         return;
     Gdiplus::Graphics graphics(static_cast<HDC>(deviceContext));
-    if (ctrl->m_drawScene)
-        ctrl->m_drawScene->draw(&graphics);
+    ctrl->m_drawScene->draw(&graphics);
 }
 
 void CIntelligentRulesCtrl::reportVideoSize(int width, int height, void* user)
@@ -144,10 +146,14 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
     const std::optional<RulesParameters> parameters = RulesParameters::parse(json, session);
     if (!parameters)
         return;
+    // The host hears of focus and picture meanwhile, and may load anew or delete the window.
+    const LoadGuard guard(this);
     showParameters(*parameters);
     initScenes(parameters->templateText, parameters->configText, parameters->selectionMode);
-    openPicture(*parameters);
-    repaintPicture();
+    if (guard.holds())
+        openPicture(*parameters);
+    if (guard.holds())
+        repaintPicture();
 }
 
 void CIntelligentRulesCtrl::resetToDefaults()
@@ -208,7 +214,7 @@ void CIntelligentRulesCtrl::addPanel(RuleData& sceneData, bool selectionMode)
     m_scenes.append(panel);
     connect(panel, &BaseTabelScene::sgnTrySelectedlScene, this,
             &CIntelligentRulesCtrl::sltTrySelectedlScene);
-    connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::repaintPicture);
+    connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::sceneChanged);
 }
 
 void CIntelligentRulesCtrl::openPicture(const RulesParameters& parameters)
@@ -216,19 +222,20 @@ void CIntelligentRulesCtrl::openPicture(const RulesParameters& parameters)
     if (!m_playerWin)
         return;
     if (!parameters.stream.rtspUrl.isEmpty()) {
-        m_playerWin->openByRtsp(parameters.stream);
         m_rtspOpened = true;
         m_playType = parameters.stream.playType;
         m_sessionId = parameters.stream.sessionId;
+        m_playerWin->openByRtsp(parameters.stream);
     } else if (!m_channelId.isEmpty()) {
-        m_playerWin->openLivePicture(m_channelId);
         m_rtspOpened = false;
+        m_playerWin->openLivePicture(m_channelId);
     }
 }
 
 void CIntelligentRulesCtrl::clearData()
 {
     ++m_loadNumber;
+    showHint({});
     m_channelId.clear();
     m_channelName.clear();
     m_drawScene = nullptr;
@@ -271,6 +278,8 @@ void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
             continue;
         }
         if (!panel->getSelected()) {
+            if (m_drawScene)
+                m_drawScene->dropPainting();
             m_drawScene = panel->getDrawScene();
             fitCanvas();
         }
@@ -296,6 +305,12 @@ void CIntelligentRulesCtrl::repaintPicture()
         m_playerWin->update();
 }
 
+void CIntelligentRulesCtrl::sceneChanged()
+{
+    showHint({});
+    repaintPicture();
+}
+
 void CIntelligentRulesCtrl::finishEdits()
 {
     for (BaseTabelScene* scene : qAsConst(m_scenes))
@@ -314,7 +329,7 @@ void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
                                      [](BaseTabelScene* s) { return s->GetDrawStatus(); });
     if (drawing)
         m_drawScene->SetDrawOver(false);
-    repaintPicture();
+    sceneChanged();
 }
 
 void CIntelligentRulesCtrl::OnMouseMove(QMouseEvent* event)
@@ -343,6 +358,7 @@ void CIntelligentRulesCtrl::sltSave()
     if (!m_parser)
         return;
     finishEdits();
+    showHint({});
     const LoadGuard guard(this);
     const bool allowed = m_selectionMode ? checkSelection() : checkScenes() && confirmChange();
     if (!guard.holds() || !allowed)
@@ -418,11 +434,14 @@ bool CIntelligentRulesCtrl::confirmChange()
                   "whether to modify it?"));
 }
 
-bool CIntelligentRulesCtrl::postResult() const
+bool CIntelligentRulesCtrl::postResult()
 {
     kql::Json::Value config;
-    if (!m_parser->writeData(config))
+    QString why;
+    if (!m_parser->writeData(config, why)) {
+        showHint(tr("Nothing was saved. %1").arg(why));
         return false;
+    }
     postSaved(resultContext(), config);
     return true;
 }
@@ -452,6 +471,13 @@ bool CIntelligentRulesCtrl::ask(const QString& question)
 void CIntelligentRulesCtrl::showError(const QString& message)
 {
     KQGUI::KQMessageBox::ShowError(this, tr("Error"), message);
+}
+
+void CIntelligentRulesCtrl::showHint(const QString& text)
+{
+    const bool isLong = text.size() > kLongestHint;
+    m_form->lblHint->setText(isLong ? text.left(kLongestHint) + QChar(0x2026) : text);
+    m_form->lblHint->setVisible(!text.isEmpty());
 }
 
 void CIntelligentRulesCtrl::paintEvent(QPaintEvent*)

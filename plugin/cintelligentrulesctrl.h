@@ -90,10 +90,12 @@ private:
     bool collectNames(const BaseTabelScene& scene, QSet<QString>& names);
     bool checkSelection();
     bool confirmChange();
-    bool postResult() const;
+    bool postResult();
     ResultContext resultContext() const;
     bool ask(const QString& question);
     void showError(const QString& message);
+    void showHint(const QString& text);
+    void sceneChanged();
 
     std::unique_ptr<Ui_IntelligentRulesCtrl> m_form;
     QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers

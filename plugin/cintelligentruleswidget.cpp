@@ -20,7 +20,10 @@ CIntelligentRulesWidget::CIntelligentRulesWidget(CommonData::CInterfaceSetManage
 
 CIntelligentRulesWidget::~CIntelligentRulesWidget()
 {
-    if (m_ctrl && !m_ctrl->parent())
+    // A window that stays with the host holds nothing of GDI+, which is about to end.
+    if (m_ctrl && m_ctrl->parent())
+        m_ctrl->clearData();
+    else
         delete m_ctrl;
 }
 

@@ -18,8 +18,8 @@ class CIntelligentRulesCtrl;
 /**
  * The host's handle of one rules window: gives out the window, takes the host's messages.
  *
- * The window belongs to the parent that the host supplies; only a window that never got one is
- * deleted here.
+ * The window belongs to the parent that the host supplies. When the handle goes, such a window
+ * stays, empty; only one that never got a parent is deleted here.
  */
 class CIntelligentRulesWidget : public QObject, public KQPluginAPI::IAbstractWidget
 {

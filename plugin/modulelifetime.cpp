@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QTranslator>
 #include <memory>
+#include <utility>
 
 // Resources of a static library are registered by name, from outside any namespace.
 static void initResources()
@@ -48,7 +49,9 @@ void startModule()
 void endModule()
 {
     LabelFont::release();
-    Gdiplus::GdiplusShutdown(g_gdiplusToken);
+    // A host may end what it never started, or ended already.
+    if (g_gdiplusToken != 0)
+        Gdiplus::GdiplusShutdown(std::exchange(g_gdiplusToken, 0));
     g_translator.reset();
 }
 

@@ -458,6 +458,7 @@ void BaseTabelScene::sltRuleEnableChanged(int dataId, bool on)
     RuleDataInfo* entry = m_data ? m_data->getDataInfo(dataId) : nullptr;
     if (entry)
         entry->setEnabled(on);
+    emit sgnRepaintCanvas();
 }
 
 void BaseTabelScene::refreshTabelDrawItem()
@@ -480,7 +481,8 @@ void BaseTabelScene::refreshChildTabelDrawItem()
     }
     EntryButtons::fillChildren(*widgets().childDrawItems, *m_data, button->dataId(),
                                widgets().childFucBar->drawTypes());
-    TabOrder::fromTopToBottom(this);
+    if (!widgets().childDrawItems->isEmpty())
+        TabOrder::fromTopToBottom(this);
 }
 
 void BaseTabelScene::sltTabelAttrControlValueChange(const QString& key)

@@ -67,7 +67,7 @@ public slots:
     void sltTabelAttrControlValueChange(const QString& key);
 
 signals:
-    /// Something on the canvas may look different now.
+    /// What is edited changed, or something on the canvas may look different now.
     void sgnRepaintCanvas();
 
 protected:

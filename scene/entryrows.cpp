@@ -8,6 +8,9 @@
 #include "tabel/controltabel.h"
 #include "tabel/layouthold.h"
 
+#include <QHash>
+#include <vector>
+
 namespace
 {
 
@@ -18,14 +21,96 @@ void startWithDefault(ControlTabel& row, const RuleDataInfo& entry)
         row.setValue(defaultValue, false);
 }
 
+void storeRow(ControlTabel& row, const QString& key, RuleDataInfo& entry)
+{
+    if (!row.isModified())
+        return;
+    // The entry no longer has what was loaded: going back to it is a change, too.
+    row.setModified();
+    entry.setValue(key, row.value());
+}
+
+QHash<QString, ControlTabel*> rowsByKey(const ControlItemWidgetTabel& rows)
+{
+    QHash<QString, ControlTabel*> found;
+    for (ControlTabel* row : rows.controls()) {
+        if (!found.contains(row->key()))
+            found.insert(row->key(), row);
+    }
+    return found;
+}
+
+/// Follows a changed value down the chains of what depends on it. These are as long as templates
+/// make them, so it goes down them without recursion.
+class DependentsUpdate
+{
+public:
+    DependentsUpdate(const ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,
+                     RuleDataInfo& entry)
+        : m_template(dataTemplate),
+          m_entry(entry),
+          m_dependents(Validity::dependents(dataTemplate)),
+          m_rows(rowsByKey(rows))
+    {
+    }
+
+    void run(const QString& changedKey)
+    {
+        std::vector<Level> chain{enter(changedKey)};
+        while (!chain.empty()) {
+            Level& level = chain.back();
+            if (level.next == level.items.size()) {
+                chain.pop_back();
+                continue;
+            }
+            const RuleProtocolItem& item = *level.items[level.next++];
+            if (changes(item))
+                chain.push_back(enter(item.key()));
+        }
+    }
+
+private:
+    struct Level {
+        QVector<const RuleProtocolItem*> items;
+        int next;
+    };
+
+    Level enter(const QString& key)
+    {
+        const QVector<const RuleProtocolItem*> items = m_dependents.value(key);
+        for (const RuleProtocolItem* item : items)
+            Validity::update(m_template, m_entry, *item);
+        return {items, 0};
+    }
+
+    /// Stores the item's row if it applies; whether the entry has another value by that.
+    bool changes(const RuleProtocolItem& item)
+    {
+        ControlTabel* row = m_entry.isValid(item.key()) ? m_rows.value(item.key()) : nullptr;
+        if (!row)
+            return false;
+        const QVariant before = m_entry.value(item.key());
+        startWithDefault(*row, m_entry);
+        storeRow(*row, item.key(), m_entry);
+        return m_entry.value(item.key()) != before;
+    }
+
+    const DataTemplate& m_template;
+    RuleDataInfo& m_entry;
+    const Validity::Dependents m_dependents;
+    const QHash<QString, ControlTabel*> m_rows;
+};
+
 } // namespace
 
 void EntryRows::load(ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,
                      const RuleDataInfo* entry)
 {
     const LayoutHold hold(&rows);
-    for (ControlTabel* row : rows.controls())
-        row->loadValue(entry ? entry->value(row->key()) : QVariant());
+    for (ControlTabel* row : rows.controls()) {
+        if (!entry || row->protocolItem())
+            row->loadValue(entry ? entry->value(row->key()) : QVariant());
+    }
     if (entry)
         showApplicable(rows, dataTemplate, *entry);
 }
@@ -44,28 +129,16 @@ void EntryRows::showApplicable(ControlItemWidgetTabel& rows, const DataTemplate&
 
 void EntryRows::store(const ControlItemWidgetTabel& rows, const QString& key, RuleDataInfo& entry)
 {
-    const ControlTabel* row = rows.findControl(key);
-    if (row && row->isModified())
-        entry.setValue(key, row->value());
+    ControlTabel* row = rows.findControl(key);
+    if (row)
+        storeRow(*row, key, entry);
 }
 
 void EntryRows::updateDependents(const ControlItemWidgetTabel& rows,
                                  const DataTemplate& dataTemplate, const QString& changedKey,
                                  RuleDataInfo& entry)
 {
-    Validity::updateDependents(dataTemplate, entry, changedKey);
-    for (const auto& item : dataTemplate.items()) {
-        if (!Validity::dependsOn(*item, changedKey) || !entry.isValid(item->key()))
-            continue;
-        ControlTabel* row = rows.findControl(item->key());
-        if (!row)
-            continue;
-        const QVariant before = entry.value(item->key());
-        startWithDefault(*row, entry);
-        store(rows, item->key(), entry);
-        if (entry.value(item->key()) != before)
-            updateDependents(rows, dataTemplate, item->key(), entry);
-    }
+    DependentsUpdate(rows, dataTemplate, entry).run(changedKey);
 }
 
 void EntryRows::release(const ControlItemWidgetTabel& rows, const DataTemplate* dataTemplate)

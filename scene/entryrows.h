@@ -11,7 +11,8 @@ class RuleProtocolItem;
 namespace EntryRows
 {
 
-/// Shows @p entry in the rows; without one they show nothing. Announces and changes nothing.
+/// Shows @p entry in the rows; without one they show nothing. Announces and changes nothing. Rows
+/// without an attribute are left to whoever made them.
 void load(ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,
           const RuleDataInfo* entry);
 

@@ -3,6 +3,8 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "tabel/checkboxwidget.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 void CheckBoxTabel::init()
@@ -24,7 +26,8 @@ void CheckBoxTabel::init()
 
 void CheckBoxTabel::setValue(const QVariant& value, bool emitChange)
 {
-    const QStringList checked = value.toStringList();
+    const QStringList values = value.toStringList();
+    const QSet<QString> checked(values.begin(), values.end());
     for (CheckBoxWidget* box : qAsConst(m_boxes))
         box->setChecked(checked.contains(box->value()));
     if (emitChange)

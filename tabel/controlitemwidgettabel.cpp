@@ -9,7 +9,7 @@ ControlItemWidgetTabel::ControlItemWidgetTabel(QWidget* parent) : WidgetTabel(pa
 
 void ControlItemWidgetTabel::addControl(ControlTabel* row, bool relayoutNow)
 {
-    if (!row || m_rows.contains(row))
+    if (!row || contains(row))
         return;
     m_rows.append(row);
     row->setEnabled(getControlEnable());
@@ -55,7 +55,7 @@ void ControlItemWidgetTabel::finishEdits()
 
 void ControlItemWidgetTabel::removeWidget(QWidget* widget)
 {
-    if (std::find(m_rows.begin(), m_rows.end(), widget) != m_rows.end())
+    if (contains(widget))
         widget->disconnect(this);
     WidgetTabel::removeWidget(widget);
 }
@@ -65,6 +65,8 @@ void ControlItemWidgetTabel::forgetWidget(const QObject* child)
     const auto isChild = [child](const ControlTabel* row) {
         return static_cast<const QObject*>(row) == child;
     };
-    m_rows.erase(std::remove_if(m_rows.begin(), m_rows.end(), isChild), m_rows.end());
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), isChild);
+    if (row != m_rows.end())
+        m_rows.erase(row);
     WidgetTabel::forgetWidget(child);
 }

@@ -39,18 +39,17 @@ QVariant ControlTabel::itemValue() const
     return m_item ? m_item->defaultValue() : QVariant();
 }
 
-void ControlTabel::reset()
-{
-    setValue(QVariant(), false);
-}
-
 void ControlTabel::finishEdit() {}
 
 void ControlTabel::loadValue(const QVariant& value)
 {
-    reset();
-    setValue(value, false);
+    showValue(value);
     rememberLoaded();
+}
+
+void ControlTabel::showValue(const QVariant& value)
+{
+    setValue(value, false);
 }
 
 void ControlTabel::rememberLoaded()

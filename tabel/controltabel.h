@@ -9,7 +9,7 @@ class RuleProtocolItem;
  * A row that edits one attribute: its caption at the left, an editor at the right. Changes are
  * announced by key only; the receiver reads value().
  *
- * Values set by code with the emit flag off, reset() and loadValue() announce nothing.
+ * Values set by code with the emit flag off and loadValue() announce nothing.
  */
 class ControlTabel : public WidgetTabel, public ControlRow
 {
@@ -30,8 +30,6 @@ public:
     /// The item's key; empty without an item.
     QString key() const;
 
-    /// Shows nothing: empty edits, no box checked.
-    virtual void reset();
     /// Commits an edit in progress, or restores the old value where the text is refused.
     virtual void finishEdit();
     /// Shows another entry's value, whatever the row showed before.
@@ -39,6 +37,8 @@ public:
     /// Whether the row was given another value since it was loaded. Stays so when the operator
     /// returns to the first one, which then has to be stored again.
     bool isModified() const;
+    /// The row counts as modified until another value is loaded.
+    void setModified() { m_touched = true; }
 
     bool isRowVisible() const override { return !isHidden(); }
     const QObject* rowObject() const override { return this; }
@@ -48,6 +48,9 @@ signals:
     void sgnControlValueChange(const QString& key);
 
 protected:
+    /// Shows @p value and nothing of what was shown before, for rows whose setValue() may leave
+    /// some of that; nothing, empty edits and no box checked, for a value that does not fit.
+    virtual void showValue(const QVariant& value);
     /// The item's default value; invalid without an item.
     QVariant itemValue() const;
     void announce();

@@ -1,5 +1,6 @@
 #include "tabel/inputboxwidget.h"
 
+#include "tabel/plaintext.h"
 #include "tabel/rowedit.h"
 
 #include <QLabel>
@@ -29,7 +30,7 @@ InputBoxWidget::InputBoxWidget(QWidget* parent)
 
 void InputBoxWidget::setUnit(const QString& unit)
 {
-    m_unit->setText(unit);
+    m_unit->setText(PlainText::line(unit));
     m_unit->setVisible(!unit.isEmpty());
     place();
 }

@@ -27,9 +27,9 @@ QVariant InputRangeEditTabel::value() const
     return m_edit->range();
 }
 
-void InputRangeEditTabel::reset()
+void InputRangeEditTabel::showValue(const QVariant& value)
 {
-    m_edit->setRange(QSize(-1, -1), false);
+    m_edit->setRange(value.type() == QVariant::Size ? value.toSize() : QSize(-1, -1), false);
 }
 
 void InputRangeEditTabel::finishEdit()

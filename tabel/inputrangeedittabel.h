@@ -16,8 +16,10 @@ public:
     /// Takes a QSize and ignores anything else.
     void setValue(const QVariant& value, bool emitChange) override;
     QVariant value() const override;
-    void reset() override;
     void finishEdit() override;
+
+protected:
+    void showValue(const QVariant& value) override;
 
 private:
     InputRangeEdit* m_edit;

@@ -15,12 +15,11 @@ OptionsTabel::OptionsTabel(QWidget* parent) : ControlTabel(parent)
     setFixCountLimit(1, kColumns);
 }
 
-void OptionsTabel::relayout(int x, int y)
+QSize OptionsTabel::cellSize(const QList<QWidget*>& visible, int x) const
 {
     int widest = kCellWidth;
-    for (const QWidget* box : getVisibleItems())
+    for (const QWidget* box : visible)
         widest = qMax(widest, box->sizeHint().width());
-    const int room = width() - (x == 0 ? startX() : x) - paddingLeft();
-    setItemSize(QSize(qMax(kCellWidth, qMin(widest, room)), kCellHeight));
-    ControlTabel::relayout(x, y);
+    const int room = width() - x - paddingLeft();
+    return {qMax(kCellWidth, qMin(widest, room)), kCellHeight};
 }

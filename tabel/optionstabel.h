@@ -10,5 +10,6 @@ class OptionsTabel : public ControlTabel
 public:
     explicit OptionsTabel(QWidget* parent = nullptr);
 
-    void relayout(int x, int y) override;
+protected:
+    QSize cellSize(const QList<QWidget*>& visible, int x) const override;
 };

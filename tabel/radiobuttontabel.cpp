@@ -6,9 +6,16 @@
 #include <QButtonGroup>
 #include <algorithm>
 
-RadioButtonTabel::RadioButtonTabel(QWidget* parent)
-    : OptionsTabel(parent), m_group(new QButtonGroup(this))
+RadioButtonTabel::RadioButtonTabel(QWidget* parent) : OptionsTabel(parent)
 {
+    makeGroup();
+}
+
+/// Emptied one by one, a group would look through all of its buttons for each.
+void RadioButtonTabel::makeGroup()
+{
+    delete m_group;
+    m_group = new QButtonGroup(this);
     connect(m_group, QOverload<QAbstractButton*>::of(&QButtonGroup::buttonClicked), this,
             &RadioButtonTabel::sltBtnClicked);
 }
@@ -16,13 +23,12 @@ RadioButtonTabel::RadioButtonTabel(QWidget* parent)
 void RadioButtonTabel::init()
 {
     ControlTabel::init();
-    for (QAbstractButton* old : m_group->buttons())
-        m_group->removeButton(old);
+    makeGroup();
     deleteAll();
     const auto options = protocolItem() ? protocolItem()->enumeration() : QList<EnumOption>();
     for (const EnumOption& option : options) {
         auto* button = new RadioButtonWidget(option, this);
-        m_group->addButton(button);
+        m_group->addButton(button, 0); // without an id it would look for a free one among all
         button->show();
         addWidget(button, false);
     }
@@ -32,17 +38,24 @@ void RadioButtonTabel::init()
 
 void RadioButtonTabel::setValue(const QVariant& value, bool emitChange)
 {
-    const QString wanted = value.toString();
-    const QList<QAbstractButton*> buttons = m_group->buttons();
-    const auto found = std::find_if(
-        buttons.begin(), buttons.end(), [&value, &wanted](const QAbstractButton* button) {
-            const auto* radio = static_cast<const RadioButtonWidget*>(button);
-            return value.isValid() && radio->value() == wanted;
-        });
-    if (found != buttons.end())
-        (*found)->setChecked(true);
+    QAbstractButton* button = findButton(value);
+    if (button)
+        button->setChecked(true);
     else if (emitChange)
         announce();
+}
+
+QAbstractButton* RadioButtonTabel::findButton(const QVariant& value) const
+{
+    if (!value.isValid())
+        return nullptr;
+    const QString wanted = value.toString();
+    const QList<QAbstractButton*> buttons = m_group->buttons();
+    const auto found =
+        std::find_if(buttons.begin(), buttons.end(), [&wanted](const QAbstractButton* button) {
+            return static_cast<const RadioButtonWidget*>(button)->value() == wanted;
+        });
+    return found == buttons.end() ? nullptr : *found;
 }
 
 QVariant RadioButtonTabel::value() const
@@ -55,12 +68,18 @@ QVariant RadioButtonTabel::value() const
     return checked->value();
 }
 
-void RadioButtonTabel::reset()
+void RadioButtonTabel::showValue(const QVariant& value)
 {
+    QAbstractButton* checked = m_group->checkedButton();
+    if (QAbstractButton* button = findButton(value)) {
+        button->setChecked(true);
+        return;
+    }
+    if (!checked)
+        return;
     // An exclusive group does not let go of its last checked button.
     m_group->setExclusive(false);
-    for (QAbstractButton* button : m_group->buttons())
-        button->setChecked(false);
+    checked->setChecked(false);
     m_group->setExclusive(true);
 }
 

@@ -19,11 +19,16 @@ public:
     void setValue(const QVariant& value, bool emitChange) override;
     /// The checked option's stored value, an int for int items; invalid when none is checked.
     QVariant value() const override;
-    void reset() override;
+
+protected:
+    void showValue(const QVariant& value) override;
 
 private slots:
     void sltBtnClicked(QAbstractButton* button);
 
 private:
-    QButtonGroup* m_group;
+    void makeGroup();
+    QAbstractButton* findButton(const QVariant& value) const;
+
+    QButtonGroup* m_group = nullptr;
 };

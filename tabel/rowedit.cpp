@@ -10,7 +10,14 @@ RowEdit::RowEdit(QWidget* parent) : QLineEdit(parent) {}
 void RowEdit::showValue(const QString& text)
 {
     m_value = text;
-    setText(text);
+    if (!isUntouchedWith(text))
+        setText(text);
+}
+
+bool RowEdit::isUntouchedWith(const QString& text) const
+{
+    return this->text() == text && cursorPosition() == text.size() && !hasSelectedText() &&
+           !isModified() && !isUndoAvailable() && !isRedoAvailable();
 }
 
 void RowEdit::finishEdit()

@@ -13,7 +13,8 @@ class RowEdit : public QLineEdit
 public:
     explicit RowEdit(QWidget* parent = nullptr);
 
-    /// Shows @p text as the value that an abandoned edit falls back to.
+    /// Shows @p text as the value that an abandoned edit falls back to. An edit that nobody
+    /// touched since it showed that text is left alone.
     void showValue(const QString& text);
     /// Ends an edit in progress the way leaving does; nothing when there is none.
     void finishEdit();
@@ -25,6 +26,7 @@ protected:
 
 private:
     bool mend();
+    bool isUntouchedWith(const QString& text) const;
     void leaveUntouched(QFocusEvent* event);
 
     QString m_value;

@@ -2,10 +2,15 @@
 
 #include "tabel/drawitembutton.h"
 
+#include <QButtonGroup>
 #include <algorithm>
 
-RuleItemWidgetTabel::RuleItemWidgetTabel(QWidget* parent) : WidgetTabel(parent)
+RuleItemWidgetTabel::RuleItemWidgetTabel(QWidget* parent)
+    : WidgetTabel(parent), m_group(new QButtonGroup(this))
 {
+    m_group->setExclusive(false);
+    connect(m_group, QOverload<QAbstractButton*, bool>::of(&QButtonGroup::buttonToggled), this,
+            &RuleItemWidgetTabel::toggled);
     setPaddingLeft(5);
     setPaddingTop(5);
     setItemType(ItemSizeType::ItemFixSize);
@@ -15,10 +20,12 @@ RuleItemWidgetTabel::RuleItemWidgetTabel(QWidget* parent) : WidgetTabel(parent)
 
 void RuleItemWidgetTabel::addButton(DrawItemButton* button)
 {
-    if (!button || m_buttons.contains(button))
+    if (!button || contains(button))
         return;
     m_buttons.append(button);
     button->setEnabled(getControlEnable());
+    m_group->addButton(button, 0);
+    toggled(button, button->isChecked());
     connect(button, &DrawItemButton::clicked, this, [this, button] { pressed(button); });
     connect(button, &DrawItemButton::sgnEnableChanged, this,
             &RuleItemWidgetTabel::sgnEnableChanged);
@@ -33,13 +40,24 @@ void RuleItemWidgetTabel::pressed(DrawItemButton* button)
     emit sgnBtnClicked(id);
 }
 
+void RuleItemWidgetTabel::toggled(QAbstractButton* button, bool on)
+{
+    m_checked.removeOne(button);
+    if (on)
+        m_checked.append(button);
+}
+
 void RuleItemWidgetTabel::setCurrentButton(DrawItemButton* button, bool announce)
 {
     m_current = button;
     if (!button)
         return;
-    for (DrawItemButton* other : qAsConst(m_buttons))
-        other->setChecked(other == button);
+    button->setChecked(true);
+    const QList<QAbstractButton*> checked = m_checked;
+    for (QAbstractButton* other : checked) {
+        if (other != button)
+            other->setChecked(false);
+    }
     if (announce)
         emit sgnCheckBtnChanged();
 }
@@ -61,8 +79,10 @@ DrawItemButton* RuleItemWidgetTabel::findDataButton(int dataId) const
 
 void RuleItemWidgetTabel::removeWidget(QWidget* widget)
 {
-    if (std::find(m_buttons.begin(), m_buttons.end(), widget) != m_buttons.end())
+    if (contains(widget))
         widget->disconnect(this);
+    if (auto* button = qobject_cast<DrawItemButton*>(widget))
+        m_group->removeButton(button);
     WidgetTabel::removeWidget(widget);
 }
 
@@ -71,6 +91,9 @@ void RuleItemWidgetTabel::forgetWidget(const QObject* child)
     const auto found = std::find(m_buttons.begin(), m_buttons.end(), child);
     if (found != m_buttons.end())
         m_buttons.erase(found);
+    const auto checked = std::find(m_checked.begin(), m_checked.end(), child);
+    if (checked != m_checked.end())
+        m_checked.erase(checked);
     if (m_current == child)
         m_current = nullptr;
     WidgetTabel::forgetWidget(child);

@@ -3,6 +3,8 @@
 #include "tabel/widgettabel.h"
 
 class DrawItemButton;
+class QAbstractButton;
+class QButtonGroup;
 
 /// The table of a scene's figure buttons, one of which is current.
 class RuleItemWidgetTabel : public WidgetTabel
@@ -42,7 +44,10 @@ protected:
 
 private:
     void pressed(DrawItemButton* button);
+    void toggled(QAbstractButton* button, bool on);
 
     QList<DrawItemButton*> m_buttons;
+    QList<QAbstractButton*> m_checked; ///< those of them that are checked
+    QButtonGroup* m_group; ///< without one, Qt looks for others in all of the table's children
     DrawItemButton* m_current = nullptr;
 };

@@ -8,7 +8,7 @@ RuleWidgetTabel::RuleWidgetTabel(QWidget* parent) : WidgetTabel(parent) {}
 
 void RuleWidgetTabel::addButton(DrawFucButton* button)
 {
-    if (!button || m_buttons.contains(button))
+    if (!button || contains(button))
         return;
     m_buttons.append(button);
     button->setEnabled(getControlEnable());
@@ -26,13 +26,15 @@ QList<BaseDrawType> RuleWidgetTabel::drawTypes() const
 
 void RuleWidgetTabel::removeWidget(QWidget* widget)
 {
-    if (std::find(m_buttons.begin(), m_buttons.end(), widget) != m_buttons.end())
+    if (contains(widget))
         widget->disconnect(this);
     WidgetTabel::removeWidget(widget);
 }
 
 void RuleWidgetTabel::forgetWidget(const QObject* child)
 {
-    m_buttons.erase(std::remove(m_buttons.begin(), m_buttons.end(), child), m_buttons.end());
+    const auto button = std::find(m_buttons.begin(), m_buttons.end(), child);
+    if (button != m_buttons.end())
+        m_buttons.erase(button);
     WidgetTabel::forgetWidget(child);
 }

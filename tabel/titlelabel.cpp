@@ -7,6 +7,13 @@
 #include <QStyle>
 #include <QStyleOption>
 
+namespace
+{
+
+constexpr int kMeasureRoom = 2000; // QLabel's
+
+} // namespace
+
 TitleLabel::TitleLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
@@ -15,13 +22,24 @@ TitleLabel::TitleLabel(QWidget* parent) : QLabel(parent)
 
 void TitleLabel::setTitle(const QString& text)
 {
-    setText(text);
+    setText(PlainText::line(text));
     setToolTip(PlainText::toolTip(text));
 }
 
 bool TitleLabel::isElided() const
 {
     return fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+QSize TitleLabel::sizeHint() const
+{
+    ensurePolished();
+    if (frameWidth() > 0)
+        return QLabel::sizeHint();
+    const QRect room(0, 0, kMeasureRoom, kMeasureRoom);
+    const QSize size = fontMetrics().boundingRect(room, Qt::AlignLeft, text()).size();
+    const QSize margins(2 * margin(), 2 * margin());
+    return (size + margins).grownBy(contentsMargins()).expandedTo(minimumSize());
 }
 
 bool TitleLabel::event(QEvent* event)

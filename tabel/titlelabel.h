@@ -10,9 +10,11 @@ class TitleLabel : public QLabel
 public:
     explicit TitleLabel(QWidget* parent = nullptr);
 
-    /// text() stays the full text.
+    /// text() stays the full text, but for texts longer than any screen has room for.
     void setTitle(const QString& text);
     bool isElided() const;
+    /// The same as QLabel's, which measures the text three times for it.
+    QSize sizeHint() const override;
 
 protected:
     bool event(QEvent* event) override;

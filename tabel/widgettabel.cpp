@@ -17,33 +17,28 @@ WidgetTabel::WidgetTabel(QWidget* parent) : WidgetLayout(parent), m_title(new Ti
 
 void WidgetTabel::setItemType(ItemSizeType type)
 {
-    m_itemType = type;
-    m_laidOutSize = QSize();
+    change(m_itemType, type);
 }
 
 void WidgetTabel::setFixCountLimit(int min, int max)
 {
-    m_fixCountMin = min;
-    m_fixCountMax = max;
-    m_laidOutSize = QSize();
+    change(m_fixCountMin, min);
+    change(m_fixCountMax, max);
 }
 
 void WidgetTabel::setPaddingLeft(int padding)
 {
-    m_paddingLeft = padding;
-    m_laidOutSize = QSize();
+    change(m_paddingLeft, padding);
 }
 
 void WidgetTabel::setPaddingTop(int padding)
 {
-    m_paddingTop = padding;
-    m_laidOutSize = QSize();
+    change(m_paddingTop, padding);
 }
 
 void WidgetTabel::setItemSize(const QSize& size)
 {
-    m_itemSize = size;
-    m_laidOutSize = QSize();
+    change(m_itemSize, size);
 }
 
 void WidgetTabel::setTitle(const QString& title)
@@ -56,7 +51,7 @@ void WidgetTabel::setTitle(const QString& title)
 
 void WidgetTabel::addWidget(QWidget* widget, bool relayoutNow)
 {
-    if (!widget || m_itemInfo.contains(widget))
+    if (!widget || contains(widget))
         return;
     widget->setParent(this);
     insert(widget, false, relayoutNow);
@@ -64,7 +59,7 @@ void WidgetTabel::addWidget(QWidget* widget, bool relayoutNow)
 
 void WidgetTabel::addWidgetLayout(WidgetLayout* layout, bool relayoutNow)
 {
-    if (!layout || m_itemInfo.contains(layout))
+    if (!layout || contains(layout))
         return;
     layout->setParent(this);
     layout->setVisible(true);
@@ -75,7 +70,9 @@ void WidgetTabel::insert(QWidget* widget, bool isLayout, bool relayoutNow)
 {
     m_items.append(widget);
     m_itemInfo.insert(widget, {isLayout, !widget->isHidden(), widget->geometry()});
+    m_childrenEnabled.reset();
     m_laidOutSize = QSize();
+    outdate();
     widget->installEventFilter(this);
     if (relayoutNow)
         relayout(0, 0);
@@ -83,7 +80,7 @@ void WidgetTabel::insert(QWidget* widget, bool isLayout, bool relayoutNow)
 
 void WidgetTabel::removeWidget(QWidget* widget)
 {
-    if (!m_itemInfo.contains(widget))
+    if (!contains(widget))
         return;
     widget->removeEventFilter(this);
     forgetWidget(widget);
@@ -112,15 +109,20 @@ void WidgetTabel::forgetWidget(const QObject* child)
     const auto found = std::find(m_items.begin(), m_items.end(), child);
     if (found == m_items.end())
         return;
-    m_itemInfo.remove(*found);
+    m_itemInfo.remove(child);
     m_items.erase(found);
+    outdate();
 }
 
 void WidgetTabel::setControlEnable(bool enable)
 {
     storeControlEnable(enable);
+    // Children of a disabled table do not tell when they are set otherwise.
+    if (isEnabled() && m_childrenEnabled == enable)
+        return;
     for (QWidget* item : qAsConst(m_items))
         item->setEnabled(enable);
+    m_childrenEnabled = enable;
 }
 
 QList<QWidget*> WidgetTabel::getVisibleItems() const
@@ -147,22 +149,70 @@ void WidgetTabel::releaseLayout()
 
 void WidgetTabel::relayout(int x, int y)
 {
-    if (m_holds > 0) {
-        m_layoutPending = true;
+    if (WidgetTabel* held = holder()) {
+        outdate();
+        held->m_layoutPending = true;
         return;
     }
-    if (m_layingOut)
+    if (m_layingOut || isLaidOut(startOf(x, y)))
         return;
     const QScopedValueRollback<bool> guard(m_layingOut, true);
+    m_outdated = !hearsOfChanges();
     layoutPass(x, y);
-    if (hasDrifted())
+    if (hasDrifted()) {
         layoutPass(x, y);
+        m_outdated = m_outdated || hasDrifted();
+    }
     m_laidOutSize = size();
+    m_laidOutStart = startOf(x, y);
+    m_laidOutTitle = titlePlace();
 }
 
-int WidgetTabel::startX() const
+bool WidgetTabel::isLaidOut(const QPoint& start) const
 {
-    return showsTitle() ? m_paddingLeft + m_title->width() + m_spacing : m_paddingLeft;
+    return !m_outdated && m_laidOutSize == size() && m_laidOutStart == start &&
+           m_laidOutTitle == titlePlace();
+}
+
+bool WidgetTabel::hearsOfChanges() const
+{
+    const auto isSilent = [](const QWidget* item, const ItemInfo& info) {
+        return info.isLayout && !qobject_cast<const WidgetTabel*>(item);
+    };
+    return isVisible() && std::none_of(m_items.begin(), m_items.end(), [&](const QWidget* item) {
+               return isSilent(item, m_itemInfo[item]);
+           });
+}
+
+void WidgetTabel::outdate()
+{
+    for (WidgetTabel* table = this; table; table = table->outerTable())
+        table->m_outdated = true;
+}
+
+/// The table that lays this one out as a part of itself; null for none.
+WidgetTabel* WidgetTabel::outerTable() const
+{
+    auto* outer = qobject_cast<WidgetTabel*>(parentWidget());
+    const bool laysOut = outer && outer->m_itemType == ItemSizeType::ItemFixCount &&
+                         outer->m_fixCountMax > 0 && outer->m_itemInfo.value(this).isLayout;
+    return laysOut ? outer : nullptr;
+}
+
+/// The innermost table with a hold that this one is laid out with; null for none.
+WidgetTabel* WidgetTabel::holder()
+{
+    WidgetTabel* table = this;
+    while (table && table->m_holds == 0)
+        table = table->outerTable();
+    return table;
+}
+
+QPoint WidgetTabel::startOf(int x, int y) const
+{
+    if (x == 0)
+        x = showsTitle() ? m_paddingLeft + m_title->width() + m_spacing : m_paddingLeft;
+    return {x, y == 0 ? m_paddingTop : y};
 }
 
 bool WidgetTabel::showsTitle() const
@@ -170,27 +220,37 @@ bool WidgetTabel::showsTitle() const
     return !m_title->text().isEmpty() && !m_title->isHidden();
 }
 
+QRect WidgetTabel::titlePlace() const
+{
+    return showsTitle() ? m_title->geometry() : QRect();
+}
+
+void WidgetTabel::setHeight(int height)
+{
+    if (height != this->height())
+        resize(width(), height);
+}
+
 void WidgetTabel::layoutPass(int x, int y)
 {
-    if (x == 0)
-        x = startX();
-    if (y == 0)
-        y = m_paddingTop;
+    const QPoint start = startOf(x, y);
     const QList<QWidget*> visible = getVisibleItems();
     if (!visible.isEmpty()) {
         if (m_itemType == ItemSizeType::ItemFixCount && m_fixCountMax <= 0)
             return;
-        int bottom = y;
-        if (m_itemType == ItemSizeType::ItemFixCount)
-            bottom = placeFixCount(visible, x, y);
-        else if (m_itemType == ItemSizeType::ItemFlow)
-            bottom = placeFlow(visible, x, y);
-        else
-            bottom = placeFixSize(visible, x, y);
-        resize(width(), bottom + m_paddingTop);
+        setHeight(placeAll(visible, start) + m_paddingTop);
     }
     if (showsTitle())
-        placeTitle(visible, y);
+        placeTitle(visible, start.y());
+}
+
+int WidgetTabel::placeAll(const QList<QWidget*>& visible, const QPoint& start)
+{
+    if (m_itemType == ItemSizeType::ItemFixCount)
+        return placeFixCount(visible, start.x(), start.y());
+    if (m_itemType == ItemSizeType::ItemFlow)
+        return placeFlow(visible, start.x(), start.y());
+    return placeFixSize(visible, start.x(), start.y());
 }
 
 int WidgetTabel::placeFixCount(const QList<QWidget*>& visible, int x, int y)
@@ -255,24 +315,31 @@ int WidgetTabel::placeFlow(const QList<QWidget*>& visible, int x, int y)
 int WidgetTabel::placeFixSize(const QList<QWidget*>& visible, int x, int y)
 {
     const int last = visible.size() - 1;
-    const int columns = fixSizeColumns(x);
+    const QSize cell = cellSize(visible, x);
+    const int columns = fixSizeColumns(x, cell.width());
     for (int i = 0; i <= last; ++i) {
         QWidget* child = visible[i];
-        child->resize(m_itemSize);
+        if (child->size() != cell)
+            child->resize(cell);
         const int column = i % columns;
         if (i != 0 && column == 0)
             y += m_spacing;
-        placeChild(child, x + column * (m_itemSize.width() + m_spacing), y);
+        placeChild(child, x + column * (cell.width() + m_spacing), y);
         if (column == columns - 1 || i == last)
-            y += m_itemSize.height();
+            y += cell.height();
     }
     return y;
 }
 
-int WidgetTabel::fixSizeColumns(int x) const
+QSize WidgetTabel::cellSize(const QList<QWidget*>&, int) const
 {
-    const auto needed = [this, x](int count) {
-        return x + m_itemSize.width() * (count + 1) + m_spacing * count + m_paddingLeft;
+    return m_itemSize;
+}
+
+int WidgetTabel::fixSizeColumns(int x, int cellWidth) const
+{
+    const auto needed = [this, x, cellWidth](int count) {
+        return x + cellWidth * (count + 1) + m_spacing * count + m_paddingLeft;
     };
     int columns = 0;
     while (columns < m_fixCountMax && needed(columns) < width())
@@ -284,7 +351,7 @@ int WidgetTabel::fixSizeColumns(int x) const
 void WidgetTabel::placeTitle(const QList<QWidget*>& visible, int y)
 {
     if (visible.isEmpty()) {
-        resize(width(), y + m_title->height() + m_paddingTop);
+        setHeight(y + m_title->height() + m_paddingTop);
         m_title->move(m_paddingLeft, m_paddingTop);
         return;
     }
@@ -297,31 +364,38 @@ void WidgetTabel::placeChild(QWidget* child, int x, int y)
     const auto info = m_itemInfo.find(child);
     if (info == m_itemInfo.end())
         return;
+    info->geometry = QRect(QPoint(x, y), child->size());
     // Qt has the panel's opaque area found anew even for a move to where the child is.
-    if (child->pos() != QPoint(x, y))
+    if (child->pos() != info->geometry.topLeft())
         child->move(x, y);
-    info->geometry = child->geometry();
 }
 
 bool WidgetTabel::hasDrifted() const
 {
-    return std::any_of(m_items.begin(), m_items.end(), [this](QWidget* item) {
-        return !item->isHidden() && m_itemInfo.value(item).geometry.size() != item->size();
+    return std::any_of(m_items.begin(), m_items.end(), [this](const QWidget* item) {
+        return !item->isHidden() && m_itemInfo[item].geometry.size() != item->size();
     });
 }
 
 bool WidgetTabel::eventFilter(QObject* watched, QEvent* event)
 {
+    const auto* child = static_cast<const QWidget*>(watched);
     switch (event->type()) {
+    case QEvent::Move:
+        childMoved(child);
+        break;
     case QEvent::Resize:
-        childResized(static_cast<QWidget*>(watched));
+        childResized(child);
         break;
     // Children of a hidden table get only the two events about their own flag.
     case QEvent::Show:
     case QEvent::ShowToParent:
     case QEvent::Hide:
     case QEvent::HideToParent:
-        childVisibilityChanged(static_cast<QWidget*>(watched));
+        childVisibilityChanged(child);
+        break;
+    case QEvent::EnabledChange:
+        m_childrenEnabled.reset();
         break;
     default:
         break;
@@ -329,19 +403,30 @@ bool WidgetTabel::eventFilter(QObject* watched, QEvent* event)
     return WidgetLayout::eventFilter(watched, event);
 }
 
-void WidgetTabel::childResized(QWidget* child)
+void WidgetTabel::childMoved(const QWidget* child)
 {
     const auto info = m_itemInfo.constFind(child);
-    if (info != m_itemInfo.constEnd() && info->geometry.size() != child->size())
-        relayout(0, 0);
+    if (info != m_itemInfo.constEnd() && info->geometry.topLeft() != child->pos())
+        outdate();
 }
 
-void WidgetTabel::childVisibilityChanged(QWidget* child)
+void WidgetTabel::childResized(const QWidget* child)
+{
+    const auto info = m_itemInfo.constFind(child);
+    // A layout in progress sees for itself what came of it.
+    if (m_layingOut || info == m_itemInfo.constEnd() || info->geometry.size() == child->size())
+        return;
+    outdate();
+    relayout(0, 0);
+}
+
+void WidgetTabel::childVisibilityChanged(const QWidget* child)
 {
     const auto info = m_itemInfo.find(child);
     if (info == m_itemInfo.end() || info->visible == !child->isHidden())
         return;
     info->visible = !child->isHidden();
+    outdate();
     relayout(0, 0);
 }
 
@@ -353,14 +438,25 @@ void WidgetTabel::resizeEvent(QResizeEvent* event)
         relayout(0, 0);
 }
 
+void WidgetTabel::hideEvent(QHideEvent* event)
+{
+    WidgetLayout::hideEvent(event);
+    m_outdated = true;
+}
+
+void WidgetTabel::changeEvent(QEvent* event)
+{
+    WidgetLayout::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        outdate();
+}
+
 void WidgetTabel::childEvent(QChildEvent* event)
 {
     WidgetLayout::childEvent(event);
-    if (!event->removed())
+    if (!event->removed() || !contains(event->child()))
         return;
-    const int count = m_items.size();
     event->child()->removeEventFilter(this);
     forgetWidget(event->child());
-    if (m_items.size() != count)
-        relayout(0, 0);
+    relayout(0, 0);
 }

@@ -6,7 +6,10 @@
 
 #include <QHash>
 #include <QList>
+#include <QPoint>
+#include <QRect>
 #include <QSize>
+#include <optional>
 
 class TitleLabel;
 
@@ -14,6 +17,10 @@ class TitleLabel;
  * A container that places its visible children itself, in one of three modes, with an optional
  * title at the left. It lays out again when a child is shown, hidden or resized; a child counts
  * as visible while it is not hidden itself, whether or not the table shows.
+ *
+ * A table that shows hears of every change of what its layout depends on, and leaves a layout
+ * that is still good alone. Children that do not show tell nothing, so a table that does not show
+ * lays out whenever it is asked to.
  *
  * Children in the table are its Qt children. One that is destroyed or reparented elsewhere leaves
  * the table by itself.
@@ -26,7 +33,8 @@ public:
     explicit WidgetTabel(QWidget* parent = nullptr);
 
     /// Asked for while a layout is in progress, it does nothing: the one in progress runs once
-    /// more by itself when a child's size changed behind it.
+    /// more by itself when a child's size changed behind it. While the table that lays this one
+    /// out is held, the layout waits for that one's.
     void relayout(int x, int y) override;
     /// Takes @p widget out and hides it; it stays a child. Nothing for widgets not in the table.
     virtual void removeWidget(QWidget* widget);
@@ -65,7 +73,9 @@ public:
     void releaseLayout();
 
 protected:
-    /// Drops a child from the bookkeeping. @p child may be half destroyed: compare, never call.
+    bool contains(const QObject* child) const { return m_itemInfo.contains(child); }
+    /// Drops a child in the table from the bookkeeping. @p child may be half destroyed: compare,
+    /// never call.
     virtual void forgetWidget(const QObject* child);
 
     /// For rows that enable less than all of their children.
@@ -73,29 +83,51 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void childEvent(QChildEvent* event) override;
 
+    /// Size of the cells for @p visible, in mode ItemFixSize, with the first column at @p x.
+    virtual QSize cellSize(const QList<QWidget*>& visible, int x) const;
     int paddingLeft() const { return m_paddingLeft; }
-    /// Where the first column starts: the margin, behind the title where there is one.
-    int startX() const;
 
 private:
+    template<class Value>
+    void change(Value& setting, const Value& value)
+    {
+        if (setting == value)
+            return;
+        setting = value;
+        m_laidOutSize = QSize();
+        outdate();
+    }
+
     void insert(QWidget* widget, bool isLayout, bool relayoutNow);
+    void outdate();
+    WidgetTabel* outerTable() const;
+    WidgetTabel* holder();
+    bool isLaidOut(const QPoint& start) const;
+    bool hearsOfChanges() const;
+    QPoint startOf(int x, int y) const;
     bool showsTitle() const;
+    QRect titlePlace() const;
+    void setHeight(int height);
     void layoutPass(int x, int y);
+    int placeAll(const QList<QWidget*>& visible, const QPoint& start);
     int placeFixCount(const QList<QWidget*>& visible, int x, int y);
     int placeFlow(const QList<QWidget*>& visible, int x, int y);
     int placeFixSize(const QList<QWidget*>& visible, int x, int y);
-    int fixSizeColumns(int x) const;
+    int fixSizeColumns(int x, int cellWidth) const;
     void placeTitle(const QList<QWidget*>& visible, int y);
     void placeChild(QWidget* child, int x, int y);
     bool hasDrifted() const;
-    void childResized(QWidget* child);
-    void childVisibilityChanged(QWidget* child);
+    void childMoved(const QWidget* child);
+    void childResized(const QWidget* child);
+    void childVisibilityChanged(const QWidget* child);
 
     ItemSizeType m_itemType = ItemSizeType::ItemFixCount;
     QList<QWidget*> m_items;
-    QHash<QWidget*, ItemInfo> m_itemInfo;
+    QHash<const QObject*, ItemInfo> m_itemInfo;
     int m_paddingLeft = 10;
     int m_paddingTop = 10;
     int m_spacing = 5;
@@ -104,8 +136,14 @@ private:
     QSize m_itemSize{70, 30};
     TitleLabel* m_title;
     bool m_controlEnable = true;
+    std::optional<bool> m_childrenEnabled; ///< what every child was set to; nothing if unsure
     bool m_layingOut = false;
     bool m_layoutPending = false; ///< asked for while held
     int m_holds = 0;
-    QSize m_laidOutSize; ///< own size after the last layout; invalid when that is outdated
+
+    // What the last layout was made for.
+    bool m_outdated = true; ///< another one may come out differently
+    QSize m_laidOutSize;    ///< own size after it; invalid when a setting changed since
+    QPoint m_laidOutStart;
+    QRect m_laidOutTitle; ///< null without a title
 };

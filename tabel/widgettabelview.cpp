@@ -2,6 +2,8 @@
 
 #include "tabel/widgettabel.h"
 
+#include <QScrollBar>
+
 WidgetTabelView::WidgetTabelView(QWidget* parent)
     : QScrollArea(parent), m_content(new WidgetTabel(this))
 {
@@ -30,9 +32,25 @@ void WidgetTabelView::clearAll()
 void WidgetTabelView::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
+    layOut(viewport()->width());
+    // The bar comes by the event loop. Before the first show it is cheaper to leave it its place.
+    if (!isOverfull() || viewport()->isVisible())
+        return;
+    layOut(viewport()->width() - verticalScrollBar()->sizeHint().width());
+    if (!isOverfull())
+        layOut(viewport()->width());
+}
+
+bool WidgetTabelView::isOverfull() const
+{
+    return m_content->height() > viewport()->height();
+}
+
+void WidgetTabelView::layOut(int width)
+{
     // The rows give the height. Setting the view's first would hide the scroll bar for a moment,
     // which resizes the view again.
     const bool hasRows = !m_content->getVisibleItems().isEmpty();
-    m_content->resize(viewport()->width(), hasRows ? m_content->height() : viewport()->height());
+    m_content->resize(width, hasRows ? m_content->height() : viewport()->height());
     m_content->relayout(0, 0);
 }

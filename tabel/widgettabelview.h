@@ -22,5 +22,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    bool isOverfull() const;
+    void layOut(int width);
+
     WidgetTabel* m_content;
 };

@@ -7,7 +7,9 @@ BUILD_PACKAGES="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttool
     rapidjson-dev libavformat-dev libavcodec-dev libswscale-dev libavutil-dev fonts-dejavu-core"
 # What the tests need besides: a streaming server of another make than the player.
 TEST_PACKAGES="libgstrtspserver-1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
-    gstreamer1.0-plugins-ugly"
+    gstreamer1.0-plugins-ugly glib-networking openssl binutils"
+# The compiler of the fuzzers, and its sanitizers.
+FUZZ_PACKAGES="clang libclang-rt-14-dev"
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then

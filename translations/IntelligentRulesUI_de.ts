@@ -175,6 +175,10 @@
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
+    <message>
+        <source>Nothing was saved. %1</source>
+        <translation>Es wurde nichts gesichert. %1</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -321,6 +325,17 @@
     <message>
         <source>Lanes</source>
         <translation>Fahrspur</translation>
+    </message>
+</context>
+<context>
+    <name>RuleParser</name>
+    <message>
+        <source>The template has no &quot;configTemplate&quot; to write into.</source>
+        <translation>In der Vorlage fehlt &quot;configTemplate&quot;, in das geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>The template has no place &quot;%1&quot; for what is set under &quot;%2&quot;.</source>
+        <translation>In der Vorlage fehlt der Platz &quot;%1&quot; für das, was unter &quot;%2&quot; eingestellt ist.</translation>
     </message>
 </context>
 <context>

@@ -175,6 +175,10 @@
         <source>Error</source>
         <translation>错误</translation>
     </message>
+    <message>
+        <source>Nothing was saved. %1</source>
+        <translation>未保存任何内容。%1</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -321,6 +325,17 @@
     <message>
         <source>Lanes</source>
         <translation>车道</translation>
+    </message>
+</context>
+<context>
+    <name>RuleParser</name>
+    <message>
+        <source>The template has no &quot;configTemplate&quot; to write into.</source>
+        <translation>模板中缺少用于写入的&quot;configTemplate&quot;。</translation>
+    </message>
+    <message>
+        <source>The template has no place &quot;%1&quot; for what is set under &quot;%2&quot;.</source>
+        <translation>模板中没有位置&quot;%1&quot;来写入&quot;%2&quot;的设置。</translation>
     </message>
 </context>
 <context>

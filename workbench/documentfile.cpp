@@ -22,10 +22,8 @@ bool read(const QString& path, kql::Json::Value& document, QString& error)
                      document))
         return true;
     error = QStringLiteral("%1:%2:%3: %4")
-                .arg(path)
-                .arg(reader.errorLine())
-                .arg(reader.errorColumn())
-                .arg(reader.errorText());
+                .arg(path, QString::number(reader.errorLine()),
+                     QString::number(reader.errorColumn()), reader.errorText());
     return false;
 }
 

@@ -1,13 +1,17 @@
 #pragma once
 
-#include <QDockWidget>
+#include "workbench/messagerecord.h"
 
-struct MessageRecord;
+#include <QDockWidget>
+#include <QTime>
+
+#include <deque>
+
 class QPlainTextEdit;
 class QTreeWidget;
 
 /// Lists every message in both directions; the selected one's JSON is shown beside the list.
-/// User names and passwords of addresses are left out.
+/// User names and passwords of addresses are left out. The list is made when it is first shown.
 class MessageDock : public QDockWidget
 {
     Q_OBJECT
@@ -17,9 +21,20 @@ public:
 
     void add(const MessageRecord& message);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
+    struct Entry {
+        QTime time;
+        MessageRecord message;
+    };
+
+    void makeList();
+    void append(const Entry& entry);
     void showSelected();
 
-    QTreeWidget* m_list;
-    QPlainTextEdit* m_text;
+    std::deque<Entry> m_waiting;      ///< what came before the list was made
+    QTreeWidget* m_list = nullptr;    ///< null until then
+    QPlainTextEdit* m_text = nullptr; ///< null until then
 };

@@ -35,7 +35,21 @@ ModuleHost::~ModuleHost()
     m_loader.unload();
 }
 
+void ModuleHost::use(KQPluginAPI::IClientUIPluginAPI& plugin)
+{
+    m_plugin = &plugin;
+}
+
 bool ModuleHost::load(const QString& pluginFile)
+{
+    if (!m_plugin && !loadFile(pluginFile))
+        return false;
+    m_plugin->Init();
+    m_widget = m_plugin->GetUI()->CreateWidget();
+    return true;
+}
+
+bool ModuleHost::loadFile(const QString& pluginFile)
 {
     m_loader.setFileName(pluginFile.isEmpty() ? QCoreApplication::applicationDirPath() +
                                                     QLatin1Char('/') + QLatin1String(kPluginName)
@@ -48,8 +62,6 @@ bool ModuleHost::load(const QString& pluginFile)
     }
     // A plug-in finds a skin of its own in the folder beside it.
     QCoreApplication::addLibraryPath(QFileInfo(m_loader.fileName()).absolutePath());
-    m_plugin->Init();
-    m_widget = m_plugin->GetUI()->CreateWidget();
     return true;
 }
 

@@ -30,6 +30,8 @@ public:
     explicit ModuleHost(QObject* parent = nullptr);
     ~ModuleHost() override;
 
+    /// Takes @p plugin, which stays the caller's, in place of one from a file.
+    void use(KQPluginAPI::IClientUIPluginAPI& plugin);
     /// Loads @p pluginFile, or the one beside the program when empty; false with errorText().
     bool load(const QString& pluginFile);
     const QString& errorText() const { return m_errorText; }
@@ -49,11 +51,12 @@ signals:
     void sgnMessage(const MessageRecord& message);
 
 private:
+    bool loadFile(const QString& pluginFile);
     bool send(int id, const QString& p1, const QString& p2);
     void receive(const UICommonMdl::PluginMsg_Param& message);
 
     QPluginLoader m_loader;
-    KQPluginAPI::IClientUIPluginAPI* m_plugin = nullptr; ///< owned by the loader
+    KQPluginAPI::IClientUIPluginAPI* m_plugin = nullptr; ///< owned by the loader or the caller
     KQPluginAPI::IAbstractWidget* m_widget = nullptr;    ///< owned by the plug-in's factory
     QString m_errorText;
 };

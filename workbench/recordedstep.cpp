@@ -123,13 +123,6 @@ Value sourceOf(const QString& source)
     return source.isEmpty() ? Value() : Value(SourceBook::absolute(source));
 }
 
-template<class T>
-void addChanged(Value& result, const char* name, const T& before, const T& now)
-{
-    if (before != now)
-        result[name] = now;
-}
-
 } // namespace
 
 QWidget* panelAround(const QWidget& widget)
@@ -212,20 +205,27 @@ Value typed(const QWidget& row, const QLineEdit& edit)
     return result;
 }
 
-Value load(const WorkbenchOptions& before, const WorkbenchOptions& now)
+Value load(const WorkbenchOptions* before, const WorkbenchOptions& now)
 {
+    const auto isNew = [before, &now](auto member) {
+        return !before || before->*member != now.*member;
+    };
     Value result = step("load");
     result["template"] = pathOf(now.templateFile);
     result["config"] = pathOf(now.configFile);
-    if (before.source != now.source && !isSecret(now.source))
+    if (isNew(&WorkbenchOptions::source) && !isSecret(now.source))
         result["source"] = sourceOf(now.source);
-    addChanged(result, "channel", before.channelId, now.channelId);
-    addChanged(result, "name", before.channelName, now.channelName);
-    addChanged(result, "algorithm", before.algorithmId, now.algorithmId);
-    addChanged(result, "type", before.algorithmType, now.algorithmType);
-    addChanged(result, "code", before.algorithmCode, now.algorithmCode);
-    addChanged(result, "selection-mode", before.selectionMode, now.selectionMode);
-    if (before.editable != now.editable)
+    const auto addNew = [&result, &now, isNew](const char* name, auto member) {
+        if (isNew(member))
+            result[name] = now.*member;
+    };
+    addNew("channel", &WorkbenchOptions::channelId);
+    addNew("name", &WorkbenchOptions::channelName);
+    addNew("algorithm", &WorkbenchOptions::algorithmId);
+    addNew("type", &WorkbenchOptions::algorithmType);
+    addNew("code", &WorkbenchOptions::algorithmCode);
+    addNew("selection-mode", &WorkbenchOptions::selectionMode);
+    if (isNew(&WorkbenchOptions::editable))
         result["editable"] = now.editable ? Value(*now.editable) : Value();
     return result;
 }

@@ -39,6 +39,7 @@ Value set(const QWidget& row);
 Value typed(const QWidget& row, const QLineEdit& edit);
 
 /// Loading @p now where @p before was loaded; names what differs, and the documents always.
-Value load(const WorkbenchOptions& before, const WorkbenchOptions& now);
+/// Without @p before it names everything.
+Value load(const WorkbenchOptions* before, const WorkbenchOptions& now);
 
 } // namespace RecordedStep

@@ -298,7 +298,9 @@ QString SessionPlayer::doWait(const Value& step)
     }
     const bool shown = EventWait::until(
         kPictureTimeout, [this] { return !m_window.videoSurface()->paneRect(0).isEmpty(); });
-    return shown ? QString() : tr("no picture came");
+    if (shown)
+        return {};
+    return tr("no picture came: %1").arg(m_window.videoSurface()->statusText().simplified());
 }
 
 QString SessionPlayer::doExpect(const Value& step)

@@ -22,6 +22,8 @@ public:
     SessionPlayer(WorkbenchWindow& window, SessionScript script, QObject* parent = nullptr);
 
     void start();
+    /// Does one step at once; why it could not be done, or an empty text.
+    QString run(const kql::Json::Value& step);
 
 signals:
     /// @p error is empty, or one line with the step that failed and why.
@@ -34,7 +36,6 @@ private:
 
     static Action actionFor(const QString& name);
     void runNext();
-    QString run(const Value& step);
 
     QString doSize(const Value& step);
     QString doPress(const Value& step);

@@ -2,6 +2,7 @@
 
 #include "host/qrtspvideownd.h"
 #include "workbench/recordedstep.h"
+#include "workbench/sessionfile.h"
 #include "workbench/workbenchwindow.h"
 
 #include <QAbstractButton>
@@ -31,10 +32,20 @@ SessionRecorder::SessionRecorder(WorkbenchWindow& window, QObject* parent)
 {
 }
 
+SessionRecorder::~SessionRecorder() = default;
+
 bool SessionRecorder::open(const QString& path, QString& error)
 {
-    if (!m_file.open(path, error))
+    auto file = std::make_unique<SessionFile>();
+    if (!file->open(path, error))
         return false;
+    start(std::move(file));
+    return true;
+}
+
+void SessionRecorder::start(std::unique_ptr<SessionLog> log)
+{
+    m_log = std::move(log);
     for (QWidget* widget : m_rulesWindow->findChildren<QWidget*>())
         watch(widget);
     connect(&m_window, &WorkbenchWindow::sgnLoad, this, &SessionRecorder::sltLoad,
@@ -42,7 +53,6 @@ bool SessionRecorder::open(const QString& path, QString& error)
     qApp->installEventFilter(this);
     m_size = m_window.size();
     append(RecordedStep::size(m_window));
-    return true;
 }
 
 void SessionRecorder::watch(QWidget* widget)
@@ -135,7 +145,7 @@ void SessionRecorder::pressPicture(const QMouseEvent& event)
     if (isLeft && event.type() == QEvent::MouseButtonDblClick && m_move.isNull() &&
         m_last == press) {
         m_last = RecordedStep::onPicture("double", event.pos(), picture);
-        m_file.replaceLast(m_last);
+        m_log->replaceLast(m_last);
         return;
     }
     record(press);
@@ -231,13 +241,13 @@ void SessionRecorder::watchQuestion(QMessageBox& box)
         if (!isQuestion(m_last))
             return;
         m_last["answer"] = result == QMessageBox::Yes ? "Yes" : "No";
-        m_file.replaceLast(m_last);
+        m_log->replaceLast(m_last);
     });
 }
 
 void SessionRecorder::sltLoad()
 {
-    record(RecordedStep::load(m_loaded, m_window.options()));
+    record(RecordedStep::load(&m_loaded, m_window.options()));
     m_loaded = m_window.options();
     m_pictureAwaited = false;
 }
@@ -264,8 +274,8 @@ void SessionRecorder::append(const Value& step)
 {
     const bool isOnPicture = step.isMember("at");
     if (isOnPicture && !m_pictureAwaited)
-        m_file.append(RecordedStep::waitForPicture());
+        m_log->append(RecordedStep::waitForPicture());
     m_pictureAwaited = m_pictureAwaited || isOnPicture;
-    m_file.append(step);
+    m_log->append(step);
     m_last = step;
 }

@@ -2,18 +2,19 @@
 
 #include "host/value.h"
 #include "workbench/panelfinder.h"
-#include "workbench/sessionfile.h"
 #include "workbench/workbenchoptions.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QSize>
+#include <memory>
 
 class QAbstractButton;
 class QKeyEvent;
 class QLineEdit;
 class QMessageBox;
 class QMouseEvent;
+class SessionLog;
 class WorkbenchWindow;
 
 /**
@@ -30,9 +31,12 @@ class SessionRecorder : public QObject
 public:
     /// @p window has its rules window already; it is not owned.
     explicit SessionRecorder(WorkbenchWindow& window, QObject* parent = nullptr);
+    ~SessionRecorder() override;
 
     /// Starts recording into @p path, which is replaced; false with one line in @p error.
     bool open(const QString& path, QString& error);
+    /// Starts recording into @p log.
+    void start(std::unique_ptr<SessionLog> log);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -64,10 +68,10 @@ private:
     WorkbenchWindow& m_window;
     QPointer<QWidget> m_rulesWindow; ///< not owned; goes before the recorder
     PanelFinder m_finder;
-    SessionFile m_file;
-    Value m_last; ///< the step written last
-    Value m_move; ///< the pointer's last movement; null when it is written
-    QSize m_size; ///< of the window, as written
+    std::unique_ptr<SessionLog> m_log; ///< null until started
+    Value m_last;                      ///< the step written last
+    Value m_move;                      ///< the pointer's last movement; null when it is written
+    QSize m_size;                      ///< of the window, as written
     WorkbenchOptions m_loaded;
     QPointer<QLineEdit> m_edited; ///< typed into, and not written yet
     QPointer<QLineEdit> m_typed;  ///< written as unfinished

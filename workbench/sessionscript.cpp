@@ -24,10 +24,9 @@ bool SessionScript::read(const QString& path, QString& error)
         const bool parsed = reader.parse(bytes.toStdString(), step.step);
         if (!parsed || !qAsConst(step.step)["do"].isString()) {
             error = QStringLiteral("%1:%2:%3: %4")
-                        .arg(path)
-                        .arg(line)
-                        .arg(parsed ? 1 : reader.errorColumn())
-                        .arg(parsed ? QCoreApplication::translate("SessionScript",
+                        .arg(path, QString::number(line),
+                             QString::number(parsed ? 1 : reader.errorColumn()),
+                             parsed ? QCoreApplication::translate("SessionScript",
                                                                   "no text member \"do\"")
                                     : reader.errorText());
             return false;

@@ -1,6 +1,7 @@
 #include "workbench/workbench.h"
 
 #include "host/maskedaddress.h"
+#include "workbench/autosave.h"
 #include "workbench/sessionplayer.h"
 #include "workbench/sessionrecorder.h"
 #include "workbench/sessionscript.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QTextStream>
+#include <QTimer>
 
 namespace
 {
@@ -60,7 +62,16 @@ bool Workbench::start(QString& error)
         if (!recorder->open(options.recordFile, error))
             return false;
     }
-    return options.replayFile.isEmpty() || replay(options.replayFile, error);
+    if (!options.replayFile.isEmpty())
+        return replay(options.replayFile, error);
+    // Once the window is up: it delays nobody.
+    QTimer::singleShot(0, this, &Workbench::keepWork);
+    return true;
+}
+
+void Workbench::keepWork()
+{
+    m_autosave = std::make_unique<Autosave>(*m_window, AutosaveFile::usualFolder());
 }
 
 bool Workbench::replay(const QString& path, QString& error)

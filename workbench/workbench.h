@@ -4,6 +4,7 @@
 #include <memory>
 
 struct WorkbenchOptions;
+class Autosave;
 class SessionPlayer;
 class WorkbenchWindow;
 
@@ -25,9 +26,11 @@ public:
 private:
     bool start(QString& error);
     bool replay(const QString& path, QString& error);
+    void keepWork();
     void finishReplay(const QString& error);
 
     std::unique_ptr<WorkbenchWindow> m_window;
     std::unique_ptr<SessionPlayer> m_player;
+    std::unique_ptr<Autosave> m_autosave; ///< null while a session is replayed
     QString m_replayError;
 };

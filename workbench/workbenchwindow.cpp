@@ -3,6 +3,7 @@
 #include "host/channelsources.h"
 #include "host/kqsingleton.h"
 #include "host/maskedaddress.h"
+#include "host/picturefile.h"
 #include "host/qrtspvideownd.h"
 #include "host/reader.h"
 #include "host/value.h"
@@ -57,7 +58,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options, QWidget* paren
 WorkbenchWindow::~WorkbenchWindow()
 {
     // The window's code lives in the plug-in, which goes with m_host.
-    delete takeCentralWidget();
+    delete centralWidget();
 }
 
 void WorkbenchWindow::createMenus()
@@ -249,16 +250,24 @@ void WorkbenchWindow::saveResultAs()
     const QString path =
         QFileDialog::getSaveFileName(this, tr("Save result"), m_options.resultFile, jsonFilter());
     QString error;
-    if (!path.isEmpty() && !DocumentFile::write(path, m_lastResult, error))
+    if (path.isEmpty())
+        return;
+    if (DocumentFile::write(path, m_lastResult, error))
+        emit sgnResultKept();
+    else
         report(error);
 }
 
 void WorkbenchWindow::takeMessage(const MessageRecord& message)
 {
     m_dock->add(message);
-    if (message.direction == MessageRecord::Direction::FromModule && message.id == kRulesResult)
+    const bool isResult =
+        message.direction == MessageRecord::Direction::FromModule && message.id == kRulesResult;
+    if (isResult)
         takeResult(message.p2);
     emit sgnMessage(message);
+    if (isResult && !m_options.resultFile.isEmpty() && m_resultError.isEmpty())
+        emit sgnResultKept();
 }
 
 void WorkbenchWindow::takeResult(const QString& result)
@@ -296,7 +305,7 @@ void WorkbenchWindow::showPointer(const QMouseEvent* event)
 
 bool WorkbenchWindow::saveScreenshot(const QString& path)
 {
-    return grab().save(path);
+    return UICommonMdl::savePicture(grab().toImage(), path);
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)

@@ -51,6 +51,8 @@ signals:
     /// options() are the new ones; the rules window does not show them yet.
     void sgnLoad();
     void sgnMessage(const MessageRecord& message);
+    /// The last result is in a file.
+    void sgnResultKept();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

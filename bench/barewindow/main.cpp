@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QGridLayout>
-#include <QImage>
 #include <QPainter>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
@@ -9,31 +9,33 @@
 namespace
 {
 
-/// Shows a picture and ends the program once it has done so.
+/// Shows a picture file and ends the program once it has done so.
 class Picture : public QWidget
 {
 public:
-    using QWidget::QWidget;
+    explicit Picture(const QString& file) : m_pixmap(file) {}
 
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        QImage image(640, 360, QImage::Format_RGB32);
-        image.fill(Qt::darkGray);
-        QPainter(this).drawImage(rect(), image);
+        QPainter(this).drawPixmap(rect(), m_pixmap);
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
     }
+
+private:
+    QPixmap m_pixmap;
 };
 
 } // namespace
 
-/// A window with a picture and as many other widgets as the argument says.
+/// A window with as many widgets as the first argument says and the picture file that the second
+/// one names.
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
     QWidget window;
     QGridLayout layout(&window);
-    layout.addWidget(new Picture, 0, 0, 1, 10);
+    layout.addWidget(new Picture(QApplication::arguments().value(2)), 0, 0, 1, 10);
     const int count = QApplication::arguments().value(1).toInt();
     for (int i = 0; i < count; ++i)
         layout.addWidget(new QPushButton(QString::number(i)), 1 + i / 10, i % 10);

@@ -204,6 +204,18 @@ private slots:
         QVERIFY(!data.getDataInfo(ids[1])->hasValue("zone"));
         QCOMPARE(data.getDataInfo(ids[1])->value("number"), QVariant(4));
         QVERIFY(data.getDataInfo(ids[1])->isEnabled() && !data.getDataInfo(0));
+        RuleDataInfo& changed = *data.getDataInfo(ids[1]);
+        changed.setValue("number", 7);
+        changed.setValue("more", 1);
+        changed.setValid("more", false);
+        const RuleDataInfo copy = changed;
+        changed.setValue("number", QVariant());
+        QVERIFY(changed.hasValue("number") && !changed.value("number").isValid());
+        QCOMPARE(copy.value("number"), QVariant(7));
+        QVERIFY(!copy.isValid("more") && copy.isValid("number"));
+        const RuleDataInfo& other = *data.getDataInfo(ids[2]);
+        QCOMPARE(other.value("number"), QVariant(4));
+        QVERIFY(!other.hasValue("more") && other.isValid("more"));
         data.setSelectedDataId(ids[0]);
         data.removeDataInfo(ids[0]);
         QCOMPARE(data.getSelectedDataId(), ids[0]);

@@ -1,5 +1,6 @@
 #include "host/channelsources.h"
 #include "host/letterbox.h"
+#include "host/picturefile.h"
 #include "host/picturesource.h"
 #include "host/qrtspvideownd.h"
 #include "host/rtspvideoparam.h"
@@ -216,6 +217,21 @@ private slots:
         QCOMPARE(pixel(0, 50), QColor(Qt::blue));
     }
 
+    void keepsHugePicturesSmaller()
+    {
+        Surface surface({32767, 32767});
+        surface.openFake();
+        surface.window.setDrawEnabled(false);
+        g_fake->push({400, 200});
+        QImage image(64, 64, QImage::Format_RGB32);
+        surface.window.render(&image, {}, QRect(32700, 24540, 64, 64));
+        QCOMPARE(image.pixelColor(0, 0), QColor(Qt::blue));
+        QVERIFY(image.pixelColor(63, 63) != QColor(Qt::blue)); // below the picture
+        const QSize kept = g_fake->target();
+        QCOMPARE(qRound(10.0 * kept.width() / kept.height()), 20);
+        QVERIFY(qint64(kept.width()) * kept.height() < 1 << 27);
+    }
+
     void paintsOncePerPicture()
     {
         Surface surface({200, 100});
@@ -281,6 +297,63 @@ private slots:
         QCOMPARE(surface.log.size(), 1);
         surface.window.grab();
         QVERIFY(surface.draws > 0);
+    }
+
+    void opensOnlyStreamsOfAClient()
+    {
+        QTemporaryDir folder;
+        const QString picture = written(folder, encoded("png", {64, 48}));
+        Surface surface({640, 360});
+        const auto opens = [&surface](const QString& address) {
+            PreviewLogical::RtspVideoParam param;
+            param.rtspUrl = address;
+            const bool isOpen = surface.window.openByRtsp(param);
+            const QString status = surface.window.statusText();
+            if (isOpen == status.contains(QStringLiteral("Only rtsp and rtsps addresses")))
+                qWarning("%s: %s", qPrintable(address), qPrintable(status));
+            return isOpen;
+        };
+        for (const char* address : {"rtsp://127.0.0.1:1/a b?x=1", "RtsPS://[::1]:1/%00"})
+            QVERIFY2(opens(QLatin1String(address)), address);
+        const QString stream = QStringLiteral("rtsp://127.0.0.1:1/a");
+        const QStringList refused{picture,
+                                  "file:" + picture,
+                                  "file://" + picture,
+                                  "concat:" + picture,
+                                  "rtsp:" + picture,
+                                  "rtsp:concat:" + picture,
+                                  "sample:",
+                                  "fake:",
+                                  "",
+                                  "http://127.0.0.1:1/",
+                                  "data://image/png;base64,AA==",
+                                  "rtspx://127.0.0.1:1/a",
+                                  ' ' + stream,
+                                  '\n' + stream,
+                                  "rtsp ://127.0.0.1:1/a",
+                                  "rtsp\n://127.0.0.1:1/a",
+                                  stream + "\r\nX: y",
+                                  stream + QChar(0) + "b",
+                                  QChar(0) + stream};
+        for (const QString& address : refused)
+            QVERIFY2(!opens(address) && surface.window.paneRect(0).isEmpty(), qPrintable(address));
+        // The operator's own address may be a file.
+        sources().setAddress(kChannel, picture);
+        QVERIFY(surface.window.openLivePicture(kChannel));
+        QTRY_VERIFY(!surface.window.paneRect(0).isEmpty());
+    }
+
+    void savesPicturesInOneStep()
+    {
+        QTemporaryDir folder;
+        const QString path = written(folder, "before");
+        const QImage picture = QImage::fromData(encoded("png", {8, 6}));
+        QVERIFY(!savePicture(picture, path + ".nonsense") && !savePicture({}, path));
+        QVERIFY(!savePicture(picture, folder.filePath("missing/picture.png")));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("picture.jpg"));
+        QVERIFY(QImage(path).isNull());
+        QVERIFY(savePicture(picture, path));
+        QCOMPARE(QImage(path).size(), picture.size());
     }
 
     void closesWhatWasOpened()

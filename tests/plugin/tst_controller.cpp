@@ -15,7 +15,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTemporaryDir>
+
+#include <functional>
 
 using namespace SampleDocuments;
 using IntelligentRulesUI::CIntelligentRulesCtrl;
@@ -28,7 +31,7 @@ const QByteArray kChannel = R"("channalId": "C7")";
 const char kPrompt[] = "Prompt: The current operation may affect the already running task. "
                        "Please confirm whether to modify it?";
 const char kFullBlock[] = R"(, "selectionMode": true, "algorithmType": 1, "algorithmCode": "X9",
-    "iPlayType": 3, "rtspUrl": "rtsp:host")";
+    "iPlayType": 3, "rtspUrl": "RTSP://host")";
 const QString kSaved = R"({"result": 0, "algorithmId": "crossing", "channalId": "C7",
     "channelId": "C7", "algorithmType": %1, "algorithmCode": "%2", "channelAbilityPO": %3})";
 const char kExited[] = R"({"result": -1, "algorithmId": "crossing", "channalId": "C7",
@@ -189,7 +192,7 @@ private slots:
     {
         Desk desk;
         const QString live = sources().address(QStringLiteral("C7"));
-        const QString rtsp = QStringLiteral("rtsp:host");
+        const QString rtsp = QStringLiteral("RTSP://host");
         desk.load(rule("Gate"), kFullBlock);
         desk.click("btnSave");
         QCOMPARE(desk.boxes.takeBoxes(), QStringList());
@@ -353,37 +356,63 @@ private slots:
         QCOMPARE(desk.mailbox.takeHeads(), QStringList());
     }
 
-    void stopsWhenLoadOrWindowIsGone()
+    void saysWhyNothingWasSaved()
     {
-        enum Happening { Deleted, Cleared, Loaded };
-        const auto check = [](const QByteArray& rules, const char* button, Happening what) {
-            Desk desk;
-            desk.load(rules);
-            bool happened = false;
-            const auto happen = [&] {
-                happened = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                if (what == Deleted)
-                    delete desk.window;
-                else if (what == Cleared)
-                    desk.window->clearData();
-                else
-                    desk.load(rules);
-                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            };
-            // Posted before the click, it comes before the answer to the box.
-            QMetaObject::invokeMethod(qApp, happen, Qt::QueuedConnection);
-            desk.click(button);
-            QVERIFY2(happened, button);
-            QCOMPARE(desk.mailbox.takeHeads(), QStringList());
-            if (what == Loaded)
-                QCOMPARE(desk.panels(), QStringLiteral("[RuleScene] GlobalScene"));
+        const QByteArray rules = rule("Gate");
+        const QByteArray occupied =
+            QByteArray(kTemplate).replace("\"Rules[]\"", "\"Global.Level.R[]\"");
+        const QByteArray placeless = QByteArray(kTemplate).replace("\"parent\": \"Rules[]\", ", "");
+        const QByteArray deep =
+            R"({"Global": {"Level": {"R": [)" + rules + "]}, \"Span\": [1, 5]}}";
+        struct Case {
+            QByteArray templateText;
+            QByteArray config;
+            const char* why;
         };
-        for (const Happening what : {Deleted, Cleared, Loaded}) {
-            check(rule("Gate", R"(, "High": 0)"), "btnSave", what); // error
-            check(rule("A") + ", " + rule("A"), "btnSave", what);
-            check(rule("Gate"), "btnSave", what); // prompt
-            check(rule("Gate"), "btnCancel", what);
-            check(rule("Gate"), "delete", what); // last rule
+        const Case cases[] = {
+            {kUnwritableTemplate, config(rules),
+             "The template has no \"configTemplate\" to write into."},
+            {occupied, deep,
+             "The template has no place \"Global.Level.R[]\" for what is set under \"rules\"."}};
+        const std::function<void(Desk&)> endings[] = {
+            [](Desk& desk) { desk.click("addRule"); },
+            [](Desk& desk) {
+                desk.press({9, 9});
+            },
+            [](Desk& desk) {
+                QTest::keyClicks(desk.find("level")->findChild<QLineEdit*>(), "7\r");
+            },
+            [](Desk& desk) { desk.load(); }, [](Desk& desk) { desk.window->clearData(); }};
+        for (const Case& example : cases) {
+            for (const char* mode : {"false", "true"}) {
+                Desk desk;
+                const QByteArray selection = QByteArray(", \"selectionMode\": ") + mode;
+                desk.load(block(kChannel + selection, example.config, example.templateText));
+                auto* const hint = desk.find<QLabel>("lblHint");
+                QVERIFY(!hint->isVisible());
+                for (BaseTabelScene* panel : desk.window->findChildren<BaseTabelScene*>())
+                    panel->setFold(true);
+                desk.click("btnSave");
+                QCOMPARE(desk.mailbox.takeHeads(), QStringList());
+                const bool asks = QByteArray(mode) == "false";
+                QCOMPARE(desk.boxes.takeBoxes(), asks ? QStringList(kPrompt) : QStringList());
+                QVERIFY(hint->isVisible() && hint->visibleRegion().boundingRect() == hint->rect());
+                QCOMPARE(hint->text(), QStringLiteral("Nothing was saved. ") + example.why);
+            }
+        }
+        for (const auto& end : endings) {
+            Desk desk;
+            desk.load(block(kChannel, config({}), placeless));
+            desk.click("addRule");
+            for (const QPoint& corner : {QPoint(50, 50), QPoint(300, 50), QPoint(300, 300)})
+                desk.press(corner);
+            desk.press({9, 9}, Qt::RightButton);
+            desk.click("btnSave");
+            QCOMPARE(desk.find<QLabel>("lblHint")->text(),
+                     "Nothing was saved. The template has no place \"\" for what is set under "
+                     "\"rules\".");
+            end(desk);
+            QVERIFY(!desk.find("lblHint")->isVisible());
         }
     }
 };

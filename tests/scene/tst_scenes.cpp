@@ -1,9 +1,16 @@
+#include "Protocol/datatemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "scene/basetabelscene.h"
+#include "scene/entryrows.h"
 #include "scene/scenefactory.h"
+#include "tabel/controlfactory.h"
+#include "tabel/controlitemwidgettabel.h"
+#include "tabel/controltabel.h"
+#include "tabel/titlelabel.h"
 #include "tests/support/panelbench.h"
 #include "tests/support/rulestest.h"
 
@@ -102,6 +109,7 @@ private slots:
     void fightRectsLiveInTheirArea();
     void tabFollowsTheRows();
     void dataMayGoAfterItsPanelLetGo();
+    void longChainsAndLongTexts();
 };
 
 void TstScenes::foldingMaskAndSelection()
@@ -339,6 +347,46 @@ void TstScenes::dataMayGoAfterItsPanelLetGo()
     panel->setFold(true);
     panel->setSelected(true);
     QVERIFY(!panel->ruleData());
+}
+
+void TstScenes::longChainsAndLongTexts()
+{
+    // Each attribute applies while the one before has its default.
+    const int count = 10000;
+    DataTemplate links;
+    ControlItemWidgetTabel rows;
+    for (int i = 0; i < count; ++i) {
+        auto item = std::make_unique<RuleProtocolItem>();
+        item->setKey(QString::number(i));
+        item->setFacade(FacadeType::Bool);
+        item->setValueType(ValueType::Bool);
+        item->setDefaultValue(true);
+        item->addValidity({QString::number(i - 1), {QStringLiteral("true")}});
+        rows.addControl(createControlTabel(links.addItem(std::move(item)), nullptr), false);
+    }
+    QCoreApplication::sendPostedEvents(); // a widget looks for its own when it goes
+    RuleDataInfo entry;
+    EntryRows::load(rows, links, &entry);
+    entry.setValue(QStringLiteral("0"), true);
+    EntryRows::updateDependents(rows, links, QStringLiteral("0"), entry);
+    QCOMPARE(entry.value(QString::number(count - 1)), QVariant(true));
+    entry.setValue(QStringLiteral("0"), false);
+    EntryRows::updateDependents(rows, links, QStringLiteral("0"), entry);
+    QVERIFY(!entry.isValid(QStringLiteral("1")) && entry.isValid(QStringLiteral("2")));
+    EntryRows::release(rows, &links);
+
+    // Widgets measure what they are given, so they get what can be seen.
+    const QString text = QString(1 << 20, QLatin1Char('&')) + QStringLiteral("<b>");
+    RuleProtocolItem item;
+    item.setFacade(FacadeType::RadioButton);
+    item.setCaption(text);
+    item.setEnumeration({{text, text, text, text, false}});
+    const std::unique_ptr<ControlTabel> row(createControlTabel(&item, nullptr));
+    QVERIFY(row->titleLabel()->text().size() < 5000 && row->titleLabel()->isElided());
+    const auto* box = row->findChild<QAbstractButton*>();
+    QVERIFY(box->text().size() < 5000 && box->toolTip().size() < 5000);
+    row->loadValue(text);
+    QCOMPARE(row->value(), QVariant(text));
 }
 
 QTEST_MAIN(TstScenes)

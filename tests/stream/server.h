@@ -27,6 +27,12 @@ public:
     }
 
     void send(int signal) { ::kill(pid_t(m_process.processId()), signal); }
+    /// What it printed since it started, after the port.
+    QByteArray printed()
+    {
+        m_process.waitForReadyRead(0);
+        return m_printed += m_process.readAllStandardOutput();
+    }
     bool isRunning() const { return m_port > 0 && m_process.state() == QProcess::Running; }
     QString address(const QString& user = {}, const QString& path = QStringLiteral("bars")) const
     {
@@ -40,5 +46,6 @@ private:
     static constexpr int kStartTime = 30000; // milliseconds
 
     QProcess m_process;
+    QByteArray m_printed;
     int m_port = 0;
 };

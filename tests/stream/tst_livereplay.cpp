@@ -31,6 +31,7 @@ class TstLiveReplay : public RulesTest
 private slots:
     void givesTheSameResult_data();
     void givesTheSameResult();
+    void doesWithoutTheLibrary();
     void keepsSecrets();
     void keepsSecretsOfWrongArguments_data();
     void keepsSecretsOfWrongArguments();
@@ -42,6 +43,7 @@ private:
     static QString leaked(const QByteArray& said);
 
     QTemporaryDir m_folder;
+    QString m_programs = QStringLiteral(RULES_BIN_DIR);
 };
 
 QString TstLiveReplay::file(const char* name, const QByteArray& content) const
@@ -55,12 +57,13 @@ int TstLiveReplay::run(const QStringList& arguments, QByteArray& said) const
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("KQL_LOG", "9");
     environment.insert("XDG_CONFIG_HOME", m_folder.filePath("config"));
+    environment.insert("LD_LIBRARY_PATH", m_programs);
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(m_folder.path());
     process.setProcessChannelMode(QProcess::MergedChannels);
     const QStringList documents{"--template", kPerimeter + "template.json", "--config",
                                 kPerimeter + "config.json"};
-    process.start(RULES_BIN_DIR "/rules-workbench", documents + arguments);
+    process.start(m_programs + "/rules-workbench", documents + arguments);
     const bool ended = process.waitForFinished(kTimeout);
     said = process.readAll();
     return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
@@ -108,6 +111,24 @@ void TstLiveReplay::givesTheSameResult()
     const Value written = read(m_folder.filePath("result.json"));
     QVERIFY2(written["channelAbilityPO"] == read(kPerimeter + "saved.json"),
              qPrintable(written.toStyledText()));
+}
+
+/// Where the library that plays streams is missing, all else works.
+void TstLiveReplay::doesWithoutTheLibrary()
+{
+    QVERIFY(QDir(m_folder.path()).mkdir("lean"));
+    m_programs = m_folder.filePath("lean");
+    for (const char* name : {"/rules-workbench", "/libkqhost.so", "/IntelligentRulesUI.so"})
+        QVERIFY(QFile::copy(QLatin1String(RULES_BIN_DIR) + name, m_programs + name));
+    QByteArray said;
+    const QString session = file("picture.jsonl", "{\"do\":\"wait\",\"picture\":true}\n");
+    QVERIFY2(run({"--source", "still.png", "--replay", session}, said) == 0, said.constData());
+    for (const char* source : {"video.avi", "rtsp://127.0.0.1:1/bars"}) {
+        QVERIFY2(run({"--source", source, "--replay", session}, said) == 3, said.constData());
+        QVERIFY2(said.contains("no picture came: No signal The library that plays streams"),
+                 said.constData());
+    }
+    m_programs = RULES_BIN_DIR;
 }
 
 void TstLiveReplay::keepsSecrets()

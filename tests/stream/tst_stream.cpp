@@ -119,6 +119,8 @@ private slots:
     void refusesFiles_data();
     void refusesFiles();
     void refusesOtherAddresses();
+    void isSentToStreamsOnly();
+    void playsEncryptedStreams();
 
 protected:
     void prepare() override;
@@ -467,6 +469,66 @@ void TstStream::refusesOtherAddresses()
         QVERIFY(source->status().reason.contains(QStringLiteral("://***@host/path")));
         QVERIFY(!source->status().reason.contains(QStringLiteral("s3cr3t")));
     }
+}
+
+/// A camera may send its client to another address, but never to a file or another protocol.
+void TstStream::isSentToStreamsOnly()
+{
+    const QString video = file(QStringLiteral("elsewhere.avi"));
+    QVERIFY(VideoFile{"mjpeg"}.write(video));
+    Server bars;
+    QVERIFY(bars.isRunning());
+    const auto comes = [](const QString& address) {
+        StreamSource source(request(address));
+        source.start();
+        return QTest::qWaitFor(
+                   [&source] {
+                       return source.status().state == PictureState::NoSignal ||
+                              !source.picture().isNull();
+                   },
+                   kPatience) &&
+               !source.picture().isNull();
+    };
+    for (const QString& location :
+         {"file://" + video, "file:" + video, video, "rtsp:" + video, "concat:" + video,
+          QString(bars.address()).replace("rtsp:", "http:"), QString()}) {
+        Server camera({QStringLiteral("--location"), location});
+        QVERIFY(camera.isRunning());
+        QVERIFY2(!comes(camera.address()), qPrintable(location));
+        QTRY_VERIFY(camera.printed().contains("rtsp://127.0.0.1"));
+    }
+    Server camera({QStringLiteral("--location"), bars.address()});
+    QVERIFY(camera.isRunning() && comes(camera.address()));
+    // An option behind the address that asks for a tunnel gets none.
+    Server untunnelled({QStringLiteral("--location"), bars.address()});
+    QVERIFY(untunnelled.isRunning());
+    comes(untunnelled.address() + QStringLiteral("?http"));
+    QTRY_VERIFY(untunnelled.printed().contains(" rtsp://"));
+    QVERIFY2(!untunnelled.printed().contains("HTTP"), untunnelled.printed().constData());
+}
+
+void TstStream::playsEncryptedStreams()
+{
+    const QString certificate = file(QStringLiteral("certificate.pem"));
+    const QString key = file(QStringLiteral("key.pem"));
+    QProcess openssl;
+    openssl.start(QStringLiteral("openssl"),
+                  {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj",
+                   "/CN=127.0.0.1", "-keyout", key, "-out", certificate});
+    QVERIFY(openssl.waitForFinished(kPatience) && openssl.exitCode() == 0);
+    Server camera({QStringLiteral("--certificate"),
+                   file(QStringLiteral("both.pem"), contentOf(certificate) + contentOf(key))});
+    QVERIFY(camera.isRunning());
+    QString address = camera.address();
+    StreamSource source(request(address.replace("rtsp:", "rtsps:")));
+    source.start();
+    QTRY_VERIFY2_WITH_TIMEOUT(!source.picture().isNull(), qPrintable(source.status().reason),
+                              kPatience);
+    QCOMPARE(wrongBars(source.picture(), kColorBars), QString());
+    // The same server has nothing for those who do not encrypt.
+    StreamSource plain(request(address.replace("rtsps:", "rtsp:")));
+    plain.start();
+    QTRY_COMPARE_WITH_TIMEOUT(plain.status().state, PictureState::NoSignal, kPatience);
 }
 
 QTEST_MAIN(TstStream)

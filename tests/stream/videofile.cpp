@@ -1,6 +1,6 @@
 #include "tests/stream/videofile.h"
 
-#include "host/avpointers.h"
+#include "host/streams/avpointers.h"
 
 using namespace UICommonMdl;
 

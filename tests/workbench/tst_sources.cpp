@@ -242,6 +242,7 @@ void TstSources::masksMessages()
         QStringLiteral(R"({"a":[1,{"rtspUrl":"%1"}],"b":"x \"@ y"})").arg(kSecret);
     const auto direction = MessageRecord::Direction::ToModule;
     dock.add({direction, 160, block, block});
+    dock.show();
     dock.add({direction, 160, kSecret, "no JSON: " + kSecret});
     dock.add({direction, 222, "id", "{\"as\" : \"it is\"}"});
     auto* const list = dock.findChild<QTreeWidget*>();

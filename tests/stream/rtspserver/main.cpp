@@ -1,5 +1,5 @@
 // An RTSP server on the loopback address that serves colour bars at /bars until it is killed.
-// It prints the port that it listens on.
+// It prints the port that it listens on. Or it sends every client to another address.
 
 #include <gst/gst.h>
 #include <gst/rtsp-server/rtsp-server.h>
@@ -20,6 +20,8 @@ struct Settings {
     gchar* codec = nullptr;
     gboolean udpOnly = FALSE;
     gboolean silent = FALSE;
+    gchar* location = nullptr;
+    gchar* certificate = nullptr;
 };
 
 bool readSettings(int argc, char** argv, Settings& settings)
@@ -33,6 +35,8 @@ bool readSettings(int argc, char** argv, Settings& settings)
         {"codec", 0, 0, G_OPTION_ARG_STRING, &settings.codec, "h264, h265 or jpeg", "NAME"},
         {"udp-only", 0, 0, G_OPTION_ARG_NONE, &settings.udpOnly, "Refuse TCP", nullptr},
         {"silent", 0, 0, G_OPTION_ARG_NONE, &settings.silent, "Take connections, no more", nullptr},
+        {"location", 0, 0, G_OPTION_ARG_STRING, &settings.location, "Send all there", "URL"},
+        {"certificate", 0, 0, G_OPTION_ARG_STRING, &settings.certificate, "Speak TLS", "FILE"},
         {nullptr, 0, 0, G_OPTION_ARG_NONE, nullptr, nullptr, nullptr}};
     GOptionContext* const context = g_option_context_new(nullptr);
     g_option_context_add_main_entries(context, entries, nullptr);
@@ -67,6 +71,13 @@ GstRTSPMediaFactory* makeBars(const Settings& settings)
     return factory;
 }
 
+void allowViewers(GstRTSPMediaFactory* factory)
+{
+    gst_rtsp_media_factory_add_role(factory, "viewer", GST_RTSP_PERM_MEDIA_FACTORY_ACCESS,
+                                    G_TYPE_BOOLEAN, TRUE, GST_RTSP_PERM_MEDIA_FACTORY_CONSTRUCT,
+                                    G_TYPE_BOOLEAN, TRUE, nullptr);
+}
+
 void askForPassword(GstRTSPServer* server, GstRTSPMediaFactory* factory, const Settings& settings)
 {
     GstRTSPAuth* const auth = gst_rtsp_auth_new();
@@ -75,11 +86,28 @@ void askForPassword(GstRTSPServer* server, GstRTSPMediaFactory* factory, const S
         gst_rtsp_token_new(GST_RTSP_TOKEN_MEDIA_FACTORY_ROLE, G_TYPE_STRING, "viewer", nullptr);
     gst_rtsp_auth_add_digest(auth, settings.user, settings.password, token);
     gst_rtsp_token_unref(token);
-    gst_rtsp_media_factory_add_role(factory, "viewer", GST_RTSP_PERM_MEDIA_FACTORY_ACCESS,
-                                    G_TYPE_BOOLEAN, TRUE, GST_RTSP_PERM_MEDIA_FACTORY_CONSTRUCT,
-                                    G_TYPE_BOOLEAN, TRUE, nullptr);
+    allowViewers(factory);
     gst_rtsp_server_set_auth(server, auth);
     g_object_unref(auth);
+}
+
+/// False when the file holds no certificate with its key.
+bool encrypt(GstRTSPServer* server, const gchar* file)
+{
+    GTlsCertificate* const certificate = g_tls_certificate_new_from_file(file, nullptr);
+    if (!certificate)
+        return false;
+    GstRTSPAuth* const auth = gst_rtsp_auth_new();
+    gst_rtsp_auth_set_tls_certificate(auth, certificate);
+    // Nobody has to tell who he is.
+    GstRTSPToken* const token =
+        gst_rtsp_token_new(GST_RTSP_TOKEN_MEDIA_FACTORY_ROLE, G_TYPE_STRING, "viewer", nullptr);
+    gst_rtsp_auth_set_default_token(auth, token);
+    gst_rtsp_token_unref(token);
+    gst_rtsp_server_set_auth(server, auth);
+    g_object_unref(auth);
+    g_object_unref(certificate);
+    return true;
 }
 
 /// The port of a running server; 0 or below when it cannot be had.
@@ -91,6 +119,11 @@ int serve(const Settings& settings)
     GstRTSPMediaFactory* const factory = makeBars(settings);
     if (settings.user)
         askForPassword(server, factory, settings);
+    if (settings.certificate) {
+        allowViewers(factory);
+        if (!encrypt(server, settings.certificate))
+            return 0;
+    }
     GstRTSPMountPoints* const mounts = gst_rtsp_server_get_mount_points(server);
     gst_rtsp_mount_points_add_factory(mounts, "/bars", factory);
     g_object_unref(mounts);
@@ -109,6 +142,54 @@ int listenOnly()
     return g_inet_socket_address_get_port(G_INET_SOCKET_ADDRESS(bound));
 }
 
+/// Answers every request of a connection by sending the client elsewhere, and prints its first
+/// line.
+gboolean redirect(GThreadedSocketService*, GSocketConnection* connection, GObject*, gpointer user)
+{
+    const auto* const location = static_cast<const gchar*>(user);
+    GDataInputStream* const input =
+        g_data_input_stream_new(g_io_stream_get_input_stream(G_IO_STREAM(connection)));
+    GOutputStream* const output = g_io_stream_get_output_stream(G_IO_STREAM(connection));
+    std::string sequence;
+    bool isFirst = true;
+    while (gchar* const read = g_data_input_stream_read_line(input, nullptr, nullptr, nullptr)) {
+        const std::string line = g_strchomp(read);
+        g_free(read);
+        if (isFirst)
+            std::printf("%s\n", line.c_str());
+        if (line.rfind("CSeq:", 0) == 0)
+            sequence = line;
+        isFirst = line.empty();
+        if (!isFirst)
+            continue;
+        std::fflush(stdout);
+        const std::string answer =
+            "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + location + "\r\n\r\n";
+        g_output_stream_write_all(output, answer.data(), answer.size(), nullptr, nullptr, nullptr);
+    }
+    g_object_unref(input);
+    return TRUE;
+}
+
+int redirectAll(const Settings& settings)
+{
+    GSocketService* const service = g_threaded_socket_service_new(1);
+    GSocketAddress* const any = g_inet_socket_address_new_from_string("127.0.0.1", 0);
+    GSocketAddress* bound = nullptr;
+    if (!g_socket_listener_add_address(G_SOCKET_LISTENER(service), any, G_SOCKET_TYPE_STREAM,
+                                       G_SOCKET_PROTOCOL_TCP, nullptr, &bound, nullptr))
+        return 0;
+    g_signal_connect(service, "run", G_CALLBACK(redirect), settings.location);
+    return g_inet_socket_address_get_port(G_INET_SOCKET_ADDRESS(bound));
+}
+
+int portOf(const Settings& settings)
+{
+    if (settings.location)
+        return redirectAll(settings);
+    return settings.silent ? listenOnly() : serve(settings);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -117,7 +198,7 @@ int main(int argc, char** argv)
     Settings settings;
     if (!readSettings(argc, argv, settings))
         return EXIT_FAILURE;
-    const int port = settings.silent ? listenOnly() : serve(settings);
+    const int port = portOf(settings);
     if (port <= 0)
         return EXIT_FAILURE;
     std::printf("%d\n", port);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/avpointers.h"
 #include "host/streamrequest.h"
+#include "host/streams/avpointers.h"
 
 #include <atomic>
 #include <chrono>

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "host/packetqueue.h"
-#include "host/picturescaler.h"
 #include "host/playoutclock.h"
-#include "host/streaminput.h"
-
-#include <memory>
+#include "host/streams/packetqueue.h"
+#include "host/streams/picturescaler.h"
+#include "host/streams/streaminput.h"
 
 namespace UICommonMdl
 {
@@ -14,22 +12,23 @@ class StreamMailbox;
 
 /**
  * Plays one stream or file into a mailbox until that is closed or the stream is over: reads on one
- * thread, decodes, keeps the time and scales on another. A file is played over and over.
+ * thread of its own, decodes, keeps the time and scales on the caller's. A file is played over and
+ * over.
  */
 class StreamDecoder
 {
 public:
-    /// Plays on threads of its own, and posts at the end why it is over. Returns at once.
-    static void launch(const StreamRequest& request, const std::shared_ptr<StreamMailbox>& mailbox);
+    /// @p mailbox must outlive the decoder.
+    StreamDecoder(const StreamRequest& request, StreamMailbox& mailbox);
+
+    /// Returns why it is over.
+    QString play();
 
 private:
     using Time = PlayoutClock::Time;
     class Reader;
 
-    StreamDecoder(const StreamRequest& request, StreamMailbox& mailbox);
-
     // Each returns why the stream is over, empty while it goes on.
-    QString play();
     QString openCodec();
     QString decodePackets();
     QString decode(const AVPacket* packet);

@@ -1,4 +1,4 @@
-#include "host/streamerrors.h"
+#include "host/streams/streamerrors.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "host/picturescaler.h"
+#include "host/streams/picturescaler.h"
 
 #include <array>
 #include <atomic>

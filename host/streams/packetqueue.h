@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/avpointers.h"
+#include "host/streams/avpointers.h"
 
 #include <QtGlobal>
 

@@ -1,14 +1,14 @@
-#include "host/streamdecoder.h"
+#include "host/streams/streamdecoder.h"
 
 #include "host/picturesize.h"
-#include "host/streamerrors.h"
 #include "host/streammailbox.h"
-#include "host/streamthreads.h"
+#include "host/streams/decodedframe.h"
+#include "host/streams/streamerrors.h"
 
 #include <QCoreApplication>
 
 #include <cmath>
-#include <exception>
+#include <memory>
 #include <new>
 #include <thread>
 
@@ -105,22 +105,6 @@ private:
     StreamDecoder& m_decoder;
     std::thread m_thread;
 };
-
-void StreamDecoder::launch(const StreamRequest& request,
-                           const std::shared_ptr<StreamMailbox>& mailbox)
-{
-    const bool started = StreamThreads::start([request, mailbox]() {
-        QString reason;
-        try {
-            reason = StreamDecoder(request, *mailbox).play();
-        } catch (const std::exception&) {
-            reason = streamErrorText(AVERROR(ENOMEM));
-        }
-        mailbox->postFailure(reason);
-    });
-    if (!started)
-        mailbox->postFailure(streamErrorText(AVERROR(ENOMEM)));
-}
 
 StreamDecoder::StreamDecoder(const StreamRequest& request, StreamMailbox& mailbox)
     : m_request(request),
@@ -268,7 +252,7 @@ QString StreamDecoder::show(AvFramePointer frame)
     if (picture.isNull())
         return text("Its pictures cannot be converted.");
     m_lastShown = PacketQueue::Clock::now();
-    m_mailbox.postPicture(picture, std::shared_ptr<const AVFrame>(std::move(frame)));
+    m_mailbox.postPicture(picture, std::make_shared<DecodedFrame>(std::move(frame)));
     return {};
 }
 

@@ -1,4 +1,4 @@
-#include "host/packetqueue.h"
+#include "host/streams/packetqueue.h"
 
 namespace UICommonMdl
 {

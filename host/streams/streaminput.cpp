@@ -1,8 +1,8 @@
-#include "host/streaminput.h"
+#include "host/streams/streaminput.h"
 
 #include "host/picturesize.h"
-#include "host/streamerrors.h"
 #include "host/streammailbox.h"
+#include "host/streams/streamerrors.h"
 
 #include <QFileInfo>
 

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "host/value.h"
+#include "workbench/panelfinder.h"
+
+#include <QPoint>
+#include <QSize>
+#include <QStringList>
+#include <random>
+
+class BaseTabelScene;
+class ControlTabel;
+class WorkbenchWindow;
+
+/**
+ * An operator who does anything at all that the workbench's window lets him do: steps of a session,
+ * one after the other, chosen from what is shown. The same seed makes the same choices.
+ */
+class DayOperator
+{
+public:
+    /// @p configs are what may be loaded, besides nothing; @p window is not owned.
+    DayOperator(WorkbenchWindow& window, const QStringList& configs, unsigned seed);
+
+    /// Whether the operator keeps at it: loads nothing else, and leaves nothing.
+    void setClosing(bool closing) { m_isClosing = closing; }
+    /// The next step; it can be done.
+    kql::Json::Value nextStep();
+    /// Loads one of the documents, mostly as an operator who may edit everything.
+    kql::Json::Value load();
+
+private:
+    using Value = kql::Json::Value;
+    struct Choice {
+        int weight;
+        Value (DayOperator::*make)();
+    };
+
+    /// Null where there is nothing to choose from, for this and all that follow.
+    Value choose(const std::vector<Choice>& choices);
+    Value press();
+    Value move();
+    Value doubleClick();
+    Value rightClick();
+    Value click();
+    Value pick();
+    Value pickChild();
+    Value enable();
+    Value set();
+    Value type();
+    Value fold();
+    Value select();
+    Value save();
+    Value cancel();
+    Value query();
+    Value close();
+    Value loadAnew();
+    Value size();
+    Value wait();
+    Value screenshot();
+
+    int number(int from, int to);
+    bool happens(int percent) { return number(1, 100) <= percent; }
+    template<class T>
+    const T& oneOf(const QList<T>& list)
+    {
+        return list.at(number(0, list.size() - 1));
+    }
+    /// The selected section; null when there is none, or it is folded.
+    BaseTabelScene* openPanel() const;
+    Value onPicture(const char* name);
+    QPoint position(const QSize& picture);
+    Value pickFrom(bool children);
+    Value row(const char* name, ControlTabel*& found);
+    Value valueFor(const QWidget& row);
+    QString text();
+
+    WorkbenchWindow& m_window;
+    PanelFinder m_finder;
+    QStringList m_configs;
+    std::mt19937 m_random;
+    QPoint m_last; ///< where the picture was pressed last, 0..8192
+    bool m_isClosing = false;
+};

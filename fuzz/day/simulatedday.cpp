@@ -1,0 +1,277 @@
+#include "fuzz/day/simulatedday.h"
+
+#include "fuzz/day/dayorder.h"
+#include "fuzz/day/savedcheck.h"
+#include "fuzz/fault.h"
+
+#include "Protocol/datatemplate.h"
+#include "Protocol/ruledata.h"
+#include "draw/drawscene.h"
+#include "host/reader.h"
+#include "plugin/cintelligentrulesuiplugin.h"
+#include "scene/basetabelscene.h"
+#include "workbench/messagerecord.h"
+#include "workbench/modulehost.h"
+#include "workbench/sessionscript.h"
+#include "workbench/workbenchwindow.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QImage>
+
+using Fuzz::require;
+
+namespace
+{
+
+constexpr QSize kPicture(1280, 720);
+constexpr int kDrawReply = 223;
+constexpr int kResult = 996;
+
+QString line(const kql::Json::Value& step)
+{
+    return step.toStyledText().simplified();
+}
+
+QStringList configurations(const QDir& folder)
+{
+    QStringList files;
+    for (const QString& name : folder.entryList({QStringLiteral("*.json")}, QDir::Files)) {
+        if (name != QLatin1String("template.json"))
+            files.append(folder.filePath(name));
+    }
+    return files;
+}
+
+kql::Json::Value editableLoad(kql::Json::Value step)
+{
+    step["selection-mode"] = false;
+    step["editable"] = kql::Json::Value();
+    return step;
+}
+
+/// Steps that leave entries and figures alone, whatever comes of them.
+bool isHarmless(const kql::Json::Value& step)
+{
+    const QString name = step["do"].asString();
+    const QStringList harmless{QStringLiteral("move"),   QStringLiteral("size"),
+                               QStringLiteral("query"),  QStringLiteral("screenshot"),
+                               QStringLiteral("wait"),   QStringLiteral("fold"),
+                               QStringLiteral("select"), QStringLiteral("save")};
+    const bool stays = name == QLatin1String("cancel") && step["answer"].asString() != "Yes";
+    return stays || harmless.contains(name);
+}
+
+} // namespace
+
+SimulatedDay::SimulatedDay(const QString& example, unsigned seed, const QString& source)
+    : m_example(QDir(example).dirName()),
+      m_seed(seed),
+      m_plugin(std::make_unique<IntelligentRulesUI::CIntelligentRulesUIPlugin>())
+{
+    // Screenshots go there.
+    QDir::setCurrent(m_folder.path());
+    QImage picture(kPicture, QImage::Format_RGB32);
+    picture.fill(Qt::gray);
+    picture.save(m_folder.filePath(QStringLiteral("picture.png")));
+    WorkbenchOptions options;
+    options.templateFile = QDir(example).filePath(QStringLiteral("template.json"));
+    options.source = source.isEmpty() ? m_folder.filePath(QStringLiteral("picture.png")) : source;
+    m_window = std::make_unique<WorkbenchWindow>(options);
+    m_window->setReplaying(true);
+    m_window->moduleHost().use(*m_plugin);
+    QString error;
+    require(m_window->start(error), error.toStdString());
+    m_window->show();
+    m_window->activateWindow();
+    SessionScript script;
+    script.folder = m_folder.path();
+    m_player = std::make_unique<SessionPlayer>(*m_window, std::move(script));
+    m_operator = std::make_unique<DayOperator>(*m_window, configurations(example), seed);
+    QObject::connect(m_window.get(), &WorkbenchWindow::sgnMessage, m_player.get(),
+                     [this](const MessageRecord& message) {
+                         if (message.direction == MessageRecord::Direction::FromModule)
+                             m_posted.append(QString::number(message.id) + ' ' + message.p2);
+                     });
+}
+
+SimulatedDay::~SimulatedDay()
+{
+    m_player.reset();
+    m_window.reset();
+}
+
+bool SimulatedDay::play(int actions)
+{
+    QElapsedTimer timer;
+    timer.start();
+    try {
+        act(m_operator->load());
+        while (m_actions < actions)
+            act();
+        saveAtLast();
+        readBack();
+    } catch (const Fuzz::Fault& fault) {
+        m_report = this->fault(fault.what());
+        return false;
+    }
+    m_report = summary(timer.elapsed());
+    return true;
+}
+
+void SimulatedDay::act()
+{
+    act(m_operator->nextStep());
+}
+
+void SimulatedDay::act(const Value& step)
+{
+    ++m_actions;
+    remember(step);
+    const bool isChecked = isHarmless(step) && !DayOrder::isEditing(*m_window);
+    const std::string before = isChecked ? DayOrder::contents(*m_window) : std::string();
+    const std::map<int, int> counts = entryCounts();
+    const QString why = m_player->run(step);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    require(why.isEmpty(), "what is offered cannot be done: " + why.toStdString());
+    DayOrder::require(*m_window);
+    if (isChecked)
+        requireUnchanged(step, before);
+    if (step["do"].asString() != QLatin1String("load"))
+        requireRoom(counts);
+    takeMessages();
+}
+
+void SimulatedDay::remember(const Value& step)
+{
+    if (step["do"].asString() == QLatin1String("load")) {
+        ++m_loads;
+        m_sinceLoad.clear();
+        Value size(kql::Json::ValueType::Object);
+        size["do"] = "size";
+        size["window"].append(m_window->width());
+        size["window"].append(m_window->height());
+        m_sinceLoad.push_back(size);
+    }
+    m_sinceLoad.push_back(step);
+}
+
+void SimulatedDay::requireUnchanged(const Value& step, const std::string& before) const
+{
+    const std::string after = DayOrder::contents(*m_window);
+    require(after == before || after.empty(), step["do"].asString().toStdString() +
+                                                  " changes what is there, from\n" + before +
+                                                  "to\n" + after);
+}
+
+std::map<int, int> SimulatedDay::entryCounts() const
+{
+    std::map<int, int> counts;
+    for (const BaseTabelScene* panel : m_window->rulesWindow()->findChildren<BaseTabelScene*>()) {
+        if (panel->ruleData())
+            counts[int(panel->ruleData()->getSceneType())] = panel->ruleData()->getDataCount();
+    }
+    return counts;
+}
+
+/// Documents may have any number of entries; an operator adds no more than are allowed.
+void SimulatedDay::requireRoom(const std::map<int, int>& before) const
+{
+    for (const BaseTabelScene* panel : m_window->rulesWindow()->findChildren<BaseTabelScene*>()) {
+        const RuleData* data = panel->ruleData();
+        const auto found = data ? before.find(int(data->getSceneType())) : before.end();
+        if (found != before.end() && data->getDataCount() > found->second)
+            require(data->getDataCount() <= data->getTemplate()->countRange().max,
+                    "there are more entries than allowed");
+    }
+}
+
+void SimulatedDay::takeMessages()
+{
+    for (const QString& posted : std::exchange(m_posted, {})) {
+        const int id = posted.section(' ', 0, 0).toInt();
+        const QString text = posted.section(' ', 1);
+        Value message;
+        require(kql::Json::Reader().parse(text, message), "a message is not JSON");
+        if (id == kDrawReply) {
+            bool isDrawing = false;
+            for (const auto* panel : m_window->rulesWindow()->findChildren<BaseTabelScene*>()) {
+                const DrawScene* canvas = panel->getSelected() ? panel->getDrawScene() : nullptr;
+                isDrawing = isDrawing || (canvas && canvas->HasDrawUnfinished());
+            }
+            m_drawingReplies += isDrawing ? 1 : 0;
+            require(message["unFinishedDraw"].asBool() == isDrawing, "the reply is not true");
+        } else if (id == kResult && message["result"].asInt() == 0) {
+            ++m_saves;
+            m_saved = text;
+            SavedCheck::require(*m_window, text);
+        }
+    }
+}
+
+/// What is shown after a day may be unfinished, locked or nothing; the operator goes on until it
+/// can be saved.
+void SimulatedDay::saveAtLast()
+{
+    constexpr int kPatience = 200;
+    Value save(kql::Json::ValueType::Object);
+    save["do"] = "save";
+    save["answer"] = "Yes";
+    m_operator->setClosing(true);
+    m_saved.clear();
+    for (int i = 0; m_saved.isEmpty(); ++i) {
+        if (i % kPatience == 0 && (i > 0 || !canBeSaved()))
+            act(editableLoad(m_operator->load()));
+        act();
+        if (m_saved.isEmpty())
+            act(save);
+    }
+}
+
+bool SimulatedDay::canBeSaved() const
+{
+    const auto* button = m_window->rulesWindow()->findChild<QWidget*>(QStringLiteral("btnSave"));
+    return button->isVisible() && !entryCounts().empty();
+}
+
+/// The last result, loaded into the window as a configuration, shows what was there.
+void SimulatedDay::readBack()
+{
+    const QString path = m_folder.filePath(QStringLiteral("saved.json"));
+    Value message;
+    kql::Json::Reader().parse(m_saved, message);
+    QFile file(path);
+    const QByteArray text = message["channelAbilityPO"].toStyledText().toUtf8();
+    require(file.open(QIODevice::WriteOnly) && file.write(text) == text.size(), "cannot write");
+    file.close();
+    Value load = editableLoad(m_operator->load());
+    load["config"] = path;
+    act(load);
+    SavedCheck::require(*m_window, m_saved);
+}
+
+QString SimulatedDay::summary(qint64 milliseconds) const
+{
+    return QStringLiteral("%1: %2 actions in %3 s, %4 loads, %5 saves read back, %6 "
+                          "unfinished drawings asked about")
+        .arg(m_example)
+        .arg(m_actions)
+        .arg(milliseconds / 1000)
+        .arg(m_loads)
+        .arg(m_saves)
+        .arg(m_drawingReplies);
+}
+
+QString SimulatedDay::fault(const std::string& what) const
+{
+    QString text = QStringLiteral("%1, seed %2, action %3: %4\n")
+                       .arg(m_example)
+                       .arg(m_seed)
+                       .arg(m_actions)
+                       .arg(QString::fromStdString(what));
+    for (const Value& step : m_sinceLoad)
+        text += line(step) + '\n';
+    return text;
+}

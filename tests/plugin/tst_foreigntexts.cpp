@@ -1,0 +1,195 @@
+#include "draw/drawscene.h"
+#include "host/cinterfacesetmanager.h"
+#include "plugin/cintelligentrulesctrl.h"
+#include "scene/basetabelscene.h"
+#include "tests/support/boxanswerer.h"
+#include "tests/support/mailbox.h"
+#include "tests/support/rulestest.h"
+#include "tests/support/sampledocuments.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+
+using IntelligentRulesUI::CIntelligentRulesCtrl;
+using kql::Json::Value;
+
+namespace
+{
+
+const auto kText = QStringLiteral("<b>x</b> %s %n %1 %2 %3  &amp; &y");
+
+Value document(const char* name)
+{
+    QFile file(QStringLiteral(RULES_SOURCE_DIR "/examples/perimeter/") + name);
+    return file.open(QIODevice::ReadOnly) ? Mailbox::json(file.readAll()) : Value();
+}
+
+QString withoutMnemonics(QString text)
+{
+    return text.replace("&&", "\x1").remove('&').replace('\x1', '&');
+}
+
+QString read(const QString& text, Qt::TextFormat format = Qt::AutoText)
+{
+    const bool isRich =
+        format == Qt::RichText || (format == Qt::AutoText && Qt::mightBeRichText(text));
+    return isRich ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+/// What an operator reads on the widget and in its tool tip.
+QStringList shownBy(const QWidget& widget)
+{
+    QStringList texts{read(widget.toolTip())};
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        texts.append(read(label->text(), label->textFormat()));
+    else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        texts.append(withoutMnemonics(button->text()));
+    else if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+        texts.append(edit->text());
+    return texts;
+}
+
+/// A template whose every caption, unit, option and tip is the text.
+Value foreignTemplate()
+{
+    Value changed = document("template.json");
+    Value& items = changed["configItems"];
+    for (int i = 0; i < items.size(); ++i) {
+        Value& item = items[items.memberName(i)];
+        item["describe"] = kText;
+        item["units"] = kText;
+        for (int option = 0; option < item["enumeration"].size(); ++option) {
+            item["enumeration"][option]["name"] = kText;
+            item["enumeration"][option]["describe"] = kText;
+        }
+    }
+    return changed;
+}
+
+QString foreignBlock(const Value& templateText, const Value& config)
+{
+    Value block(kql::Json::ValueType::Object);
+    for (const char* name : {"algorithmId", "channelId", "channelName"})
+        block[name] = kText;
+    block["videoConfigRuleProperty"] = templateText;
+    block["channelAbilityPO"] = config;
+    return block.toStyledText();
+}
+
+} // namespace
+
+/// Texts of documents are shown as they were typed, whatever reads them.
+class TstForeignTexts : public RulesTest
+{
+    Q_OBJECT
+
+    struct Window {
+        Window()
+        {
+            ctrl.setInterfaceSetManager(&manager);
+            ctrl.show();
+        }
+        QStringList save()
+        {
+            QTest::mouseClick(ctrl.findChild<QWidget*>("btnSave"), Qt::LeftButton);
+            return boxes.takeBoxes();
+        }
+        void click(const char* name)
+        {
+            QTest::mouseClick(ctrl.findChild<QWidget*>(QLatin1String(name)), Qt::LeftButton);
+        }
+
+        CommonData::CInterfaceSetManager manager;
+        CIntelligentRulesCtrl ctrl{QStringLiteral("W1")};
+        Mailbox mailbox;
+        BoxAnswerer boxes{QMessageBox::Yes};
+    };
+
+    Value m_config = document("config.json");
+
+    void prepareTest() override
+    {
+        Value& rules = m_config["Analysis"]["Rules"];
+        for (int i = 0; i < rules.size(); ++i)
+            rules[i]["Name"] = kText + QString(i, 'z');
+    }
+
+private slots:
+    void widgetsShowThem()
+    {
+        Window window;
+        window.ctrl.setData(foreignBlock(foreignTemplate(), m_config), 1);
+        QMap<QString, int> kinds;
+        for (const QWidget* widget : window.ctrl.findChildren<QWidget*>()) {
+            for (QString text : shownBy(*widget)) {
+                if (!text.contains("%s"))
+                    continue;
+                // The box of a name takes its beginning only.
+                if (qobject_cast<const QLineEdit*>(widget))
+                    text += kText.mid(text.size());
+                QVERIFY2(text.remove(QRegularExpression("z*$")) == kText, qPrintable(text));
+                ++kinds[widget->metaObject()->className()];
+            }
+            const auto* button = qobject_cast<const QAbstractButton*>(widget);
+            QVERIFY(!button || button->shortcut().isEmpty());
+        }
+        for (const char* kind : {"TitleLabel", "QLabel", "DrawItemButton", "CheckBoxWidget",
+                                 "RadioButtonWidget", "RowEdit"})
+            QVERIFY2(kinds[kind] > 0, kind);
+        QCOMPARE(window.ctrl.findChild<QLabel*>("lblChnName")->text(), kText);
+        QCOMPARE(window.ctrl.findChild<QLabel*>("lblChnCode")->text(), kText);
+        // Whatever was made of them is painted as well.
+        QVERIFY(!window.ctrl.grab().isNull());
+    }
+
+    void messagesShowThem()
+    {
+        Window window;
+        Value longest = m_config;
+        longest["Analysis"]["Rules"][0]["Config"]["Duration"][1] = 1;
+        window.ctrl.setData(foreignBlock(foreignTemplate(), longest), 1);
+        QCOMPARE(window.save(),
+                 QStringList("Error: " + kText + " must be greater than to " + kText));
+        Value empty = m_config;
+        empty["Analysis"]["Rules"][0]["Config"]["Size"][0] = "x";
+        window.ctrl.setData(foreignBlock(foreignTemplate(), empty), 1);
+        QCOMPARE(window.save(),
+                 QStringList("Error: " + kText + ":The minimum value cannot be empty."));
+        window.click("redraw");
+        QCOMPARE(window.save(), QStringList("Error: Please finish drawing " + kText + '.'));
+    }
+
+    void hintShowsThem()
+    {
+        Window window;
+        Value unwritable = Mailbox::json(SampleDocuments::kSections + R"(, "configTemplate": 5})");
+        unwritable["configDescription"]["ruleDescription"]["rules"]["parent"] = kText + "[]";
+        unwritable["configDescription"]["ruleDescription"].removeMember("global");
+        Value config(kql::Json::ValueType::Object);
+        config[kText.toStdString()] = Mailbox::json('[' + SampleDocuments::rule("Gate") + ']');
+        window.ctrl.setData(foreignBlock(unwritable, config), 1);
+        window.save();
+        const auto* hint = window.ctrl.findChild<QLabel*>("lblHint");
+        QCOMPARE(hint->textFormat(), Qt::PlainText);
+        QCOMPARE(hint->text(), "Nothing was saved. The template has no place \"" + kText +
+                                   "[]\" for what is set under \"rules\".");
+        // The longest of paths leaves Save where it can be reached.
+        unwritable["configDescription"]["ruleDescription"]["rules"]["parent"] =
+            QString(1 << 20, 'p') + "[]";
+        config = Value(kql::Json::ValueType::Object);
+        config[std::string(1 << 20, 'p')] = Mailbox::json('[' + SampleDocuments::rule("A") + ']');
+        window.ctrl.setData(foreignBlock(unwritable, config), 1);
+        window.save();
+        QVERIFY(hint->isVisible() && hint->text().size() < 400);
+        QVERIFY(hint->height() < window.ctrl.height() / 2);
+        QCOMPARE(window.mailbox.takeHeads(), QStringList());
+    }
+};
+
+QTEST_MAIN(TstForeignTexts)
+#include "tst_foreigntexts.moc"

@@ -1,0 +1,461 @@
+#include "host/channelsources.h"
+#include "host/iabstractui.h"
+#include "host/iabstractwidget.h"
+#include "host/iclientuipluginapi.h"
+#include "host/picturesource.h"
+#include "host/qrtspvideownd.h"
+#include "tests/support/boxanswerer.h"
+#include "tests/support/mailbox.h"
+#include "tests/support/rulestest.h"
+#include "tests/support/sampledocuments.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPluginLoader>
+#include <QTemporaryDir>
+
+#include <arpa/inet.h>
+#include <functional>
+#include <limits>
+#include <malloc.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace SampleDocuments;
+using kql::Json::Value;
+using KQPluginAPI::IAbstractWidget;
+using KQPluginAPI::IClientUIPluginAPI;
+
+namespace
+{
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool kIsMemoryCounted = false;
+constexpr int kLoads = 150;
+#else
+constexpr bool kIsMemoryCounted = true;
+constexpr int kLoads = 1000;
+#endif
+
+enum Message { CloseRules = 0, OpenRules = 160, QueryDraw = 222 };
+
+const QByteArray kBroken = rule("Gate", R"(, "High": 0)");
+const QByteArray kTwins = rule("A") + ", " + rule("A");
+
+/// Takes connections on the loopback address, and says nothing.
+class SilentServer
+{
+public:
+    SilentServer() : m_socket(::socket(AF_INET, SOCK_STREAM, 0))
+    {
+        m_address.sin_family = AF_INET;
+        m_address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        auto* const address = reinterpret_cast<sockaddr*>(&m_address);
+        socklen_t size = sizeof(m_address);
+        if (::bind(m_socket, address, size) != 0 || ::listen(m_socket, 8) != 0 ||
+            ::getsockname(m_socket, address, &size) != 0)
+            qWarning("there is no port to listen on");
+    }
+    ~SilentServer() { ::close(m_socket); }
+    QByteArray address() const
+    {
+        return "rtsp://127.0.0.1:" + QByteArray::number(ntohs(m_address.sin_port)) + "/silent";
+    }
+
+private:
+    int m_socket;
+    sockaddr_in m_address{};
+};
+
+UICommonMdl::ChannelSources& sources()
+{
+    return KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance();
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A rules window as a client has it: the plug-in's handle, and the window in one of the client's.
+struct Window {
+    explicit Window(IAbstractWidget* made) : handle(made), content(made->GetWidget(parent))
+    {
+        id = QString::fromStdString(made->GetWidgetID());
+        parent->resize(1000, 700);
+        content->resize(1000, 700);
+        parent->show();
+        QApplication::setActiveWindow(parent);
+    }
+    ~Window() { delete parent; }
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    void load(const QByteArray& channel, const QByteArray& rules, const QByteArray& more = {}) const
+    {
+        send(block("\"channalId\": \"" + channel + '"' + more, config(rules)));
+    }
+    void send(const QString& parameters) const
+    {
+        const auto to = QStringLiteral(R"({"pluginWidgetID": "%1", "iSessionID": 4})").arg(id);
+        QVERIFY(handle->OnPluginMessage(OpenRules, to, parameters));
+    }
+    void clear() const { QVERIFY(handle->OnPluginMessage(CloseRules, id, {})); }
+    void query(const QString& channel) const
+    {
+        const auto asked = QStringLiteral(R"({"params": {"channalId": "%1"}})").arg(channel);
+        QVERIFY(handle->OnPluginMessage(QueryDraw, id, asked));
+    }
+
+    template<class T = QAbstractButton>
+    T* find(const QString& name) const
+    {
+        return content->findChild<T*>(name);
+    }
+    void click(const QString& button) const { QTest::mouseClick(find(button), Qt::LeftButton); }
+    QRect picture() const { return find<QRtspVideoWnd>("playerWin")->paneRect(0); }
+    void press(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QTest::mouseClick(find<QRtspVideoWnd>("playerWin"), button, {}, picture().topLeft() + at);
+    }
+    /// The channel that is loaded; empty for none.
+    QString channel() const
+    {
+        return find<QWidget>("rules") ? find<QLabel>("lblChnCode")->text() : QString();
+    }
+
+    IAbstractWidget* handle;
+    QPointer<QWidget> parent{new QWidget};
+    QPointer<QWidget> content;
+    QString id;
+};
+
+using Happening = std::function<void()>;
+
+/// Something that a window is in the middle of when something else happens to it.
+struct Moment {
+    const char* name;
+    std::function<void(const Window&, const Happening&)> reach;
+    const char* posts = "";    ///< ids of what the window posts when nothing interferes
+    bool isUnfinished = false; ///< as the window then answers
+};
+
+enum What { WindowDeleted, ParentDeleted, Ended, Cleared, LoadedAnew, Queried };
+
+} // namespace
+
+/// The real plug-in: what is asked of it, and taken from it, while it is busy.
+class TstLifetimes : public RulesTest
+{
+    Q_OBJECT
+
+public slots:
+    void sltSizeReported()
+    {
+        std::exchange(m_whileReporting, [] {})();
+    }
+
+private:
+    void prepare() override
+    {
+        QImage image(640, 360, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        QVERIFY(image.save(m_folder.filePath("grey.png")));
+        sources().setDefaultAddress(m_folder.filePath("grey.png"));
+        sources().addMaker([this](const QString&, const auto&) {
+            std::exchange(m_whileMaking, [] {})();
+            return nullptr;
+        });
+    }
+
+    /// Loaded anew for each test: nothing of the plug-in that went may be called any more.
+    void prepareTest() override
+    {
+        if (m_loader.isLoaded()) {
+            m_plugin->UnInit();
+            QVERIFY2(m_loader.unload(), qPrintable(m_loader.errorString()));
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
+        m_plugin = qobject_cast<IClientUIPluginAPI*>(m_loader.instance());
+        QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
+        m_plugin->Init();
+    }
+
+    IAbstractWidget* widget() { return m_plugin->GetUI()->CreateWidget(); }
+
+    /// A button that opens a box; posted before the click, the happening comes before the answer.
+    static Moment box(const char* name, const QByteArray& rules, const char* button,
+                      const char* posts = "", bool isUnfinished = false)
+    {
+        const auto reach = [=](const Window& window, const Happening& happen) {
+            window.load("C1", rules);
+            const auto inBox = [happen] {
+                QVERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+                happen();
+            };
+            QMetaObject::invokeMethod(qApp, inBox, Qt::QueuedConnection);
+            window.click(button);
+        };
+        return {name, reach, posts, isUnfinished};
+    }
+
+    QList<Moment> moments()
+    {
+        const auto connects = [this](const Window& window, const Happening& happen) {
+            window.load("C1", rule("Gate"), ", \"rtspUrl\": \"" + m_server.address() + "\"");
+            const auto* const surface = window.find<QRtspVideoWnd>("playerWin");
+            QVERIFY(surface->statusText().contains("Connecting"));
+            happen();
+        };
+        const auto draws = [](const Window& window, const Happening& happen) {
+            window.load("C1", rule("Gate"));
+            window.click("addRule");
+            window.press({300, 100});
+            happen();
+        };
+        const auto types = [](const Window& window, const Happening& happen) {
+            window.load("C1", rule("Gate"));
+            auto* const edit = window.find<QWidget>("high")->findChild<QLineEdit*>();
+            QTest::keyClick(edit, Qt::Key_Backspace);
+            QTest::keyClick(edit, Qt::Key_7);
+            happen();
+        };
+        const auto loads = [this](const Window& window, const Happening& happen) {
+            m_whileMaking = happen;
+            window.load("C1", rule("Gate"));
+        };
+        const auto reports = [this](const Window& window, const Happening& happen) {
+            m_whileReporting = happen;
+            connect(window.content, SIGNAL(sgnNotifyVideoSize(int, int)), this,
+                    SLOT(sltSizeReported()));
+            window.load("C1", rule("Gate"));
+        };
+        return {box("error", kBroken, "btnSave"),
+                box("error about names", kTwins, "btnSave"),
+                box("question before it saves", rule("Gate"), "btnSave", "996"),
+                box("question before it leaves", rule("Gate"), "btnCancel", "996", true),
+                box("notice", rule("Gate"), "delete"),
+                {"connecting", connects},
+                {"drawing", draws, "", true},
+                {"typing", types},
+                {"asking for the picture", loads},
+                {"told the picture's size", reports}};
+    }
+
+    void happen(What what, Window& window)
+    {
+        switch (what) {
+        case WindowDeleted:
+            return delete window.content;
+        case ParentDeleted:
+            return delete window.parent;
+        case Ended:
+            return m_plugin->UnInit();
+        case Cleared:
+            return window.clear();
+        case LoadedAnew:
+            return window.load("C2", rule("Other"));
+        case Queried:
+            return window.query("C1");
+        }
+    }
+
+    static int used()
+    {
+        const auto info = mallinfo2();
+        return int(info.uordblks + info.hblkhd);
+    }
+
+    QTemporaryDir m_folder;
+    SilentServer m_server;
+    QPluginLoader m_loader{RULES_BIN_DIR "/IntelligentRulesUI.so"};
+    IClientUIPluginAPI* m_plugin = nullptr;
+    Happening m_whileMaking = [] {};
+    Happening m_whileReporting = [] {};
+
+private slots:
+    void survives_data()
+    {
+        QTest::addColumn<int>("moment");
+        QTest::addColumn<int>("what");
+        const char* const names[] = {"window deleted", "parent deleted", "module ended",
+                                     "cleared",        "loaded anew",    "queried"};
+        const QList<Moment> all = moments();
+        for (int moment = 0; moment < all.size(); ++moment) {
+            for (int what = WindowDeleted; what <= Queried; ++what)
+                QTest::addRow("%s: %s", all[moment].name, names[what]) << moment << what;
+        }
+    }
+
+    void survives()
+    {
+        QFETCH(const int, moment);
+        QFETCH(const int, what);
+        const Moment during = moments().at(moment);
+        Mailbox mailbox;
+        BoxAnswerer boxes(QMessageBox::Yes);
+        Window window(widget());
+        bool happened = false;
+        during.reach(window, [&] {
+            happened = true;
+            happen(What(what), window);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        });
+        QVERIFY(happened);
+        QCOMPARE(window.content.isNull(), what == WindowDeleted || what == ParentDeleted);
+        if (what == LoadedAnew || what == Queried)
+            QCOMPARE(window.channel(), QString(what == Queried ? "C1" : "C2"));
+        else if (window.content)
+            QVERIFY(window.channel().isEmpty() && window.picture().isEmpty());
+
+        const QList<Mailbox::Message> messages = mailbox.take();
+        QStringList ids;
+        for (const Mailbox::Message& message : messages)
+            ids.append(QString::number(message.id));
+        const QString expected = what == Queried ? QString("223 ") + during.posts : QString();
+        QCOMPARE(ids.join(' '), expected.trimmed());
+        if (what == Queried)
+            QCOMPARE(Mailbox::json(messages[0].p2.toString())["unFinishedDraw"].asBool(),
+                     during.isUnfinished);
+
+        // The module goes on: the same window if it is there, and another one.
+        m_plugin->Init();
+        Window another(widget());
+        another.load("C3", rule("Third"));
+        another.click("btnSave");
+        QCOMPARE(mailbox.takeHeads(), QStringList("996 " + another.id));
+        if (what == Cleared || what == LoadedAnew) {
+            window.load("C4", rule("Fourth"));
+            QCOMPARE(window.channel(), QString("C4"));
+        }
+        if (window.parent)
+            QVERIFY(!window.parent->grab().isNull());
+    }
+
+    void keepsWindowsApart()
+    {
+        Mailbox mailbox;
+        BoxAnswerer boxes(QMessageBox::Yes);
+        const Window windows[] = {Window(widget()), Window(widget())};
+        windows[1].parent->resize(1400, 900);
+        windows[1].content->resize(1400, 900);
+        const auto answers = [&](const char* channel) {
+            QString texts;
+            for (const Window& window : windows)
+                window.query(channel);
+            for (const Mailbox::Message& message : mailbox.take()) {
+                const Value reply = Mailbox::json(message.p2.toString());
+                const bool isUnfinished = reply["unFinishedDraw"].asBool();
+                texts += message.p1.toString().right(1) + (isUnfinished ? "+ " : "- ");
+            }
+            return texts;
+        };
+        for (const Window& window : windows)
+            window.load("C" + window.id.right(1).toLatin1(), rule("Gate " + window.id.toLatin1()));
+        // Each draws its own figure, by turns.
+        const QPoint points[] = {{100, 100}, {300, 120}, {280, 260}};
+        for (const Window& window : windows)
+            window.click("redraw");
+        for (const QPoint& point : points) {
+            windows[0].press(point);
+            QCOMPARE(answers("C1"), QString("1+ 2- "));
+            windows[1].press(point + QPoint(50, 30));
+            QCOMPARE(answers("C2"), QString("1- 2+ "));
+        }
+        windows[0].press({}, Qt::RightButton);
+        windows[0].click("btnSave");
+        QCOMPARE(mailbox.take().size(), 1);
+        QCOMPARE(boxes.takeBoxes().size(), 1);
+        windows[1].click("btnSave");
+        QCOMPARE(boxes.takeBoxes().value(0).left(30), QString("Error: Please finish drawing G"));
+        windows[0].clear();
+        windows[1].press({}, Qt::RightButton);
+        windows[1].click("btnSave");
+        const QList<Mailbox::Message> messages = mailbox.take();
+        QCOMPARE(messages.size(), 1);
+        const Value saved = Mailbox::json(messages[0].p2.toString());
+        QCOMPARE(messages[0].p1.toString() + saved["channalId"].asString(), windows[1].id + "C2");
+        const Value& area = saved["channelAbilityPO"]["Rules"][0]["Area"];
+        QCOMPARE(area.size(), 3);
+        const QSize size = windows[1].picture().size();
+        for (int i = 0; i < area.size(); ++i) {
+            const QPoint drawn = points[i] + QPoint(50, 30);
+            QCOMPARE(area[i][0].asInt(), drawn.x() * 8192 / size.width());
+            QCOMPARE(area[i][1].asInt(), drawn.y() * 8192 / size.height());
+        }
+    }
+
+    /// Handles that the factory deletes, windows that their parents delete, and the other way
+    /// round.
+    void endsInAnyOrder()
+    {
+        IAbstractWidget* const handle = widget();
+        {
+            const Window first(handle);
+            first.load("C1", rule("Gate"));
+        }
+        const QString to = QStringLiteral(R"({"pluginWidgetID": "IntelligentRulesUI1"})");
+        QVERIFY(handle->OnPluginMessage(OpenRules, to, block(R"("channelId": "C1")", "{}")));
+        const Window again(handle);
+        QCOMPARE(again.channel(), QString());
+        again.load("C1", rule("Gate"));
+        const QPointer<QWidget> ownerless = widget()->GetWidget(nullptr);
+        for (int i = 0; i < 2; ++i) {
+            m_plugin->UnInit();
+            QVERIFY(!ownerless && !m_plugin->GetUI() && again.content);
+        }
+        again.click("btnSave");
+        again.press({5, 5});
+        again.parent->resize(800, 600);
+        QVERIFY(again.channel().isEmpty() && !again.parent->grab().isNull());
+    }
+
+    void doesNotGrow()
+    {
+        QList<QString> blocks;
+        const QDir examples(RULES_SOURCE_DIR "/examples");
+        for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            const QString folder = examples.filePath(name);
+            blocks.append(block(R"("channelId": "C1")", contentOf(folder + "/config.json"),
+                                contentOf(folder + "/template.json")));
+        }
+        BoxAnswerer boxes(QMessageBox::Yes);
+        const Window window(widget());
+        window.parent->hide();
+        const auto work = [&](int loads) {
+            Mailbox mailbox;
+            for (int i = 0; i < loads; ++i) {
+                window.send(blocks[i % blocks.size()]);
+                window.find("btnSave")->click();
+                if (i % 10 == 0)
+                    window.parent->grab();
+                if (i % 2 == 0)
+                    window.clear();
+                QCoreApplication::processEvents();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                boxes.takeBoxes();
+                QCOMPARE(mailbox.take().size(), 1);
+            }
+            window.clear();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        constexpr int kRounds = 4;
+        // Caches fill once; what stays behind each time grows in every round.
+        int grown = std::numeric_limits<int>::max();
+        for (int round = 0; round < kRounds; ++round) {
+            const int before = used();
+            work(kLoads / kRounds);
+            grown = qMin(grown, (used() - before) / (kLoads / kRounds));
+        }
+        constexpr int kSmallest = 16; ///< a block of the allocator, with what it keeps of it
+        QVERIFY2(!kIsMemoryCounted || grown < kSmallest, qPrintable(QString::number(grown)));
+    }
+};
+
+QTEST_MAIN(TstLifetimes)
+#include "tst_lifetimes.moc"

@@ -1,0 +1,329 @@
+#include "host/qrtspvideownd.h"
+#include "tests/support/rulestest.h"
+#include "tests/support/workbenchfiles.h"
+#include "workbench/autosave.h"
+#include "workbench/boxwatcher.h"
+#include "workbench/panelfinder.h"
+#include "workbench/restorebar.h"
+#include "workbench/sessionplayer.h"
+#include "workbench/sessionscript.h"
+#include "workbench/workbenchwindow.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QProcess>
+
+#include <memory>
+
+using kql::Json::Value;
+
+namespace
+{
+
+constexpr int kPatience = 60000; // milliseconds
+
+const char kWork[] = R"({"do":"pick","scene":"rules","entry":2}
+{"do":"set","scene":"rules","key":"ruleName","value":"<b>Gate</b> 100% & 大门"}
+{"do":"wait","picture":true}
+{"do":"click","scene":"rules","object":"redraw"}
+{"do":"press","button":"left","at":[1500,1500]}
+{"do":"press","button":"left","at":[4700,1600]}
+{"do":"double","at":[4600,5100]}
+{"do":"press","button":"right","at":[1000,1000]}
+{"do":"press","button":"left","at":[3000,2500]}
+{"do":"press","button":"left","at":[4000,3000]}
+{"do":"select","scene":"global"}
+{"do":"set","scene":"global","key":"globalSensitivity","value":2}
+)";
+
+WorkbenchOptions example()
+{
+    const auto folder = QStringLiteral(RULES_SOURCE_DIR "/examples/perimeter/");
+    WorkbenchOptions options;
+    options.templateFile = folder + QStringLiteral("template.json");
+    options.configFile = folder + QStringLiteral("config.json");
+    options.channelId = QStringLiteral("C7");
+    options.channelName = QStringLiteral("Gate %1 <b>7</b>");
+    return options;
+}
+
+QStringList namesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files);
+}
+
+/// A workbench with the plug-in and the work kept in a folder.
+class Bench
+{
+public:
+    explicit Bench(const QString& folder, const WorkbenchOptions& options = example())
+        : m_window(options)
+    {
+        m_window.resize(1200, 820);
+        m_window.show();
+        QString error;
+        m_isReady = m_window.start(error) && QTest::qWaitForWindowExposed(&m_window) &&
+                    QTest::qWaitFor([this] { return !surface()->paneRect(0).isEmpty(); });
+        m_autosave = std::make_unique<Autosave>(m_window, folder);
+    }
+
+    bool isReady() const { return m_isReady; }
+    WorkbenchWindow& window() { return m_window; }
+    void end() { m_autosave.reset(); }
+
+    /// Why the steps could not be done; empty when they were.
+    QString play(const QByteArray& steps)
+    {
+        const QTemporaryDir folder;
+        SessionScript script;
+        QString error;
+        if (!script.read(WorkbenchFiles::write(folder, "work.jsonl", steps), error))
+            return error;
+        SessionPlayer player(m_window, std::move(script));
+        QSignalSpy finished(&player, &SessionPlayer::sgnFinished);
+        player.start();
+        return finished.wait(kPatience) ? finished[0][0].toString() : QStringLiteral("no end");
+    }
+
+    void press(const char* button)
+    {
+        BoxWatcher boxes;
+        boxes.begin(QStringLiteral("Yes"));
+        QTest::mouseClick(PanelFinder(m_window.rulesWindow()).windowButton(QLatin1String(button)),
+                          Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+
+    RestoreBar* bar()
+    {
+        auto* const bar = m_window.findChild<RestoreBar*>();
+        return bar && bar->isVisible() ? bar : nullptr;
+    }
+    QString offered() { return bar() ? bar()->findChild<QLabel*>()->text() : QString(); }
+    void answer(const char* button)
+    {
+        QTest::mouseClick(bar()->findChild<QAbstractButton*>(QLatin1String(button)),
+                          Qt::LeftButton);
+    }
+
+private:
+    QRtspVideoWnd* surface() { return m_window.videoSurface(); }
+
+    WorkbenchWindow m_window;
+    std::unique_ptr<Autosave> m_autosave;
+    bool m_isReady = false;
+};
+
+/// What the crashing program does: works, and then waits for its end.
+int workUntilKilled(const QString& folder)
+{
+    Bench bench(folder);
+    const QString error = bench.isReady() ? bench.play(kWork) : QStringLiteral("not ready");
+    if (!error.isEmpty())
+        qFatal("%s", qPrintable(error));
+    return QCoreApplication::exec();
+}
+
+/// Another process of this program, at work in a folder until it is killed.
+class Worker
+{
+public:
+    explicit Worker(const QString& folder)
+    {
+        m_process.setProcessChannelMode(QProcess::ForwardedChannels);
+        m_process.start(QCoreApplication::applicationFilePath(), {"--work-in", folder});
+    }
+    ~Worker() { kill(); }
+    bool isRunning() { return m_process.state() == QProcess::Running; }
+    void kill()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+};
+
+QByteArray contentOf(const QString& folder)
+{
+    QByteArray content;
+    for (const QString& name : namesIn(folder)) {
+        QFile file(folder + '/' + name);
+        if (name.endsWith(".jsonl") && file.open(QIODevice::ReadOnly))
+            content += file.readAll();
+    }
+    return content;
+}
+
+} // namespace
+
+/// Work of a killed process is offered and restored; nothing is left of what is in a file.
+class TstAutosave : public RulesTest
+{
+    Q_OBJECT
+
+    void prepareTest() override { m_home = std::make_unique<QTemporaryDir>(); }
+
+    QString folder() const { return m_home->filePath("autosave"); }
+    QString resultFile() const { return m_home->filePath("result.json"); }
+    bool isKept() const { return contentOf(folder()).contains("globalSensitivity"); }
+    WorkbenchOptions withResult() const
+    {
+        WorkbenchOptions options = example();
+        options.resultFile = resultFile();
+        return options;
+    }
+    void leaveBehind(const QByteArray& content)
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        QFile file(folder() + "/1-1.jsonl");
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_home;
+
+private slots:
+    void restoresWhatAKilledProcessLeft()
+    {
+        Value wanted;
+        {
+            Bench bench(folder(), withResult());
+            QVERIFY(bench.isReady());
+            QCOMPARE(bench.play(kWork), QString());
+            bench.press("btnSave");
+            QTRY_VERIFY(QFile::exists(resultFile()));
+            wanted = WorkbenchFiles::read(resultFile());
+            QVERIFY(QFile::remove(resultFile()));
+        }
+        Worker worker(folder());
+        QTRY_VERIFY_WITH_TIMEOUT(isKept(), kPatience);
+        {
+            Bench bench(folder());
+            QVERIFY2(!bench.bar(), "the process lives");
+        }
+        worker.kill();
+        for (const QString& name : namesIn(folder()))
+            QVERIFY(QFile::permissions(folder() + '/' + name) &
+                    ~(QFile::ReadGroup | QFile::ReadOther));
+        // Other documents are loaded now; the work brings its own back.
+        WorkbenchOptions other = withResult();
+        other.channelId = "other";
+        other.configFile.clear();
+        Bench bench(folder(), other);
+        QVERIFY(bench.isReady());
+        QVERIFY2(bench.offered().contains("channel \"Gate %1 <b>7</b>\", perimeter/template.json,"),
+                 qPrintable(bench.offered()));
+        bench.answer("restore");
+        const QString own = QString::number(QCoreApplication::applicationPid());
+        QTRY_VERIFY_WITH_TIMEOUT(namesIn(folder()).filter(own) == namesIn(folder()), kPatience);
+        QVERIFY(!bench.bar());
+        QTRY_VERIFY2(isKept(), "restored work is work that is not saved yet");
+        bench.press("btnSave");
+        QTRY_VERIFY(QFile::exists(resultFile()));
+        QCOMPARE(WorkbenchFiles::read(resultFile()).toStyledString(), wanted.toStyledString());
+        QCOMPARE(namesIn(folder()), QStringList());
+    }
+
+    void keepsOnlyWhatIsInNoFile()
+    {
+        enum Ending { Saved, SavedToNoFile, Unwritable, Left, LoadedAgain, Ended };
+        const QByteArray more(
+            R"({"do":"select","scene":"global"}
+               {"do":"set","scene":"global","key":"globalSensitivity","value":3})");
+        const QByteArray again(R"({"do":"select","scene":"rules"}
+                                  {"do":"click","scene":"rules","object":"delete"})");
+        for (const Ending ending : {Saved, SavedToNoFile, Left, LoadedAgain, Ended, Unwritable}) {
+            WorkbenchOptions options = ending == Saved ? withResult() : example();
+            if (ending == Unwritable)
+                options.resultFile = m_home->filePath("missing/result.json");
+            Bench bench(folder(), options);
+            QVERIFY(bench.isReady() && !bench.bar());
+            QCOMPARE(namesIn(folder()), QStringList());
+            QCOMPARE(bench.play(more), QString());
+            QTRY_VERIFY(isKept());
+            QString error;
+            if (ending == Saved || ending == SavedToNoFile || ending == Unwritable)
+                bench.press("btnSave");
+            else if (ending == Left)
+                bench.press("btnCancel");
+            else if (ending == LoadedAgain)
+                QVERIFY(bench.window().load(bench.window().options(), error));
+            if (ending == Ended || ending == Unwritable)
+                bench.end();
+            QCOMPARE(isKept(), ending == SavedToNoFile || ending == Unwritable);
+            if (ending != Saved)
+                continue;
+            // What comes after a save is kept with what it builds on; nothing is saved again.
+            QCOMPARE(bench.play(again), QString());
+            QTRY_VERIFY(isKept());
+            QVERIFY(!contentOf(folder()).contains("save"));
+        }
+    }
+
+    void discardsAndRefuses()
+    {
+        leaveBehind(kWork);
+        {
+            Bench bench(folder());
+            QVERIFY(bench.bar());
+            // New work is not given up for old without a question.
+            QCOMPARE(bench.play(R"({"do":"click","scene":"rules","object":"delete"})"), QString());
+            BoxWatcher boxes;
+            boxes.begin(QStringLiteral("No"));
+            bench.answer("restore");
+            QVERIFY(boxes.lastText() && bench.bar());
+            bench.answer("discard");
+            QTRY_VERIFY(!bench.bar());
+        }
+        QCOMPARE(namesIn(folder()), QStringList());
+        for (const QByteArray& damaged :
+             {QByteArray("{\"do\":\"set\",\"sce"), QByteArray("\0\xff", 2), QByteArray(),
+              QByteArray("{\"do\":\"load\",\"template\":\"/missing <b>%1</b>.json\"}\n"),
+              QByteArray("{\"do\":\"press\",\"at\":[1e99,null]}\n{\"do\":7}\n")}) {
+            leaveBehind(damaged);
+            Bench bench(folder());
+            QVERIFY(bench.bar());
+            bench.answer("restore");
+            if (!damaged.isEmpty())
+                QTRY_VERIFY2(bench.offered().startsWith("Not all could be restored: "),
+                             damaged.constData());
+            if (damaged.contains("missing"))
+                QVERIFY2(bench.offered().contains("/missing <b>%1</b>.json"),
+                         qPrintable(bench.offered()));
+            QTRY_COMPARE(contentOf(folder()), damaged);
+        }
+    }
+
+    void replaysNeitherReadNorWriteIt()
+    {
+        leaveBehind(kWork);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", m_home->path());
+        const QString kept = m_home->filePath("rules-workbench/autosave");
+        QVERIFY(QDir().mkpath(m_home->filePath("rules-workbench")));
+        QVERIFY(QDir().rename(folder(), kept));
+        const QStringList before = namesIn(kept);
+        const QTemporaryDir files;
+        const WorkbenchOptions options = example();
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(RULES_BIN_DIR "/rules-workbench",
+                      {"--template", options.templateFile, "--config", options.configFile,
+                       "--replay", WorkbenchFiles::write(files, "work.jsonl", kWork)});
+        QVERIFY(process.waitForFinished(kPatience) && process.exitCode() == 0);
+        QCOMPARE(namesIn(kept), before);
+        QCOMPARE(contentOf(kept), QByteArray(kWork));
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--work-in") == 0)
+        return workUntilKilled(QString::fromLocal8Bit(argv[2]));
+    TstAutosave test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_autosave.moc"

@@ -1,0 +1,237 @@
+#include "workbench/autosave.h"
+
+#include "host/kqmessagebox.h"
+#include "host/qrtspvideownd.h"
+#include "host/value.h"
+#include "workbench/compactjson.h"
+#include "workbench/messagerecord.h"
+#include "workbench/recordedstep.h"
+#include "workbench/restorebar.h"
+#include "workbench/sessionlog.h"
+#include "workbench/sessionplayer.h"
+#include "workbench/sessionrecorder.h"
+#include "workbench/sessionscript.h"
+#include "workbench/workbenchwindow.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <algorithm>
+
+using kql::Json::Value;
+
+namespace
+{
+
+constexpr int kRulesResult = 996;
+/// From the first change that is in no file until it is.
+constexpr int kDelay = 2000; // milliseconds
+
+bool isOneOf(const Value& step, std::initializer_list<const char*> names)
+{
+    const QString name = step["do"].asString();
+    return std::any_of(names.begin(), names.end(),
+                       [&name](const char* other) { return name == QLatin1String(other); });
+}
+
+bool isEdit(const Value& step)
+{
+    return isOneOf(step, {"press", "double", "click", "set", "type", "enable"});
+}
+
+/// Whether doing it again would tell the client something.
+bool isAnswer(const Value& step)
+{
+    return isOneOf(step, {"save", "cancel"});
+}
+
+bool isResult(const MessageRecord& message)
+{
+    return message.direction == MessageRecord::Direction::FromModule && message.id == kRulesResult;
+}
+
+/// "folder/template.json": the name alone is often the same.
+QString shortPath(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.dir().dirName() + QLatin1Char('/') + file.fileName();
+}
+
+} // namespace
+
+class Autosave::Log : public SessionLog
+{
+public:
+    explicit Log(Autosave& autosave) : m_autosave(autosave) {}
+    void append(const Value& step) override { m_autosave.append(step); }
+    void replaceLast(const Value& step) override { m_autosave.replaceLast(step); }
+
+private:
+    Autosave& m_autosave;
+};
+
+Autosave::Autosave(WorkbenchWindow& window, const QString& folder)
+    : m_window(window), m_file(folder), m_left(AutosaveFile::leftBehind(folder))
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(kDelay);
+    connect(&m_timer, &QTimer::timeout, this, &Autosave::write);
+    connect(&m_window, &WorkbenchWindow::sgnMessage, this, &Autosave::takeMessage);
+    connect(&m_window, &WorkbenchWindow::sgnResultKept, this, &Autosave::takeKept);
+    auto* const recorder = new SessionRecorder(m_window, this);
+    recorder->start(std::make_unique<Log>(*this));
+    begin();
+    if (m_left)
+        offer();
+}
+
+Autosave::~Autosave()
+{
+    // Whoever closes the window over a result that could not be written has it back next time.
+    if (m_isUnsaved && !m_window.resultError().isEmpty())
+        write();
+    else
+        settle();
+    delete m_bar;
+}
+
+void Autosave::begin()
+{
+    settle();
+    m_steps.clear();
+    if (m_window.options().templateFile.isEmpty())
+        return;
+    m_steps.push_back(CompactJson::text(RecordedStep::size(m_window)));
+    m_steps.push_back(CompactJson::text(RecordedStep::load(nullptr, m_window.options())));
+}
+
+void Autosave::append(const Value& step)
+{
+    if (isOneOf(step, {"load"})) {
+        begin();
+    } else if (!isAnswer(step)) {
+        m_steps.push_back(CompactJson::text(step));
+        if (isEdit(step))
+            changed();
+    }
+}
+
+void Autosave::replaceLast(const Value& step)
+{
+    if (isAnswer(step) || m_steps.empty())
+        return;
+    m_steps.pop_back();
+    append(step);
+}
+
+void Autosave::changed()
+{
+    m_isUnsaved = true;
+    m_isResultOld = true;
+    if (!m_timer.isActive())
+        m_timer.start();
+}
+
+/// Nothing is left to lose.
+void Autosave::settle()
+{
+    m_isUnsaved = false;
+    m_timer.stop();
+    m_file.remove();
+}
+
+bool Autosave::write()
+{
+    QByteArray content;
+    for (const QByteArray& step : m_steps)
+        content += step + '\n';
+    // On a full disk or without rights it is tried again with the next change.
+    return m_file.write(content);
+}
+
+void Autosave::takeMessage(const MessageRecord& message)
+{
+    if (!isResult(message))
+        return;
+    m_isResultOld = false;
+    if (m_window.wasExited())
+        settle();
+}
+
+void Autosave::takeKept()
+{
+    if (!m_isResultOld)
+        settle();
+}
+
+void Autosave::offer()
+{
+    m_bar = new RestoreBar(m_window.videoSurface());
+    connect(m_bar, &RestoreBar::sgnRestore, this, &Autosave::restore);
+    connect(m_bar, &RestoreBar::sgnDiscard, this, &Autosave::discard);
+    m_bar->ask(leftBehindText());
+}
+
+QString Autosave::leftBehindText() const
+{
+    const QString when = QLocale().toString(m_left->written(), QLocale::ShortFormat);
+    SessionScript script;
+    QString error;
+    script.read(m_left->path(), error);
+    for (const SessionScript::Step& step : script.steps) {
+        if (isOneOf(step.step, {"load"}))
+            return tr("The workbench ended unexpectedly (%1). What was not saved yet of channel "
+                      "\"%2\", %3, can be restored.")
+                .arg(when, qAsConst(step.step)["name"].asString(),
+                     shortPath(qAsConst(step.step)["template"].asString()));
+    }
+    return tr("The workbench ended unexpectedly (%1). What was not saved yet can be restored.")
+        .arg(when);
+}
+
+void Autosave::restore()
+{
+    SessionScript script;
+    QString error;
+    if (m_player || !mayReplaceWork())
+        return;
+    if (!script.read(m_left->path(), error)) {
+        finishRestore(error);
+        return;
+    }
+    m_bar->hide();
+    m_window.setReplaying(true);
+    m_player = std::make_unique<SessionPlayer>(m_window, std::move(script));
+    connect(m_player.get(), &SessionPlayer::sgnFinished, this, &Autosave::finishRestore);
+    m_player->start();
+}
+
+bool Autosave::mayReplaceWork()
+{
+    return !m_isUnsaved || KQGUI::KQMessageBox::ShowInformation(
+                               &m_window, KQGUI::KQMessageBox::kQuestion, m_window.windowTitle(),
+                               tr("What was done in this window since is lost then. Restore?"),
+                               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+void Autosave::finishRestore(const QString& error)
+{
+    m_window.setReplaying(false);
+    if (m_player)
+        m_player.release()->deleteLater();
+    if (!error.isEmpty()) {
+        m_bar->ask(tr("Not all could be restored: %1").arg(error));
+        return;
+    }
+    // The steps were recorded again as they were done; from here on they are this run's.
+    if (!m_isUnsaved || write())
+        discard();
+}
+
+void Autosave::discard()
+{
+    m_left->remove();
+    m_left.reset();
+    m_bar->deleteLater();
+}

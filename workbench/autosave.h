@@ -1,0 +1,69 @@
+#pragma once
+
+#include "workbench/autosavefile.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <memory>
+#include <vector>
+
+struct MessageRecord;
+class RestoreBar;
+class SessionPlayer;
+class WorkbenchWindow;
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+/**
+ * Keeps the operator's work from a crash. The module is known by its messages only, so what the
+ * operator did since the load is kept, as the steps of a session; a moment after each change they
+ * are in a file, until the result is in one, the operator leaves, loads anew or ends the program.
+ *
+ * What a run that crashed left behind is offered, and restored by doing its steps again.
+ */
+class Autosave : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p window has its rules window already; it is not owned.
+    Autosave(WorkbenchWindow& window, const QString& folder);
+    /// An orderly end: the file goes, unless the result could not be written.
+    ~Autosave() override;
+
+private:
+    class Log;
+    using Value = kql::Json::Value;
+
+    void begin();
+    void append(const Value& step);
+    void replaceLast(const Value& step);
+    void changed();
+    void settle();
+    bool write();
+    void takeMessage(const MessageRecord& message);
+    void takeKept();
+
+    void offer();
+    QString leftBehindText() const;
+    void restore();
+    bool mayReplaceWork();
+    void finishRestore(const QString& error);
+    void discard();
+
+    WorkbenchWindow& m_window;
+    AutosaveFile m_file;
+    std::vector<QByteArray> m_steps; ///< since the load, one line each
+    QTimer m_timer;
+    bool m_isUnsaved = false;
+    bool m_isResultOld = true;            ///< something was changed since the last result
+    std::unique_ptr<AutosaveFile> m_left; ///< what a crash left behind; null for nothing
+    QPointer<RestoreBar> m_bar;           ///< the window's
+    std::unique_ptr<SessionPlayer> m_player;
+};

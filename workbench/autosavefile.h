@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QLockFile>
+#include <memory>
+
+/**
+ * The file of a run's unsaved work. A lock beside it, taken with the first write, tells other
+ * runs that this one is alive.
+ */
+class AutosaveFile
+{
+public:
+    /// In @p folder, under a name that no other run has.
+    explicit AutosaveFile(const QString& folder);
+
+    /// The folder in which a user's work is kept.
+    static QString usualFolder();
+    /// The newest file of a run that ended without removing it, locked for this run; null when
+    /// there is none.
+    static std::unique_ptr<AutosaveFile> leftBehind(const QString& folder);
+
+    const QString& path() const { return m_path; }
+    QDateTime written() const;
+    /// Replaces the content in one step; false when it cannot be written.
+    bool write(const QByteArray& content);
+    void remove();
+
+private:
+    struct Existing {
+    };
+    AutosaveFile(const QString& path, Existing);
+
+    QString m_path;
+    QLockFile m_lock;
+};
