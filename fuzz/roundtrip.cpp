@@ -105,23 +105,31 @@ QStringList ownPlaces(const Section& section)
     return places;
 }
 
-bool areItemsApart(const Section& section)
+/// The value that an item has in an entry; null for none.
+const Value* found(const Value& entry, const RuleProtocolItem& item)
+{
+    return item.path().probe(entry);
+}
+
+/// Where an item's value lies in @p entry: an element of what is a list there, or all of it.
+QString placeOf(const RuleProtocolItem& item, const Value& entry)
+{
+    const Value* value = found(entry, item);
+    const bool isList = !value || value->isNull() || value->isArray();
+    return place(item.path().text(), isList && !item.isFigure() ? item.index() : -1);
+}
+
+bool areItemsApart(const Section& section, const Value& entry)
 {
     QStringList places = ownPlaces(section);
     QSet<QString> keys;
     for (const RuleProtocolItem* item : itemsOf(section)) {
-        places.append(place(item->path().text(), item->isFigure() ? -1 : item->index()));
+        places.append(placeOf(*item, entry));
         if (item->drawType() == BaseDrawType::Parallelogram)
             places.append(place(ConfigMember::directionPath().text()));
         keys.insert(item->key());
     }
     return areApart(places) && keys.size() == int(itemsOf(section).size());
-}
-
-/// The value that an item has in an entry; null for none.
-const Value* found(const Value& entry, const RuleProtocolItem& item)
-{
-    return item.path().probe(entry);
 }
 
 /// Whether nothing else is in the way to the place of @p item.
@@ -202,7 +210,8 @@ bool isSectionOwed(const Section& section, const Value& skeleton)
     const auto items = itemsOf(section);
     // The staffs of an area are never those of the skeleton.
     const bool isArea = section.data.getSceneType() == SceneType::CalibrateArea;
-    return (isBuiltIn(section.data) || areItemsApart(section)) && areNumbered(section, entry) &&
+    return (isBuiltIn(section.data) || areItemsApart(section, entry)) &&
+           areNumbered(section, entry) &&
            std::all_of(items.begin(), items.end(), [&](const RuleProtocolItem* item) {
                const bool isStaff = isArea && item->drawType() != BaseDrawType::Polygon;
                return isStaff || isOfType(entry, *item);
