@@ -1,4 +1,3 @@
-#include "Protocol/calibrateareatemplate.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/figuremaker.h"
 #include "Protocol/ruledata.h"
@@ -86,20 +85,6 @@ QString laneRules(const QString& skeleton)
 
 const QString kLaneSkeleton = R"({"L": [{"Number": 0}], "R": [{"N": 0, "Line": []}]})";
 
-QString calibrate(const char* method, const QString& skeleton)
-{
-    const QString section = R"("calibrateArea": {"parent": "C[]", "method": "%1",
-                                "defaultWidth": 3, "defaultHeight": 9.5})";
-    return makeTemplate(section.arg(method), QString(), skeleton);
-}
-
-const QString kAreaSkeleton = R"({"C": [{"Area": [], "Method": "", "Staffs": [{"Unit": "m"}]}]})";
-
-QString fight(const QString& skeleton)
-{
-    return makeTemplate(R"("fightCalibrate": {"parent": "F[]"})", QString(), skeleton);
-}
-
 QString detection(const QString& skeleton)
 {
     return rules({"A[]|point||region", "B|int"}, skeleton, "detectArea", "D");
@@ -116,11 +101,6 @@ struct Load {
     RuleDataInfo& entry(int position = 0) const
     {
         return *scene().getAllData()[static_cast<std::size_t>(position)];
-    }
-    DrawItem* figure(int position) const { return figures().value(position); }
-    QList<DrawItem*> figures() const
-    {
-        return scene().getDrawScene()->getItemList(BaseDrawType::None, 0);
     }
     RuleDataInfo& addEntry() const { return *scene().addDataInfo(scene().newDataInfo()); }
     /// Draws a figure of the template's item at @p item for @p entry.
@@ -148,30 +128,21 @@ QString roundTrip(const QString& templateText, const QString& config)
     return Load(templateText, config).written();
 }
 
-QString file(const QString& path)
+Value file(const QString& path)
 {
     QFile source(path);
-    return source.open(QIODevice::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString();
+    return json(source.open(QIODevice::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString());
 }
 
-Texts exampleFolders()
+/// Calls @p visit each time that one value in @p place has become another one; of a list, whose
+/// elements are alike, the first and the last.
+void mutate(Value& place, const std::function<void()>& visit)
 {
-    const QDir examples(QStringLiteral(RULES_SOURCE_DIR "/examples"));
-    Texts folders;
-    for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        folders += examples.filePath(name);
-    if (folders.isEmpty())
-        qWarning("no examples");
-    return folders;
-}
-
-/// Calls @p visit with every document that differs from @p document in one value.
-void mutate(Value& document, Value& place, const std::function<void()>& visit)
-{
-    static const Value kinds = json(R"([null, true, -7, 1e300, 99999999999, "x", [], [[1, 2]],
+    static const Value kinds = json(R"([null, true, -7, 1e300, "x", [], [[1, 2]],
                                         {}, [null], [{}], {"Name": []}])");
-    for (int i = 0; i < place.size(); ++i)
-        mutate(document, place.isArray() ? place[i] : place.memberValue(i), visit);
+    const int step = place.isArray() ? qMax(1, place.size() - 1) : 1;
+    for (int i = 0; i < place.size(); i += step)
+        mutate(place.isArray() ? place[i] : place.memberValue(i), visit);
     const Value original = place;
     for (int i = 0; i < kinds.size(); ++i) {
         place = kinds[i];
@@ -206,13 +177,11 @@ private slots:
             ValueConversion::toJson(QVariant(), item, place);
             QCOMPARE(text(place), isCleared ? QStringLiteral("[]") : before);
         };
-        check("text", "string", -1, R"("a")", "a", R"("")", R"("a")");
         check("texts", "string", -1, R"(["a", "b"])", Texts{"a", "b"}, R"(["x"])", R"(["a", "b"])");
         check("texts into a text", "string", -1, R"(["a", "b"])", Texts{"a", "b"}, R"("")",
               R"(["a", "b"])");
         check("text into texts", "string", -1, R"("a")", "a", R"(["x", "y"])", R"(["a"])");
         check("no texts", "string", -1, "[]", QVariant(), R"(["x"])", "[]");
-        check("bool", "bool", -1, "true", true, "false", "true");
         check("number as bool", "bool", -1, "0.5", true, "false", "true");
         check("int of ints", "int", 0, "[7, 8]", 7, "[1, 2]", "[7, 2]");
         check("int beyond ints", "int", 2, "[7, 8]", 0, "[1, 2]", "[1, 2]");
@@ -220,7 +189,6 @@ private slots:
         check("huge int", "int", -1, "1e300", 2147483647, "0", "2147483647");
         check("null", "int", -1, "null", QVariant(), "4", "4");
         check("float kept a float", "float", -1, "7.0", 7.0, "2", "7.0");
-        check("interval", "array int", -1, "[3, 9]", QSize(3, 9), "[0, 0]", "[3, 9]");
         check("open interval", "array int", -1, R"(["x", 7])", QSize(-1, 7), "[5, 5]", "[0, 7]");
         check("longer interval", "array int", -1, "[3, 9, 1]", QSize(3, 9), "[0, 0, 4]",
               "[3, 9, 4]");
@@ -272,12 +240,6 @@ private slots:
         row("points of other kinds", rules({"P[]|point||region"}, "{}"),
             R"({"R": [{"P": [[1, 2.9], [3], 4, [5, "6"], [-7, 1e300], [8, 9, 10], [-1, 99999]]}]})",
             R"({"R": [{"P": [[1, 2], [-7, 2147483647], [-1, 99999]], "Name": "Rule1", "Enable": true}]})");
-        row("parallelogram", rules({"P[]|point||parallelogram"}, "{}"),
-            R"({"R": [{"P": [[0, 0], [8, 0], [8, 4], [0, 4]], "Config": {"Direction": [[7, 1], [1, 1]]},
-                       "Name": "n", "Enable": true}]})");
-
-        const QString global = rules({"A|int"}, R"({"G": {"A": 1, "X": 2}})", "global", "G");
-        row("global", global, R"({"G": {"A": 5, "X": 2}})");
         row("global made", rules({"A|int"}, "{}", "global", "H.G"), R"({"H": {"G": {"A": 5}}})");
 
         row("detection objects", detection(R"({"D": [{"A": [], "X": 1}]})"),
@@ -287,21 +249,16 @@ private slots:
         row("detection object", detection(R"({"D": {"X": 1}})"),
             R"({"D": {"A": [[1, 1]], "X": 1}})", R"({"D": {"X": 1}})");
 
-        row("fight", fight(R"({"F": [{"CalibrateArea": {"Area": [], "Rects": []}, "X": 1}]})"),
-            R"({"F": [{"CalibrateArea": {"Area": [[1, 1], [2, 2], [3, 1]],
-                       "Rects": [[[1, 1], [2, 2]], [[3, 3], [4, 4]]]}, "X": 1}]})");
-        row("fight made", fight("{}"),
+        row("fight made", makeTemplate(R"("fightCalibrate": {"parent": "F[]"})", {}, "{}"),
             R"({"F": [{"CalibrateArea": {"Area": [[1, 1]], "Rects": [[1, 2], [3, 4]]}},
                       {"CalibrateArea": {"Area": [], "Rects": [[[1, 1]], 5, [[1, 1], [2, 2], [3, 3]]]}}]})",
             R"({"F": [{"CalibrateArea": {"Area": [[1, 1]], "Rects": [[[1, 2], [3, 4]]]}},
                       {"CalibrateArea": {"Area": [], "Rects": []}}]})");
 
-        row("staffs", calibrate("Scene", kAreaSkeleton),
-            R"({"C": [{"Area": [[1, 1]], "Method": "Scene", "Staffs": [
-                {"Type": "Horizontal", "Length": 2, "Start": [1, 2], "End": [3, 4], "Unit": "m"},
-                {"Type": "Vertical", "Length": 1.5, "Start": [5, 6], "End": [7, 8], "Unit": "m"},
-                {"Type": "Vertical", "Length": 2.5, "Start": [5, 6], "End": [9, 9], "Unit": "m"}]}]})");
-        row("staffs of other kinds", calibrate("Lane", "{}"),
+        row("staffs of other kinds",
+            makeTemplate(R"("calibrateArea": {"parent": "C[]", "method": "Lane",
+                "defaultWidth": 3, "defaultHeight": 9.5})",
+                         {}, "{}"),
             R"({"C": [{"Area": [[1, 1], [2, 2], [3, 1]], "Staffs": [{"Type": "Diagonal"}, 4,
                 {"Type": "Vertical", "Length": "long", "Start": [5, 6], "End": [7, 8]},
                 {"Type": "Vertical", "Length": 2, "Start": [5, 6], "End": [7]},
@@ -312,8 +269,6 @@ private slots:
 
         const QString lanes = makeTemplate(R"("lanes": {"parent": "L[]"})", QString(),
                                            R"({"L": [{"LeftLineType": "Yellow", "X": 1}]})");
-        row("lanes", lanes, R"({"L": [{"Number": 2, "LeftLineType": "WhiteSolid", "X": 1,
-            "LeftLine": [[0, 9], [0, 0]], "RightLine": [[5, 9], [5, 0]]}]})");
         row("lane drawn right to left", lanes, R"({"L": [{"LeftLineType": "Yellow", "X": 1,
             "LeftLine": [[5, 9], [5, 0]], "RightLine": [[0, 9], [0, 0]]}]})",
             R"({"L": [{"LeftLineType": "Yellow", "X": 1,
@@ -336,27 +291,6 @@ private slots:
             R"({"L": [{"Number": 4}], "R": [{"N": 4, "Line": [], "Name": "Rule1", "Enable": true}]})");
     }
 
-    void figures()
-    {
-        const Load load(rules({"P[]|point||region", "A[]|point||directLine"}, "{}"),
-                        R"({"R": [{"P": [[1, 2], [3, 4]], "A": [[5, 6], [7, 8]]}, {"P": []}]})");
-        QCOMPARE(load.entry(1).id() - load.entry(0).id(), 2);
-        QCOMPARE(load.figures().size(), 3);
-        const DrawItem& arrow = *load.figure(1);
-        QCOMPARE(arrow.drawType(), BaseDrawType::Direction);
-        QCOMPARE(arrow.label() + arrow.templateKey(), QStringLiteral("A[]A[]"));
-        QVERIFY(arrow.isFinished());
-
-        const Load area(calibrate("Lane", kAreaSkeleton), R"({"C": [{"Area": [[1, 1]], "Staffs": [
-            {"Type": "Horizontal", "Length": 4, "Start": [1, 2], "End": [3, 4]}]}]})");
-        const DrawItem& staff = *area.figure(1);
-        QCOMPARE(staff.drawType(), BaseDrawType::HorizontalRuler);
-        QCOMPARE(staff.parent(), area.figure(0));
-        QCOMPARE(staff.label(), QStringLiteral("horizontalLine"));
-        QCOMPARE(area.entry().value("calibrateAreaHorizontal"), QVariant(4.0));
-        QCOMPARE(area.entry().value("calibrateAreaVertical"), QVariant(9.5));
-    }
-
     void edits()
     {
         Load load(
@@ -377,55 +311,6 @@ private slots:
         QVERIFY(!json(typed.written())["R"][0].isMember("Config"));
         typed.parser.setAlgorithmInfo(1, "code");
         QCOMPARE(json(typed.written())["R"][0]["Config"]["Type"], Value("code"));
-    }
-
-    void laneEdits()
-    {
-        const Load load(laneRules(kLaneSkeleton), R"({"L": [{"Number": 1}, {"Number": 2}], "R": [
-            {"N": 2, "Name": "b"}, {"N": 1, "Name": "a"}, {"N": 9, "Name": "spare"}]})");
-        QCOMPARE(load.entry(0).name(), QStringLiteral("a"));
-        load.scene().removeDataInfo(load.entry(0).id());
-        RuleDataInfo& added = load.addEntry();
-        added.setValue("lanesNum", 5);
-        added.setValue("ruleLaneNumber", 5);
-        load.draw(0, added, {{5, 9}, {5, 0}, {1, 9}, {1, 0}});
-        QCOMPARE(json(load.written()), json(R"({"L": [{"Number": 2},
-                  {"Number": 5, "LeftLine": [[1, 9], [1, 0]], "RightLine": [[5, 9], [5, 0]]}],
-            "R": [{"N": 2, "Line": [], "Name": "b", "Enable": true},
-                  {"N": 5, "Line": [], "Name": "Rule2", "Enable": true}, {"N": 9, "Name": "spare"}]})"));
-    }
-
-    void staffEdits()
-    {
-        const QString config = R"({"C": [{"Area": [[0, 0], [9, 0], [9, 9]], "Staffs": [
-            {"Type": "Vertical", "Length": 1, "Start": [1, 1], "End": [2, 2]},
-            {"Type": "Vertical", "Length": 2, "Start": [1, 1], "End": [3, 3]}]}]})";
-        const auto lengths = [](const Load& load) {
-            const Value document = json(load.written());
-            const Value& staffs = document["C"][0]["Staffs"];
-            Texts found;
-            for (int i = 0; i < staffs.size(); ++i)
-                found += staffs[i]["Type"].asString().left(1) + text(staffs[i]["Length"]);
-            return found;
-        };
-        const Load scene(calibrate("Scene", kAreaSkeleton), config);
-        scene.draw(1, scene.entry(), {{4, 4}, {5, 5}});
-        QCOMPARE(lengths(scene), (Texts{"V1", "V2", "V1.0"}));
-        scene.scene().getDrawScene()->removeItem(scene.figure(1)->itemId());
-        QCOMPARE(lengths(scene), (Texts{"V2", "V1.0"}));
-        scene.entry().setValue("calibrateAreaVertical", 3.5);
-        QCOMPARE(lengths(scene), (Texts{"V3.5", "V3.5"}));
-
-        const Load lane(calibrate("Lane", kAreaSkeleton), config);
-        lane.scene().getDrawScene()->redrawItem(lane.figure(0)->itemId());
-        while (lane.figures().size() > 1)
-            lane.scene().getDrawScene()->removeItem(lane.figure(1)->itemId());
-        for (const QPoint& point : {QPoint(0, 9), QPoint(0, 0), QPoint(5, 0)})
-            lane.figure(0)->figure()->appendPoint(point);
-        lane.entry().setValue("calibrateAreaVertical", 12.0);
-        QCOMPARE(json(lane.written())["C"][0]["Staffs"], json(R"([
-            {"Unit": "m", "Type": "Vertical", "Length": 12.0, "Start": [0, 9], "End": [0, 0]},
-            {"Unit": "m", "Type": "Horizontal", "Length": 3.0, "Start": [0, 0], "End": [5, 0]}])"));
     }
 
     void detectionEdits()
@@ -454,32 +339,44 @@ private slots:
         QCOMPARE(bare.written(), QStringLiteral("not written"));
     }
 
+    void examplesAndTheirMutations_data()
+    {
+        QTest::addColumn<QString>("folder");
+        const QDir examples(QStringLiteral(RULES_SOURCE_DIR "/examples"));
+        for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            QTest::newRow(qPrintable(name)) << examples.filePath(name);
+    }
+
     /// An example stays as it is. One value after another of an example's documents becomes
     /// something else: whatever is read of that and written stays as it is from then on.
     void examplesAndTheirMutations()
     {
-        for (const QString& folder : exampleFolders()) {
-            Value templateDocument = json(file(folder + "/template.json"));
-            Value config = json(file(folder + "/config.json"));
-            const Load example(templateDocument.toStyledText(), config.toStyledText());
-            QVERIFY2(example.isRead && json(example.written()) == config, qPrintable(folder));
-            for (const auto& scene : example.parser.getAllData()) {
-                QString message;
-                QVERIFY2(scene->checkData(message), qPrintable(message));
-            }
-            int tried = 0;
-            const auto expectStable = [&] {
-                const QString templateText = templateDocument.toStyledText();
-                const Load load(templateText, config.toStyledText());
-                const QString written = load.written();
-                if (load.isRead && written != "not written")
-                    QCOMPARE(roundTrip(templateText, written), written);
-                ++tried;
-            };
-            mutate(config, config, expectStable);
-            mutate(templateDocument, templateDocument["configTemplate"], expectStable);
-            QVERIFY(tried > 500);
+        QFETCH(QString, folder);
+        Value templateDocument = file(folder + "/template.json");
+        Value config = file(folder + "/config.json");
+        const QString templateText = templateDocument.toStyledText();
+        const QString configText = config.toStyledText();
+        const Load example(templateText, configText);
+        QVERIFY(example.isRead && json(example.written()) == config);
+        for (const auto& scene : example.parser.getAllData()) {
+            QString message;
+            QVERIFY2(scene->checkData(message), qPrintable(message));
         }
+        int tried = 0;
+        QSet<QString> stable; // many mutations are read, and so written, alike
+        const auto expectStable = [&](const QString& description, const QString& document) {
+            ++tried;
+            const Load load(description, document);
+            const QString written = load.written();
+            if (!load.isRead || written == "not written" || stable.contains(description + written))
+                return;
+            QCOMPARE(roundTrip(description, written), written);
+            stable.insert(description + written);
+        };
+        mutate(config, [&] { expectStable(templateText, config.toStyledText()); });
+        mutate(templateDocument["configTemplate"],
+               [&] { expectStable(templateDocument.toStyledText(), configText); });
+        QVERIFY(tried > 500);
     }
 };
 

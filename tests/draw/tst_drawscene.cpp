@@ -199,19 +199,6 @@ private slots:
         QCOMPARE(m_scene->getItemList(Type::None, 0), QList<DrawItem*>{first});
     }
 
-    void filtersByKindAndEntry()
-    {
-        DrawItem* region = add(*m_scene, Type::Polygon, 1);
-        DrawItem* second = add(*m_scene, Type::Polygon, 2);
-        DrawItem* bare = add(*m_scene, Type::None, 1);
-        QVERIFY(!m_scene->addItem(nullptr, 0));
-        using Items = QList<DrawItem*>;
-        QCOMPARE(m_scene->getItemList(Type::None, 0), (Items{region, second, bare}));
-        QCOMPARE(m_scene->getItemList(Type::Polygon, 0), (Items{region, second}));
-        QCOMPARE(m_scene->getItemList(Type::Polygon, 2), Items{second});
-        QCOMPARE(m_scene->getItemList(Type::None, 1), Items{bare});
-    }
-
     void showsAndSelectsByEntryWhenAsked()
     {
         DrawItem* first = drawn(*m_scene, Type::Rectangle, {{10, 10}, {40, 40}}, 1);
@@ -228,26 +215,6 @@ private slots:
         QVERIFY(!m_scene->selectedItem(-1));
         m_scene->setSelected(second->itemId(), 2);
         QVERIFY(m_scene->selectedItem(2) == second && !m_scene->selectedItem(1));
-    }
-
-    void copiesFigures()
-    {
-        DrawItem* region = drawn(*m_scene, Type::Polygon, kBox, 7);
-        region->setTemplateKey(QStringLiteral("region"));
-        DrawItem* child = add(*m_scene, Type::Rectangle, 7, region->itemId());
-        DrawScene copy;
-        add(copy, Type::Ruler);
-        copy.copyItemsFrom(*m_scene);
-        const QList<DrawItem*> items = copy.getItemList(Type::None, 0);
-        QCOMPARE(items.size(), 2);
-        QCOMPARE(items[0]->getPoints(), region->getPoints());
-        QCOMPARE(items[0]->templateKey(), region->templateKey());
-        QCOMPARE(items[1]->parent(), items[0]);
-        QCOMPARE(items[1]->dataId(), 7);
-        QVERIFY(items[1]->itemId() != child->itemId());
-        QCOMPARE(copy.canvasSize(), m_scene->canvasSize());
-        copy.removeItem(items[0]->itemId());
-        QCOMPARE(m_scene->itemCount(Type::None, 0), 2);
     }
 
     void paintsShadeFiguresAndHint()

@@ -291,27 +291,6 @@ private slots:
         check(Type::VehicleLane, lane.mid(0, 3), left);
         check(Type::VehicleLane, lane.mid(0, 2), {});
     }
-
-    void absurdPointsPaint()
-    {
-        const Points absurd{{INT_MIN, INT_MAX}, {INT_MAX, INT_MIN}, {0, INT_MIN}};
-        for (int kind = 1; kind <= 9; ++kind) {
-            for (const int canvas : {32767, 0}) {
-                const auto figure = makeFigure(Type(kind), canvas);
-                figure->setLabel(QStringLiteral("x"));
-                figure->setDirection(Direction::Both);
-                for (const QPoint& point : absurd)
-                    figure->appendPoint(point);
-                figure->setMovePoint(INT_MIN, INT_MIN);
-                painted(*figure);
-                figure->addPoint(INT_MAX, INT_MAX);
-                figure->setFinished(true);
-                painted(*figure);
-                QVERIFY(pointsOf(*figure).size() >= 3);
-            }
-        }
-        QVERIFY(!createDraw(Type::None) && !createDraw(Type(10)) && !createDraw(Type(-1)));
-    }
 };
 
 QTEST_MAIN(TstFigures)

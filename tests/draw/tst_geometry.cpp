@@ -80,23 +80,6 @@ private slots:
         }
     }
 
-    void sideAgreesWithTheTurn()
-    {
-        QRandomGenerator random(1);
-        const QSize canvas(2000, 1500);
-        for (int i = 0; i < 20000; ++i) {
-            const QPoint a = randomPoint(random, canvas);
-            const QPoint b = randomPoint(random, canvas);
-            const QPoint c = randomPoint(random, canvas);
-            const qint64 turn =
-                qint64{b.x() - a.x()} * (c.y() - a.y()) - qint64{b.y() - a.y()} * (c.x() - a.x());
-            if (a == b || a == c || std::llabs(turn) < 10)
-                continue;
-            QCOMPARE(side(a, b, c), turn > 0 ? 1 : -1);
-            QCOMPARE(side(a, b, a + 3 * (b - a)), 0);
-        }
-    }
-
     void laneKeepsItsFourthPointOnTheSideOfTheThird()
     {
         QRandomGenerator random(2);

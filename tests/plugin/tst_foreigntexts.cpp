@@ -1,32 +1,25 @@
-#include "draw/drawscene.h"
-#include "host/cinterfacesetmanager.h"
-#include "plugin/cintelligentrulesctrl.h"
-#include "scene/basetabelscene.h"
-#include "tests/support/boxanswerer.h"
-#include "tests/support/mailbox.h"
+#include "tests/support/examplefiles.h"
 #include "tests/support/rulestest.h"
+#include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
-using IntelligentRulesUI::CIntelligentRulesCtrl;
 using kql::Json::Value;
 
 namespace
 {
 
-const auto kText = QStringLiteral("<b>x</b> %s %n %1 %2 %3  &amp; &y");
+const QString kText = "<b>x</b> %s %n %1 %2 %3  &amp; &y";
 
 Value document(const char* name)
 {
-    QFile file(QStringLiteral(RULES_SOURCE_DIR "/examples/perimeter/") + name);
-    return file.open(QIODevice::ReadOnly) ? Mailbox::json(file.readAll()) : Value();
+    return Mailbox::json(ExampleFiles::contentOf(ExampleFiles::folder() + name));
 }
 
 QString withoutMnemonics(QString text)
@@ -88,28 +81,6 @@ class TstForeignTexts : public RulesTest
 {
     Q_OBJECT
 
-    struct Window {
-        Window()
-        {
-            ctrl.setInterfaceSetManager(&manager);
-            ctrl.show();
-        }
-        QStringList save()
-        {
-            QTest::mouseClick(ctrl.findChild<QWidget*>("btnSave"), Qt::LeftButton);
-            return boxes.takeBoxes();
-        }
-        void click(const char* name)
-        {
-            QTest::mouseClick(ctrl.findChild<QWidget*>(QLatin1String(name)), Qt::LeftButton);
-        }
-
-        CommonData::CInterfaceSetManager manager;
-        CIntelligentRulesCtrl ctrl{QStringLiteral("W1")};
-        Mailbox mailbox;
-        BoxAnswerer boxes{QMessageBox::Yes};
-    };
-
     Value m_config = document("config.json");
 
     void prepareTest() override
@@ -122,10 +93,10 @@ class TstForeignTexts : public RulesTest
 private slots:
     void widgetsShowThem()
     {
-        Window window;
-        window.ctrl.setData(foreignBlock(foreignTemplate(), m_config), 1);
+        RulesWindow rules;
+        rules.window->setData(foreignBlock(foreignTemplate(), m_config), 1);
         QMap<QString, int> kinds;
-        for (const QWidget* widget : window.ctrl.findChildren<QWidget*>()) {
+        for (const QWidget* widget : rules.window->findChildren<QWidget*>()) {
             for (QString text : shownBy(*widget)) {
                 if (!text.contains("%s"))
                     continue;
@@ -141,40 +112,40 @@ private slots:
         for (const char* kind : {"TitleLabel", "QLabel", "DrawItemButton", "CheckBoxWidget",
                                  "RadioButtonWidget", "RowEdit"})
             QVERIFY2(kinds[kind] > 0, kind);
-        QCOMPARE(window.ctrl.findChild<QLabel*>("lblChnName")->text(), kText);
-        QCOMPARE(window.ctrl.findChild<QLabel*>("lblChnCode")->text(), kText);
+        QCOMPARE(rules.find<QLabel>("lblChnName")->text(), kText);
+        QCOMPARE(rules.find<QLabel>("lblChnCode")->text(), kText);
         // Whatever was made of them is painted as well.
-        QVERIFY(!window.ctrl.grab().isNull());
+        QVERIFY(!rules.window->grab().isNull());
     }
 
     void messagesShowThem()
     {
-        Window window;
+        RulesWindow rules;
         Value longest = m_config;
         longest["Analysis"]["Rules"][0]["Config"]["Duration"][1] = 1;
-        window.ctrl.setData(foreignBlock(foreignTemplate(), longest), 1);
-        QCOMPARE(window.save(),
+        rules.window->setData(foreignBlock(foreignTemplate(), longest), 1);
+        QCOMPARE(rules.save(),
                  QStringList("Error: " + kText + " must be greater than to " + kText));
         Value empty = m_config;
         empty["Analysis"]["Rules"][0]["Config"]["Size"][0] = "x";
-        window.ctrl.setData(foreignBlock(foreignTemplate(), empty), 1);
-        QCOMPARE(window.save(),
+        rules.window->setData(foreignBlock(foreignTemplate(), empty), 1);
+        QCOMPARE(rules.save(),
                  QStringList("Error: " + kText + ":The minimum value cannot be empty."));
-        window.click("redraw");
-        QCOMPARE(window.save(), QStringList("Error: Please finish drawing " + kText + '.'));
+        rules.click("redraw");
+        QCOMPARE(rules.save(), QStringList("Error: Please finish drawing " + kText + '.'));
     }
 
     void hintShowsThem()
     {
-        Window window;
+        RulesWindow rules;
         Value unwritable = Mailbox::json(SampleDocuments::kSections + R"(, "configTemplate": 5})");
         unwritable["configDescription"]["ruleDescription"]["rules"]["parent"] = kText + "[]";
         unwritable["configDescription"]["ruleDescription"].removeMember("global");
         Value config(kql::Json::ValueType::Object);
         config[kText.toStdString()] = Mailbox::json('[' + SampleDocuments::rule("Gate") + ']');
-        window.ctrl.setData(foreignBlock(unwritable, config), 1);
-        window.save();
-        const auto* hint = window.ctrl.findChild<QLabel*>("lblHint");
+        rules.window->setData(foreignBlock(unwritable, config), 1);
+        rules.save();
+        const auto* hint = rules.find<QLabel>("lblHint");
         QCOMPARE(hint->textFormat(), Qt::PlainText);
         QCOMPARE(hint->text(), "Nothing was saved. The template has no place \"" + kText +
                                    "[]\" for what is set under \"rules\".");
@@ -183,11 +154,11 @@ private slots:
             QString(1 << 20, 'p') + "[]";
         config = Value(kql::Json::ValueType::Object);
         config[std::string(1 << 20, 'p')] = Mailbox::json('[' + SampleDocuments::rule("A") + ']');
-        window.ctrl.setData(foreignBlock(unwritable, config), 1);
-        window.save();
+        rules.window->setData(foreignBlock(unwritable, config), 1);
+        rules.save();
         QVERIFY(hint->isVisible() && hint->text().size() < 400);
-        QVERIFY(hint->height() < window.ctrl.height() / 2);
-        QCOMPARE(window.mailbox.takeHeads(), QStringList());
+        QVERIFY(hint->height() < rules.window->height() / 2);
+        QCOMPARE(rules.mailbox.takeHeads(), QStringList());
     }
 };
 

@@ -4,25 +4,23 @@
 #include "host/iclientuipluginapi.h"
 #include "host/picturesource.h"
 #include "host/qrtspvideownd.h"
+#include "tests/stream/server.h"
 #include "tests/support/boxanswerer.h"
+#include "tests/support/examplefiles.h"
 #include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/sampledocuments.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPluginLoader>
 #include <QTemporaryDir>
 
-#include <arpa/inet.h>
 #include <functional>
 #include <limits>
 #include <malloc.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 using namespace SampleDocuments;
 using kql::Json::Value;
@@ -45,40 +43,9 @@ enum Message { CloseRules = 0, OpenRules = 160, QueryDraw = 222 };
 const QByteArray kBroken = rule("Gate", R"(, "High": 0)");
 const QByteArray kTwins = rule("A") + ", " + rule("A");
 
-/// Takes connections on the loopback address, and says nothing.
-class SilentServer
-{
-public:
-    SilentServer() : m_socket(::socket(AF_INET, SOCK_STREAM, 0))
-    {
-        m_address.sin_family = AF_INET;
-        m_address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        auto* const address = reinterpret_cast<sockaddr*>(&m_address);
-        socklen_t size = sizeof(m_address);
-        if (::bind(m_socket, address, size) != 0 || ::listen(m_socket, 8) != 0 ||
-            ::getsockname(m_socket, address, &size) != 0)
-            qWarning("there is no port to listen on");
-    }
-    ~SilentServer() { ::close(m_socket); }
-    QByteArray address() const
-    {
-        return "rtsp://127.0.0.1:" + QByteArray::number(ntohs(m_address.sin_port)) + "/silent";
-    }
-
-private:
-    int m_socket;
-    sockaddr_in m_address{};
-};
-
 UICommonMdl::ChannelSources& sources()
 {
     return KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance();
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// A rules window as a client has it: the plug-in's handle, and the window in one of the client's.
@@ -101,13 +68,13 @@ struct Window {
     }
     void send(const QString& parameters) const
     {
-        const auto to = QStringLiteral(R"({"pluginWidgetID": "%1", "iSessionID": 4})").arg(id);
+        const auto to = QString(R"({"pluginWidgetID": "%1", "iSessionID": 4})").arg(id);
         QVERIFY(handle->OnPluginMessage(OpenRules, to, parameters));
     }
     void clear() const { QVERIFY(handle->OnPluginMessage(CloseRules, id, {})); }
     void query(const QString& channel) const
     {
-        const auto asked = QStringLiteral(R"({"params": {"channalId": "%1"}})").arg(channel);
+        const auto asked = QString(R"({"params": {"channalId": "%1"}})").arg(channel);
         QVERIFY(handle->OnPluginMessage(QueryDraw, id, asked));
     }
 
@@ -207,7 +174,8 @@ private:
     QList<Moment> moments()
     {
         const auto connects = [this](const Window& window, const Happening& happen) {
-            window.load("C1", rule("Gate"), ", \"rtspUrl\": \"" + m_server.address() + "\"");
+            window.load("C1", rule("Gate"),
+                        ", \"rtspUrl\": \"" + m_silent.address().toLatin1() + "\"");
             const auto* const surface = window.find<QRtspVideoWnd>("playerWin");
             QVERIFY(surface->statusText().contains("Connecting"));
             happen();
@@ -272,7 +240,7 @@ private:
     }
 
     QTemporaryDir m_folder;
-    SilentServer m_server;
+    Server m_silent{{"--silent"}};
     QPluginLoader m_loader{RULES_BIN_DIR "/IntelligentRulesUI.so"};
     IClientUIPluginAPI* m_plugin = nullptr;
     Happening m_whileMaking = [] {};
@@ -399,7 +367,7 @@ private slots:
             const Window first(handle);
             first.load("C1", rule("Gate"));
         }
-        const QString to = QStringLiteral(R"({"pluginWidgetID": "IntelligentRulesUI1"})");
+        const QString to = QString(R"({"pluginWidgetID": "IntelligentRulesUI1"})");
         QVERIFY(handle->OnPluginMessage(OpenRules, to, block(R"("channelId": "C1")", "{}")));
         const Window again(handle);
         QCOMPARE(again.channel(), QString());
@@ -418,11 +386,12 @@ private slots:
     void doesNotGrow()
     {
         QList<QString> blocks;
-        const QDir examples(RULES_SOURCE_DIR "/examples");
-        for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            const QString folder = examples.filePath(name);
-            blocks.append(block(R"("channelId": "C1")", contentOf(folder + "/config.json"),
-                                contentOf(folder + "/template.json")));
+        for (const QString& name : ExampleFiles::names()) {
+            const auto document = [&name](const char* file) {
+                return ExampleFiles::contentOf(ExampleFiles::folder(name) + file);
+            };
+            blocks.append(
+                block(R"("channelId": "C1")", document("config.json"), document("template.json")));
         }
         BoxAnswerer boxes(QMessageBox::Yes);
         const Window window(widget());

@@ -20,7 +20,7 @@ using KQPluginAPI::IClientUIPluginAPI;
 namespace
 {
 
-const QString kFile = QStringLiteral(RULES_BIN_DIR "/IntelligentRulesUI.so");
+const QString kFile = RULES_BIN_DIR "/IntelligentRulesUI.so";
 const char kMe[] = "IntelligentRulesUI1";
 
 enum Message { CloseRules = 0, OpenRules = 160, QueryDraw = 222, OpenRulesAlt = 566 };
@@ -32,7 +32,7 @@ struct LogicalPlugin : KQPluginAPI::IClientLogicalPluginAPI {
 
 QString address(const QString& widgetId)
 {
-    return QStringLiteral(R"({"pluginWidgetID": "%1", "iSessionID": 4} // who)").arg(widgetId);
+    return QString(R"({"pluginWidgetID": "%1", "iSessionID": 4} // who)").arg(widgetId);
 }
 
 QString rules(const QByteArray& channel)
@@ -40,8 +40,7 @@ QString rules(const QByteArray& channel)
     return block("\"channalId\": \"" + channel + "\"", config(rule("Gate")));
 }
 
-const QString kQuery =
-    QStringLiteral(R"({"params": {"algorithmId": "crossing", "channalId": "C1"}})");
+const QString kQuery = QString(R"({"params": {"algorithmId": "crossing", "channalId": "C1"}})");
 
 } // namespace
 
@@ -51,10 +50,7 @@ class TstPlugin : public RulesTest
 
     IAbstractWidget* widget() { return m_plugin->GetUI()->CreateWidget(); }
 
-    static bool isLoaded(const QWidget* window)
-    {
-        return window->findChild<QWidget*>(QStringLiteral("rules"));
-    }
+    static bool isLoaded(const QWidget* window) { return window->findChild<QWidget*>("rules"); }
 
     /// Loaded anew for each test, so that none depends on what another left.
     void prepareTest() override
@@ -86,7 +82,7 @@ private slots:
         QCOMPARE(data["className"].toString(), QString("CIntelligentRulesUIPlugin"));
         QCOMPARE(data["MetaData"].toObject(),
                  QJsonObject({{"Keys", QJsonArray({"IntelligentRulesUI"})}}));
-        const QString nm = QStandardPaths::findExecutable(QStringLiteral("nm"));
+        const QString nm = QStandardPaths::findExecutable("nm");
         QVERIFY2(!nm.isEmpty(), "nm is not installed");
         QProcess process;
         process.start(nm, {"-D", "-P", "--defined-only", kFile});
@@ -119,8 +115,8 @@ private slots:
         for (const char* other : {"", "IntelligentRulesUI", "IntelligentRulesUI3"})
             QVERIFY2(!ui->FindWidget(other), other);
         QCOMPARE(first->GetTitle() + first->GetSecondTitle() + first->GetThirdTitle(),
-                 QStringLiteral("IntelligentRules").repeated(3));
-        QCOMPARE(first->GetDetail(), QStringLiteral("IntelligentRulesDetail"));
+                 QString("IntelligentRules").repeated(3));
+        QCOMPARE(first->GetDetail(), QString("IntelligentRulesDetail"));
         QWidget parent;
         QWidget* const window = first->GetWidget(&parent);
         QCOMPARE(window->parentWidget(), &parent);

@@ -8,7 +8,7 @@
 #include "tests/support/panelbench.h"
 #include "tests/support/rulestest.h"
 
-#include <QCheckBox>
+#include <QAbstractButton>
 #include <QLineEdit>
 
 namespace
@@ -25,7 +25,7 @@ const QByteArray kTemplate = R"({
       {"key": "arrow", "protocol": {"name": "Arrow[]", "type": "point"}},
       {"key": "mode", "protocol": {"name": "Mode", "type": "string"}},
       {"key": "dwell", "protocol": {"name": "Dwell", "type": "int"},
-       "valid": {"controlKey": "mode", "enumValue": "Long"}},
+       "valid": {"controlKey": "mode", "enumValueArray": ["Long", "Endless"]}},
       {"key": "alarm", "protocol": {"name": "Alarm", "type": "bool"},
        "valid": {"controlKey": "dwell", "enumValueArray": ["5", "7"]}},
       {"key": "note", "protocol": {"name": "Note", "type": "string"}}]}}},
@@ -33,7 +33,8 @@ const QByteArray kTemplate = R"({
     "region": {"describe": "Region", "facade": "region", "range": [3, 8]},
     "arrow": {"describe": "Arrow", "facade": "directLine"},
     "mode": {"describe": "Mode", "facade": "radioButton", "default": "Short", "enumeration": [
-      {"name": "Short", "value": "Short"}, {"name": "Long", "value": "Long"}]},
+      {"name": "Short", "value": "Short"}, {"name": "Long", "value": "Long"},
+      {"name": "Endless", "value": "Endless"}]},
     "dwell": {"describe": "Dwell", "facade": "inputBoxNumber", "range": [1, 60], "default": 5},
     "alarm": {"describe": "Alarm", "facade": "bool"},
     "note": {"describe": "Note", "facade": "inputBoxNumber"}}})";
@@ -58,246 +59,218 @@ class TstRuleScene : public RulesTest
     Q_OBJECT
 
 private slots:
-    void loadShowsFirstRuleAndChangesNothing();
-    void addedRuleIsDrawnFigureByFigure();
-    void pickNamesDrawsAndFinishesEdits();
-    void nothingFollowsWhereNothingMay();
-    void redrawStartsFromTheFirstFigure();
-    void deleteSelectsNeighbourAndKeepsOneRule();
-    void names();
-    void renameReachesButtonAndFigure();
-    void dependentRowsFollowTheirControllers();
-    void selectModeOnlyEnablesRules();
-    void statisticsDirectionGoesToFigures();
-    void lettingGoKeepsNothing();
-};
-
-void TstRuleScene::loadShowsFirstRuleAndChangesNothing()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    QCOMPARE(bench.panel().objectName(), QStringLiteral("rules"));
-    QCOMPARE(bench.buttons(), QStringLiteral("[Gate] Rule2"));
-    QCOMPARE(bench.find("dwell")->findChild<QLineEdit*>()->text(), QStringLiteral("7"));
-    QCOMPARE(bench.find("ruleName")->findChild<QLineEdit*>()->text(), QStringLiteral("Gate"));
-    QVERIFY(bench.entry(1).name().isEmpty());
-    QCOMPARE(bench.figures(1), QStringLiteral("region: 3"));
-    QVERIFY(!bench.panel().GetDrawStatus());
-    QVERIFY(!bench.canvas().HasDrawUnfinished());
-}
-
-void TstRuleScene::addedRuleIsDrawnFigureByFigure()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    bench.click("addRule");
-    QCOMPARE(bench.buttons(), QStringLiteral("Gate Rule2 [Rule3]"));
-    QCOMPARE(bench.canvas().message(), QStringLiteral("Please draw Rule3!"));
-    QCOMPARE(bench.entry(2).value("dwell"), QVariant(5));
-    QVERIFY(bench.panel().GetDrawStatus());
-    QVERIFY(!bench.find("addRule")->isEnabled());
-
-    bench.press(kTriangle);
-    bench.pressRight();
-    QCOMPARE(bench.figures(2), QStringLiteral("region: 3, arrow: 0..."));
-    QCOMPARE(bench.canvas().message(), QStringLiteral("Please draw Arrow!"));
-    QVERIFY(!bench.find("addRule")->isEnabled());
-    bench.press(kLine);
-    QCOMPARE(bench.figures(2), QStringLiteral("region: 3, arrow: 2"));
-    QVERIFY(bench.find("addRule")->isEnabled());
-
-    bench.click("addRule"); // the template's maximum is reached
-    QCOMPARE(bench.data().getDataCount(), 3);
-    QCOMPARE(bench.selectedFigure(), QStringLiteral("arrow"));
-}
-
-void TstRuleScene::pickNamesDrawsAndFinishesEdits()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    bench.type("note", "typed");
-    bench.pick(1);
-    QCOMPARE(bench.entry(0).value("note"), QVariant("typed"));
-    QCOMPARE(bench.entry(1).value("note"), QVariant("n2"));
-    QCOMPARE(bench.entry(1).name(), QStringLiteral("Rule2"));
-    QVERIFY(!bench.isShown("dwell"));
-    QCOMPARE(bench.figures(1), QStringLiteral("region: 3, arrow: 0..."));
-    bench.press(kLine);
-    bench.pick(0);
-    QCOMPARE(bench.selectedFigure(), QStringLiteral("arrow"));
-    bench.pick(0); // a press on the current button keeps it
-    QCOMPARE(bench.buttons(), QStringLiteral("[Gate] Rule2"));
-
-    // Emptied is stored, left empty is not.
-    PanelBench bare(kTemplate, R"({"Rules": [{"Name": "Bare"}]})", SceneType::Rules);
-    QTest::keyClick(bare.find("note")->findChild<QLineEdit*>(), Qt::Key_Return);
-    QVERIFY(!bare.entry(0).value("note").isValid());
-    bare.enter("note", "x");
-    bare.enter("note", "");
-    QCOMPARE(bare.entry(0).value("note"), QVariant(""));
-}
-
-void TstRuleScene::nothingFollowsWhereNothingMay()
-{
-    PanelBench readOnly(kTemplate, kConfig, SceneType::Rules);
-    readOnly.panel().setUIEditable(false);
-    readOnly.pick(1);
-    QCOMPARE(readOnly.figures(1), QStringLiteral("region: 3"));
-
-    PanelBench selecting(kTemplate, kConfig, SceneType::Rules, true);
-    selecting.pick(1);
-    QCOMPARE(selecting.figures(1), QStringLiteral("region: 3"));
-
-    PanelBench deleting(kTemplate, kConfig, SceneType::Rules);
-    deleting.click("delete");
-    QCOMPARE(deleting.figures(0), QStringLiteral("region: 3"));
-}
-
-void TstRuleScene::redrawStartsFromTheFirstFigure()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    bench.click("redraw");
-    QCOMPARE(bench.figures(0), QStringLiteral("region: 0..."));
-    QCOMPARE(bench.selectedFigure(), QStringLiteral("region"));
-    QVERIFY(bench.panel().GetDrawStatus());
-    bench.press(kTriangle);
-    bench.pressRight();
-    bench.press(kLine);
-    QCOMPARE(bench.figures(0), QStringLiteral("region: 3, arrow: 2"));
-
-    // A rule that came without figures is drawn as a whole.
-    PanelBench bare(kTemplate, R"({"Rules": [{"Name": "Bare"}]})", SceneType::Rules);
-    bare.click("redraw");
-    QCOMPARE(bare.canvas().message(), QStringLiteral("Please draw Bare!"));
-    bare.press(kTriangle);
-    bare.click("redraw"); // the button has its figure now
-    QCOMPARE(bare.figures(0), QStringLiteral("region: 0..."));
-}
-
-void TstRuleScene::deleteSelectsNeighbourAndKeepsOneRule()
-{
-    BoxAnswerer boxes;
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    bench.click("addRule");
-    bench.click("delete"); // while it is drawn: the last one is current afterwards
-    QCOMPARE(bench.buttons(), QStringLiteral("Gate [Rule2]"));
-    QVERIFY(bench.find("addRule")->isEnabled());
-    bench.pick(0);
-    bench.click("delete");
-    QCOMPARE(bench.buttons(), QStringLiteral("[Rule1]"));
-    QCOMPARE(bench.canvas().getItemList(BaseDrawType::None, 0).size(), 1);
-    QCOMPARE(bench.find("note")->findChild<QLineEdit*>()->text(), QStringLiteral("n2"));
-    QVERIFY(boxes.takeBoxes().isEmpty());
-    bench.click("delete");
-    QCOMPARE(boxes.takeBoxes(), QStringList("Notice: At least one Rule!"));
-    QCOMPARE(bench.data().getDataCount(), 1);
-}
-
-void TstRuleScene::names()
-{
-    const std::pair<QString, QString> typedAndStored[] = {
-        {"a1", "a1"},
-        {"North-2", "North-2"},
-        {u8"\u95E8_1", u8"\u95E8_1"},
-        {u8"\u04BB1", u8"\u04BB1"}, // where the wide range begins
-        {"a", "Gate"},
-        {"_", "Gate"},
-        {"", "Gate"},
-        {"a!b", "ab"},
-        {u8"ab\u3001", "ab"}, // punctuation inside the wide range
-        {"abcdefghijklmnopqrstu", "abcdefghijklmnopqrst"},
-    };
-    for (const auto& [typed, stored] : typedAndStored) {
+    void addedRuleIsDrawnFigureByFigure()
+    {
         PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-        bench.enter("ruleName", typed);
-        bench.panel().finishEdits();
-        QCOMPARE(bench.entry(0).name(), stored);
-        QCOMPARE(bench.find("ruleName")->findChild<QLineEdit*>()->text(), stored);
+        bench.click("addRule");
+        QCOMPARE(bench.buttons(), QString("Gate Rule2 [Rule3]"));
+        QCOMPARE(bench.canvas().message(), QString("Please draw Rule3!"));
+        QCOMPARE(bench.entry(2).value("dwell"), QVariant(5));
+        QVERIFY(bench.panel().GetDrawStatus());
+        QVERIFY(!bench.find("addRule")->isEnabled());
+
+        bench.press(kTriangle);
+        bench.pressRight();
+        QCOMPARE(bench.figures(2), QString("region: 3, arrow: 0..."));
+        QCOMPARE(bench.canvas().message(), QString("Please draw Arrow!"));
+        QVERIFY(!bench.find("addRule")->isEnabled());
+        bench.press(kLine);
+        QCOMPARE(bench.figures(2), QString("region: 3, arrow: 2"));
+        QVERIFY(bench.find("addRule")->isEnabled());
+
+        bench.click("addRule"); // the template's maximum is reached
+        QCOMPARE(bench.data().getDataCount(), 3);
+        QCOMPARE(bench.selectedFigure(), QString("arrow"));
     }
-}
 
-void TstRuleScene::renameReachesButtonAndFigure()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    bench.enter("ruleName", "Entrance");
-    QCOMPARE(bench.buttons(), QStringLiteral("[Entrance] Rule2"));
-    QCOMPARE(bench.canvas().getFirstDrawItem()->label(), QStringLiteral("Entrance"));
-    bench.click("redraw");
-    QCOMPARE(bench.canvas().message(), QStringLiteral("Please draw Entrance!"));
-}
+    void pickNamesDrawsAndFinishesEdits()
+    {
+        PanelBench bench(kTemplate, kConfig, SceneType::Rules);
+        bench.type("note", "typed");
+        bench.pick(1);
+        QCOMPARE(bench.entry(0).value("note"), QVariant("typed"));
+        QCOMPARE(bench.entry(1).value("note"), QVariant("n2"));
+        QCOMPARE(bench.entry(1).name(), QString("Rule2"));
+        QVERIFY(!bench.isShown("dwell"));
+        QCOMPARE(bench.figures(1), QString("region: 3, arrow: 0..."));
+        bench.press(kLine);
+        bench.pick(0);
+        QCOMPARE(bench.selectedFigure(), QString("arrow"));
+        bench.pick(0); // a press on the current button keeps it
+        QCOMPARE(bench.buttons(), QString("[Gate] Rule2"));
 
-void TstRuleScene::dependentRowsFollowTheirControllers()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    QVERIFY(bench.isShown("dwell") && bench.isShown("alarm"));
-    bench.clickOption("mode", "Short");
-    QCOMPARE(bench.entry(0).value("mode"), QVariant("Short"));
-    QVERIFY(!bench.isShown("dwell") && !bench.isShown("alarm"));
-    QVERIFY(!bench.entry(0).isValid("dwell"));
-    QVERIFY(bench.entry(0).isValid("alarm")); // its own condition is still met
-    bench.clickOption("mode", "Long");
-    QCOMPARE(bench.entry(0).value("dwell"), QVariant(7));
-    QVERIFY(bench.entry(0).isValid("dwell") && bench.isShown("alarm"));
-    bench.enter("dwell", "8");
-    QVERIFY(!bench.isShown("alarm"));
+        // Emptied is stored, left empty is not.
+        PanelBench bare(kTemplate, R"({"Rules": [{"Name": "Bare"}]})", SceneType::Rules);
+        QTest::keyClick(bare.find("note")->findChild<QLineEdit*>(), Qt::Key_Return);
+        QVERIFY(!bare.entry(0).value("note").isValid());
+        bare.enter("note", "x");
+        bare.enter("note", "");
+        QCOMPARE(bare.entry(0).value("note"), QVariant(""));
+    }
 
-    // What did not apply so far starts with its default.
-    PanelBench plain(kTemplate, R"({"Rules": [{"Mode": "Short"}]})", SceneType::Rules);
-    QVERIFY(!plain.entry(0).value("dwell").isValid());
-    plain.clickOption("mode", "Long");
-    QCOMPARE(plain.entry(0).value("dwell"), QVariant(5));
-    QVERIFY(plain.entry(0).isValid("alarm")); // and so does what depends on that
-    QCOMPARE(plain.find("dwell")->findChild<QLineEdit*>()->text(), QStringLiteral("5"));
-}
+    void nothingFollowsWhereNothingMay()
+    {
+        PanelBench readOnly(kTemplate, kConfig, SceneType::Rules);
+        readOnly.panel().setUIEditable(false);
+        readOnly.pick(1);
+        QCOMPARE(readOnly.figures(1), QString("region: 3"));
 
-void TstRuleScene::selectModeOnlyEnablesRules()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules, true);
-    for (const char* hidden : {"ruleFucBar", "actions", "hint"})
-        QVERIFY2(!bench.isShown(hidden), hidden);
-    QVERIFY(!bench.find("controls")->isEnabled());
-    QVERIFY(bench.find("drawItems")->isEnabled());
-    const auto boxes = bench.panel().findChildren<QCheckBox*>("enable");
-    QCOMPARE(boxes.size(), 2);
-    QTest::mouseClick(boxes[0], Qt::LeftButton, {}, QPoint(8, 7));
-    QVERIFY(!bench.entry(0).isEnabled());
-    QVERIFY(bench.entry(1).isEnabled());
-}
+        PanelBench selecting(kTemplate, kConfig, SceneType::Rules, true);
+        selecting.pick(1);
+        QCOMPARE(selecting.figures(1), QString("region: 3"));
 
-void TstRuleScene::statisticsDirectionGoesToFigures()
-{
-    PanelBench bench(kStatistics, R"({"Rules": [{"Area": [[0,0],[800,0],[800,800],[0,800]],
-        "Config": {"Direction": [[800, 400], [0, 400]]}}]})",
-                     SceneType::Rules);
-    const auto figureDirection = [&bench](int position) {
-        return int(bench.canvas()
-                       .getItemListByDataId(bench.entry(position).id())
-                       .first()
-                       ->figure()
-                       ->direction());
-    };
-    QCOMPARE(figureDirection(0), 1);
-    bench.click("addRule"); // takes over what the row shows
-    QCOMPARE(figureDirection(1), 1);
-    bench.clickOption("ruleStatisticsRegionDirection", "LeftToRight");
-    QCOMPARE(figureDirection(1), 2);
-    QCOMPARE(figureDirection(0), 1);
-    bench.press({{100, 100}, {300, 100}, {300, 300}});
-    bench.pick(0);
-    QCOMPARE(figureDirection(0), 1);
-}
+        PanelBench deleting(kTemplate, kConfig, SceneType::Rules);
+        deleting.click("delete");
+        QCOMPARE(deleting.figures(0), QString("region: 3"));
+    }
 
-void TstRuleScene::lettingGoKeepsNothing()
-{
-    PanelBench bench(kTemplate, kConfig, SceneType::Rules);
-    bench.type("note", "lost");
-    bench.panel().setRuleData(nullptr);
-    QCOMPARE(bench.panel().findChildren<QWidget*>("note").size(), 0);
-    bench.panel().sltRedrawItem();
-    bench.panel().sltTabelRuleFucBtnClicked(1);
-    bench.panel().sltTabelAttrControlValueChange("note");
-    bench.panel().setRuleData(&bench.data());
-    QCOMPARE(bench.buttons(), QStringLiteral("[Gate] Rule2"));
-    QCOMPARE(bench.panel().findChildren<QWidget*>("note").size(), 1);
-    QCOMPARE(bench.entry(0).value("note"), QVariant("n1"));
-}
+    void redrawStartsFromTheFirstFigure()
+    {
+        PanelBench bench(kTemplate, kConfig, SceneType::Rules);
+        bench.enter("ruleName", "Entrance");
+        QCOMPARE(bench.buttons(), QString("[Entrance] Rule2"));
+        bench.click("redraw");
+        QCOMPARE(bench.canvas().message(), QString("Please draw Entrance!"));
+        QCOMPARE(bench.canvas().getFirstDrawItem()->label(), QString("Entrance"));
+        QCOMPARE(bench.figures(0), QString("region: 0..."));
+        QCOMPARE(bench.selectedFigure(), QString("region"));
+        QVERIFY(bench.panel().GetDrawStatus());
+        bench.press(kTriangle);
+        bench.pressRight();
+        bench.press(kLine);
+        QCOMPARE(bench.figures(0), QString("region: 3, arrow: 2"));
+
+        // A rule that came without figures is drawn as a whole.
+        PanelBench bare(kTemplate, R"({"Rules": [{"Name": "Bare"}]})", SceneType::Rules);
+        bare.click("redraw");
+        QCOMPARE(bare.canvas().message(), QString("Please draw Bare!"));
+        bare.press(kTriangle);
+        bare.click("redraw"); // the button has its figure now
+        QCOMPARE(bare.figures(0), QString("region: 0..."));
+    }
+
+    void deleteSelectsNeighbourAndKeepsOneRule()
+    {
+        BoxAnswerer boxes;
+        PanelBench bench(kTemplate, kConfig, SceneType::Rules);
+        bench.click("addRule");
+        bench.click("delete"); // while it is drawn: the last one is current afterwards
+        QCOMPARE(bench.buttons(), QString("Gate [Rule2]"));
+        QVERIFY(bench.find("addRule")->isEnabled());
+        bench.pick(0);
+        bench.click("delete");
+        QCOMPARE(bench.buttons(), QString("[Rule1]"));
+        QCOMPARE(bench.canvas().getItemList(BaseDrawType::None, 0).size(), 1);
+        QCOMPARE(bench.find("note")->findChild<QLineEdit*>()->text(), QString("n2"));
+        QVERIFY(boxes.takeBoxes().isEmpty());
+        bench.click("delete");
+        QCOMPARE(boxes.takeBoxes(), QStringList("Notice: At least one Rule!"));
+        QCOMPARE(bench.data().getDataCount(), 1);
+    }
+
+    void names()
+    {
+        const std::pair<QString, QString> typedAndStored[] = {
+            {"a1", "a1"},
+            {"North-2", "North-2"},
+            {u8"\u95E8_1", u8"\u95E8_1"},
+            {u8"\u04BB1", u8"\u04BB1"}, // where the wide range begins
+            {"a", "Gate"},
+            {"_", "Gate"},
+            {"", "Gate"},
+            {"a!b", "ab"},
+            {u8"ab\u3001", "ab"}, // punctuation inside the wide range
+            {"abcdefghijklmnopqrstu", "abcdefghijklmnopqrst"},
+        };
+        for (const auto& [typed, stored] : typedAndStored) {
+            PanelBench bench(kTemplate, kConfig, SceneType::Rules);
+            bench.enter("ruleName", typed);
+            bench.panel().finishEdits();
+            QCOMPARE(bench.entry(0).name(), stored);
+            QCOMPARE(bench.find("ruleName")->findChild<QLineEdit*>()->text(), stored);
+        }
+    }
+
+    void dependentRowsFollowTheirControllers()
+    {
+        PanelBench bench(kTemplate, kConfig, SceneType::Rules);
+        QVERIFY(bench.isShown("dwell") && bench.isShown("alarm"));
+        bench.clickOption("mode", "Short");
+        QCOMPARE(bench.entry(0).value("mode"), QVariant("Short"));
+        QVERIFY(!bench.isShown("dwell") && !bench.isShown("alarm"));
+        QVERIFY(!bench.entry(0).isValid("dwell"));
+        QVERIFY(bench.entry(0).isValid("alarm")); // its own condition is still met
+        bench.clickOption("mode", "Long");
+        QCOMPARE(bench.entry(0).value("dwell"), QVariant(7));
+        QVERIFY(bench.entry(0).isValid("dwell") && bench.isShown("alarm"));
+        bench.enter("dwell", "8");
+        QVERIFY(!bench.isShown("alarm"));
+
+        // The value that was loaded is a change again after another one was stored.
+        PanelBench again(kTemplate, kConfig, SceneType::Rules);
+        again.type("dwell", "9");
+        // Where a click leaves the focus in the edit, the edit is still unfinished.
+        again.find("mode")->findChildren<QAbstractButton*>().last()->click();
+        QCOMPARE(again.entry(0).value("dwell"), QVariant(9));
+        again.enter("dwell", "7");
+        QCOMPARE(again.entry(0).value("dwell"), QVariant(7));
+
+        // What did not apply so far starts with its default.
+        PanelBench plain(kTemplate, R"({"Rules": [{"Mode": "Short"}]})", SceneType::Rules);
+        QVERIFY(!plain.entry(0).value("dwell").isValid());
+        plain.clickOption("mode", "Long");
+        QCOMPARE(plain.entry(0).value("dwell"), QVariant(5));
+        QVERIFY(plain.entry(0).isValid("alarm")); // and so does what depends on that
+        QCOMPARE(plain.find("dwell")->findChild<QLineEdit*>()->text(), QString("5"));
+    }
+
+    void selectModeOnlyEnablesRules()
+    {
+        PanelBench bench(kTemplate, kConfig, SceneType::Rules, true);
+        for (const char* hidden : {"ruleFucBar", "actions", "hint"})
+            QVERIFY2(!bench.isShown(hidden), hidden);
+        QVERIFY(!bench.find("controls")->isEnabled());
+        QVERIFY(bench.find("drawItems")->isEnabled());
+    }
+
+    void statisticsDirectionGoesToFigures()
+    {
+        PanelBench bench(kStatistics, R"({"Rules": [{"Area": [[0,0],[800,0],[800,800],[0,800]],
+            "Config": {"Direction": [[800, 400], [0, 400]]}}]})",
+                         SceneType::Rules);
+        const auto figureDirection = [&bench](int position) {
+            return int(bench.canvas()
+                           .getItemListByDataId(bench.entry(position).id())
+                           .first()
+                           ->figure()
+                           ->direction());
+        };
+        QCOMPARE(figureDirection(0), 1);
+        bench.click("addRule"); // takes over what the row shows
+        QCOMPARE(figureDirection(1), 1);
+        bench.clickOption("ruleStatisticsRegionDirection", "LeftToRight");
+        QCOMPARE(figureDirection(1), 2);
+        QCOMPARE(figureDirection(0), 1);
+        bench.press({{100, 100}, {300, 100}, {300, 300}});
+        bench.pick(0);
+        QCOMPARE(figureDirection(0), 1);
+    }
+
+    void lettingGoKeepsNothing()
+    {
+        PanelBench bench(kTemplate, kConfig, SceneType::Rules);
+        bench.type("note", "lost");
+        bench.panel().setRuleData(nullptr);
+        QCOMPARE(bench.panel().findChildren<QWidget*>("note").size(), 0);
+        bench.panel().sltRedrawItem();
+        bench.panel().sltTabelRuleFucBtnClicked(1);
+        bench.panel().sltTabelAttrControlValueChange("note");
+        bench.panel().setRuleData(&bench.data());
+        QCOMPARE(bench.buttons(), QString("[Gate] Rule2"));
+        QCOMPARE(bench.panel().findChildren<QWidget*>("note").size(), 1);
+        QCOMPARE(bench.entry(0).value("note"), QVariant("n1"));
+    }
+};
 
 QTEST_MAIN(TstRuleScene)
 #include "tst_rulescene.moc"

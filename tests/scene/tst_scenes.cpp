@@ -6,7 +6,6 @@
 #include "draw/drawscene.h"
 #include "scene/basetabelscene.h"
 #include "scene/entryrows.h"
-#include "scene/scenefactory.h"
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
@@ -98,296 +97,258 @@ class TstScenes : public RulesTest
     Q_OBJECT
 
 private slots:
-    void foldingMaskAndSelection();
-    void focusSelectsSection();
-    void globalHasOneEntryAndNoFigures();
-    void detectionNumbersItsAreas();
-    void lanesTakeFreeNumbers();
-    void laneNumberGoesToItsRule();
-    void calibrateByScene();
-    void calibrateByLane();
-    void fightRectsLiveInTheirArea();
-    void tabFollowsTheRows();
-    void dataMayGoAfterItsPanelLetGo();
-    void longChainsAndLongTexts();
-};
+    void foldingMaskAndSelection()
+    {
+        PanelBench bench(kDetect, "{}", SceneType::Detection);
+        drawArea(bench);
+        BaseTabelScene& panel = bench.panel();
+        QWidget* titleBar = bench.find("titleBar");
+        QWidget* mask = bench.find("mask");
+        const int openHeight = panel.height();
 
-void TstScenes::foldingMaskAndSelection()
-{
-    PanelBench bench(kDetect, "{}", SceneType::Detection);
-    drawArea(bench);
-    BaseTabelScene& panel = bench.panel();
-    QWidget* titleBar = bench.find("titleBar");
-    QWidget* mask = bench.find("mask");
-    const int openHeight = panel.height();
+        QTest::mouseClick(titleBar, Qt::LeftButton);
+        QVERIFY(panel.getFold() && titleBar->property("bFold").toBool());
+        QCOMPARE(panel.height(), titleBar->height() + 2);
+        QVERIFY(!bench.isShown("actions") && !mask->isVisible());
+        QTest::mouseClick(titleBar, Qt::LeftButton);
+        QCOMPARE(panel.height(), openHeight);
+        QVERIFY(bench.isShown("actions") && bench.isShown("hint"));
 
-    QTest::mouseClick(titleBar, Qt::LeftButton);
-    QVERIFY(panel.getFold() && titleBar->property("bFold").toBool());
-    QCOMPARE(panel.height(), titleBar->height() + 2);
-    QVERIFY(!bench.isShown("actions") && !mask->isVisible());
-    QTest::mouseClick(titleBar, Qt::LeftButton);
-    QCOMPARE(panel.height(), openHeight);
-    QVERIFY(bench.isShown("actions") && bench.isShown("hint"));
-
-    panel.setSelected(false);
-    QVERIFY(mask->isVisible());
-    QCOMPARE(mask->geometry(), panel.rect());
-    QCOMPARE(panel.childAt(titleBar->geometry().center()), mask);
-    QSignalSpy wanted(&panel, &BaseTabelScene::sgnTrySelectedlScene);
-    QTest::mouseClick(mask, Qt::LeftButton, {}, titleBar->geometry().center());
-    QCOMPARE(wanted.count(), 1);
-    QVERIFY(!panel.getFold()); // the first press only selects
-    panel.setSelected(true);
-    QVERIFY(!mask->isVisible());
-    QCOMPARE(titleBar->property("selected"), QVariant(true));
-}
-
-void TstScenes::focusSelectsSection()
-{
-    PanelBench bench(kGlobal, "{}", SceneType::Global);
-    bench.panel().setSelected(false);
-    bench.panel().setFold(true);
-    QSignalSpy wanted(&bench.panel(), &BaseTabelScene::sgnTrySelectedlScene);
-    auto* edit = bench.find("level")->findChild<QLineEdit*>();
-    edit->setFocus(Qt::TabFocusReason);
-    QCOMPARE(wanted.count(), 1);
-    QVERIFY(!bench.panel().getFold());
-    bench.panel().setSelected(true);
-    bench.panel().setFold(true);
-    QVERIFY(!edit->hasFocus()); // nothing is typed into what cannot be seen
-}
-
-void TstScenes::globalHasOneEntryAndNoFigures()
-{
-    PanelBench bench(kGlobal, "{}", SceneType::Global);
-    QCOMPARE(heading(bench), QStringLiteral("Global configuration"));
-    QCOMPARE(bench.data().getDataCount(), 1);
-    QCOMPARE(bench.find("level")->findChild<QLineEdit*>()->text(), QStringLiteral("3"));
-    for (const char* name : {"ruleFucBar", "drawItems", "actions", "hint", "childFucBar"})
-        QVERIFY2(!bench.isShown(name), name);
-    bench.enter("level", "4");
-    QCOMPARE(bench.entry(0).value("level"), QVariant(4));
-}
-
-void TstScenes::detectionNumbersItsAreas()
-{
-    PanelBench bench(kDetect, "{}", SceneType::Detection);
-    QCOMPARE(heading(bench), QStringLiteral("Detection configuration"));
-    QVERIFY(!bench.isShown("actions"));
-    drawArea(bench);
-    bench.click("fuc1");
-    QCOMPARE(bench.buttons(), QStringLiteral("Detection area1 [Detection area2]"));
-    QCOMPARE(bench.canvas().message(), QStringLiteral("Please draw Detection area2!"));
-    bench.press(kArea);
-    bench.pressRight();
-    bench.click("fuc1"); // two are allowed
-    QCOMPARE(bench.data().getDataCount(), 2);
-    bench.click("delete");
-    bench.click("delete");
-    QCOMPARE(bench.data().getSelectedDataId(), 0);
-    QVERIFY(bench.canvas().getItemList(BaseDrawType::None, 0).isEmpty());
-    QVERIFY(!bench.isShown("actions") && bench.find("fuc1")->isEnabled());
-}
-
-void TstScenes::lanesTakeFreeNumbers()
-{
-    PanelBench bench(lanes("[1, 3]"), "{}", SceneType::Lanes);
-    QCOMPARE(heading(bench), QStringLiteral("Lanes configuration"));
-    QVERIFY(!bench.isShown("controls"));
-    const auto number = [&bench](int i) { return bench.entry(i).value("lanesNum").toInt(); };
-    for (int i = 0; i < 3; ++i)
-        drawLane(bench, 100 + 150 * i);
-    QCOMPARE(bench.buttons(), QStringLiteral("Lanes1 Lanes2 [Lanes3]"));
-    QCOMPARE(number(0) * 100 + number(1) * 10 + number(2), 123);
-    QCOMPARE(caption(bench, "lanesNum"), QStringLiteral("Lane number"));
-    bench.click("fuc8"); // three are allowed
-    QCOMPARE(bench.data().getDataCount(), 3);
-
-    bench.pick(0);
-    bench.click("delete");
-    drawLane(bench, 600);
-    QCOMPARE(number(2), 1);
-    bench.click("delete");
-    bench.enter("lanesNum", "1"); // 1 and 2 are taken now
-    drawLane(bench, 600);
-    QCOMPARE(number(2), 3);
-    bench.click("delete");
-
-    // A lane whose figure is gone holds its number, and the scene has room for one more.
-    bench.canvas().removeItem(bench.canvas().getFirstDrawItem()->itemId());
-    drawLane(bench, 600);
-    drawLane(bench, 800);
-    QCOMPARE(number(3), 4);
-}
-
-void TstScenes::laneNumberGoesToItsRule()
-{
-    PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
-    QVERIFY(!bench.isShown("childFucBar"));
-    drawLane(bench, 100);
-    QCOMPARE(bench.entry(0).value("ruleLaneNumber"), QVariant(1));
-    QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
-    bench.enter("lanesNum", "2");
-    QVERIFY(!bench.entry(0).isValid("speed") && !bench.isShown("speed"));
-    bench.enter("lanesNum", "3");
-    QCOMPARE(bench.entry(0).value("ruleLaneNumber"), QVariant(3));
-    QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
-    QVERIFY(!bench.panel().findChild<QWidget*>("ruleLaneNumber"));
-    QCOMPARE(caption(bench, "speed"), QStringLiteral("Speed"));
-    bench.click("fuc2");
-    bench.press({{120, 200}, {160, 210}});
-    QCOMPARE(bench.buttons("childDrawItems"), QStringLiteral("[Trip]"));
-    QCOMPARE(bench.figures(0), QStringLiteral("lanesLanes: 4, trip: 2"));
-}
-
-void TstScenes::calibrateByScene()
-{
-    PanelBench bench(calibrate("Scene"), "{}", SceneType::CalibrateArea);
-    QCOMPARE(heading(bench), QStringLiteral("Scene calibration"));
-    QCOMPARE(caption(bench, "calibrateAreaVertical"), QStringLiteral("Vertical length"));
-    drawArea(bench);
-    QVERIFY(bench.isShown("fuc6") && bench.isShown("fuc5"));
-    auto* vertical = bench.find("calibrateAreaVertical")->findChild<QLineEdit*>();
-    auto* horizontal = bench.find("calibrateAreaHorizontal")->findChild<QLineEdit*>();
-    QVERIFY(vertical->isEnabled() && horizontal->isEnabled());
-    for (int i = 0; i < 3; ++i) {
-        bench.click("fuc6");
-        QVERIFY(!bench.find("fuc6")->isEnabled());
-        bench.press({{200 + 50 * i, 200}, {210 + 50 * i, 400}});
+        panel.setSelected(false);
+        QVERIFY(mask->isVisible());
+        QCOMPARE(mask->geometry(), panel.rect());
+        QCOMPARE(panel.childAt(titleBar->geometry().center()), mask);
+        QSignalSpy wanted(&panel, &BaseTabelScene::sgnTrySelectedlScene);
+        QTest::mouseClick(mask, Qt::LeftButton, {}, titleBar->geometry().center());
+        QCOMPARE(wanted.count(), 1);
+        QVERIFY(!panel.getFold()); // the first press only selects
+        panel.setSelected(true);
+        QVERIFY(!mask->isVisible());
+        QCOMPARE(titleBar->property("selected"), QVariant(true));
     }
-    bench.click("fuc6"); // three are allowed
-    QCOMPARE(bench.buttons("childDrawItems"),
-             QStringLiteral("verticalLine1 verticalLine2 [verticalLine3]"));
-    QVERIFY(!vertical->isEnabled() && horizontal->isEnabled());
 
-    bench.pick(1, "childDrawItems");
-    bench.click("delete");
-    QCOMPARE(bench.buttons("childDrawItems"), QStringLiteral("verticalLine1 verticalLine2"));
-    QCOMPARE(bench.selectedFigure(), QStringLiteral("calibrateAreaRegion"));
-    bench.pick(0, "childDrawItems");
-    bench.click("redraw");
-    QCOMPARE(bench.canvas().message(), QStringLiteral("Please draw verticalLine1!"));
-    bench.press({{50, 50}}); // outside the area
-    QVERIFY(bench.figures(0).contains("calibrateAreaVerticalLine: 0..."));
-}
+    void globalHasNoFiguresAndFocusSelectsIt()
+    {
+        PanelBench bench(kGlobal, "{}", SceneType::Global);
+        for (const char* name : {"ruleFucBar", "drawItems", "actions", "hint", "childFucBar"})
+            QVERIFY2(!bench.isShown(name), name);
+        bench.panel().setSelected(false);
+        bench.panel().setFold(true);
+        QSignalSpy wanted(&bench.panel(), &BaseTabelScene::sgnTrySelectedlScene);
+        auto* edit = bench.find("level")->findChild<QLineEdit*>();
+        QCOMPARE(edit->text(), QString("3"));
+        edit->setFocus(Qt::TabFocusReason);
+        QCOMPARE(wanted.count(), 1);
+        QVERIFY(!bench.panel().getFold());
+        bench.panel().setSelected(true);
+        bench.panel().setFold(true);
+        QVERIFY(!edit->hasFocus()); // nothing is typed into what cannot be seen
+    }
 
-void TstScenes::calibrateByLane()
-{
-    PanelBench bench(calibrate("Lane"), R"({"Areas": [{"Area": [[0, 0], [800, 0], [800, 800],
-        [0, 800]], "Staffs": [{"Type": "Vertical", "Length": 2, "Start": [100, 100],
-        "End": [100, 700]}]}]})",
-                     SceneType::CalibrateArea);
-    QCOMPARE(heading(bench), QStringLiteral("Lane calibration"));
-    QCOMPARE(caption(bench, "calibrateAreaVertical"), QStringLiteral("Length"));
-    QCOMPARE(caption(bench, "calibrateAreaHorizontal"), QStringLiteral("Width"));
-    // Staffs are kept, but not offered.
-    QCOMPARE(bench.canvas().itemCount(BaseDrawType::VerticalRuler, 0), 1);
-    QVERIFY(!bench.isShown("childFucBar") && !bench.isShown("childDrawItems"));
-    bench.enter("calibrateAreaVertical", "2.5");
-    QCOMPARE(bench.entry(0).value("calibrateAreaVertical"), QVariant(2.5));
-    bench.click("fuc1");
-    bench.press({{50, 50}}); // inside the first area
-    QCOMPARE(bench.figures(1), QStringLiteral("calibrateAreaRegion: 0..."));
-    bench.click("delete");
-    bench.click("redraw");
-    QCOMPARE(bench.figures(0), QStringLiteral("calibrateAreaRegion: 0..."));
-}
+    void detectionNumbersItsAreas()
+    {
+        PanelBench bench(kDetect, "{}", SceneType::Detection);
+        QCOMPARE(heading(bench), QString("Detection configuration"));
+        QVERIFY(!bench.isShown("actions"));
+        drawArea(bench);
+        bench.click("fuc1");
+        QCOMPARE(bench.buttons(), QString("Detection area1 [Detection area2]"));
+        QCOMPARE(bench.canvas().message(), QString("Please draw Detection area2!"));
+        bench.press(kArea);
+        bench.pressRight();
+        bench.click("fuc1"); // two are allowed
+        QCOMPARE(bench.data().getDataCount(), 2);
+        bench.click("delete");
+        bench.click("delete");
+        QCOMPARE(bench.data().getSelectedDataId(), 0);
+        QVERIFY(bench.canvas().getItemList(BaseDrawType::None, 0).isEmpty());
+        QVERIFY(!bench.isShown("actions") && bench.find("fuc1")->isEnabled());
+    }
 
-void TstScenes::fightRectsLiveInTheirArea()
-{
-    PanelBench bench(kFight, "{}", SceneType::FightCalibrate);
-    QCOMPARE(heading(bench), QStringLiteral("Fight configuration"));
-    drawArea(bench);
-    QCOMPARE(bench.buttons(), QStringLiteral("[Area]"));
-    for (int i = 0; i < 3; ++i) {
+    void lanesTakeFreeNumbers()
+    {
+        PanelBench bench(lanes("[1, 3]"), "{}", SceneType::Lanes);
+        QVERIFY(!bench.isShown("controls"));
+        const auto number = [&bench](int i) { return bench.entry(i).value("lanesNum").toInt(); };
+        for (int i = 0; i < 3; ++i)
+            drawLane(bench, 100 + 150 * i);
+        QCOMPARE(bench.buttons(), QString("Lanes1 Lanes2 [Lanes3]"));
+        QCOMPARE(number(0) * 100 + number(1) * 10 + number(2), 123);
+        QCOMPARE(caption(bench, "lanesNum"), QString("Lane number"));
+        bench.click("fuc8"); // three are allowed
+        QCOMPARE(bench.data().getDataCount(), 3);
+
+        bench.pick(0);
+        bench.click("delete");
+        drawLane(bench, 600);
+        QCOMPARE(number(2), 1);
+        bench.click("delete");
+        bench.enter("lanesNum", "1"); // 1 and 2 are taken now
+        drawLane(bench, 600);
+        QCOMPARE(number(2), 3);
+        bench.click("delete");
+
+        // A lane whose figure is gone holds its number, and the scene has room for one more.
+        bench.canvas().removeItem(bench.canvas().getFirstDrawItem()->itemId());
+        drawLane(bench, 600);
+        drawLane(bench, 800);
+        QCOMPARE(number(3), 4);
+    }
+
+    void laneNumberGoesToItsRule()
+    {
+        PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
+        QVERIFY(!bench.isShown("childFucBar"));
+        drawLane(bench, 100);
+        QCOMPARE(bench.entry(0).value("ruleLaneNumber"), QVariant(1));
+        QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
+        bench.enter("lanesNum", "2");
+        QVERIFY(!bench.entry(0).isValid("speed") && !bench.isShown("speed"));
+        bench.enter("lanesNum", "3");
+        QCOMPARE(bench.entry(0).value("ruleLaneNumber"), QVariant(3));
+        QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
+        QVERIFY(!bench.panel().findChild<QWidget*>("ruleLaneNumber"));
+        QCOMPARE(caption(bench, "speed"), QString("Speed"));
+        bench.click("fuc2");
+        bench.press({{120, 200}, {160, 210}});
+        QCOMPARE(bench.buttons("childDrawItems"), QString("[Trip]"));
+        QCOMPARE(bench.figures(0), QString("lanesLanes: 4, trip: 2"));
+    }
+
+    void calibrateByScene()
+    {
+        PanelBench bench(calibrate("Scene"), "{}", SceneType::CalibrateArea);
+        QCOMPARE(heading(bench), QString("Scene calibration"));
+        QCOMPARE(caption(bench, "calibrateAreaVertical"), QString("Vertical length"));
+        drawArea(bench);
+        QVERIFY(bench.isShown("fuc6") && bench.isShown("fuc5"));
+        auto* vertical = bench.find("calibrateAreaVertical")->findChild<QLineEdit*>();
+        auto* horizontal = bench.find("calibrateAreaHorizontal")->findChild<QLineEdit*>();
+        QVERIFY(vertical->isEnabled() && horizontal->isEnabled());
+        for (int i = 0; i < 3; ++i) {
+            bench.click("fuc6");
+            QVERIFY(!bench.find("fuc6")->isEnabled());
+            bench.press({{200 + 50 * i, 200}, {210 + 50 * i, 400}});
+        }
+        bench.click("fuc6"); // three are allowed
+        QCOMPARE(bench.buttons("childDrawItems"),
+                 QString("verticalLine1 verticalLine2 [verticalLine3]"));
+        QVERIFY(!vertical->isEnabled() && horizontal->isEnabled());
+
+        bench.pick(1, "childDrawItems");
+        bench.click("delete");
+        QCOMPARE(bench.buttons("childDrawItems"), QString("verticalLine1 verticalLine2"));
+        QCOMPARE(bench.selectedFigure(), QString("calibrateAreaRegion"));
+        bench.pick(0, "childDrawItems");
+        bench.click("redraw");
+        QCOMPARE(bench.canvas().message(), QString("Please draw verticalLine1!"));
+        bench.press({{50, 50}}); // outside the area
+        QVERIFY(bench.figures(0).contains("calibrateAreaVerticalLine: 0..."));
+    }
+
+    void calibrateByLane()
+    {
+        PanelBench bench(calibrate("Lane"), R"({"Areas": [{"Area": [[0, 0], [800, 0], [800, 800],
+            [0, 800]], "Staffs": [{"Type": "Vertical", "Length": 2, "Start": [100, 100],
+            "End": [100, 700]}]}]})",
+                         SceneType::CalibrateArea);
+        QCOMPARE(heading(bench), QString("Lane calibration"));
+        QCOMPARE(caption(bench, "calibrateAreaVertical"), QString("Length"));
+        QCOMPARE(caption(bench, "calibrateAreaHorizontal"), QString("Width"));
+        // Staffs are kept, but not offered.
+        QCOMPARE(bench.canvas().itemCount(BaseDrawType::VerticalRuler, 0), 1);
+        QVERIFY(!bench.isShown("childFucBar") && !bench.isShown("childDrawItems"));
+        bench.enter("calibrateAreaVertical", "2.5");
+        QCOMPARE(bench.entry(0).value("calibrateAreaVertical"), QVariant(2.5));
+        bench.click("fuc1");
+        bench.press({{50, 50}}); // inside the first area
+        QCOMPARE(bench.figures(1), QString("calibrateAreaRegion: 0..."));
+        bench.click("delete");
+        bench.click("redraw");
+        QCOMPARE(bench.figures(0), QString("calibrateAreaRegion: 0..."));
+    }
+
+    void fightRectsLiveInTheirArea()
+    {
+        PanelBench bench(kFight, "{}", SceneType::FightCalibrate);
+        QCOMPARE(heading(bench), QString("Fight configuration"));
+        drawArea(bench);
+        QCOMPARE(bench.buttons(), QString("[Area]"));
+        for (int i = 0; i < 3; ++i) {
+            bench.click("fuc3");
+            bench.press({{50, 50}, {200, 200}, {300, 300}}); // the first one is outside
+        }
+        QCOMPARE(bench.buttons("childDrawItems"), QString("Calibrate rect1 [Calibrate rect2]"));
+        QCOMPARE(bench.canvas().getFirstDrawItem()->children().size(), std::size_t(2));
+
+        bench.pick(0); // no child is current any more
+        bench.click("redraw");
+        QCOMPARE(bench.figures(0), QString("fightCalibrateRegion: 0..."));
+        QVERIFY(!bench.isShown("childDrawItems"));
+        bench.press(kArea);
+        bench.pressRight();
         bench.click("fuc3");
-        bench.press({{50, 50}, {200, 200}, {300, 300}}); // the first one is outside
+        bench.press({{200, 200}, {300, 300}});
+        bench.pick(0);
+        bench.click("delete");
+        QVERIFY(bench.canvas().getItemList(BaseDrawType::None, 0).isEmpty());
+        QCOMPARE(bench.data().getDataCount(), 0);
     }
-    QCOMPARE(bench.buttons("childDrawItems"), QStringLiteral("Calibrate rect1 [Calibrate rect2]"));
-    QCOMPARE(bench.canvas().getFirstDrawItem()->children().size(), std::size_t(2));
 
-    bench.pick(0); // no child is current any more
-    bench.click("redraw");
-    QCOMPARE(bench.figures(0), QStringLiteral("fightCalibrateRegion: 0..."));
-    QVERIFY(!bench.isShown("childDrawItems"));
-    bench.press(kArea);
-    bench.pressRight();
-    bench.click("fuc3");
-    bench.press({{200, 200}, {300, 300}});
-    bench.pick(0);
-    bench.click("delete");
-    QVERIFY(bench.canvas().getItemList(BaseDrawType::None, 0).isEmpty());
-    QCOMPARE(bench.data().getDataCount(), 0);
-}
-
-void TstScenes::tabFollowsTheRows()
-{
-    PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
-    drawLane(bench, 100);
-    bench.find("fuc8")->setFocus();
-    QStringList order;
-    for (int i = 0; i < 5; ++i) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        const QWidget* focused = QApplication::focusWidget();
-        order.append(focused->objectName().isEmpty() ? QStringLiteral("-") : focused->objectName());
+    void tabFollowsTheRows()
+    {
+        PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
+        drawLane(bench, 100);
+        bench.find("fuc8")->setFocus();
+        QStringList order;
+        for (int i = 0; i < 5; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            const QWidget* focused = QApplication::focusWidget();
+            order.append(focused->objectName().isEmpty() ? QString("-") : focused->objectName());
+        }
+        QCOMPARE(order.join(' '), QString("- redraw delete fuc2 edit"));
     }
-    QCOMPARE(order.join(' '), QStringLiteral("- redraw delete fuc2 edit"));
-}
 
-void TstScenes::dataMayGoAfterItsPanelLetGo()
-{
-    auto parser = std::make_unique<RuleParser>();
-    QVERIFY(parser->parseTemplate(QString::fromUtf8(kLaneRules)));
-    const std::unique_ptr<BaseTabelScene> panel(createScene(SceneType::Lanes, nullptr));
-    panel->setRuleData(parser->getData(SceneType::Lanes));
-    panel->sltTabelRuleFucBtnClicked(8);
-    panel->setRuleData(nullptr);
-    parser.reset();
-    QCoreApplication::processEvents();
-    panel->setFold(true);
-    panel->setSelected(true);
-    QVERIFY(!panel->ruleData());
-}
+    void longChainsAndLongTexts()
+    {
+        // Each attribute applies while the one before has its default.
+        const int count = 10000;
+        DataTemplate links;
+        ControlItemWidgetTabel rows;
+        for (int i = 0; i < count; ++i) {
+            auto item = std::make_unique<RuleProtocolItem>();
+            item->setKey(QString::number(i));
+            item->setFacade(FacadeType::Bool);
+            item->setValueType(ValueType::Bool);
+            item->setDefaultValue(true);
+            item->addValidity({QString::number(i - 1), {QString("true")}});
+            rows.addControl(createControlTabel(links.addItem(std::move(item)), nullptr), false);
+        }
+        QCoreApplication::sendPostedEvents(); // a widget looks for its own when it goes
+        RuleDataInfo entry;
+        EntryRows::load(rows, links, &entry);
+        entry.setValue(QString("0"), true);
+        EntryRows::updateDependents(rows, links, QString("0"), entry);
+        QCOMPARE(entry.value(QString::number(count - 1)), QVariant(true));
+        entry.setValue(QString("0"), false);
+        EntryRows::updateDependents(rows, links, QString("0"), entry);
+        QVERIFY(!entry.isValid(QString("1")) && entry.isValid(QString("2")));
+        EntryRows::release(rows, &links);
 
-void TstScenes::longChainsAndLongTexts()
-{
-    // Each attribute applies while the one before has its default.
-    const int count = 10000;
-    DataTemplate links;
-    ControlItemWidgetTabel rows;
-    for (int i = 0; i < count; ++i) {
-        auto item = std::make_unique<RuleProtocolItem>();
-        item->setKey(QString::number(i));
-        item->setFacade(FacadeType::Bool);
-        item->setValueType(ValueType::Bool);
-        item->setDefaultValue(true);
-        item->addValidity({QString::number(i - 1), {QStringLiteral("true")}});
-        rows.addControl(createControlTabel(links.addItem(std::move(item)), nullptr), false);
+        // Widgets measure what they are given, so they get what can be seen.
+        const QString text = QString(1 << 20, QLatin1Char('&')) + QString("<b>");
+        RuleProtocolItem item;
+        item.setFacade(FacadeType::RadioButton);
+        item.setCaption(text);
+        item.setEnumeration({{text, text, text, text, false}});
+        const std::unique_ptr<ControlTabel> row(createControlTabel(&item, nullptr));
+        QVERIFY(row->titleLabel()->text().size() < 5000 && row->titleLabel()->isElided());
+        const auto* box = row->findChild<QAbstractButton*>();
+        QVERIFY(box->text().size() < 5000 && box->toolTip().size() < 5000);
+        row->loadValue(text);
+        QCOMPARE(row->value(), QVariant(text));
     }
-    QCoreApplication::sendPostedEvents(); // a widget looks for its own when it goes
-    RuleDataInfo entry;
-    EntryRows::load(rows, links, &entry);
-    entry.setValue(QStringLiteral("0"), true);
-    EntryRows::updateDependents(rows, links, QStringLiteral("0"), entry);
-    QCOMPARE(entry.value(QString::number(count - 1)), QVariant(true));
-    entry.setValue(QStringLiteral("0"), false);
-    EntryRows::updateDependents(rows, links, QStringLiteral("0"), entry);
-    QVERIFY(!entry.isValid(QStringLiteral("1")) && entry.isValid(QStringLiteral("2")));
-    EntryRows::release(rows, &links);
-
-    // Widgets measure what they are given, so they get what can be seen.
-    const QString text = QString(1 << 20, QLatin1Char('&')) + QStringLiteral("<b>");
-    RuleProtocolItem item;
-    item.setFacade(FacadeType::RadioButton);
-    item.setCaption(text);
-    item.setEnumeration({{text, text, text, text, false}});
-    const std::unique_ptr<ControlTabel> row(createControlTabel(&item, nullptr));
-    QVERIFY(row->titleLabel()->text().size() < 5000 && row->titleLabel()->isElided());
-    const auto* box = row->findChild<QAbstractButton*>();
-    QVERIFY(box->text().size() < 5000 && box->toolTip().size() < 5000);
-    row->loadValue(text);
-    QCOMPARE(row->value(), QVariant(text));
-}
+};
 
 QTEST_MAIN(TstScenes)
 #include "tst_scenes.moc"

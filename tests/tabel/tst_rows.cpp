@@ -5,8 +5,6 @@
 #include "tabel/controltabel.h"
 #include "tabel/drawfucbutton.h"
 #include "tabel/drawitembutton.h"
-#include "tabel/inputrangeedit.h"
-#include "tabel/intvalidator.h"
 #include "tabel/radiobuttonwidget.h"
 #include "tabel/rowedit.h"
 #include "tabel/ruleitemwidgettabel.h"
@@ -102,414 +100,331 @@ public:
     QStringList announced;
 };
 
-/// Text typed into an edit, what it shows before it is left, what is announced, what it shows then.
-struct Typing {
-    const char* name;
-    ValueType type;
-    QVariant min, max, loaded;
-    const char *keys, *shown, *announced, *left;
-};
-
 } // namespace
-
-Q_DECLARE_METATYPE(Typing)
 
 class TstRows : public RulesTest
 {
     Q_OBJECT
 
 private slots:
-    void makesRowsByFacade();
-    void typesIntoInputBoxes_data();
-    void typesIntoInputBoxes();
-    void finishesWithinLimits();
-    void mendsIntegers();
-    void editsRanges();
-    void limitsTheOtherEdit();
-    void clicksCheckBoxes();
-    void clicksRadioButtons();
-    void loadsAndRemembers();
-    void containerFindsAndFinishes();
-    void buttons();
-    void enableCheckBoxFollows();
-};
-
-void TstRows::makesRowsByFacade()
-{
-    QVERIFY(!createControlTabel(nullptr, nullptr));
-    RuleProtocolItem item;
-    for (int facade = -1; facade < 120; ++facade) {
-        item.setFacade(FacadeType(facade));
-        const std::unique_ptr<ControlTabel> row(createControlTabel(&item, nullptr));
-        QCOMPARE(row != nullptr, facade >= 102 && facade <= 106);
-        QCOMPARE(item.row(), row.get());
-    }
-    const Bench bench(FacadeType::InputBoxNumber, ValueType::Int, {}, {}, 7);
-    QCOMPARE(bench.row->objectName(), QStringLiteral("key"));
-    QCOMPARE(bench.row->value(), QVariant(7));
-    QVERIFY(!bench.row->isModified());
-    auto* edit = bench.row->findChild<RowEdit*>(QStringLiteral("edit"));
-    auto* unit = bench.row->findChild<QLabel*>(QStringLiteral("unit"));
-    QCOMPARE(edit->textMargins().right(), unit->width() + 5);
-    QCOMPARE(unit->geometry().right(), edit->width() - 6);
-    bench.row->setControlEnable(false);
-    QVERIFY(!edit->isEnabled() && unit->isEnabled() && !bench.row->getControlEnable());
-}
-
-void TstRows::typesIntoInputBoxes_data()
-{
-    const auto i = ValueType::Int;
-    const auto f = ValueType::Float;
-    const QVariant none;
-    const QString old = QStringLiteral("old");
-    const std::vector<Typing> rows{
-        {"int", i, 1, 100, 7, "42", "42", "42", "42"},
-        {"int keeps out letters", i, none, none, 7, "a4,2.", "42", "42", "42"},
-        {"int above, while typing", i, -10, 5, 3, "9", "5", "5", "5"},
-        {"int above a positive range", i, 1, 100, 7, "101", "100", "100", "100"},
-        {"int below is mended", i, 10, 50, 20, "3", "3", "10", "10"},
-        {"int emptied is mended", i, 10, 50, 20, "", "", "10", "10"},
-        {"int emptied is refused", i, none, none, 20, "", "", "", "20"},
-        {"int without a maximum", i, 10, none, 20, "2147483647", "2147483647", "2147483647",
-         "2147483647"},
-        {"int too long", i, none, none, 20, "99999999999", "9999999999", "", "20"},
-        {"float", f, 0.5, 10.0, 1.0, "2.755", "2.75", "2.75", "2.75"},
-        {"float keeps out commas", f, none, none, 1.0, "1,5e3", "153", "153", "153"},
-        {"float above, while typing", f, 0.5, 10.0, 1.0, "11", "10", "10", "10"},
-        {"float below is refused", f, 0.5, 10.0, 1.0, "0.1", "0.1", "", "1"},
-        {"float emptied is refused", f, none, none, 12345678.25, "", "", "", "12345678.25"},
-        {"text", ValueType::String, 1, 2, old, "9 & <b>", "9 & <b>", "9 & <b>", "9 & <b>"},
-    };
-    QTest::addColumn<Typing>("row");
-    for (const Typing& row : rows)
-        QTest::newRow(row.name) << row;
-}
-
-void TstRows::typesIntoInputBoxes()
-{
-    QFETCH(Typing, row);
-    const QLocale previous;
-    QLocale::setDefault(QLocale(QLocale::German));
-    Bench bench(FacadeType::InputBoxNumber, row.type, row.min, row.max);
-    QLocale::setDefault(previous);
-
-    bench.row->loadValue(row.loaded);
-    QCOMPARE(bench.take(), QString());
-    const RowEdit* edit = bench.type("edit", QLatin1String(row.keys));
-    QCOMPARE(edit->text(), QLatin1String(row.shown));
-    bench.leave();
-    QCOMPARE(edit->text(), QLatin1String(row.left));
-    QCOMPARE(bench.take(), QLatin1String(row.announced));
-
-    // Finishing without leaving ends the same way.
-    bench.row->loadValue(row.loaded);
-    bench.type("edit", QLatin1String(row.keys));
-    bench.container.finishEdits();
-    bench.container.finishEdits();
-    QCOMPARE(edit->text(), QLatin1String(row.left));
-    QCOMPARE(bench.take(), QLatin1String(row.announced));
-}
-
-void TstRows::finishesWithinLimits()
-{
-    Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 10, 50);
-    auto* edit = bench.row->findChild<RowEdit*>(QStringLiteral("edit"));
-    bench.row->loadValue(700); // passing through mends nothing
-    edit->setFocus();
-    bench.leave();
-    QCOMPARE(bench.take() + edit->text(), QStringLiteral("700"));
-    QVERIFY(edit->validator());
-
-    // Reached when text gets past the validator.
-    const auto finish = [&](const char* text) {
-        edit->setText(QLatin1String(text));
-        emit edit->editingFinished();
-        return bench.take();
-    };
-    QCOMPARE(finish("3"), QStringLiteral("10 3"));
-    QCOMPARE(finish("77"), QStringLiteral("50 77"));
-    bench.item.setRange(20, 10);
-    QCOMPARE(finish("15"), QStringLiteral("20 10 15"));
-
-    bench.item.setValueType(ValueType::Float);
-    bench.item.setRange(0.5, 9.5);
-    QCOMPARE(finish("0.1"), QStringLiteral("0.5"));
-    QCOMPARE(finish("12"), QStringLiteral("9.5"));
-    QCOMPARE(finish("x"), QStringLiteral("0.5"));
-}
-
-void TstRows::mendsIntegers()
-{
-    const auto mended = [](const IntValidator& validator, const char* text) {
-        QString result = QLatin1String(text);
-        validator.fixup(result);
-        return result;
-    };
-    const IntValidator both(5, 9);
-    QCOMPARE(mended(both, "3"), QStringLiteral("5"));
-    QCOMPARE(mended(both, "7"), QStringLiteral("7"));
-    QCOMPARE(mended(both, "30"), QStringLiteral("9"));
-    QCOMPARE(mended(both, "x"), QStringLiteral("5"));
-    QCOMPARE(mended(IntValidator(-9, -5), "x"), QStringLiteral("-5")); // no number counts as 0
-    IntValidator open;
-    open.QIntValidator::setRange(5, 9);
-    QCOMPARE(mended(open, "3"), QStringLiteral("3"));
-    open.setRange(5, 9);
-    QCOMPARE(mended(open, "3"), QStringLiteral("5"));
-}
-
-void TstRows::editsRanges()
-{
-    Bench bench(FacadeType::NumericalInterval, ValueType::ArrayInt, {}, {}, QSize(5, 50));
-    const auto edited = [&bench](const char* name, const char* keys) {
-        const RowEdit* edit = bench.type(name, QLatin1String(keys));
-        bench.leave();
-        return QStringLiteral("%1|%2").arg(bench.take(), edit->text());
-    };
-    QCOMPARE(edited("minimum", "20"), QStringLiteral("20..50|20"));
-    QCOMPARE(edited("minimum", "20"), QStringLiteral("|20")); // no change, nothing said
-    QCOMPARE(edited("maximum", "30"), QStringLiteral("20..30|30"));
-    QCOMPARE(edited("maximum", "7"), QStringLiteral("|30"));        // below: refused
-    QCOMPARE(edited("minimum", "99"), QStringLiteral("30..30|30")); // at once, while typing
-    QCOMPARE(edited("minimum", ""), QStringLiteral("-1..30|"));     // unset, not mended to 0
-    QCOMPARE(edited("maximum", "4"), QStringLiteral("-1..4|4"));
-    QCOMPARE(edited("maximum", ""), QStringLiteral("-1..-1|"));
-    QCOMPARE(edited("minimum", "123456"), QStringLiteral("123456..-1|123456"));
-    QCOMPARE(edited("maximum", "-"), QStringLiteral("|"));
-
-    bench.row->setValue(QSize(3, 8), true);
-    QCOMPARE(bench.take(), QStringLiteral("3..8"));
-    for (const QVariant& value : {QVariant(), QVariant(4), QVariant(QStringLiteral("[1,2]"))})
-        bench.row->setValue(value, true);
-    QCOMPARE(bench.take(), QString());
-    QCOMPARE(bench.row->value(), QVariant(QSize(3, 8)));
-
-    // Only the minimum is checked while it is typed, against what the other edit shows.
-    bench.row->findChild<RowEdit*>(QStringLiteral("maximum"))->setText(QStringLiteral("6"));
-    QCOMPARE(bench.type("minimum", QStringLiteral("7"))->text(), QStringLiteral("6"));
-    QCOMPARE(bench.take(), QStringLiteral("6..8"));
-}
-
-void TstRows::limitsTheOtherEdit()
-{
-    InputRangeEdit range;
-    auto* minimum = range.findChild<RowEdit*>(QStringLiteral("minimum"));
-    auto* maximum = range.findChild<RowEdit*>(QStringLiteral("maximum"));
-    const QString empty = QStringLiteral("emptyValidator");
-    const auto fixed = [](const RowEdit* edit, const char* text) {
-        QString mended = QLatin1String(text);
-        edit->validator()->fixup(mended);
-        return mended;
-    };
-    range.setRange(QSize(4, 9), true);
-    const auto* kept = maximum->validator();
-    QCOMPARE(static_cast<const QIntValidator*>(kept)->bottom(), 4);
-    QCOMPARE(fixed(maximum, "1"), QStringLiteral("1"));
-    QCOMPARE(fixed(minimum, "12"), QStringLiteral("9"));
-    QCOMPARE(fixed(minimum, "-3"), QStringLiteral("0"));
-    range.setMiniValue(4, true);
-    QCOMPARE(maximum->validator(), kept);
-    range.setMiniValue(-1, true);
-    QCOMPARE(maximum->validator()->objectName(), empty);
-    QVERIFY(minimum->validator()->objectName() != empty);
-    for (int i = 0; i < 20; ++i)
-        range.setRange(QSize(i, 100 + i), false);
-    QCOMPARE(range.findChildren<QValidator*>().size(), 2);
-}
-
-void TstRows::clicksCheckBoxes()
-{
-    Bench bench(FacadeType::CheckBox, ValueType::String);
-    const auto click = [&bench](int index) {
-        bench.option<CheckBoxWidget>(index)->click();
-        return bench.take();
-    };
-    QVERIFY(!bench.row->value().isValid());
-    QCOMPARE(click(1), QStringLiteral("2"));
-    QCOMPARE(click(1), QStringLiteral("2")); // the last one stays
-    QCOMPARE(click(0), QStringLiteral("1+2"));
-    QCOMPARE(click(2), QStringLiteral("all"));
-    QCOMPARE(click(0), QStringLiteral("1"));
-    // Values set by code are no clicks.
-    bench.row->setValue(QStringList{QStringLiteral("all"), QStringLiteral("1")}, false);
-    QCOMPARE(bench.take(), QString());
-    QCOMPARE(Bench::text(bench.row->value()), QStringLiteral("1+all"));
-    QCOMPARE(click(2), QStringLiteral("1"));
-    bench.row->setValue(QStringLiteral("ALL"), true);
-    QCOMPARE(bench.take(), QStringLiteral("none"));
-}
-
-void TstRows::clicksRadioButtons()
-{
-    Bench bench(FacadeType::RadioButton, ValueType::Int);
-    QVERIFY(!bench.row->value().isValid());
-    bench.option<RadioButtonWidget>(1)->click();
-    QCOMPARE(bench.take(), QStringLiteral("2"));
-    QCOMPARE(bench.row->value(), QVariant(2));
-    bench.row->setValue(1, true);
-    QCOMPARE(bench.take(), QString()); // a match says nothing
-    bench.row->setValue(9, true);
-    QCOMPARE(bench.take(), QStringLiteral("1")); // no match keeps the selection
-    bench.row->loadValue(9);
-    QVERIFY(!bench.row->value().isValid());
-    bench.option<RadioButtonWidget>(0)->click();
-    bench.option<RadioButtonWidget>(1)->click();
-    QVERIFY(!bench.option<RadioButtonWidget>(0)->isChecked());
-    // Built anew, the options are there once.
-    bench.row->setProtocolItem(&bench.item);
-    QCOMPARE(bench.row->items().size(), 3);
-    QCOMPARE(bench.row->findChild<QButtonGroup*>()->buttons().size(), 3);
-}
-
-void TstRows::loadsAndRemembers()
-{
-    const QString one = QStringLiteral("1");
-    const QString two = QStringLiteral("2");
-    const auto box = FacadeType::InputBoxNumber;
-    using Row = std::tuple<FacadeType, ValueType, QVariant, QVariant>;
-    for (const auto& [facade, type, first, second] : std::vector<Row>{
-             {box, ValueType::Int, 1, 2},
-             {box, ValueType::Float, 1.5, 2.5},
-             {box, ValueType::String, one, two},
-             {FacadeType::CheckBox, ValueType::String, QStringList{one}, QStringList{two}},
-             {FacadeType::RadioButton, ValueType::String, one, two},
-             {FacadeType::Bool, ValueType::Bool, true, false},
-             {FacadeType::NumericalInterval, ValueType::ArrayInt, QSize(1, 2), QSize(2, 3)}}) {
-        Bench bench(facade, type);
-        const QVariant blank = bench.row->value();
-        bench.row->loadValue(first);
-        QCOMPARE(bench.row->value(), first);
-        bench.row->loadValue(QVariant());
-        QCOMPARE(bench.row->value(), blank);
+    void makesRowsByFacade()
+    {
+        RuleProtocolItem item;
+        for (int facade = -1; facade < 120; ++facade) {
+            item.setFacade(FacadeType(facade));
+            const std::unique_ptr<ControlTabel> row(createControlTabel(&item, nullptr));
+            QCOMPARE(row != nullptr, facade >= 102 && facade <= 106);
+            QCOMPARE(item.row(), row.get());
+        }
+        const Bench bench(FacadeType::InputBoxNumber, ValueType::Int, {}, {}, 7);
+        QCOMPARE(bench.row->objectName(), QStringLiteral("key"));
+        QCOMPARE(bench.row->value(), QVariant(7));
         QVERIFY(!bench.row->isModified());
+        auto* edit = bench.row->findChild<RowEdit*>(QStringLiteral("edit"));
+        auto* unit = bench.row->findChild<QLabel*>(QStringLiteral("unit"));
+        QCOMPARE(edit->textMargins().right(), unit->width() + 5);
+        QCOMPARE(unit->geometry().right(), edit->width() - 6);
+        bench.row->setControlEnable(false);
+        QVERIFY(!edit->isEnabled() && unit->isEnabled() && !bench.row->getControlEnable());
+    }
 
-        // Back to the first value after another one was announced: it has to be stored again.
-        bench.row->loadValue(first);
-        if (facade == FacadeType::RadioButton)
-            bench.option<RadioButtonWidget>(1)->click();
-        else if (facade == FacadeType::Bool)
-            bench.option<QCheckBox>(0)->click();
-        else
-            bench.row->setValue(second, true);
-        QCOMPARE(bench.take(), Bench::text(second));
-        bench.row->setValue(first, false);
-        QVERIFY(bench.row->isModified());
+    void typesIntoInputBoxes()
+    {
+        // The keys, what they show, and what is announced and shown once the edit is left.
+        const auto check = [](const char* name, ValueType type, const QVariant& min,
+                              const QVariant& max, const QVariant& loaded, const char* keys,
+                              const char* shown, const char* announced, const char* left) {
+            const QLocale previous;
+            QLocale::setDefault(QLocale(QLocale::German));
+            Bench bench(FacadeType::InputBoxNumber, type, min, max);
+            QLocale::setDefault(previous);
+
+            bench.row->loadValue(loaded);
+            QCOMPARE(bench.take(), QString());
+            const RowEdit* edit = bench.type("edit", keys);
+            QVERIFY2(edit->text() == shown, name);
+            bench.leave();
+            QVERIFY2(edit->text() == left && bench.take() == announced, name);
+
+            // Finishing without leaving ends the same way.
+            bench.row->loadValue(loaded);
+            bench.type("edit", keys);
+            bench.container.finishEdits();
+            bench.container.finishEdits();
+            QVERIFY2(edit->text() == left && bench.take() == announced, name);
+        };
+        const auto i = ValueType::Int;
+        const auto f = ValueType::Float;
+        const QVariant none;
+        const QString old = QStringLiteral("old");
+        check("int", i, 1, 100, 7, "42", "42", "42", "42");
+        check("int keeps out letters", i, none, none, 7, "a4,2.", "42", "42", "42");
+        check("int above, while typing", i, -10, 5, 3, "9", "5", "5", "5");
+        check("int above a positive range", i, 1, 100, 7, "101", "100", "100", "100");
+        check("int below is mended", i, 10, 50, 20, "3", "3", "10", "10");
+        check("int emptied is mended", i, 10, 50, 20, "", "", "10", "10");
+        check("int emptied below 0 is mended", i, -50, -10, -20, "", "", "-10", "-10");
+        check("int emptied is refused", i, none, none, 20, "", "", "", "20");
+        check("int without a maximum", i, 10, none, 20, "2147483647", "2147483647", "2147483647",
+              "2147483647");
+        check("int too long", i, none, none, 20, "99999999999", "9999999999", "", "20");
+        check("float", f, 0.5, 10.0, 1.0, "2.755", "2.75", "2.75", "2.75");
+        check("float keeps out commas", f, none, none, 1.0, "1,5e3", "153", "153", "153");
+        check("float above, while typing", f, 0.5, 10.0, 1.0, "11", "10", "10", "10");
+        check("float below is refused", f, 0.5, 10.0, 1.0, "0.1", "0.1", "", "1");
+        check("float emptied is refused", f, none, none, 12345678.25, "", "", "", "12345678.25");
+        check("text", ValueType::String, 1, 2, old, "9 & <b>", "9 & <b>", "9 & <b>", "9 & <b>");
+    }
+
+    void finishesWithinLimits()
+    {
+        Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 10, 50);
+        auto* edit = bench.row->findChild<RowEdit*>(QStringLiteral("edit"));
+        bench.row->loadValue(700); // passing through mends nothing
+        edit->setFocus();
+        bench.leave();
+        QCOMPARE(bench.take() + edit->text(), QStringLiteral("700"));
+
+        // Reached when text gets past the validator.
+        const auto finish = [&](const char* text) {
+            edit->setText(QLatin1String(text));
+            emit edit->editingFinished();
+            return bench.take();
+        };
+        QCOMPARE(finish("3"), QStringLiteral("10 3"));
+        QCOMPARE(finish("77"), QStringLiteral("50 77"));
+        bench.item.setRange(20, 10);
+        QCOMPARE(finish("15"), QStringLiteral("20 10 15"));
+    }
+
+    void editsRanges()
+    {
+        Bench bench(FacadeType::NumericalInterval, ValueType::ArrayInt, {}, {}, QSize(5, 50));
+        const auto edited = [&bench](const char* name, const char* keys) {
+            const RowEdit* edit = bench.type(name, QLatin1String(keys));
+            bench.leave();
+            return QStringLiteral("%1|%2").arg(bench.take(), edit->text());
+        };
+        QCOMPARE(edited("minimum", "20"), QStringLiteral("20..50|20"));
+        QCOMPARE(edited("minimum", "20"), QStringLiteral("|20")); // no change, nothing said
+        QCOMPARE(edited("maximum", "30"), QStringLiteral("20..30|30"));
+        QCOMPARE(edited("maximum", "7"), QStringLiteral("|30"));        // below: refused
+        QCOMPARE(edited("minimum", "99"), QStringLiteral("30..30|30")); // at once, while typing
+        QCOMPARE(edited("minimum", ""), QStringLiteral("-1..30|"));     // unset, not mended to 0
+        QCOMPARE(edited("maximum", "4"), QStringLiteral("-1..4|4"));
+        QCOMPARE(edited("maximum", ""), QStringLiteral("-1..-1|"));
+        QCOMPARE(edited("minimum", "123456"), QStringLiteral("123456..-1|123456"));
+        QCOMPARE(edited("maximum", "-"), QStringLiteral("|"));
+
+        bench.row->setValue(QSize(3, 8), true);
+        QCOMPARE(bench.take(), QStringLiteral("3..8"));
+        for (const QVariant& value : {QVariant(), QVariant(4), QVariant(QStringLiteral("[1,2]"))})
+            bench.row->setValue(value, true);
+        QCOMPARE(bench.take(), QString());
+        QCOMPARE(bench.row->value(), QVariant(QSize(3, 8)));
+        QCOMPARE(bench.row->findChildren<QValidator*>().size(), 2); // of all that there were
+
+        // Only the minimum is checked while it is typed, against what the other edit shows.
+        bench.row->findChild<RowEdit*>(QStringLiteral("maximum"))->setText(QStringLiteral("6"));
+        QCOMPARE(bench.type("minimum", QStringLiteral("7"))->text(), QStringLiteral("6"));
+        QCOMPARE(bench.take(), QStringLiteral("6..8"));
+    }
+
+    void clicksCheckBoxes()
+    {
+        Bench bench(FacadeType::CheckBox, ValueType::String);
+        const auto click = [&bench](int index) {
+            bench.option<CheckBoxWidget>(index)->click();
+            return bench.take();
+        };
+        QVERIFY(!bench.row->value().isValid());
+        QCOMPARE(click(1), QStringLiteral("2"));
+        QCOMPARE(click(1), QStringLiteral("2")); // the last one stays
+        QCOMPARE(click(0), QStringLiteral("1+2"));
+        QCOMPARE(click(2), QStringLiteral("all"));
+        QCOMPARE(click(0), QStringLiteral("1"));
+        // Values set by code are no clicks.
+        bench.row->setValue(QStringList{QStringLiteral("all"), QStringLiteral("1")}, false);
+        QCOMPARE(bench.take(), QString());
+        QCOMPARE(Bench::text(bench.row->value()), QStringLiteral("1+all"));
+        QCOMPARE(click(2), QStringLiteral("1"));
+        bench.row->setValue(QStringLiteral("ALL"), true);
+        QCOMPARE(bench.take(), QStringLiteral("none"));
+    }
+
+    void clicksRadioButtons()
+    {
+        Bench bench(FacadeType::RadioButton, ValueType::Int);
+        QVERIFY(!bench.row->value().isValid());
+        bench.option<RadioButtonWidget>(1)->click();
+        QCOMPARE(bench.take(), QStringLiteral("2"));
+        QCOMPARE(bench.row->value(), QVariant(2));
+        bench.row->setValue(1, true);
+        QCOMPARE(bench.take(), QString()); // a match says nothing
+        bench.row->setValue(9, true);
+        QCOMPARE(bench.take(), QStringLiteral("1")); // no match keeps the selection
+        bench.row->loadValue(9);
+        QVERIFY(!bench.row->value().isValid());
+        bench.option<RadioButtonWidget>(0)->click();
+        bench.option<RadioButtonWidget>(1)->click();
+        QVERIFY(!bench.option<RadioButtonWidget>(0)->isChecked());
+        // Built anew, the options are there once.
+        bench.row->setProtocolItem(&bench.item);
+        QCOMPARE(bench.row->items().size(), 3);
+        QCOMPARE(bench.row->findChild<QButtonGroup*>()->buttons().size(), 3);
+    }
+
+    void loadsAndRemembers()
+    {
+        const QString one = QStringLiteral("1");
+        const QString two = QStringLiteral("2");
+        const auto box = FacadeType::InputBoxNumber;
+        using Row = std::tuple<FacadeType, ValueType, QVariant, QVariant>;
+        for (const auto& [facade, type, first, second] : std::vector<Row>{
+                 {box, ValueType::Int, 1, 2},
+                 {box, ValueType::Float, 1.5, 2.5},
+                 {box, ValueType::String, one, two},
+                 {FacadeType::CheckBox, ValueType::String, QStringList{one}, QStringList{two}},
+                 {FacadeType::RadioButton, ValueType::String, one, two},
+                 {FacadeType::Bool, ValueType::Bool, true, false},
+                 {FacadeType::NumericalInterval, ValueType::ArrayInt, QSize(1, 2), QSize(2, 3)}}) {
+            Bench bench(facade, type);
+            const QVariant blank = bench.row->value();
+            bench.row->loadValue(first);
+            QCOMPARE(bench.row->value(), first);
+            bench.row->loadValue(QVariant());
+            QCOMPARE(bench.row->value(), blank);
+            QVERIFY(!bench.row->isModified());
+
+            // Back to the first value after another one was announced: it has to be stored again.
+            bench.row->loadValue(first);
+            if (facade == FacadeType::RadioButton)
+                bench.option<RadioButtonWidget>(1)->click();
+            else if (facade == FacadeType::Bool)
+                bench.option<QCheckBox>(0)->click();
+            else
+                bench.row->setValue(second, true);
+            QCOMPARE(bench.take(), Bench::text(second));
+            bench.row->setValue(first, false);
+            QVERIFY(bench.row->isModified());
+            QCOMPARE(bench.take(), QString());
+        }
+    }
+
+    void containerFindsAndFinishes()
+    {
+        Bench bench(FacadeType::InputBoxNumber, ValueType::Int);
+        RuleProtocolItem second;
+        second.setKey(QStringLiteral("second"));
+        second.setFacade(FacadeType::NumericalInterval);
+        bench.container.setControlEnable(false);
+        auto* row = createControlTabel(&second, &bench.container);
+        bench.container.addControl(row, true);
+        QVERIFY(!row->isEnabled());
+        bench.container.setControlEnable(true);
+        QCOMPARE(bench.container.findControl(QStringLiteral("second")), row);
+        QVERIFY(bench.container.setControlValue(QStringLiteral("second"), QSize(1, 2)));
+        QVERIFY(!bench.container.setControlValue(QStringLiteral("third"), 1));
+
+        // An announcement in the middle may take rows away.
+        bench.type("edit", QStringLiteral("5"));
+        connect(&bench.container, &ControlItemWidgetTabel::sgnValueChanged, row,
+                [row] { delete row; });
+        bench.container.finishEdits();
+        QCOMPARE(bench.take(), QStringLiteral("5"));
+        QCOMPARE(bench.container.controls().size(), 1);
+        QVERIFY(!second.row());
+        bench.container.deleteWidget(bench.row);
+        QVERIFY(bench.container.controls().isEmpty());
+        bench.row->setValue(3, true);
         QCOMPARE(bench.take(), QString());
     }
-}
 
-void TstRows::containerFindsAndFinishes()
-{
-    Bench bench(FacadeType::InputBoxNumber, ValueType::Int);
-    RuleProtocolItem second;
-    second.setKey(QStringLiteral("second"));
-    second.setFacade(FacadeType::NumericalInterval);
-    bench.container.setControlEnable(false);
-    auto* row = createControlTabel(&second, &bench.container);
-    bench.container.addControl(row, true);
-    QVERIFY(!row->isEnabled());
-    bench.container.setControlEnable(true);
-    QCOMPARE(bench.container.findControl(QStringLiteral("second")), row);
-    QVERIFY(bench.container.setControlValue(QStringLiteral("second"), QSize(1, 2)));
-    QVERIFY(!bench.container.setControlValue(QStringLiteral("third"), 1));
+    void buttons()
+    {
+        RuleItemWidgetTabel table;
+        QSignalSpy changed(&table, &RuleItemWidgetTabel::sgnCheckBtnChanged);
+        QSignalSpy clicked(&table, &RuleItemWidgetTabel::sgnBtnClicked);
+        table.setControlEnable(false);
+        for (int id : {11, 12, 13})
+            table.addButton(new DrawItemButton(id, id + 100, BaseDrawType::Polygon));
+        const auto buttons = table.buttons();
+        QVERIFY(!buttons[0]->isEnabled());
+        table.setControlEnable(true);
+        buttons[0]->setText(QStringLiteral("Rule1"));
+        buttons[1]->setText(QStringLiteral("A&Rule1"));
+        QCOMPARE(buttons[0]->text(), QStringLiteral("Rule1"));
+        QCOMPARE(buttons[1]->text(), QStringLiteral("A&&Ru..."));
+        QCOMPARE(buttons[1]->toolTip(), QStringLiteral("A&Rule1"));
+        QCOMPARE(table.findDataButton(113), buttons[2]);
+        QVERIFY(!table.findButton(113));
 
-    // An announcement in the middle may take rows away.
-    bench.type("edit", QStringLiteral("5"));
-    connect(&bench.container, &ControlItemWidgetTabel::sgnValueChanged, row, [row] { delete row; });
-    bench.container.finishEdits();
-    QCOMPARE(bench.take(), QStringLiteral("5"));
-    QCOMPARE(bench.container.controls().size(), 1);
-    QVERIFY(!second.row());
-    bench.container.deleteWidget(bench.row);
-    QVERIFY(bench.container.controls().isEmpty());
-    bench.row->setValue(3, true);
-    QCOMPARE(bench.take(), QString());
-}
+        table.setCurrentButton(buttons[1], false);
+        QCOMPARE(changed.count(), 0);
+        buttons[2]->click();
+        buttons[2]->click();
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(clicked.value(1).value(0).toInt(), 13);
+        QVERIFY(buttons[2]->isChecked() && !buttons[1]->isChecked());
+        QCOMPARE(table.currentButton(), buttons[2]);
+        table.setCurrentButton(nullptr, true);
+        QVERIFY(!table.currentButton() && buttons[2]->isChecked());
+        QCOMPARE(changed.count(), 2);
 
-void TstRows::buttons()
-{
-    RuleItemWidgetTabel table;
-    QSignalSpy changed(&table, &RuleItemWidgetTabel::sgnCheckBtnChanged);
-    QSignalSpy clicked(&table, &RuleItemWidgetTabel::sgnBtnClicked);
-    table.setControlEnable(false);
-    for (int id : {11, 12, 13})
-        table.addButton(new DrawItemButton(id, id + 100, BaseDrawType::Polygon));
-    const auto buttons = table.buttons();
-    QVERIFY(!buttons[0]->isEnabled());
-    table.setControlEnable(true);
-    buttons[0]->setText(QStringLiteral("Rule1"));
-    buttons[1]->setText(QStringLiteral("A&Rule1"));
-    QCOMPARE(buttons[0]->text(), QStringLiteral("Rule1"));
-    QCOMPARE(buttons[1]->text(), QStringLiteral("A&&Ru..."));
-    QCOMPARE(buttons[1]->toolTip(), QStringLiteral("A&Rule1"));
-    QCOMPARE(table.findDataButton(113), buttons[2]);
-    QVERIFY(!table.findButton(113));
+        table.setCurrentButton(buttons[0], false);
+        table.removeWidget(buttons[0]);
+        QVERIFY(!table.currentButton());
+        buttons[0]->click();
+        QCOMPARE(clicked.count(), 2);
+        // Whoever hears of a press may refill the table.
+        connect(&table, &RuleItemWidgetTabel::sgnCheckBtnChanged, this, [&] { table.deleteAll(); });
+        buttons[1]->click();
+        QVERIFY(table.buttons().isEmpty() && table.isEmpty());
+        QCOMPARE(clicked.value(2).value(0).toInt(), 12);
 
-    table.setCurrentButton(buttons[1], false);
-    QCOMPARE(changed.count(), 0);
-    buttons[2]->click();
-    buttons[2]->click();
-    QCOMPARE(changed.count(), 2);
-    QCOMPARE(clicked.value(1).value(0).toInt(), 13);
-    QVERIFY(buttons[2]->isChecked() && !buttons[1]->isChecked());
-    QCOMPARE(table.currentButton(), buttons[2]);
-    table.setCurrentButton(nullptr, true);
-    QVERIFY(!table.currentButton() && buttons[2]->isChecked());
-    QCOMPARE(changed.count(), 2);
+        RuleWidgetTabel bar;
+        QSignalSpy wanted(&bar, &RuleWidgetTabel::sgnBtnClicked);
+        auto* line = new DrawFucButton(BaseDrawType::DirectionLine, QStringLiteral("Line"));
+        bar.addButton(line);
+        line->click();
+        bar.removeWidget(line);
+        line->click();
+        QCOMPARE(wanted.count(), 1);
+        QCOMPARE(wanted.value(0).value(0).toInt(), 2);
+        QVERIFY(bar.drawTypes().isEmpty());
+    }
 
-    table.setCurrentButton(buttons[0], false);
-    table.removeWidget(buttons[0]);
-    QVERIFY(!table.currentButton());
-    buttons[0]->click();
-    QCOMPARE(clicked.count(), 2);
-    // Whoever hears of a press may refill the table.
-    connect(&table, &RuleItemWidgetTabel::sgnCheckBtnChanged, this, [&] { table.deleteAll(); });
-    buttons[1]->click();
-    QVERIFY(table.buttons().isEmpty() && table.isEmpty());
-    QCOMPARE(clicked.value(2).value(0).toInt(), 12);
+    void enableCheckBoxFollows()
+    {
+        RuleItemWidgetTabel table;
+        table.resize(300, 50);
+        QSignalSpy enabled(&table, &RuleItemWidgetTabel::sgnEnableChanged);
+        auto* button = new DrawItemButton(0, 7, BaseDrawType::None, &table);
+        table.addButton(button);
+        button->setEnabledState(false);
+        button->setEnableCheckBoxVisible(true);
+        table.show();
+        const QString name = QStringLiteral("enable");
+        auto* box = table.findChild<QCheckBox*>(name);
+        QVERIFY(box && box->isVisible() && !box->isChecked());
+        table.relayout(40, 0);
+        QCOMPARE(box->geometry(), QRect(button->x() - 1, button->y() + 12 - 7, 17, 14));
+        box->click();
+        QCOMPARE(enabled.value(0), (QVariantList{7, true}));
+        QVERIFY(button->enabledState());
+        button->setEnabledState(false);
+        QVERIFY(!box->isChecked());
+        QCOMPARE(enabled.count(), 1);
 
-    RuleWidgetTabel bar;
-    QSignalSpy wanted(&bar, &RuleWidgetTabel::sgnBtnClicked);
-    auto* line = new DrawFucButton(BaseDrawType::DirectionLine, QStringLiteral("Line"));
-    bar.addButton(line);
-    line->click();
-    bar.removeWidget(line);
-    line->click();
-    QCOMPARE(wanted.count(), 1);
-    QCOMPARE(wanted.value(0).value(0).toInt(), 2);
-    QVERIFY(bar.drawTypes().isEmpty());
-}
-
-void TstRows::enableCheckBoxFollows()
-{
-    RuleItemWidgetTabel table;
-    table.resize(300, 50);
-    QSignalSpy enabled(&table, &RuleItemWidgetTabel::sgnEnableChanged);
-    auto* button = new DrawItemButton(0, 7, BaseDrawType::None, &table);
-    table.addButton(button);
-    button->setEnabledState(false);
-    button->setEnableCheckBoxVisible(true);
-    table.show();
-    const QString name = QStringLiteral("enable");
-    auto* box = table.findChild<QCheckBox*>(name);
-    QVERIFY(box && box->isVisible() && !box->isChecked());
-    table.relayout(40, 0);
-    QCOMPARE(box->geometry(), QRect(button->x() - 1, button->y() + 12 - 7, 17, 14));
-    box->click();
-    QCOMPARE(enabled.value(0), (QVariantList{7, true}));
-    QVERIFY(button->enabledState());
-    button->setEnabledState(false);
-    QVERIFY(!box->isChecked());
-    QCOMPARE(enabled.count(), 1);
-
-    table.setControlEnable(false);
-    QVERIFY(!box->isEnabled());
-    const QPointer<QCheckBox> watched(box);
-    table.deleteWidget(button);
-    QVERIFY(!table.findChild<QCheckBox*>(name) && !box->isVisible());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!watched);
-}
+        table.setControlEnable(false);
+        QVERIFY(!box->isEnabled());
+        const QPointer<QCheckBox> watched(box);
+        table.deleteWidget(button);
+        QVERIFY(!table.findChild<QCheckBox*>(name) && !box->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!watched);
+    }
+};
 
 QTEST_MAIN(TstRows)
 #include "tst_rows.moc"

@@ -1,15 +1,10 @@
-#include "host/qrtspvideownd.h"
 #include "tests/support/rulestest.h"
-#include "tests/support/workbenchfiles.h"
+#include "tests/support/workbenchbench.h"
+#include "tests/support/workbenchprogram.h"
 #include "workbench/autosave.h"
 #include "workbench/boxwatcher.h"
-#include "workbench/panelfinder.h"
 #include "workbench/restorebar.h"
-#include "workbench/sessionplayer.h"
-#include "workbench/sessionscript.h"
-#include "workbench/workbenchwindow.h"
 
-#include <QAbstractButton>
 #include <QLabel>
 #include <QProcess>
 
@@ -36,14 +31,11 @@ const char kWork[] = R"({"do":"pick","scene":"rules","entry":2}
 {"do":"set","scene":"global","key":"globalSensitivity","value":2}
 )";
 
-WorkbenchOptions example()
+WorkbenchOptions gate()
 {
-    const auto folder = QStringLiteral(RULES_SOURCE_DIR "/examples/perimeter/");
-    WorkbenchOptions options;
-    options.templateFile = folder + QStringLiteral("template.json");
-    options.configFile = folder + QStringLiteral("config.json");
-    options.channelId = QStringLiteral("C7");
-    options.channelName = QStringLiteral("Gate %1 <b>7</b>");
+    WorkbenchOptions options = WorkbenchBench::example();
+    options.channelId = "C7";
+    options.channelName = "Gate %1 <b>7</b>";
     return options;
 }
 
@@ -53,50 +45,34 @@ QStringList namesIn(const QString& folder)
 }
 
 /// A workbench with the plug-in and the work kept in a folder.
-class Bench
+class Bench : public WorkbenchBench
 {
 public:
-    explicit Bench(const QString& folder, const WorkbenchOptions& options = example())
-        : m_window(options)
+    explicit Bench(const QString& folder, const WorkbenchOptions& options = gate())
+        : WorkbenchBench(options), m_autosave(std::make_unique<Autosave>(window(), folder))
     {
-        m_window.resize(1200, 820);
-        m_window.show();
-        QString error;
-        m_isReady = m_window.start(error) && QTest::qWaitForWindowExposed(&m_window) &&
-                    QTest::qWaitFor([this] { return !surface()->paneRect(0).isEmpty(); });
-        m_autosave = std::make_unique<Autosave>(m_window, folder);
     }
 
-    bool isReady() const { return m_isReady; }
-    WorkbenchWindow& window() { return m_window; }
     void end() { m_autosave.reset(); }
 
     /// Why the steps could not be done; empty when they were.
     QString play(const QByteArray& steps)
     {
         const QTemporaryDir folder;
-        SessionScript script;
-        QString error;
-        if (!script.read(WorkbenchFiles::write(folder, "work.jsonl", steps), error))
-            return error;
-        SessionPlayer player(m_window, std::move(script));
-        QSignalSpy finished(&player, &SessionPlayer::sgnFinished);
-        player.start();
-        return finished.wait(kPatience) ? finished[0][0].toString() : QStringLiteral("no end");
+        return WorkbenchBench::play(WorkbenchFiles::write(folder, "work.jsonl", steps));
     }
 
     void press(const char* button)
     {
         BoxWatcher boxes;
-        boxes.begin(QStringLiteral("Yes"));
-        QTest::mouseClick(PanelFinder(m_window.rulesWindow()).windowButton(QLatin1String(button)),
-                          Qt::LeftButton);
+        boxes.begin(QString("Yes"));
+        QTest::mouseClick(WorkbenchBench::button(button), Qt::LeftButton);
         QCoreApplication::processEvents();
     }
 
     RestoreBar* bar()
     {
-        auto* const bar = m_window.findChild<RestoreBar*>();
+        auto* const bar = window().findChild<RestoreBar*>();
         return bar && bar->isVisible() ? bar : nullptr;
     }
     QString offered() { return bar() ? bar()->findChild<QLabel*>()->text() : QString(); }
@@ -107,18 +83,14 @@ public:
     }
 
 private:
-    QRtspVideoWnd* surface() { return m_window.videoSurface(); }
-
-    WorkbenchWindow m_window;
     std::unique_ptr<Autosave> m_autosave;
-    bool m_isReady = false;
 };
 
 /// What the crashing program does: works, and then waits for its end.
 int workUntilKilled(const QString& folder)
 {
     Bench bench(folder);
-    const QString error = bench.isReady() ? bench.play(kWork) : QStringLiteral("not ready");
+    const QString error = bench.isReady() ? bench.play(kWork) : QString("not ready");
     if (!error.isEmpty())
         qFatal("%s", qPrintable(error));
     return QCoreApplication::exec();
@@ -148,11 +120,8 @@ private:
 QByteArray contentOf(const QString& folder)
 {
     QByteArray content;
-    for (const QString& name : namesIn(folder)) {
-        QFile file(folder + '/' + name);
-        if (name.endsWith(".jsonl") && file.open(QIODevice::ReadOnly))
-            content += file.readAll();
-    }
+    for (const QString& name : QDir(folder).entryList({"*.jsonl"}, QDir::Files))
+        content += ExampleFiles::contentOf(folder + '/' + name);
     return content;
 }
 
@@ -170,15 +139,14 @@ class TstAutosave : public RulesTest
     bool isKept() const { return contentOf(folder()).contains("globalSensitivity"); }
     WorkbenchOptions withResult() const
     {
-        WorkbenchOptions options = example();
+        WorkbenchOptions options = gate();
         options.resultFile = resultFile();
         return options;
     }
     void leaveBehind(const QByteArray& content)
     {
         QVERIFY(QDir().mkpath(folder()));
-        QFile file(folder() + "/1-1.jsonl");
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        WorkbenchFiles::write(*m_home, "autosave/1-1.jsonl", content);
     }
 
     std::unique_ptr<QTemporaryDir> m_home;
@@ -234,7 +202,7 @@ private slots:
         const QByteArray again(R"({"do":"select","scene":"rules"}
                                   {"do":"click","scene":"rules","object":"delete"})");
         for (const Ending ending : {Saved, SavedToNoFile, Left, LoadedAgain, Ended, Unwritable}) {
-            WorkbenchOptions options = ending == Saved ? withResult() : example();
+            WorkbenchOptions options = ending == Saved ? withResult() : gate();
             if (ending == Unwritable)
                 options.resultFile = m_home->filePath("missing/result.json");
             Bench bench(folder(), options);
@@ -270,7 +238,7 @@ private slots:
             // New work is not given up for old without a question.
             QCOMPARE(bench.play(R"({"do":"click","scene":"rules","object":"delete"})"), QString());
             BoxWatcher boxes;
-            boxes.begin(QStringLiteral("No"));
+            boxes.begin(QString("No"));
             bench.answer("restore");
             QVERIFY(boxes.lastText() && bench.bar());
             bench.answer("discard");
@@ -298,20 +266,15 @@ private slots:
     void replaysNeitherReadNorWriteIt()
     {
         leaveBehind(kWork);
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_DATA_HOME", m_home->path());
+        WorkbenchProgram program;
+        program.environment.insert("XDG_DATA_HOME", m_home->path());
         const QString kept = m_home->filePath("rules-workbench/autosave");
         QVERIFY(QDir().mkpath(m_home->filePath("rules-workbench")));
         QVERIFY(QDir().rename(folder(), kept));
         const QStringList before = namesIn(kept);
-        const QTemporaryDir files;
-        const WorkbenchOptions options = example();
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.start(RULES_BIN_DIR "/rules-workbench",
-                      {"--template", options.templateFile, "--config", options.configFile,
-                       "--replay", WorkbenchFiles::write(files, "work.jsonl", kWork)});
-        QVERIFY(process.waitForFinished(kPatience) && process.exitCode() == 0);
+        const QString session = program.file("work.jsonl", kWork);
+        const auto outcome = program.run(WorkbenchProgram::documents() << "--replay" << session);
+        QVERIFY2(outcome.status == WorkbenchProgram::SavedOrClosed, qPrintable(outcome.said));
         QCOMPARE(namesIn(kept), before);
         QCOMPARE(contentOf(kept), QByteArray(kWork));
     }

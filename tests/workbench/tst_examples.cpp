@@ -1,12 +1,9 @@
 #include "host/value.h"
 #include "tests/support/rulestest.h"
-#include "tests/support/workbenchfiles.h"
+#include "tests/support/workbenchprogram.h"
 
-#include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QScopedValueRollback>
-#include <QTemporaryDir>
 
 using kql::Json::Value;
 using WorkbenchFiles::read;
@@ -14,230 +11,178 @@ using WorkbenchFiles::read;
 namespace
 {
 
-constexpr int kTimeout = 120000; // milliseconds
-
-const auto kExamples = QStringLiteral(RULES_SOURCE_DIR "/examples/");
-const auto kPerimeter = QStringLiteral(RULES_SOURCE_DIR "/examples/perimeter/");
-
-enum Status { SavedOrClosed, LeftWithoutSaving, Unusable, StepFailed, Crashed };
-
-struct Outcome {
-    int status = Crashed;
-    QString said;
-};
-
-QStringList documents(const QString& folder, const QString& configuration = "config.json")
-{
-    return {"--template", folder + "template.json", "--config", folder + configuration};
-}
+const QString kPerimeter = ExampleFiles::folder();
 
 } // namespace
 
 /// The built workbench with the built plug-in, run as a script runs them.
-class TstExamples : public RulesTest
+class TstExamples : public RulesTest, private WorkbenchProgram
 {
     Q_OBJECT
 
 private slots:
-    void saves_data();
-    void saves();
-    void refusesArguments_data();
-    void refusesArguments();
-    void failsAtSteps_data();
-    void failsAtSteps();
-    void knowsEveryStep();
-    void tellsThatTheOperatorLeft();
-    void worksWithoutDisplay();
-
-private:
-    static QStringList examples() { return QDir(kExamples).entryList(kFolders); }
-    /// Writes a file into the folder that the workbench runs in; its path is the answer.
-    QString file(const char* name, const QByteArray& content) const;
-    Outcome run(const QStringList& arguments) const;
-
-    static constexpr QDir::Filters kFolders = QDir::Dirs | QDir::NoDotAndDotDot;
-    QTemporaryDir m_folder;
-    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
-};
-
-QString TstExamples::file(const char* name, const QByteArray& content) const
-{
-    return WorkbenchFiles::write(m_folder, name, content);
-}
-
-Outcome TstExamples::run(const QStringList& arguments) const
-{
-    QProcess process;
-    process.setWorkingDirectory(m_folder.path());
-    process.setProcessEnvironment(m_environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(RULES_BIN_DIR "/rules-workbench", arguments);
-    if (!process.waitForFinished(kTimeout))
-        return {Crashed, "it does not end"};
-    const bool ended = process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : int(Crashed), QString::fromUtf8(process.readAll())};
-}
-
-void TstExamples::saves_data()
-{
-    QTest::addColumn<QStringList>("documents");
-    QTest::addColumn<QString>("session");
-    QTest::addColumn<QString>("saved");
-    QVERIFY(!examples().isEmpty());
-    const QString save = file("save.jsonl", "{\"do\":\"save\",\"answer\":\"Yes\"}\n"
-                                            "{\"do\":\"expect\",\"posted\":{\"result\":0}}\n");
-    for (const QString& name : examples()) {
-        const QString folder = kExamples + name + '/';
-        QTest::newRow(qPrintable(name))
-            << documents(folder) << folder + "session.jsonl" << folder + "saved.json";
-        for (const char* same : {"config.json", "saved.json"})
-            QTest::newRow(qPrintable(name + ", " + same + " unchanged"))
-                << documents(folder, same) << save << folder + same;
+    void saves_data()
+    {
+        QTest::addColumn<QStringList>("documents");
+        QTest::addColumn<QString>("session");
+        QTest::addColumn<QString>("saved");
+        QVERIFY(!ExampleFiles::names().isEmpty());
+        const QString save = file("save.jsonl", "{\"do\":\"save\",\"answer\":\"Yes\"}\n"
+                                                "{\"do\":\"expect\",\"posted\":{\"result\":0}}\n");
+        for (const QString& name : ExampleFiles::names()) {
+            const QString folder = ExampleFiles::folder(name);
+            QTest::newRow(qPrintable(name))
+                << documents(folder) << folder + "session.jsonl" << folder + "saved.json";
+            for (const char* same : {"config.json", "saved.json"})
+                QTest::newRow(qPrintable(name + ", " + same + " unchanged"))
+                    << documents(folder, same) << save << folder + same;
+        }
+        QTest::newRow("selection")
+            << documents() << kPerimeter + "selection.jsonl" << kPerimeter + "selection-saved.json";
     }
-    QTest::newRow("selection") << documents(kPerimeter) << kPerimeter + "selection.jsonl"
-                               << kPerimeter + "selection-saved.json";
-}
 
-void TstExamples::saves()
-{
-    QFETCH(const QStringList, documents);
-    QFETCH(const QString, session);
-    QFETCH(const QString, saved);
-    const QString result = m_folder.filePath("result.json");
-    QFile::remove(result);
-    const Outcome outcome = run(documents + QStringList{"--replay", session, "--result", result});
-    QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
-    const Value written = read(result);
-    QVERIFY2(written["channelAbilityPO"] == read(saved), qPrintable(written.toStyledText()));
-}
+    void saves()
+    {
+        QFETCH(const QStringList, documents);
+        QFETCH(const QString, session);
+        QFETCH(const QString, saved);
+        const QString result = path("result.json");
+        QFile::remove(result);
+        const Outcome outcome =
+            run(documents + QStringList{"--replay", session, "--result", result});
+        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+        const Value written = read(result);
+        QVERIFY2(written["channelAbilityPO"] == read(saved), qPrintable(written.toStyledText()));
+    }
 
-void TstExamples::refusesArguments_data()
-{
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("says");
-    const auto row = [](const char* name, const QString& arguments, const char* says,
-                        int status = Unusable) {
-        QTest::newRow(name) << arguments << status << says;
-    };
-    const QString good = documents(kPerimeter).join(' ') + ' ';
-    const QString config = "--config " + kPerimeter + "config.json --template ";
-    row("help", "--help", "--editable [\\s\\S]*presence\\s+locks", SavedOrClosed);
-    row("version", "--version", "rules-workbench \\d", SavedOrClosed);
-    row("unknown option", "--nonsense", "nonsense");
-    row("no value", "--template", "template");
-    row("no option", "template.json", "Unexpected argument: template.json");
-    row("no number", "--type one", "--type takes a number, not \"one\"");
-    row("no switch", "--editable maybe", "takes true or false, not \"maybe\"");
-    row("missing template", config + "none.json", "none.json: No such file");
-    row("broken template", config + file("a.json", "{\n \"a\": 1,\n ]\n"), "a.json:3:2: \\S");
-    row("other document", config + file("b.json", "{}"), "b.json:1:1: .* \"configDescription\"");
-    row("broken configuration", good + "--config " + file("c.json", "{} d"), "c.json:1:4: \\S");
-    row("missing session", good + "--replay none.jsonl", "none.jsonl: No such file");
-    row("broken session", good + "--replay " + file("e.jsonl", "{\"do\":\"save\"}\n\n{]\n"),
-        "e.jsonl:3:2: \\S");
-    row("nothing to do", good + "--replay " + file("f.jsonl", "{\"to\":1}"),
-        "f.jsonl:1:1: .*\"do\"");
-    row("no plug-in", good + "--plugin " + file("g.so", "text"), "g.so");
-    row("no folder for the result",
-        good + "--result none/result.json --replay " +
-            file("h.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n{\"do\":\"wait\"}\n"),
-        "none/result.json: \\S");
-}
+    void refusesArguments_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("says");
+        const auto row = [](const char* name, const QString& arguments, const char* says,
+                            int status = Unusable) {
+            QTest::newRow(name) << arguments << status << says;
+        };
+        const QString good = documents().join(' ') + ' ';
+        const QString config = "--config " + kPerimeter + "config.json --template ";
+        row("help", "--help", "--editable [\\s\\S]*presence\\s+locks", SavedOrClosed);
+        row("version", "--version", "rules-workbench \\d", SavedOrClosed);
+        row("no option", "template.json", "Unexpected argument: template.json");
+        row("no number", "--type one", "--type takes a number, not \"one\"");
+        row("no switch", "--editable maybe", "takes true or false, not \"maybe\"");
+        row("missing template", config + "none.json", "none.json: No such file");
+        row("broken template", config + file("a.json", "{\n \"a\": 1,\n ]\n"), "a.json:3:2: \\S");
+        row("other document", config + file("b.json", "{}"),
+            "b.json:1:1: .* \"configDescription\"");
+        row("broken configuration", good + "--config " + file("c.json", "{} d"), "c.json:1:4: \\S");
+        row("missing session", good + "--replay none.jsonl", "none.jsonl: No such file");
+        row("broken session", good + "--replay " + file("e.jsonl", "{\"do\":\"save\"}\n\n{]\n"),
+            "e.jsonl:3:2: \\S");
+        row("nothing to do", good + "--replay " + file("f.jsonl", "{\"to\":1}"),
+            "f.jsonl:1:1: .*\"do\"");
+        row("no plug-in", good + "--plugin " + file("g.so", "text"), "g.so");
+        row("no folder for the result",
+            good + "--result none/result.json --replay " +
+                file("h.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n{\"do\":\"wait\"}\n"),
+            "none/result.json: \\S");
+    }
 
-void TstExamples::refusesArguments()
-{
-    QFETCH(const QString, arguments);
-    QFETCH(const int, status);
-    QFETCH(const QString, says);
-    const Outcome outcome = run(arguments.split(' '));
-    QVERIFY2(outcome.said.contains(QRegularExpression(says)), qPrintable(outcome.said));
-    QCOMPARE(outcome.status, status);
-}
+    void refusesArguments()
+    {
+        QFETCH(const QString, arguments);
+        QFETCH(const int, status);
+        QFETCH(const QString, says);
+        const Outcome outcome = run(arguments.split(' '));
+        QVERIFY2(outcome.said.contains(QRegularExpression(says)), qPrintable(outcome.said));
+        QCOMPARE(outcome.status, status);
+    }
 
-void TstExamples::failsAtSteps_data()
-{
-    QTest::addColumn<QByteArray>("steps");
-    QTest::addColumn<QString>("says");
-    // Two steps are parted by a bar; the last one fails.
-    const auto row = [](const QByteArray& steps, const char* says) {
-        QTest::newRow(steps.constData()) << steps << QString(says);
-    };
-    const QByteArray rules = "\"scene\":\"rules\",";
-    row(R"("dance")", "there is no step \"dance\"");
-    row(R"("select","scene":"moon")", "there is no section \"moon\"");
-    row("\"click\"," + rules + R"("object":"fuc9")", "no such widget");
-    row("\"pick\"," + rules + R"("entry":4)", "no such widget");
-    row("\"enable\"," + rules + R"("entry":1,"on":false)", "no such widget");
-    row("\"set\"," + rules + R"("key":"speed","value":1)", "no row \"speed\"");
-    row("\"set\"," + rules + R"("key":"ruleAction","value":"Fly")", "no option \"Fly\"");
-    row("\"set\"," + rules + R"("key":"ruleCrossing","value":"Both")", "it is hidden");
-    row(R"("set","scene":"global","key":"globalShadow","value":false)", "it is covered");
-    row("\"click\"," + rules + "\"object\":\"addRule\"|\"pick\"," + rules + "\"entry\":1",
-        "it is disabled");
-    row(R"("load","editable":true|"save")", "it is hidden");
-    row(R"("press","button":"left","at":[8300,100])", "not on the picture");
-    row(R"("wait","ms":1|"save")", "a question came up.*Please confirm");
-    row(R"("load","config":"none.json")", "none.json: No such file");
-    row(R"("screenshot","file":"none/step.png")", "cannot write");
-    row(R"("expect","box":"Saved")", "the last box is null, not \"Saved\"");
-    row("\"expect\"," + rules + "\"hint\":\"Draw\"", "the hint is \".*\", not \"Draw\"");
-    row("\"expect\"," + rules + "\"entries\":2", "the number of entries is 3, not 2");
-    row("\"expect\"," + rules + "\"current\":2", "the current entry is 1, not 2");
-    row(R"("expect","row":"ruleDwell","value":16)", "value is \"15\", not 16");
-    row(R"("expect","row":"ruleDwell","visible":false)", "visibility is true, not false");
-    row(R"("expect","row":"ruleDwell","enabled":false)", "enabled state is true, not false");
-    row(R"("query"|"expect","posted":{"unFinishedDraw":true})", "Draw is false, not true");
-    row(R"("query"|"expect","posted":null)", "a message was posted");
-}
+    void failsAtSteps_data()
+    {
+        QTest::addColumn<QByteArray>("steps");
+        QTest::addColumn<QString>("says");
+        // Two steps are parted by a bar; the last one fails.
+        const auto row = [](const QByteArray& steps, const char* says) {
+            QTest::newRow(steps.constData()) << steps << QString(says);
+        };
+        const QByteArray rules = "\"scene\":\"rules\",";
+        row(R"("dance")", "there is no step \"dance\"");
+        row(R"("select","scene":"moon")", "there is no section \"moon\"");
+        row("\"click\"," + rules + R"("object":"fuc9")", "no such widget");
+        row("\"pick\"," + rules + R"("entry":4)", "no such widget");
+        row("\"enable\"," + rules + R"("entry":1,"on":false)", "no such widget");
+        row("\"set\"," + rules + R"("key":"speed","value":1)", "no row \"speed\"");
+        row("\"set\"," + rules + R"("key":"ruleAction","value":"Fly")", "no option \"Fly\"");
+        row("\"set\"," + rules + R"("key":"ruleCrossing","value":"Both")", "it is hidden");
+        row(R"("set","scene":"global","key":"globalShadow","value":false)", "it is covered");
+        row("\"click\"," + rules + "\"object\":\"addRule\"|\"pick\"," + rules + "\"entry\":1",
+            "it is disabled");
+        row(R"("load","editable":true|"save")", "it is hidden");
+        row(R"("press","button":"left","at":[8300,100])", "not on the picture");
+        row(R"("wait","ms":1|"save")", "a question came up.*Please confirm");
+        row(R"("load","config":"none.json")", "none.json: No such file");
+        row(R"("screenshot","file":"none/step.png")", "cannot write");
+        row(R"("expect","box":"Saved")", "the last box is null, not \"Saved\"");
+        row("\"expect\"," + rules + "\"hint\":\"Draw\"", "the hint is \".*\", not \"Draw\"");
+        row("\"expect\"," + rules + "\"entries\":2", "the number of entries is 3, not 2");
+        row("\"expect\"," + rules + "\"current\":2", "the current entry is 1, not 2");
+        row(R"("expect","row":"ruleDwell","value":16)", "value is \"15\", not 16");
+        row(R"("expect","row":"ruleDwell","visible":false)", "visibility is true, not false");
+        row(R"("expect","row":"ruleDwell","enabled":false)", "enabled state is true, not false");
+        row(R"("query"|"expect","posted":{"unFinishedDraw":true})", "Draw is false, not true");
+        row(R"("query"|"expect","posted":null)", "a message was posted");
+    }
 
-void TstExamples::failsAtSteps()
-{
-    QFETCH(QByteArray, steps);
-    QFETCH(const QString, says);
-    steps.prepend("\"wait\",\"picture\":true|");
-    const int last = steps.count('|') + 1;
-    const QByteArray session = "{\"do\":" + steps.replace("|", "}\n{\"do\":") + "}\n";
-    const Outcome outcome =
-        run(documents(kPerimeter) + QStringList{"--replay", file("steps.jsonl", session)});
-    const QRegularExpression pattern(QString("steps.jsonl: line %1: .*%2").arg(last).arg(says));
-    QVERIFY2(outcome.said.contains(pattern), qPrintable(outcome.said));
-    QCOMPARE(outcome.status, int(StepFailed));
-}
+    void failsAtSteps()
+    {
+        QFETCH(QByteArray, steps);
+        QFETCH(const QString, says);
+        steps.prepend("\"wait\",\"picture\":true|");
+        const int last = steps.count('|') + 1;
+        const QByteArray session = "{\"do\":" + steps.replace("|", "}\n{\"do\":") + "}\n";
+        const Outcome outcome =
+            run(documents() + QStringList{"--replay", file("steps.jsonl", session)});
+        const QRegularExpression pattern(QString("steps.jsonl: line %1: .*%2").arg(last).arg(says));
+        QVERIFY2(outcome.said.contains(pattern), qPrintable(outcome.said));
+        QCOMPARE(outcome.status, int(StepFailed));
+    }
 
-void TstExamples::knowsEveryStep()
-{
-    const QString session = RULES_SOURCE_DIR "/tests/workbench/everystep.jsonl";
-    const Outcome outcome = run(documents(kPerimeter) + QStringList{"--replay", session});
-    QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
-    QCOMPARE(QImage(m_folder.filePath("step.png")).size(), QSize(1180, 800));
-}
+    void knowsEveryStep()
+    {
+        const QString session = RULES_SOURCE_DIR "/tests/workbench/everystep.jsonl";
+        const Outcome outcome = run(documents() + QStringList{"--replay", session});
+        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+        QCOMPARE(QImage(path("step.png")).size(), QSize(1180, 800));
+    }
 
-void TstExamples::tellsThatTheOperatorLeft()
-{
-    const QString session = file("leave.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n"
-                                                "{\"do\":\"expect\",\"posted\":{\"result\":-1}}\n");
-    const Outcome outcome =
-        run(documents(kPerimeter) + QStringList{"--replay", session, "--result", "left.json"});
-    QVERIFY2(outcome.status == LeftWithoutSaving, qPrintable(outcome.said));
-    const Value left = read(m_folder.filePath("left.json"));
-    QCOMPARE(left["result"].asInt(), -1);
-    QVERIFY(!left.isMember("channelAbilityPO"));
-}
+    void tellsThatTheOperatorLeft()
+    {
+        const QString session =
+            file("leave.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n"
+                                "{\"do\":\"expect\",\"posted\":{\"result\":-1}}\n");
+        const Outcome outcome =
+            run(documents() + QStringList{"--replay", session, "--result", "left.json"});
+        QVERIFY2(outcome.status == LeftWithoutSaving, qPrintable(outcome.said));
+        const Value left = read(path("left.json"));
+        QCOMPARE(left["result"].asInt(), -1);
+        QVERIFY(!left.isMember("channelAbilityPO"));
+    }
 
-void TstExamples::worksWithoutDisplay()
-{
+    void worksWithoutDisplay()
+    {
 #if !defined(Q_OS_UNIX) || defined(Q_OS_MACOS)
-    QSKIP("there is always a display");
+        QSKIP("there is always a display");
 #endif
-    const QScopedValueRollback<QProcessEnvironment> rollback(m_environment);
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        m_environment.remove(name);
-    QCOMPARE(run(documents(kPerimeter)).status, int(Unusable));
-    const QString session = file("close.jsonl", "{\"do\":\"close\"}\n");
-    const Outcome replayed = run(documents(kPerimeter) + QStringList{"--replay", session});
-    QVERIFY2(replayed.status == SavedOrClosed, qPrintable(replayed.said));
-}
+        const QScopedValueRollback<QProcessEnvironment> rollback(environment);
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(name);
+        QCOMPARE(run(documents()).status, int(Unusable));
+        const QString session = file("close.jsonl", "{\"do\":\"close\"}\n");
+        const Outcome replayed = run(documents() + QStringList{"--replay", session});
+        QVERIFY2(replayed.status == SavedOrClosed, qPrintable(replayed.said));
+    }
+};
 
 QTEST_MAIN(TstExamples)
 #include "tst_examples.moc"

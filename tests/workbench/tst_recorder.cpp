@@ -1,16 +1,11 @@
-#include "host/qrtspvideownd.h"
 #include "host/reader.h"
 #include "tests/support/rulestest.h"
+#include "tests/support/workbenchbench.h"
 #include "workbench/boxwatcher.h"
 #include "workbench/compactjson.h"
 #include "workbench/messagerecord.h"
-#include "workbench/panelfinder.h"
-#include "workbench/sessionplayer.h"
 #include "workbench/sessionrecorder.h"
-#include "workbench/sessionscript.h"
-#include "workbench/workbenchwindow.h"
 
-#include <QAbstractButton>
 #include <QLineEdit>
 
 #include <memory>
@@ -21,44 +16,20 @@ namespace
 {
 
 constexpr int kResult = 996;
-constexpr QSize kSize(1200, 820);
-
-WorkbenchOptions example(const QString& name = QStringLiteral("perimeter"))
-{
-    const QString folder = QStringLiteral(RULES_SOURCE_DIR "/examples/%1/").arg(name);
-    WorkbenchOptions options;
-    options.templateFile = folder + QStringLiteral("template.json");
-    options.configFile = folder + QStringLiteral("config.json");
-    return options;
-}
-
-/// A started workbench and the last result that it posted.
-class Bench
+/// A workbench that replays, the last result that it posted, and an operator's hands.
+class Bench : public WorkbenchBench
 {
 public:
-    explicit Bench(const WorkbenchOptions& options) : m_window(options)
+    explicit Bench(const WorkbenchOptions& options) : WorkbenchBench(options, true)
     {
-        QObject::connect(&m_window, &WorkbenchWindow::sgnMessage, &m_window,
+        QObject::connect(&window(), &WorkbenchWindow::sgnMessage, &window(),
                          [this](const MessageRecord& message) {
                              if (message.id == kResult)
                                  kql::Json::Reader().parse(message.p2, m_result);
                          });
-        m_window.resize(kSize);
-        m_window.show();
-        m_window.setReplaying(true);
-        m_started = m_window.start(m_error);
     }
 
-    bool isReady()
-    {
-        return m_started && QTest::qWaitForWindowExposed(&m_window) &&
-               QTest::qWaitFor([this] { return !surface()->paneRect(0).isEmpty(); });
-    }
-    WorkbenchWindow& window() { return m_window; }
-    const QString& error() const { return m_error; }
     const Value& result() const { return m_result; }
-    QRtspVideoWnd* surface() { return m_window.videoSurface(); }
-    PanelFinder finder() { return PanelFinder(m_window.rulesWindow()); }
     QWidget* panel(const char* scene) { return finder().panel(QString::fromLatin1(scene)); }
     QWidget* part(const char* scene, const char* name)
     {
@@ -79,10 +50,6 @@ public:
     QAbstractButton* entry(int number, const char* scene = "rules")
     {
         return finder().entryButtons(panel(scene), false).value(number - 1);
-    }
-    QAbstractButton* child(int number, const char* scene)
-    {
-        return finder().entryButtons(panel(scene), true).value(number - 1);
     }
     void press(QWidget* widget)
     {
@@ -113,10 +80,7 @@ public:
     }
 
 private:
-    WorkbenchWindow m_window;
     Value m_result;
-    QString m_error;
-    bool m_started = false;
 };
 
 } // namespace
@@ -129,7 +93,7 @@ class TstRecorder : public RulesTest
 
 private:
     QTemporaryDir m_folder;
-    QString m_path = m_folder.filePath(QStringLiteral("session.jsonl"));
+    QString m_path = m_folder.filePath("session.jsonl");
     std::unique_ptr<Bench> m_bench;
     BoxWatcher* m_boxes = nullptr;
 
@@ -171,26 +135,14 @@ private:
         return m_boxes ? m_boxes->lastText().value_or(QString()) : QString();
     }
 
-    void play(Bench& bench, const QString& path)
-    {
-        SessionScript script;
-        QString error;
-        QVERIFY2(script.read(path, error), qPrintable(error));
-        SessionPlayer player(bench.window(), std::move(script));
-        QSignalSpy finished(&player, &SessionPlayer::sgnFinished);
-        player.start();
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 30000);
-        QCOMPARE(finished[0][0].toString(), QString());
-    }
-
     void compareReplayed(const WorkbenchOptions& options)
     {
         QTRY_VERIFY2(m_bench->result().isObject(), qPrintable(lastBox()));
         const Value wanted = m_bench->result();
         m_bench.reset();
         Bench replay(options);
-        QVERIFY2(replay.isReady(), qPrintable(replay.error()));
-        play(replay, m_path);
+        QVERIFY(replay.isReady());
+        QCOMPARE(replay.play(m_path), QString());
         QTRY_VERIFY(replay.result().isObject());
         QCOMPARE(replay.result().toStyledText(), wanted.toStyledText());
     }
@@ -198,29 +150,28 @@ private:
 private slots:
     void recordsRows()
     {
-        QVERIFY(record(example(), "Yes"));
+        QVERIFY(record(Bench::example(), "Yes"));
         Bench& bench = *m_bench;
         bench.press(bench.entry(2));
-        bench.type(bench.edit("rules", "ruleName"), QString::fromUtf8("Ladehof大门"));
-        bench.type(bench.edit("rules", "ruleSpeed"), QStringLiteral("999"));
+        bench.type(bench.edit("rules", "ruleName"), "Ladehof大门");
+        bench.type(bench.edit("rules", "ruleSpeed"), "999");
         QTest::keyClick(bench.edit("rules", "ruleSpeed"), Qt::Key_Return);
         QTest::keyClick(bench.option("ruleObjects", "Human"), Qt::Key_Space);
         bench.press(bench.option("ruleAction", "Stay"));
-        bench.type(bench.edit("rules", "ruleSize", "minimum"), QStringLiteral("12"));
+        bench.type(bench.edit("rules", "ruleSize", "minimum"), "12");
         bench.type(bench.edit("rules", "ruleSize", "maximum"), QString());
         QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Backspace);
         QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Return);
-        bench.type(bench.edit("rules", "ruleSize", "maximum"), QStringLiteral("80"));
+        bench.type(bench.edit("rules", "ruleSize", "maximum"), "80");
         bench.press(bench.part("rules", "ruleTrack")->findChild<QAbstractButton*>());
-        bench.type(bench.edit("rules", "ruleDwell"), QStringLiteral("44"));
+        bench.type(bench.edit("rules", "ruleDwell"), "44");
         bench.press(bench.part("global", "mask"));
-        bench.type(bench.edit("global", "globalSensitivity"), QStringLiteral("3"));
+        bench.type(bench.edit("global", "globalSensitivity"), "3");
         bench.press(bench.part("global", "titleBar"));
-        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
+        bench.press(bench.button("btnSave"));
         compareRecorded({
             R"({"do":"pick","scene":"rules","entry":2})",
-            QString::fromUtf8(
-                R"({"do":"set","scene":"rules","key":"ruleName","value":"Ladehof大门"})"),
+            R"({"do":"set","scene":"rules","key":"ruleName","value":"Ladehof大门"})",
             R"({"do":"set","scene":"rules","key":"ruleSpeed","value":"200"})",
             R"({"do":"set","scene":"rules","key":"ruleObjects","value":["Human","Vehicle"]})",
             R"({"do":"set","scene":"rules","key":"ruleAction","value":"Stay"})",
@@ -234,12 +185,12 @@ private slots:
             R"({"do":"fold","scene":"global","fold":true})",
             R"({"do":"save","answer":"Yes"})",
         });
-        compareReplayed(example());
+        compareReplayed(Bench::example());
     }
 
     void recordsDrawing()
     {
-        QVERIFY(record(example(), "Yes"));
+        QVERIFY(record(Bench::example(), "Yes"));
         Bench& bench = *m_bench;
         bench.press(bench.part("rules", "addRule"));
         bench.point({10, 10});
@@ -254,7 +205,7 @@ private slots:
         bench.draw({40, 40});
         bench.draw({60, 50});
         const QRect picture = bench.surface()->paneRect(0);
-        bench.window().resize(kSize + QSize(40, 30));
+        bench.window().resize(Bench::kSize + QSize(40, 30));
         QTRY_VERIFY(bench.surface()->paneRect(0) != picture);
         bench.press(bench.part("rules", "redraw"));
         bench.draw({20, 30});
@@ -263,9 +214,9 @@ private slots:
         bench.draw({20, 60}, Qt::RightButton);
         bench.draw({30, 30});
         bench.draw({50, 45});
-        bench.type(bench.edit("rules", "ruleSize", "minimum"), QStringLiteral("5"));
-        bench.type(bench.edit("rules", "ruleSize", "maximum"), QStringLiteral("50"));
-        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
+        bench.type(bench.edit("rules", "ruleSize", "minimum"), "5");
+        bench.type(bench.edit("rules", "ruleSize", "maximum"), "50");
+        bench.press(bench.button("btnSave"));
         QStringList kinds;
         for (const QString& line : recorded()) {
             Value step;
@@ -276,12 +227,12 @@ private slots:
         QCOMPARE(kinds.join(QLatin1Char(' ')),
                  "addRule wait move press press double press press press press "
                  "size redraw press press press press press press set set save");
-        compareReplayed(example());
+        compareReplayed(Bench::example());
     }
 
     void recordsKeyboard()
     {
-        QVERIFY(record(example(), "Yes"));
+        QVERIFY(record(Bench::example(), "Yes"));
         Bench& bench = *m_bench;
         bench.edit("rules", "ruleName")->setFocus();
         QLineEdit* edit = bench.edit("global", "globalSensitivity");
@@ -295,57 +246,40 @@ private slots:
             bench.part("global", "globalSurrounding")->findChildren<QAbstractButton*>().value(0);
         radio->setFocus(Qt::TabFocusReason);
         QTest::keyClick(radio, Qt::Key_Down);
-        QTest::keyClick(bench.finder().windowButton(QStringLiteral("btnSave")), Qt::Key_Space);
+        QTest::keyClick(bench.button("btnSave"), Qt::Key_Space);
         compareRecorded({
             R"({"do":"select","scene":"global"})",
             R"({"do":"set","scene":"global","key":"globalSensitivity","value":"4"})",
             R"({"do":"set","scene":"global","key":"globalSurrounding","value":"Fence"})",
             R"({"do":"save","answer":"Yes"})",
         });
-        compareReplayed(example());
-    }
-
-    void recordsChildren()
-    {
-        const WorkbenchOptions options = example(QStringLiteral("scene-calibration"));
-        QVERIFY(record(options, "Yes"));
-        Bench& bench = *m_bench;
-        bench.press(bench.child(2, "calibrateArea"));
-        bench.press(bench.part("calibrateArea", "redraw"));
-        bench.draw({55, 75});
-        bench.draw({55, 60});
-        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
-        const QStringList lines = recorded();
-        QCOMPARE(lines.value(0), R"({"do":"pick","scene":"calibrateArea","entry":1,"child":2})");
-        QCOMPARE(lines.size(), 6);
-        compareReplayed(options);
+        compareReplayed(Bench::example());
     }
 
     void recordsExamples_data()
     {
         QTest::addColumn<QString>("name");
-        const QDir examples(QStringLiteral(RULES_SOURCE_DIR "/examples"));
-        for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        for (const QString& name : ExampleFiles::names())
             QTest::newRow(qPrintable(name)) << name;
     }
 
     void recordsExamples()
     {
         QFETCH(const QString, name);
-        QVERIFY(record(example(name), nullptr));
-        play(*m_bench, QFileInfo(example(name).templateFile).dir().filePath("session.jsonl"));
-        compareReplayed(example(name));
+        QVERIFY(record(Bench::example(name), nullptr));
+        QCOMPARE(m_bench->play(ExampleFiles::folder(name) + "session.jsonl"), QString());
+        compareReplayed(Bench::example(name));
     }
 
     void recordsSelectionMode()
     {
-        WorkbenchOptions options = example();
+        WorkbenchOptions options = Bench::example();
         options.selectionMode = true;
         QVERIFY(record(options, "Yes"));
         Bench& bench = *m_bench;
         bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(2)));
         bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(3)));
-        bench.press(bench.finder().windowButton(QStringLiteral("btnSave")));
+        bench.press(bench.button("btnSave"));
         compareRecorded({
             R"({"do":"enable","scene":"rules","entry":2,"on":false})",
             R"({"do":"enable","scene":"rules","entry":3,"on":true})",
@@ -356,11 +290,11 @@ private slots:
 
     void recordsAnswersAndLoads()
     {
-        QVERIFY(record(example(), "No"));
+        QVERIFY(record(Bench::example(), "No"));
         Bench& bench = *m_bench;
-        QAbstractButton* cancel = bench.finder().windowButton(QStringLiteral("btnCancel"));
+        QAbstractButton* cancel = bench.button("btnCancel");
         bench.press(cancel);
-        WorkbenchOptions other = example();
+        WorkbenchOptions other = Bench::example();
         other.algorithmType = 7;
         other.configFile.clear();
         QString error;
@@ -371,7 +305,7 @@ private slots:
         QMouseEvent leave(QEvent::MouseMove, QPoint(-50, -50), Qt::NoButton, Qt::LeftButton, {});
         QApplication::sendEvent(add, &leave);
         QTest::mouseRelease(add, Qt::LeftButton, {}, {-50, -50});
-        m_boxes->begin(QStringLiteral("Yes"));
+        m_boxes->begin(QString("Yes"));
         bench.press(cancel);
         Value load(kql::Json::ValueType::Object);
         load["do"] = "load";
@@ -381,13 +315,13 @@ private slots:
         compareRecorded({R"({"do":"cancel","answer":"No"})",
                          QString::fromUtf8(CompactJson::text(load)),
                          R"({"do":"cancel","answer":"Yes"})"});
-        compareReplayed(example());
+        compareReplayed(Bench::example());
     }
 
     void refusesUnwritableFile()
     {
         m_bench.reset();
-        m_bench = std::make_unique<Bench>(example());
+        m_bench = std::make_unique<Bench>(Bench::example());
         QVERIFY(m_bench->isReady());
         QString error;
         QVERIFY(!SessionRecorder(m_bench->window(), nullptr).open(m_folder.path(), error));

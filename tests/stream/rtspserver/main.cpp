@@ -32,7 +32,7 @@ bool readSettings(int argc, char** argv, Settings& settings)
         {"height", 0, 0, G_OPTION_ARG_INT, &settings.height, "Of the picture", "N"},
         {"user", 0, 0, G_OPTION_ARG_STRING, &settings.user, "Asked for when given", "NAME"},
         {"password", 0, 0, G_OPTION_ARG_STRING, &settings.password, "Of the user", "TEXT"},
-        {"codec", 0, 0, G_OPTION_ARG_STRING, &settings.codec, "h264, h265 or jpeg", "NAME"},
+        {"codec", 0, 0, G_OPTION_ARG_STRING, &settings.codec, "h264 or jpeg", "NAME"},
         {"udp-only", 0, 0, G_OPTION_ARG_NONE, &settings.udpOnly, "Refuse TCP", nullptr},
         {"silent", 0, 0, G_OPTION_ARG_NONE, &settings.silent, "Take connections, no more", nullptr},
         {"location", 0, 0, G_OPTION_ARG_STRING, &settings.location, "Send all there", "URL"},
@@ -49,9 +49,6 @@ std::string coding(const gchar* codec)
 {
     if (g_strcmp0(codec, "jpeg") == 0)
         return "jpegenc ! rtpjpegpay name=pay0 pt=26";
-    if (g_strcmp0(codec, "h265") == 0)
-        return "x265enc tune=zerolatency speed-preset=ultrafast key-int-max=10 ! "
-               "rtph265pay name=pay0 pt=96 config-interval=1";
     return "x264enc tune=zerolatency speed-preset=ultrafast key-int-max=10 ! "
            "rtph264pay name=pay0 pt=96 config-interval=1";
 }
