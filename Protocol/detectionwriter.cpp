@@ -88,6 +88,6 @@ bool DetectionWriter::writeDetection(const RuleData& data, const WriteContext& c
         }
     }
     if (entries.size() == 1 && shapes.isBare(*data.getAllData().front()))
-        return target.replace(std::move(entries.front()));
+        return target.putAlone(std::move(entries.front()));
     return target.put(std::move(entries));
 }

@@ -45,10 +45,17 @@ bool EntryTarget::put(std::vector<Value> entries)
     const bool isNothing = holdNothing(entries);
     const bool isObject = before && before->isObject();
     if (isObject || (!isList && m_whenMissing == WhenMissing::Object))
-        return replace(std::move(entries.front())) || isNothing;
+        return putAlone(std::move(entries.front()));
     return replace(listOf(std::move(entries))) || isNothing;
 }
 
+bool EntryTarget::putAlone(Value entry)
+{
+    const bool isNothing = entry.empty();
+    return replace(std::move(entry)) || isNothing;
+}
+
+/// Replaces whatever is there; false when the place cannot be made.
 bool EntryTarget::replace(Value value)
 {
     Value* target = place();

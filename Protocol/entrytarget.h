@@ -26,10 +26,11 @@ public:
     /// Puts the entries there, the first alone where an object is the only entry. A missing
     /// place is made; false when that cannot be done and entries would be lost.
     bool put(std::vector<kql::Json::Value> entries);
-    /// Replaces whatever is there; false when the place cannot be made.
-    bool replace(kql::Json::Value value);
+    /// Puts the only entry there without a list around it; false as above.
+    bool putAlone(kql::Json::Value entry);
 
 private:
+    bool replace(kql::Json::Value value);
     kql::Json::Value* place() const;
 
     kql::Json::Value& m_document;

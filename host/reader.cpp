@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
 #include <memory>
 
 #include <rapidjson/error/en.h>
@@ -24,6 +23,9 @@ namespace
 // itself for each level of the document, of which the builder allows only so many.
 constexpr unsigned kFlags = rapidjson::kParseInsituFlag | rapidjson::kParseCommentsFlag |
                             rapidjson::kParseNumbersAsStringsFlag;
+
+// Written again, even one text of this length fits into a QString.
+constexpr std::size_t kLongestText = std::size_t(128) << 20;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
@@ -77,7 +79,7 @@ bool Reader::parse(const QString& text, Value& root, bool)
 Reader::Fault Reader::parseInPlace(char* text, std::size_t size, Value& document)
 {
     const std::string_view utf8(text, size);
-    if (size > std::size_t(std::numeric_limits<int>::max()))
+    if (size > kLongestText)
         return {"The text is too long.", 0};
     const std::size_t invalid = firstInvalidUtf8(utf8);
     if (invalid < size)

@@ -7,7 +7,7 @@
 #include <QLocale>
 #include <QTranslator>
 #include <memory>
-#include <utility>
+#include <vector>
 
 // Resources of a static library are registered by name, from outside any namespace.
 static void initResources()
@@ -22,7 +22,7 @@ namespace IntelligentRulesUI
 namespace
 {
 
-ULONG_PTR g_gdiplusToken = 0;
+std::vector<ULONG_PTR> g_gdiplusTokens; ///< one for each start that has not been ended
 std::unique_ptr<QTranslator> g_translator;
 
 void installTranslation()
@@ -43,16 +43,20 @@ void startModule()
     initResources();
     installTranslation();
     const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&g_gdiplusToken, &input, nullptr);
+    ULONG_PTR token = 0;
+    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok)
+        g_gdiplusTokens.push_back(token);
 }
 
 void endModule()
 {
     LabelFont::release();
-    // A host may end what it never started, or ended already.
-    if (g_gdiplusToken != 0)
-        Gdiplus::GdiplusShutdown(std::exchange(g_gdiplusToken, 0));
     g_translator.reset();
+    // A host may end what it never started, or ended already.
+    if (g_gdiplusTokens.empty())
+        return;
+    Gdiplus::GdiplusShutdown(g_gdiplusTokens.back());
+    g_gdiplusTokens.pop_back();
 }
 
 } // namespace IntelligentRulesUI

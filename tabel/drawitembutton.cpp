@@ -96,6 +96,12 @@ bool DrawItemButton::event(QEvent* event)
     return handled;
 }
 
+/// The base would take the other buttons of the group out of the tab order.
+void DrawItemButton::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+}
+
 void DrawItemButton::nextCheckState()
 {
     setChecked(true);

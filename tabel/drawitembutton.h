@@ -39,6 +39,7 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     /// A press never unchecks: the current button stays current.
     void nextCheckState() override;
 

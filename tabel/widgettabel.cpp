@@ -122,7 +122,9 @@ void WidgetTabel::setControlEnable(bool enable)
         return;
     for (QWidget* item : qAsConst(m_items))
         item->setEnabled(enable);
-    m_childrenEnabled = enable;
+    m_childrenEnabled.reset();
+    if (isEnabled())
+        m_childrenEnabled = enable;
 }
 
 QList<QWidget*> WidgetTabel::getVisibleItems() const
@@ -158,8 +160,9 @@ void WidgetTabel::relayout(int x, int y)
         return;
     const QScopedValueRollback<bool> guard(m_layingOut, true);
     m_outdated = !hearsOfChanges();
+    const int widthBefore = width();
     layoutPass(x, y);
-    if (hasDrifted()) {
+    if (width() != widthBefore || hasDrifted()) {
         layoutPass(x, y);
         m_outdated = m_outdated || hasDrifted();
     }

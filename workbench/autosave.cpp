@@ -13,6 +13,7 @@
 #include "workbench/sessionscript.h"
 #include "workbench/workbenchwindow.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -49,6 +50,30 @@ bool isAnswer(const Value& step)
 bool isResult(const MessageRecord& message)
 {
     return message.direction == MessageRecord::Direction::FromModule && message.id == kRulesResult;
+}
+
+/// Tells documents from others that have taken their places.
+QString digestOf(std::initializer_list<QString> documents)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const QString& path : documents) {
+        QFile file(path);
+        if (!path.isEmpty() && file.open(QIODevice::ReadOnly))
+            hash.addData(&file);
+        hash.addData("\0", 1);
+    }
+    return QString::fromLatin1(hash.result().toHex());
+}
+
+/// Done again over other documents, the steps would change what nobody meant.
+bool hasItsDocuments(const SessionScript& script)
+{
+    return std::all_of(script.steps.begin(), script.steps.end(), [](const SessionScript::Step& at) {
+        const Value& step = at.step;
+        return !step.isMember("digest") ||
+               step["digest"].asString() ==
+                   digestOf({step["template"].asString(), step["config"].asString()});
+    });
 }
 
 /// "folder/template.json": the name alone is often the same.
@@ -103,7 +128,10 @@ void Autosave::begin()
     if (m_window.options().templateFile.isEmpty())
         return;
     m_steps.push_back(CompactJson::text(RecordedStep::size(m_window)));
-    m_steps.push_back(CompactJson::text(RecordedStep::load(nullptr, m_window.options())));
+    const WorkbenchOptions& options = m_window.options();
+    Value load = RecordedStep::load(nullptr, options);
+    load["digest"] = digestOf({options.templateFile, options.configFile});
+    m_steps.push_back(CompactJson::text(load));
 }
 
 void Autosave::append(const Value& step)
@@ -194,9 +222,11 @@ void Autosave::restore()
 {
     SessionScript script;
     QString error;
-    if (m_player || !mayReplaceWork())
+    if (m_player || !m_left || !mayReplaceWork())
         return;
-    if (!script.read(m_left->path(), error)) {
+    if (script.read(m_left->path(), error) && !hasItsDocuments(script))
+        error = tr("template or configuration are not what they were when the work began.");
+    if (!error.isEmpty()) {
         finishRestore(error);
         return;
     }
@@ -225,7 +255,9 @@ void Autosave::finishRestore(const QString& error)
         return;
     }
     // The steps were recorded again as they were done; from here on they are this run's.
-    if (!m_isUnsaved || write())
+    if (m_isUnsaved && !write())
+        m_bar->ask(tr("What was restored could not be written to a file again."));
+    else
         discard();
 }
 

@@ -21,7 +21,8 @@ bool until(int milliseconds, const std::function<bool()>& condition)
             return false;
         QEventLoop loop;
         QTimer::singleShot(kSlice, &loop, &QEventLoop::quit);
-        loop.exec();
+        if (loop.exec() < 0)
+            return false; // the program is about to end
     }
     return true;
 }

@@ -25,7 +25,7 @@ private slots:
         QSignalSpy presses(m_surface.get(), &QRtspVideoWnd::sgnWndClick);
         QVERIFY(!strip()->isVisible());
         hover();
-        QTRY_VERIFY(strip()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(strip()->isVisible(), kTryFor);
         QVERIFY(m_surface->rect().contains(strip()->geometry()));
         const QPoint onButton = child<QToolButton>("freeze")->geometry().center();
         QTest::mousePress(child<QToolButton>("freeze"), Qt::RightButton);
@@ -33,7 +33,7 @@ private slots:
         const QPoint at(presses[0][1].toInt(), presses[0][2].toInt());
         QVERIFY((at - strip()->geometry().topLeft() - onButton).manhattanLength() < 4);
         QVERIFY(!strip()->isVisible());
-        QTRY_VERIFY(strip()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(strip()->isVisible(), kTryFor);
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(m_surface.get(), &leave);
         QVERIFY(!strip()->isVisible());
@@ -50,13 +50,13 @@ private slots:
         SampleCameraSource camera;
         QSignalSpy ready(&camera, &PictureSource::sgnPictureReady);
         camera.start();
-        QTRY_VERIFY(ready.count() > 5); // the pane's camera went on as well
+        QTRY_VERIFY_WITH_TIMEOUT(ready.count() > 5, kTryFor); // the pane's camera went on as well
         QCOMPARE(shown(), held);
         QCOMPARE(m_surface->snapshot(), snapshot);
         child<QToolButton>("freeze")->click();
         QVERIFY(!m_surface->isFrozen());
         QCOMPARE(m_surface->statusText(), QString());
-        QTRY_VERIFY(shown() != held);
+        QTRY_VERIFY_WITH_TIMEOUT(shown() != held, kTryFor);
         m_surface->setFrozen(true);
         QVERIFY(child<QToolButton>("freeze")->isChecked());
         QVERIFY(m_surface->openLivePicture(QStringLiteral("channel")));
@@ -70,7 +70,7 @@ private slots:
         child<QToolButton>("statistics")->click();
         QVERIFY(text->isVisible());
         QVERIFY(text->text().contains(QStringLiteral("Size: 1280 x 720")));
-        QTRY_VERIFY(!text->text().contains(QStringLiteral("second: 0.0")));
+        QTRY_VERIFY_WITH_TIMEOUT(!text->text().contains(QStringLiteral("second: 0.0")), kTryFor);
         m_surface->resetToolBar(0);
         QVERIFY(!text->isVisible());
     }

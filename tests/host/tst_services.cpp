@@ -70,7 +70,7 @@ private slots:
         QVERIFY(thread->wait());
         QVERIFY2(ids.isEmpty(), "a message was delivered while it was posted");
         expected.append(1000);
-        QTRY_COMPARE(ids, expected);
+        QTRY_COMPARE_WITH_TIMEOUT(ids, expected, kTryFor);
         QVERIFY(isOnGuiThread);
         disconnect(connection);
     }

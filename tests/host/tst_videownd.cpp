@@ -239,14 +239,14 @@ private slots:
         surface.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&surface.window));
         g_fake->push({400, 200});
-        QTRY_VERIFY(surface.draws > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(surface.draws > 0, kTryFor);
         QCoreApplication::processEvents();
         for (int pictures : {1, 1, 5}) {
             const int before = surface.draws;
             while (pictures--)
                 g_fake->push({400, 200});
             QCOMPARE(surface.draws, before);
-            QTRY_COMPARE(surface.draws, before + 1);
+            QTRY_COMPARE_WITH_TIMEOUT(surface.draws, before + 1, kTryFor);
             QCoreApplication::processEvents();
             QCOMPARE(surface.draws, before + 1);
         }
@@ -264,8 +264,8 @@ private slots:
         QCOMPARE(changes.count(), 1);
         surface.window.show();
         surface.window.resize(300, 100);
-        QTRY_COMPARE(surface.window.paneRect(0), QRect(50, 0, 200, 100));
-        QTRY_COMPARE(changes.count(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(surface.window.paneRect(0), QRect(50, 0, 200, 100), kTryFor);
+        QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 2, kTryFor);
         g_fake->push({100, 100});
         QCOMPARE(surface.sizes.last(), QSize(100, 100));
         QCOMPARE(changes.count(), 3);
@@ -370,7 +370,7 @@ private slots:
         g_fake->push({640, 360});
         QVERIFY2(g_fake, "the source was deleted under its own signal");
         QCOMPARE(surface.window.statusText(), idle);
-        QTRY_VERIFY(!g_fake);
+        QTRY_VERIFY_WITH_TIMEOUT(!g_fake, kTryFor);
     }
 
     void followsTheChannelsAddress()
@@ -380,10 +380,13 @@ private slots:
         sources().setAddress(QStringLiteral("another"), QStringLiteral("nowhere.png"));
         const QPointer<FakeSource> first = g_fake;
         sources().setAddress(kChannel, QStringLiteral("nowhere.mp4"));
-        QTRY_VERIFY(surface.window.statusText().contains(QStringLiteral("There is no such file.")));
-        QTRY_VERIFY(!first);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            surface.window.statusText().contains(QStringLiteral("There is no such file.")),
+            kTryFor);
+        QTRY_VERIFY_WITH_TIMEOUT(!first, kTryFor);
         sources().setAddress(kChannel, {});
-        QTRY_COMPARE(surface.sizes.size(), 1); // the sample camera is the default
+        QTRY_COMPARE_WITH_TIMEOUT(surface.sizes.size(), 1,
+                                  kTryFor); // the sample camera is the default
         QCOMPARE(surface.sizes.first(), QSize(1280, 720));
     }
 

@@ -299,14 +299,15 @@ private slots:
     {
         PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
         drawLane(bench, 100);
+        drawLane(bench, 300);
         bench.find("fuc8")->setFocus();
         QStringList order;
-        for (int i = 0; i < 5; ++i) {
+        for (int i = 0; i < 6; ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             const QWidget* focused = QApplication::focusWidget();
             order.append(focused->objectName().isEmpty() ? QString("-") : focused->objectName());
         }
-        QCOMPARE(order.join(' '), QString("- redraw delete fuc2 edit"));
+        QCOMPARE(order.join(' '), QString("- - redraw delete fuc2 edit"));
     }
 
     void longChainsAndLongTexts()

@@ -145,7 +145,7 @@ private slots:
         QCOMPARE(source.pictureSize(), QSize(320, 240));
         QCOMPARE(wrongBars(source.picture(), kColorBars), QString());
         source.setTargetSize({141, 106});
-        QTRY_COMPARE(source.picture().size(), QSize(141, 106));
+        QTRY_COMPARE_WITH_TIMEOUT(source.picture().size(), QSize(141, 106), kTryFor);
         QCOMPARE(wrongBars(source.picture(), kColorBars), QString());
         QCOMPARE(source.fullPicture().size(), QSize(320, 240));
         const PictureStatistics statistics = source.statistics();
@@ -437,7 +437,7 @@ private slots:
             Server camera({"--location", location});
             QVERIFY(camera.isRunning());
             QVERIFY2(!comes(camera.address()), qPrintable(location));
-            QTRY_VERIFY(camera.printed().contains("rtsp://127.0.0.1"));
+            QTRY_VERIFY_WITH_TIMEOUT(camera.printed().contains("rtsp://127.0.0.1"), kTryFor);
         }
         Server camera({"--location", bars.address()});
         QVERIFY(camera.isRunning() && comes(camera.address()));
@@ -445,7 +445,7 @@ private slots:
         Server untunnelled({"--location", bars.address()});
         QVERIFY(untunnelled.isRunning());
         comes(untunnelled.address() + QString("?http"));
-        QTRY_VERIFY(untunnelled.printed().contains(" rtsp://"));
+        QTRY_VERIFY_WITH_TIMEOUT(untunnelled.printed().contains(" rtsp://"), kTryFor);
         QVERIFY2(!untunnelled.printed().contains("HTTP"), untunnelled.printed().constData());
     }
 

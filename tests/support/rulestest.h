@@ -20,6 +20,9 @@ public:
     void expectWarning(const QRegularExpression& pattern);
 
 protected:
+    /// How long conditions are waited for, in milliseconds: on a busy machine, too.
+    static constexpr int kTryFor = 30000;
+
     /// Called once before the first test function.
     virtual void prepare() {}
     /// Called before each test function.

@@ -35,8 +35,9 @@ public:
         const bool isStarted = m_window.start(error);
         if (!isStarted)
             qWarning("%s", qPrintable(error));
-        m_isReady = isStarted && QTest::qWaitForWindowExposed(&m_window) &&
-                    QTest::qWaitFor([this] { return !surface()->paneRect(0).isEmpty(); });
+        m_isReady =
+            isStarted && QTest::qWaitForWindowExposed(&m_window, kPatience) &&
+            QTest::qWaitFor([this] { return !surface()->paneRect(0).isEmpty(); }, kPatience);
     }
 
     bool isReady() const { return m_isReady; }

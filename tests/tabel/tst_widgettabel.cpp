@@ -219,11 +219,11 @@ private slots:
         QVERIFY(!view.verticalScrollBar()->isVisible());
 
         section->items().first()->setFixedHeight(300);
-        QTRY_VERIFY(view.verticalScrollBar()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(view.verticalScrollBar()->isVisible(), kTryFor);
         QCOMPARE(view.content()->size(), QSize(view.viewport()->width(), 320));
         QVERIFY(view.viewport()->width() < 200);
         view.resize(300, 400);
-        QTRY_COMPARE(section->width(), 300);
+        QTRY_COMPARE_WITH_TIMEOUT(section->width(), 300, kTryFor);
         view.clearAll();
         QVERIFY(view.content()->isEmpty());
     }

@@ -143,7 +143,7 @@ private:
         Bench replay(options);
         QVERIFY(replay.isReady());
         QCOMPARE(replay.play(m_path), QString());
-        QTRY_VERIFY(replay.result().isObject());
+        QTRY_VERIFY_WITH_TIMEOUT(replay.result().isObject(), kTryFor);
         QCOMPARE(replay.result().toStyledText(), wanted.toStyledText());
     }
 
@@ -206,7 +206,7 @@ private slots:
         bench.draw({60, 50});
         const QRect picture = bench.surface()->paneRect(0);
         bench.window().resize(Bench::kSize + QSize(40, 30));
-        QTRY_VERIFY(bench.surface()->paneRect(0) != picture);
+        QTRY_VERIFY_WITH_TIMEOUT(bench.surface()->paneRect(0) != picture, kTryFor);
         bench.press(bench.part("rules", "redraw"));
         bench.draw({20, 30});
         bench.draw({60, 30});

@@ -163,7 +163,8 @@ private slots:
         QVERIFY(!ok->isEnabled()); // channel 2 is there already
         table->item(2, 0)->setText({});
         QVERIFY(!ok->isEnabled());
-        QTRY_VERIFY(!shownBy(dialog).contains("s3cr3t")); // the editor has gone
+        QTRY_VERIFY_WITH_TIMEOUT(!shownBy(dialog).contains("s3cr3t"),
+                                 kTryFor); // the editor has gone
         table->item(2, 0)->setText(" 3 ");
         QVERIFY(ok->isEnabled());
         table->setCurrentCell(1, 1);
