@@ -99,7 +99,7 @@ bool DrawItemButton::event(QEvent* event)
 /// The base would take the other buttons of the group out of the tab order.
 void DrawItemButton::focusInEvent(QFocusEvent* event)
 {
-    QWidget::focusInEvent(event);
+    QWidget::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call): skipped on purpose
 }
 
 void DrawItemButton::nextCheckState()
