@@ -160,8 +160,8 @@ bool hasRoom(const Section& section, const Value& skeleton)
     const JsonPath path(section.parent);
     const Value* list = path.probe(skeleton);
     const bool isSingle = list ? list->isObject() : section.name == QLatin1String("global");
-    if (isSingle)
-        return section.data.getDataCount() == 1;
+    if (isSingle && section.data.getDataCount() != 1)
+        return false;
     Value grown = skeleton;
     return list || (!section.parent.isEmpty() && path.create(grown));
 }
