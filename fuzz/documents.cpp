@@ -123,12 +123,12 @@ void requireRoundTrip(const RuleParser& parser, const QString& description, bool
                       const Value& first)
 {
     const auto again = readAgain(description, first);
-    const Value second = written(*again);
     const Value skeleton = skeletonOf(description);
     if (RoundTrip::isOwed(parser, skeleton))
         RoundTrip::requireSame(parser, *again, skeleton);
-    else if (!isDevices)
+    else if (!isDevices) // one scene may read what another one wrote
         return;
+    const Value second = written(*again);
     require(second == first, passes(2, second, first));
     const auto then = readAgain(description, second);
     require(SceneText::of(*then) == SceneText::of(*again),
