@@ -21,8 +21,6 @@ public:
     /// The player, on any thread. The first call loads the library, which takes a moment; it stays
     /// for as long as the process. Null when it cannot be loaded; the next call tries again.
     static StreamPlayer* player();
-    /// As player(), from @p file, an absolute path that may lack prefix and suffix of libraries.
-    static StreamPlayer* load(const QString& file);
     /// Tells the operator that player() is null.
     static QString missingText();
 };

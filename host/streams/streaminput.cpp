@@ -29,6 +29,8 @@ void setStreamOptions(AvOptions& options, const StreamOptions& wanted)
     if (!wanted.udp)
         options.set("rtsp_flags", "prefer_tcp");
     options.set("allowed_media_types", "video");
+    // Each takes ports and a decoder, and a server may name thousands.
+    options.set("max_streams", "16");
     options.set("protocol_whitelist", "rtsp,rtsps,rtp,srtp,tcp,udp,tls");
     options.set("analyzeduration", "2000000");
     options.set("buffer_size", "1048576");

@@ -14,8 +14,11 @@
 #include <QThread>
 #include <QtEndian>
 
+#include <array>
 #include <csignal>
+#include <sys/inotify.h>
 #include <unistd.h>
+#include <vector>
 
 using namespace UICommonMdl;
 using namespace std::chrono_literals;
@@ -88,6 +91,43 @@ QByteArray withWidth(QByteArray avi, qint32 width)
 {
     qToLittleEndian(width, avi.data() + avi.indexOf("strf") + 12);
     return avi;
+}
+
+struct HostileAnswer {
+    const char* path;
+    QByteArray text; ///< behind the first lines of the answer to DESCRIBE
+    const char* reason;
+};
+
+/// Some of them name @p fileAddress or @p http as what to ask for.
+std::vector<HostileAnswer> hostileAnswers(const QByteArray& fileAddress, const QByteArray& http)
+{
+    const QByteArray begin = "v=0\r\no=- 0 0 IN IP4 127.0.0.1\r\ns=x\r\nt=0 0\r\n";
+    const QByteArray part = "m=video 0 RTP/AVP 96\r\na=rtpmap:96 H264/90000\r\n";
+    const QByteArray whole = begin + part;
+    const QByteArray control = whole + "a=control:";
+    const QByteArray longest(1 << 20, 'x');
+    const QByteArray zeros(1 << 20, '\0');
+    const auto port = [&](const char* text) { return QByteArray(whole).replace(" 0 ", text); };
+    const auto body = [](const QByteArray& text, const QByteArray& length = {}) {
+        return "Content-Length: " + (length.isEmpty() ? QByteArray::number(text.size()) : length) +
+               "\r\n\r\n" + text;
+    };
+    return {{"file", body(control + fileAddress + "\r\n"), "no answer"},
+            {"base", "Content-Base: " + fileAddress + "\r\n" + body(whole), "no answer"},
+            {"http", body(control + http + "\r\n"), "no answer"},
+            {"parts", body(begin + part.repeated(5000)), "no answer"},
+            {"lines", body(whole + "a=fmtp:96 " + longest + "\r\na=control:" + longest), "."},
+            {"header", "X: " + longest + "\r\n" + body(whole), "no answer"},
+            {"negativePort", body(port(" -1 ")), "no answer"},
+            {"hugePort", body(port(" 99999999999999999999 ")), "no answer"},
+            {"picture", body(whole + "a=framesize:96 99999-99999\r\n"), "out of range"},
+            {"zeros", body(begin + zeros), "no video in it"},
+            {"zerosInLine", body(control + zeros + "\r\n"), "."},
+            {"nothing", "", "no answer"},
+            {"negativeLength", body(whole, "-5"), "no video that can be read"},
+            {"hugeLength", body(whole, "2000000000"), "."},
+            {"endlessLength", body(whole, "99999999999999999999"), "."}};
 }
 
 } // namespace
@@ -191,19 +231,14 @@ private slots:
         QTest::addColumn<QString>("user");
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("reason");
+        const auto row = [](const char* name, const QStringList& server, const char* user,
+                            const char* path, const char* reason) {
+            QTest::newRow(name) << server << user << path << reason;
+        };
         const QStringList guarded{"--user", "viewer", "--password", "right"};
-        QTest::newRow("path") << QStringList() << ""
-                              << "nothing"
-                              << "no stream of this name";
-        QTest::newRow("no password") << guarded << ""
-                                     << "bars"
-                                     << "not accepted";
-        QTest::newRow("password") << guarded << "viewer:wrong@"
-                                  << "bars"
-                                  << "not accepted";
-        QTest::newRow("silent") << QStringList("--silent") << ""
-                                << "bars"
-                                << "no answer";
+        row("path", {}, "", "nothing", "no stream of this name");
+        row("no password", guarded, "", "bars", "not accepted");
+        row("password", guarded, "viewer:wrong@", "bars", "not accepted");
     }
 
     void tellsWhyNothingComes()
@@ -447,6 +482,42 @@ private slots:
         comes(untunnelled.address() + QString("?http"));
         QTRY_VERIFY_WITH_TIMEOUT(untunnelled.printed().contains(" rtsp://"), kTryFor);
         QVERIFY2(!untunnelled.printed().contains("HTTP"), untunnelled.printed().constData());
+    }
+
+    /// What a camera describes leads to no file, to no other protocol, and to nothing without end.
+    void survivesHostileDescriptions()
+    {
+        const QByteArray video = file("described.avi").toUtf8();
+        QVERIFY(VideoFile{"mjpeg"}.write(file("described.avi")));
+        const int opened = ::inotify_init1(IN_NONBLOCK);
+        QVERIFY(::inotify_add_watch(opened, video.constData(), IN_OPEN) >= 0);
+        Server camera({"--describe", m_folder.path()});
+        QVERIFY(camera.isRunning());
+        const QByteArray http = camera.address().replace("rtsp:", "http:").toUtf8();
+        const auto answers = hostileAnswers("file://" + video, http);
+        std::vector<std::unique_ptr<StreamSource>> sources;
+        for (const auto& [path, text, reason] : answers) {
+            file(path, text);
+            StreamRequest asked = request(camera.address({}, path));
+            asked.silenceLimit = 2s;
+            sources.push_back(std::make_unique<StreamSource>(asked));
+            sources.back()->start();
+        }
+        for (std::size_t i = 0; i < sources.size(); ++i) {
+            QTRY_VERIFY2_WITH_TIMEOUT(sources[i]->status().reason.contains(answers[i].reason),
+                                      answers[i].path, kPatience);
+            QCOMPARE(sources[i]->status().state, PictureState::NoSignal);
+            QVERIFY2(sources[i]->picture().isNull(), answers[i].path);
+        }
+        for (const QByteArray& elsewhere : {"SETUP file://" + video, "SETUP " + http})
+            QTRY_VERIFY_WITH_TIMEOUT(camera.printed().contains(elsewhere), kPatience);
+        const QByteArray asked = camera.printed();
+        QVERIFY(!asked.contains("GET ") && !asked.contains("HTTP/"));
+        const QByteArray parts = camera.address({}, "parts").toUtf8();
+        QVERIFY(asked.count("SETUP " + parts) <= 16 * asked.count("DESCRIBE " + parts));
+        std::array<char, 1024> event{};
+        QVERIFY2(::read(opened, event.data(), event.size()) < 0, "the file was opened");
+        ::close(opened);
     }
 
     void playsEncryptedStreams()

@@ -1,5 +1,6 @@
 // An RTSP server on the loopback address that serves colour bars at /bars until it is killed.
-// It prints the port that it listens on. Or it sends every client to another address.
+// It prints the port that it listens on. Or it plays a camera that means harm, by sending every
+// client to another address or by describing its streams as files say, and prints what it is asked.
 
 #include <gst/gst.h>
 #include <gst/rtsp-server/rtsp-server.h>
@@ -21,6 +22,7 @@ struct Settings {
     gboolean udpOnly = FALSE;
     gboolean silent = FALSE;
     gchar* location = nullptr;
+    gchar* describe = nullptr;
     gchar* certificate = nullptr;
 };
 
@@ -36,6 +38,8 @@ bool readSettings(int argc, char** argv, Settings& settings)
         {"udp-only", 0, 0, G_OPTION_ARG_NONE, &settings.udpOnly, "Refuse TCP", nullptr},
         {"silent", 0, 0, G_OPTION_ARG_NONE, &settings.silent, "Take connections, no more", nullptr},
         {"location", 0, 0, G_OPTION_ARG_STRING, &settings.location, "Send all there", "URL"},
+        {"describe", 0, 0, G_OPTION_ARG_STRING, &settings.describe,
+         "Answer DESCRIBE with the file there that the address names", "FOLDER"},
         {"certificate", 0, 0, G_OPTION_ARG_STRING, &settings.certificate, "Speak TLS", "FILE"},
         {nullptr, 0, 0, G_OPTION_ARG_NONE, nullptr, nullptr, nullptr}};
     GOptionContext* const context = g_option_context_new(nullptr);
@@ -139,51 +143,79 @@ int listenOnly()
     return g_inet_socket_address_get_port(G_INET_SOCKET_ADDRESS(bound));
 }
 
-/// Answers every request of a connection by sending the client elsewhere, and prints its first
-/// line.
-gboolean redirect(GThreadedSocketService*, GSocketConnection* connection, GObject*, gpointer user)
+/// Behind a SETUP that asks for TCP.
+constexpr char kSession[] = "Session: 1\r\nTransport: RTP/AVP/TCP;unicast;interleaved=0-1\r\n\r\n";
+
+std::string contentOf(const std::string& file)
 {
-    const auto* const location = static_cast<const gchar*>(user);
+    gchar* content = nullptr;
+    gsize size = 0;
+    g_file_get_contents(file.c_str(), &content, &size, nullptr);
+    const std::string result(content ? content : "", size);
+    g_free(content);
+    return result;
+}
+
+/// The answer to a request's first line; @p sequence is its line of that name.
+std::string answer(const Settings& settings, const std::string& request,
+                   const std::string& sequence)
+{
+    if (settings.location)
+        return "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + settings.location +
+               "\r\n\r\n";
+    const std::string ok = "RTSP/1.0 200 OK\r\n" + sequence + "\r\n";
+    if (request.rfind("DESCRIBE ", 0) != 0)
+        return ok + kSession;
+    const std::string address = request.substr(0, request.rfind(' '));
+    return ok + contentOf(settings.describe + address.substr(address.rfind('/')));
+}
+
+/// Answers every request of a connection, and prints its first line.
+gboolean misbehave(GThreadedSocketService*, GSocketConnection* connection, GObject*, gpointer user)
+{
+    const auto& settings = *static_cast<const Settings*>(user);
     GDataInputStream* const input =
         g_data_input_stream_new(g_io_stream_get_input_stream(G_IO_STREAM(connection)));
     GOutputStream* const output = g_io_stream_get_output_stream(G_IO_STREAM(connection));
+    std::string request;
     std::string sequence;
-    bool isFirst = true;
     while (gchar* const read = g_data_input_stream_read_line(input, nullptr, nullptr, nullptr)) {
         const std::string line = g_strchomp(read);
         g_free(read);
-        if (isFirst)
+        if (request.empty()) {
+            request = line;
             std::printf("%s\n", line.c_str());
+        }
         if (line.rfind("CSeq:", 0) == 0)
             sequence = line;
-        isFirst = line.empty();
-        if (!isFirst)
+        if (!line.empty())
             continue;
         std::fflush(stdout);
-        const std::string answer =
-            "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + location + "\r\n\r\n";
-        g_output_stream_write_all(output, answer.data(), answer.size(), nullptr, nullptr, nullptr);
+        const std::string text = answer(settings, request, sequence);
+        g_output_stream_write_all(output, text.data(), text.size(), nullptr, nullptr, nullptr);
+        request.clear();
     }
     g_object_unref(input);
     return TRUE;
 }
 
-int redirectAll(const Settings& settings)
+int misbehaveAlways(Settings& settings)
 {
-    GSocketService* const service = g_threaded_socket_service_new(1);
+    constexpr int kConnections = 32;
+    GSocketService* const service = g_threaded_socket_service_new(kConnections);
     GSocketAddress* const any = g_inet_socket_address_new_from_string("127.0.0.1", 0);
     GSocketAddress* bound = nullptr;
     if (!g_socket_listener_add_address(G_SOCKET_LISTENER(service), any, G_SOCKET_TYPE_STREAM,
                                        G_SOCKET_PROTOCOL_TCP, nullptr, &bound, nullptr))
         return 0;
-    g_signal_connect(service, "run", G_CALLBACK(redirect), settings.location);
+    g_signal_connect(service, "run", G_CALLBACK(misbehave), &settings);
     return g_inet_socket_address_get_port(G_INET_SOCKET_ADDRESS(bound));
 }
 
-int portOf(const Settings& settings)
+int portOf(Settings& settings)
 {
-    if (settings.location)
-        return redirectAll(settings);
+    if (settings.location || settings.describe)
+        return misbehaveAlways(settings);
     return settings.silent ? listenOnly() : serve(settings);
 }
 
