@@ -97,8 +97,10 @@ private:
 };
 
 Autosave::Autosave(WorkbenchWindow& window, const QString& folder)
-    : m_window(window), m_file(folder), m_left(AutosaveFile::leftBehind(folder))
+    : m_window(window), m_file(folder)
 {
+    AutosaveFile::sweep(folder);
+    m_left = AutosaveFile::leftBehind(folder);
     m_timer.setSingleShot(true);
     m_timer.setInterval(kDelay);
     connect(&m_timer, &QTimer::timeout, this, &Autosave::write);

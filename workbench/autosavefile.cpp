@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -10,6 +11,9 @@ namespace
 {
 
 const auto kSuffix = QStringLiteral(".jsonl");
+const auto kLockSuffix = QStringLiteral(".lock");
+/// Another run that sweeps holds a lock for a moment only.
+constexpr int kLockPatience = 500; // milliseconds
 constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
 QString ownPath(const QString& folder)
@@ -24,8 +28,7 @@ QString ownPath(const QString& folder)
 
 AutosaveFile::AutosaveFile(const QString& folder) : AutosaveFile(ownPath(folder), Existing()) {}
 
-AutosaveFile::AutosaveFile(const QString& path, Existing)
-    : m_path(path), m_lock(path + QStringLiteral(".lock"))
+AutosaveFile::AutosaveFile(const QString& path, Existing) : m_path(path), m_lock(path + kLockSuffix)
 {
     // However old it is, it holds for as long as its process lives.
     m_lock.setStaleLockTime(0);
@@ -49,6 +52,22 @@ std::unique_ptr<AutosaveFile> AutosaveFile::leftBehind(const QString& folder)
     return nullptr;
 }
 
+void AutosaveFile::sweep(const QString& folder)
+{
+    // A file that is being written has six letters and digits behind its later name.
+    static const QRegularExpression ours(
+        QStringLiteral("^(\\d+-\\d+\\.jsonl)(\\.lock|\\.[A-Za-z0-9]{6})$"));
+    for (const QFileInfo& entry : QDir(folder).entryInfoList(QDir::Files | QDir::NoSymLinks)) {
+        const auto match = ours.match(entry.fileName());
+        if (!match.hasMatch())
+            continue;
+        AutosaveFile file(QDir(folder).filePath(match.captured(1)), Existing());
+        // A lock that can be taken was a dead run's; it goes when this one lets go of it.
+        if (file.m_lock.tryLock(0) && match.captured(2) != kLockSuffix)
+            QFile::remove(entry.filePath());
+    }
+}
+
 QDateTime AutosaveFile::written() const
 {
     return QFileInfo(m_path).lastModified();
@@ -56,7 +75,8 @@ QDateTime AutosaveFile::written() const
 
 bool AutosaveFile::write(const QByteArray& content)
 {
-    if (!QDir().mkpath(QFileInfo(m_path).path()) || !(m_lock.isLocked() || m_lock.tryLock(0)))
+    if (!QDir().mkpath(QFileInfo(m_path).path()) ||
+        !(m_lock.isLocked() || m_lock.tryLock(kLockPatience)))
         return false;
     QSaveFile file(m_path);
     return file.open(QIODevice::WriteOnly) && file.setPermissions(kOwnerOnly) &&

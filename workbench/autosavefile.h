@@ -20,6 +20,9 @@ public:
     /// The newest file of a run that ended without removing it, locked for this run; null when
     /// there is none.
     static std::unique_ptr<AutosaveFile> leftBehind(const QString& folder);
+    /// Removes what runs that were killed left in @p folder besides their work: locks, and files
+    /// that were still being written.
+    static void sweep(const QString& folder);
 
     const QString& path() const { return m_path; }
     QDateTime written() const;

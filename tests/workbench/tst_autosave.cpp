@@ -6,6 +6,7 @@
 #include "workbench/restorebar.h"
 
 #include <QLabel>
+#include <QLockFile>
 #include <QProcess>
 
 #include <memory>
@@ -143,10 +144,10 @@ class TstAutosave : public RulesTest
         options.resultFile = resultFile();
         return options;
     }
-    void leaveBehind(const QByteArray& content)
+    void leaveBehind(const QByteArray& content, const QByteArray& name = "1-1.jsonl")
     {
         QVERIFY(QDir().mkpath(folder()));
-        WorkbenchFiles::write(*m_home, "autosave/1-1.jsonl", content);
+        WorkbenchFiles::write(*m_home, ("autosave/" + name).constData(), content);
     }
 
     std::unique_ptr<QTemporaryDir> m_home;
@@ -265,6 +266,28 @@ private slots:
                 QVERIFY(bench.offered().contains("are not what they were"));
             QTRY_COMPARE_WITH_TIMEOUT(contentOf(folder()), damaged, kTryFor);
         }
+    }
+
+    void sweepsUpAfterTheDeadOnly()
+    {
+        leaveBehind("half", "2-2.jsonl.aB3xYz");
+        QLockFile alive(folder() + "/2-2.jsonl.lock");
+        QVERIFY(alive.tryLock());
+        const QByteArray lock = ExampleFiles::contentOf(folder() + "/2-2.jsonl.lock");
+        const QByteArray dead = "2147483647" + lock.mid(lock.indexOf('\n'));
+        leaveBehind(dead, "1-1.jsonl.lock");
+        leaveBehind("half", "1-1.jsonl.aB3xYz");
+        leaveBehind(dead, "3-3.jsonl.lock");
+        leaveBehind("half", "3-3.jsonl.aB3xYz");
+        leaveBehind(kWork, "3-3.jsonl");
+        leaveBehind(dead, "4-4.jsonl.lock");
+        for (const char* other : {"1-1.jsonl.backups", "notes-1.jsonl.backup", "notes.lock"})
+            leaveBehind("mine", other);
+        Bench bench(folder());
+        QVERIFY(bench.bar());
+        QCOMPARE(namesIn(folder()), QStringList({"1-1.jsonl.backups", "2-2.jsonl.aB3xYz",
+                                                 "2-2.jsonl.lock", "3-3.jsonl", "3-3.jsonl.lock",
+                                                 "notes-1.jsonl.backup", "notes.lock"}));
     }
 
     void replaysNeitherReadNorWriteIt()
