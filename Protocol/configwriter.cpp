@@ -2,11 +2,13 @@
 
 #include "Protocol/calibrateareadata.h"
 #include "Protocol/calibrateareawriter.h"
+#include "Protocol/datatemplate.h"
 #include "Protocol/detectionwriter.h"
 #include "Protocol/fightcalibratedata.h"
 #include "Protocol/fightcalibratewriter.h"
 #include "Protocol/lanesdata.h"
 #include "Protocol/laneswriter.h"
+#include "Protocol/missingplace.h"
 #include "Protocol/ruleswriter.h"
 #include "Protocol/writecontext.h"
 
@@ -19,7 +21,8 @@ constexpr SceneType kOrder[] = {
     SceneType::Rules,  SceneType::Lanes,         SceneType::Detection,
 };
 
-bool writeScene(const RuleData& data, const WriteContext& context, kql::Json::Value& document)
+bool writeScene(const RuleData& data, const WriteContext& context, kql::Json::Value& document,
+                MissingPlace& missing)
 {
     switch (data.getSceneType()) {
     case SceneType::CalibrateArea:
@@ -29,7 +32,8 @@ bool writeScene(const RuleData& data, const WriteContext& context, kql::Json::Va
         return FightCalibrateWriter::writeFightCalibrate(
             static_cast<const FightCalibrateData&>(data), document);
     case SceneType::Lanes:
-        return LanesWriter::writeLanes(static_cast<const LanesData&>(data), context, document);
+        return LanesWriter::writeLanes(static_cast<const LanesData&>(data), context, document,
+                                       missing);
     case SceneType::Rules:
         return RulesWriter::writeRule(data, context, document);
     case SceneType::Global:
@@ -56,14 +60,18 @@ void ConfigWriter::setAlgorithmInfo(int id, const QString& name)
     m_algorithmName = name;
 }
 
-const RuleData* ConfigWriter::write(kql::Json::Value& config) const
+std::optional<MissingPlace> ConfigWriter::write(kql::Json::Value& config) const
 {
     const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
     for (const SceneType type : kOrder) {
         for (const auto& scene : m_scenes) {
-            if (scene->getSceneType() == type && !writeScene(*scene, context, config))
-                return scene.get();
+            if (scene->getSceneType() != type)
+                continue;
+            const DataTemplate& section = *scene->getTemplate();
+            MissingPlace missing{section.parent(), section.name()};
+            if (!writeScene(*scene, context, config, missing))
+                return missing;
         }
     }
-    return nullptr;
+    return std::nullopt;
 }

@@ -2,9 +2,11 @@
 
 #include <QString>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class RuleData;
+struct MissingPlace;
 namespace kql
 {
 namespace Json
@@ -28,9 +30,9 @@ public:
     /// Each rule's "Config"."Type" becomes @p name when @p id is 1.
     void setAlgorithmInfo(int id, const QString& name);
 
-    /// Writes every scene into @p config, which holds the skeleton. Stops at the first scene for
-    /// whose entries it has no place, and returns it; null when all are written.
-    const RuleData* write(kql::Json::Value& config) const;
+    /// Writes every scene into @p config, which holds the skeleton. Stops at the first entries that
+    /// it has no place for, and returns where that would be; nothing when all are written.
+    std::optional<MissingPlace> write(kql::Json::Value& config) const;
 
 private:
     const std::vector<std::unique_ptr<RuleData>>& m_scenes;

@@ -7,6 +7,7 @@
 #include "Protocol/lanerules.h"
 #include "Protocol/lanesdata.h"
 #include "Protocol/lanestemplate.h"
+#include "Protocol/missingplace.h"
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleswriter.h"
@@ -84,8 +85,13 @@ bool writeRules(const LanesData& data, const WriteContext& context, Value& docum
 
 } // namespace
 
-bool LanesWriter::writeLanes(const LanesData& data, const WriteContext& context, Value& document)
+bool LanesWriter::writeLanes(const LanesData& data, const WriteContext& context, Value& document,
+                             MissingPlace& missing)
 {
-    return writeLaneList(data, document) &&
-           (!data.lanesTemplate()->hasRuleItems() || writeRules(data, context, document));
+    if (!writeLaneList(data, document))
+        return false;
+    if (!data.lanesTemplate()->hasRuleItems())
+        return true;
+    missing = {data.lanesTemplate()->rulesParent(), ConfigMember::kRuleSection};
+    return writeRules(data, context, document);
 }

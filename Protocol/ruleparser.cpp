@@ -3,6 +3,8 @@
 #include "Protocol/configreader.h"
 #include "Protocol/configwriter.h"
 #include "Protocol/datatemplate.h"
+#include "Protocol/entrylimit.h"
+#include "Protocol/missingplace.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/templatereader.h"
 #include "host/reader.h"
@@ -68,7 +70,7 @@ Type lookUp(const Spelling<Type> (&spellings)[Size], const QString& text)
 
 int RuleParser::g_nId = 0;
 
-RuleParser::RuleParser() = default;
+RuleParser::RuleParser() : m_mostEntries(std::numeric_limits<int>::max()) {}
 RuleParser::~RuleParser() = default;
 
 int RuleParser::createId()
@@ -108,7 +110,7 @@ void RuleParser::setAlgorithmInfo(int id, const QString& name)
     m_algorithmName = name;
 }
 
-bool RuleParser::parseTemplate(const QString& text)
+bool RuleParser::parseTemplate(const QString& text, QString& why)
 {
     m_data.clear();
     m_templateDocument = Value();
@@ -116,9 +118,23 @@ bool RuleParser::parseTemplate(const QString& text)
     Value document;
     if (!Reader().parse(text, document) || !document.isMember("configDescription"))
         return false;
+    TemplateReader reader(document);
+    auto scenes = reader.read();
+    if (reader.isTooLarge()) {
+        why = tr("The template has more than %1 attributes or %2 choices in one section.")
+                  .arg(EntryLimit::kMostAttributes)
+                  .arg(EntryLimit::kMostChoices);
+        return false;
+    }
     m_templateDocument = std::move(document);
-    m_data = TemplateReader(m_templateDocument).read();
+    m_data = std::move(scenes);
     return true;
+}
+
+bool RuleParser::parseTemplate(const QString& text)
+{
+    QString why;
+    return parseTemplate(text, why);
 }
 
 bool RuleParser::checkTemplate() const
@@ -126,14 +142,44 @@ bool RuleParser::checkTemplate() const
     return true;
 }
 
-bool RuleParser::readData(const QString& text)
+bool RuleParser::readData(const QString& text, QString& why)
 {
     Value document;
     if (!Reader().parse(text, document))
         return false;
+    const auto isRoomFor = [&](const auto& countOf) {
+        return std::all_of(m_data.begin(), m_data.end(), [&](const auto& scene) {
+            return hasRoomFor(*scene, countOf(*scene), why);
+        });
+    };
+    if (!isRoomFor(
+            [&](const RuleData& scene) { return EntryLimit::countEntries(scene, document); }))
+        return false;
+    ConfigReader(m_data).read(document);
+    if (!isRoomFor(&EntryLimit::countInnerFigures)) {
+        m_data = TemplateReader(m_templateDocument).read();
+        return false;
+    }
     m_configuration = std::move(document);
-    ConfigReader(m_data).read(m_configuration);
     return true;
+}
+
+bool RuleParser::hasRoomFor(const RuleData& scene, int count, QString& why) const
+{
+    const int most = std::min(m_mostEntries,
+                              EntryLimit::mostEntries(scene, m_templateDocument["configTemplate"]));
+    if (count <= most)
+        return true;
+    const DataTemplate& dataTemplate = *scene.getTemplate();
+    why = tr("The configuration has %1 entries under \"%2\"; at most %3 can be edited.")
+              .arg(QString::number(count), dataTemplate.parent(), QString::number(most));
+    return false;
+}
+
+bool RuleParser::readData(const QString& text)
+{
+    QString why;
+    return readData(text, why);
 }
 
 bool RuleParser::writeData(Value& config, QString& why) const
@@ -147,10 +193,9 @@ bool RuleParser::writeData(Value& config, QString& why) const
     Value written = *skeleton;
     ConfigWriter writer(m_data, m_configuration);
     writer.setAlgorithmInfo(m_algorithmId, m_algorithmName);
-    if (const RuleData* scene = writer.write(written)) {
-        const DataTemplate& dataTemplate = *scene->getTemplate();
+    if (const auto missing = writer.write(written)) {
         why = tr("The template has no place \"%1\" for what is set under \"%2\".")
-                  .arg(dataTemplate.parent(), dataTemplate.name());
+                  .arg(missing->parent, missing->section);
         return false;
     }
     config = std::move(written);
@@ -170,7 +215,7 @@ bool RuleParser::writeData(QString& text) const
     if (!writeData(config))
         return false;
     text = config.toStyledText();
-    return true;
+    return !text.isEmpty();
 }
 
 RuleData* RuleParser::getData(SceneType type) const

@@ -37,12 +37,20 @@ public:
     /// Algorithm that the rules are for; written into each rule when @p id is 1.
     void setAlgorithmInfo(int id, const QString& name);
 
-    /// Builds the scenes; false when the text is not JSON or has no "configDescription".
+    /// Most entries that a scene may have in a configuration to be read; without it as many as take
+    /// up a bearable amount of memory.
+    void setMostEntries(int count) { m_mostEntries = count; }
+
+    /// Builds the scenes; false when the text is not JSON or has no "configDescription", or when it
+    /// describes too much. @p why then says so in a sentence, and is left alone in the other cases.
+    bool parseTemplate(const QString& text, QString& why);
     bool parseTemplate(const QString& text);
     /// Always true: kept for hosts that ask before reading.
     bool checkTemplate() const;
-    /// Fills the scenes from a configuration; false, with nothing touched, when the text is not
-    /// JSON.
+    /// Fills the scenes from a configuration; false when the text is not JSON, with nothing
+    /// touched, or when there is too much in it, with no entries. @p why then says so in a
+    /// sentence.
+    bool readData(const QString& text, QString& why);
     bool readData(const QString& text);
     /// The configuration with the edited data; false when the template carries no
     /// "configTemplate" to write into, or that has no place for the entries of a scene. @p why
@@ -58,9 +66,12 @@ public:
 private:
     static int g_nId; ///< last id given out
 
+    bool hasRoomFor(const RuleData& scene, int count, QString& why) const;
+
     kql::Json::Value m_templateDocument;
     kql::Json::Value m_configuration; ///< as read: what no template names is kept from here
     int m_algorithmId = 0;
     QString m_algorithmName;
+    int m_mostEntries;
     std::vector<std::unique_ptr<RuleData>> m_data;
 };

@@ -3,6 +3,7 @@
 #include "Protocol/calibrateareadata.h"
 #include "Protocol/calibrateareatemplate.h"
 #include "Protocol/configmember.h"
+#include "Protocol/entrylimit.h"
 #include "Protocol/fightcalibratedata.h"
 #include "Protocol/fightcalibratetemplate.h"
 #include "Protocol/lanesdata.h"
@@ -154,19 +155,25 @@ void TemplateReader::addScene(SceneType type, const QString& name, const Value& 
 }
 
 DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
-                                                           const QString& sectionName) const
+                                                           const QString& sectionName)
 {
     DataTemplate::Items items;
     const Value& controls = section["controls"];
     if (!section.isMember("parent") || !controls.isArray())
         return items;
-    for (int i = 0; i < controls.size(); ++i) {
+    int room = controls.size() <= EntryLimit::kMostAttributes ? EntryLimit::kMostChoices : -1;
+    for (int i = 0; i < controls.size() && room >= 0; ++i) {
         auto item = TemplateItemReader::parseControl(controls, i);
         item->setParent(section["parent"].asString());
         item->setTemplateName(sectionName);
-        if (const Value* const details = m_configItems.find(item->key().toStdString()))
-            TemplateItemReader::parseRuleProtocolItem(*item, *details);
+        if (const Value* const details = m_configItems.find(item->key().toStdString())) {
+            // Many items may share one long list, so it is counted before it is read.
+            room -= (*details)["enumeration"].size();
+            if (room >= 0)
+                TemplateItemReader::parseRuleProtocolItem(*item, *details);
+        }
         items.push_back(std::move(item));
     }
+    m_isTooLarge = m_isTooLarge || room < 0;
     return items;
 }

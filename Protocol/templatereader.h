@@ -32,6 +32,9 @@ public:
     /// One RuleData a scene: calibrate area, fight calibrate, lanes, rules, global, detection,
     /// each if present.
     Scenes read();
+    /// Whether a section had more attributes or choices than EntryLimit allows; what was read is of
+    /// no use then.
+    bool isTooLarge() const { return m_isTooLarge; }
 
 private:
     void readCalibrateArea(const kql::Json::Value& section);
@@ -43,10 +46,11 @@ private:
                   DataTemplate::Items items, const QList<CheckRule>& checks);
 
     DataTemplate::Items parseRuleProtocolItems(const kql::Json::Value& section,
-                                               const QString& sectionName) const;
+                                               const QString& sectionName);
 
     const kql::Json::Value& m_configItems;
     const kql::Json::Value& m_description;
     Scenes m_scenes;
     LanesTemplate* m_lanes = nullptr; ///< not owned; null without a lanes scene
+    bool m_isTooLarge = false;
 };

@@ -159,7 +159,9 @@ bool hasRoom(const Section& section, const Value& skeleton)
 {
     const JsonPath path(section.parent);
     const Value* list = path.probe(skeleton);
-    const bool isSingle = list ? list->isObject() : section.name == QLatin1String("global");
+    const bool isList = list && list->isArray();
+    const bool isGlobal = section.name == QLatin1String("global");
+    const bool isSingle = !isList && (isGlobal || (list && list->isObject()));
     if (isSingle && section.data.getDataCount() != 1)
         return false;
     Value grown = skeleton;

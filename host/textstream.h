@@ -10,7 +10,11 @@ namespace kql
 namespace Json
 {
 
-/// A text that a JSON writer writes, UTF-16, without another copy of it.
+/**
+ * A text that a JSON writer writes, UTF-16, without another copy of it. It is indented by 32 levels
+ * at most, and given up when it becomes longer than 256 million characters: short documents can be
+ * nested so that their styled text has hundreds of times their length.
+ */
 class TextStream
 {
 public:
@@ -26,24 +30,32 @@ public:
     }
     /// Adds a character for which there is room.
     void put(Ch c) { *m_next++ = c; }
-    void put(Ch c, std::size_t count)
+    void indent(Ch c, std::size_t count)
     {
+        count = std::min(count, kDeepest);
         reserve(count);
         m_next = std::fill_n(m_next, count, c);
     }
-    /// All that was written. The stream is not used any more then.
+    /// All that was written, null if that was too long. The stream is not used any more then.
     QString take();
 
     // What the writer asks of a stream besides.
-    void Put(Ch c) { put(c, 1); }
+    void Put(Ch c)
+    {
+        reserve(1);
+        put(c);
+    }
     void Flush() {}
 
 private:
+    static constexpr std::size_t kDeepest = std::size_t(4) * 32;
+
     void grow(std::size_t count);
 
     QString m_text; ///< as long as there is room
     Ch* m_next = nullptr;
     Ch* m_end = nullptr;
+    bool m_isTooLong = false;
 };
 
 // The writer's own versions of these know no room.
@@ -60,7 +72,7 @@ inline void PutUnsafe(TextStream& stream, TextStream::Ch c)
 
 inline void PutN(TextStream& stream, TextStream::Ch c, std::size_t count)
 {
-    stream.put(c, count);
+    stream.indent(c, count);
 }
 
 } // namespace Json

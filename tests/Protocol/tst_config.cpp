@@ -337,6 +337,15 @@ private slots:
         const Load bare(R"({"configDescription": {"calibrateArea": {"parent": "C"}}})", "{}");
         QVERIFY(bare.isRead);
         QCOMPARE(bare.written(), QStringLiteral("not written"));
+        const auto whyNot = [](const char* parent, const char* instead) {
+            const Load lanes(laneRules(kLaneSkeleton).replace(parent, instead), "{}");
+            lanes.addEntry().setValue("N", 1);
+            Value config;
+            QString why;
+            return lanes.parser.writeData(config, why) ? QString() : why.section('"', 1);
+        };
+        QCOMPARE(whyNot("L[]", ""), QString(R"(" for what is set under "lanes".)"));
+        QCOMPARE(whyNot("R[]", "L.R[]"), QString(R"(L.R[]" for what is set under "rules".)"));
     }
 
     void examplesAndTheirMutations_data()

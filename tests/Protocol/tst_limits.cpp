@@ -14,6 +14,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
 
 using kql::Json::Value;
 
@@ -83,7 +84,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("description");
         QTest::addColumn<QByteArray>("config");
-        for (const auto& pair : AbsurdDocuments::crowded(10000))
+        for (const auto& pair : AbsurdDocuments::crowded(1000))
             QTest::newRow(pair.name.constData()) << pair.description << pair.config;
     }
 
@@ -102,6 +103,59 @@ private slots:
         QVERIFY(kql::Json::Reader().parse(QString::fromUtf8(config), asRead));
         QCOMPARE(written() == asRead, !isPath);
         QCOMPARE(written()["R"].size(), asRead["R"].size());
+    }
+
+    void tooMuch_data()
+    {
+        QTest::addColumn<QByteArray>("description");
+        QTest::addColumn<QByteArray>("config");
+        QTest::addColumn<QString>("why");
+        const auto row = [](const char* name, const QByteArray& description,
+                            const QByteArray& config, const char* why) {
+            QTest::newRow(name) << description << config << QString(why);
+        };
+        const auto parts =
+            "The template has more than 1000 attributes or 5000 choices in one section.";
+        const auto many = AbsurdDocuments::crowded(1000);
+        row("attributes", AbsurdDocuments::crowded(1001)[0].description, "{}", parts);
+        row("choices", AbsurdDocuments::crowded(5001)[1].description, "{}", parts);
+        const QByteArray shared = R"({"key": "n", "protocol": {"name": "N", "type": "string"}})";
+        row("choices in many attributes",
+            QByteArray(many[1].description)
+                .replace(shared, shared + QByteArray(", " + shared).repeated(5)),
+            "{}", parts);
+        const QByteArray empty = R"({"R": [)" + AbsurdDocuments::list(9000, "{}") + "]}";
+        const auto entries = "The configuration has 9000 entries under \"R[]\"; at most %1 can be "
+                             "edited.";
+        row("attributes in entries", many[0].description, empty, entries);
+        row("checks in entries", many[2].description, empty, entries);
+        row("a prototype in entries",
+            areas().replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'), empty,
+            entries);
+        row("entries", areas(), R"({"R": [)" + AbsurdDocuments::list(8001, "{}") + "]}",
+            "The configuration has 8001 entries under \"R[]\"; at most 8000 can be edited.");
+        row("figures in an entry",
+            R"({"configDescription": {"fightCalibrate": {"parent": "R"}}, "configTemplate": {}})",
+            R"({"R": {"CalibrateArea": {"Area": [[1, 1], [9, 1], [9, 9]], "Rects": [)" +
+                AbsurdDocuments::list(8000, "[[1, 1], [5, 5]]") + "]}}}",
+            "The configuration has 8001 entries under \"R\"; at most 8000 can be edited.");
+    }
+
+    /// Short documents that ask for very much together are refused before it is made.
+    void tooMuch()
+    {
+        QFETCH(QByteArray, description);
+        QFETCH(QByteArray, config);
+        QFETCH(QString, why);
+        QString said;
+        m_parser.setMostEntries(8000);
+        const bool isRead = m_parser.parseTemplate(QString::fromUtf8(description), said) &&
+                            m_parser.readData(QString::fromUtf8(config), said);
+        QVERIFY(!isRead);
+        const auto most = QRegularExpression("most ([0-9]{2,4}) can").match(said).captured(1);
+        QCOMPARE(said, why.contains("%1") ? why.arg(most) : why);
+        for (const auto& refused : m_parser.getAllData())
+            QVERIFY(refused->getDataCount() == 0 && !refused->getDrawScene()->getFirstDrawItem());
     }
 
     void counts_data()

@@ -140,6 +140,9 @@ private slots:
             ++depth;
         QCOMPARE(depth, 512);
         QVERIFY(parsed(QByteArray::fromStdString(deep.toStyledString())) == deep);
+        const Value list = parsed(nested(500).insert(500, QByteArray("1,").repeated(1000) + '1'));
+        const QString text = list.toStyledText();
+        QVERIFY(text.size() < 300000 && parsed(text.toUtf8()) == list);
     }
 
     void writesMakeTheirKind()
