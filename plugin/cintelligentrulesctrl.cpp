@@ -15,6 +15,8 @@
 #include "plugin/rulesparameters.h"
 #include "scene/basetabelscene.h"
 #include "scene/scenefactory.h"
+#include "tabel/focus.h"
+#include "tabel/widgettabel.h"
 #include "ui_IntelligentRulesCtrl.h"
 
 #include <QMouseEvent>
@@ -24,6 +26,7 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <utility>
 
 namespace IntelligentRulesUI
 {
@@ -34,12 +37,17 @@ namespace
 // A styled document this short is an empty object: nothing is running that a save could affect.
 constexpr int kEmptyConfigLength = 10;
 constexpr int kQuestionType = 1;
+// In characters: dozens of times what a channel's documents have together.
+constexpr int kLongestBlock = 16 << 20;
+// Each has a button, which takes some 15 kB.
+constexpr int kMostEntries = 10'000;
 // Some lines of the narrow column; names from documents can be of any length.
 constexpr int kLongestHint = 300;
 
 } // namespace
 
-/// Tells, after a message box was open, whether window and load are still the ones it was about.
+/// Tells, after the host could act in between, whether window and load are still the same: it does
+/// as it likes while a message box is open, and where it hears of the focus or the picture.
 class CIntelligentRulesCtrl::LoadGuard
 {
 public:
@@ -70,7 +78,8 @@ CIntelligentRulesCtrl::~CIntelligentRulesCtrl()
         m_playerWin->registerDrawCallback(nullptr, nullptr);
         m_playerWin->registerVideoSizeCallback(nullptr, nullptr);
     }
-    clearData();
+    Focus::takeFrom(*this);
+    unload();
 }
 
 void CIntelligentRulesCtrl::applySkin()
@@ -140,13 +149,15 @@ void CIntelligentRulesCtrl::sltNotifyVideoSize(int nWidth, int nHeight)
 
 void CIntelligentRulesCtrl::setData(const QString& json, int session)
 {
-    finishEdits();
-    clearData();
+    if (!leaveFocus())
+        return;
+    unload();
     resetToDefaults();
+    if (json.size() > kLongestBlock)
+        return showHint(tr("The documents are too long."));
     const std::optional<RulesParameters> parameters = RulesParameters::parse(json, session);
     if (!parameters)
         return;
-    // The host hears of focus and picture meanwhile, and may load anew or delete the window.
     const LoadGuard guard(this);
     showParameters(*parameters);
     initScenes(parameters->templateText, parameters->configText, parameters->selectionMode);
@@ -190,21 +201,41 @@ void CIntelligentRulesCtrl::initScenes(const QString& templateText, const QStrin
                                        bool selectionMode)
 {
     m_skipModifyPrompt = configText.length() < kEmptyConfigLength;
-    m_parser = std::make_unique<RuleParser>();
-    m_parser->setAlgorithmInfo(m_algorithmType, m_algorithmCode);
-    if (m_parser->parseTemplate(templateText))
-        m_parser->readData(configText);
-    for (const auto& sceneData : m_parser->getAllData())
-        addPanel(*sceneData, selectionMode);
+    if (!readDocuments(templateText, configText))
+        return;
+    m_form->sceneView->changeHidden([this, selectionMode] {
+        for (const auto& sceneData : m_parser->getAllData())
+            addPanel(*sceneData, selectionMode);
+    });
     if (m_scenes.isEmpty())
         return;
+    const LoadGuard guard(this);
     selectScene(m_scenes.first());
-    m_scenes.first()->setFocus();
+    if (guard.holds())
+        m_scenes.first()->setFocus();
+}
+
+/// What cannot be shown whole is not read at all: saved from here, the rest would be gone.
+bool CIntelligentRulesCtrl::readDocuments(const QString& templateText, const QString& configText)
+{
+    auto parser = std::make_unique<RuleParser>();
+    parser->setAlgorithmInfo(m_algorithmType, m_algorithmCode);
+    parser->setMostEntries(kMostEntries);
+    QString why;
+    if (templateText.isEmpty() || configText.isEmpty())
+        why = tr("The documents are too long.");
+    else if (parser->parseTemplate(templateText, why))
+        parser->readData(configText, why);
+    showHint(why);
+    if (!why.isEmpty())
+        return false;
+    m_parser = std::move(parser);
+    return true;
 }
 
 void CIntelligentRulesCtrl::addPanel(RuleData& sceneData, bool selectionMode)
 {
-    BaseTabelScene* panel = createScene(sceneData.getSceneType(), m_form->sceneView);
+    BaseTabelScene* panel = createScene(sceneData.getSceneType(), m_form->sceneView->content());
     if (!panel)
         return;
     panel->setSelectMode(selectionMode);
@@ -234,6 +265,19 @@ void CIntelligentRulesCtrl::openPicture(const RulesParameters& parameters)
 
 void CIntelligentRulesCtrl::clearData()
 {
+    if (leaveFocus())
+        unload();
+}
+
+bool CIntelligentRulesCtrl::leaveFocus()
+{
+    const LoadGuard guard(this);
+    Focus::takeFrom(*this);
+    return guard.holds();
+}
+
+void CIntelligentRulesCtrl::unload()
+{
     ++m_loadNumber;
     showHint({});
     m_channelId.clear();
@@ -244,20 +288,19 @@ void CIntelligentRulesCtrl::clearData()
     else if (m_playerWin)
         m_playerWin->resetToolBar(0);
     m_rtspOpened = false;
-    for (BaseTabelScene* scene : qAsConst(m_scenes)) {
+    const std::unique_ptr<RuleParser> parser = std::move(m_parser);
+    const QList<BaseTabelScene*> scenes = std::exchange(m_scenes, {});
+    for (BaseTabelScene* scene : scenes) {
         scene->disconnect(this);
         scene->setRuleData(nullptr);
     }
     m_form->sceneView->clearAll();
-    m_scenes.clear();
-    m_parser.reset();
     repaintPicture();
 }
 
 bool CIntelligentRulesCtrl::isDrawUnfinished(const QString& channel, const QString& algorithm)
 {
-    finishEdits();
-    if (!m_drawScene)
+    if (!finishEdits() || !m_drawScene)
         return false;
     return (algorithm == m_algorithmId || channel == m_channelId) &&
            m_drawScene->HasDrawUnfinished();
@@ -272,25 +315,34 @@ void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
 {
     if (!scene)
         return;
-    for (BaseTabelScene* panel : qAsConst(m_scenes)) {
-        if (panel != scene) {
+    const LoadGuard guard(this);
+    const QList<BaseTabelScene*> panels = m_scenes;
+    for (BaseTabelScene* panel : panels) {
+        if (panel == scene)
+            showSelected(*panel);
+        else
             panel->setSelected(false);
-            continue;
-        }
-        if (!panel->getSelected()) {
-            if (m_drawScene)
-                m_drawScene->dropPainting();
-            m_drawScene = panel->getDrawScene();
-            fitCanvas();
-        }
-        if (!m_editable) {
-            panel->setUIEditable(false);
-            m_form->btnSave->hide();
-            m_form->btnCancel->hide();
-        }
-        panel->setSelected(true);
+        if (!guard.holds())
+            return;
+    }
+    if (!m_editable) {
+        m_form->btnSave->hide();
+        m_form->btnCancel->hide();
     }
     repaintPicture();
+}
+
+void CIntelligentRulesCtrl::showSelected(BaseTabelScene& panel)
+{
+    if (!panel.getSelected()) {
+        if (m_drawScene)
+            m_drawScene->dropPainting();
+        m_drawScene = panel.getDrawScene();
+        fitCanvas();
+    }
+    if (!m_editable)
+        panel.setUIEditable(false);
+    panel.setSelected(true);
 }
 
 void CIntelligentRulesCtrl::fitCanvas()
@@ -311,10 +363,16 @@ void CIntelligentRulesCtrl::sceneChanged()
     repaintPicture();
 }
 
-void CIntelligentRulesCtrl::finishEdits()
+bool CIntelligentRulesCtrl::finishEdits()
 {
-    for (BaseTabelScene* scene : qAsConst(m_scenes))
+    const LoadGuard guard(this);
+    const QList<BaseTabelScene*> scenes = m_scenes;
+    for (BaseTabelScene* scene : scenes) {
         scene->finishEdits();
+        if (!guard.holds())
+            return false;
+    }
+    return true;
 }
 
 void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
@@ -355,9 +413,8 @@ void CIntelligentRulesCtrl::OnWndDbClick(int nWndNum, int nPointX, int nPointY)
 
 void CIntelligentRulesCtrl::sltSave()
 {
-    if (!m_parser)
+    if (!m_parser || !finishEdits())
         return;
-    finishEdits();
     showHint({});
     const LoadGuard guard(this);
     const bool allowed = m_selectionMode ? checkSelection() : checkScenes() && confirmChange();
@@ -438,12 +495,14 @@ bool CIntelligentRulesCtrl::postResult()
 {
     kql::Json::Value config;
     QString why;
-    if (!m_parser->writeData(config, why)) {
-        showHint(tr("Nothing was saved. %1").arg(why));
-        return false;
+    bool isWritten = m_parser->writeData(config, why);
+    if (isWritten && !postSaved(resultContext(), config)) {
+        why = tr("The configuration is too long.");
+        isWritten = false;
     }
-    postSaved(resultContext(), config);
-    return true;
+    if (!isWritten)
+        showHint(tr("Nothing was saved. %1").arg(why));
+    return isWritten;
 }
 
 ResultContext CIntelligentRulesCtrl::resultContext() const

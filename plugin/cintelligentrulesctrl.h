@@ -79,11 +79,18 @@ private:
     void resetToDefaults();
     void showParameters(const RulesParameters& parameters);
     void initScenes(const QString& templateText, const QString& configText, bool selectionMode);
+    bool readDocuments(const QString& templateText, const QString& configText);
     void addPanel(RuleData& sceneData, bool selectionMode);
     void openPicture(const RulesParameters& parameters);
     void fitCanvas();
     void repaintPicture();
-    void finishEdits();
+    void showSelected(BaseTabelScene& panel);
+    /// False when the host has loaded, cleared or deleted the window by then.
+    bool finishEdits();
+    /// Takes the focus out of what is about to go. False as finishEdits().
+    bool leaveFocus();
+    /// Lets go of all that is loaded; the focus is elsewhere by then.
+    void unload();
 
     bool checkScenes();
     bool checkScene(BaseTabelScene& scene);
@@ -119,7 +126,7 @@ private:
     bool m_rtspOpened = false;
     bool m_skipModifyPrompt = false;
     bool m_editable = true;
-    int m_loadNumber = 0; ///< tells loads apart while a message box is open
+    int m_loadNumber = 0; ///< tells loads apart where the host could act in between
 };
 
 } // namespace IntelligentRulesUI

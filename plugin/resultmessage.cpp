@@ -27,19 +27,23 @@ kql::Json::Value resultObject(const ResultContext& context, int result)
     return object;
 }
 
-void post(const ResultContext& context, const kql::Json::Value& object)
+bool post(const ResultContext& context, const kql::Json::Value& object)
 {
+    const QString text = object.toStyledText();
+    if (text.isEmpty())
+        return false;
     KQGUI::KQSingleton<UICommonMdl::CUIPluginMessage>::Instance().PostEvent(
-        {PluginMsgRulesResult, context.widgetId, object.toStyledText()});
+        {PluginMsgRulesResult, context.widgetId, text});
+    return true;
 }
 
 } // namespace
 
-void postSaved(const ResultContext& context, const kql::Json::Value& config)
+bool postSaved(const ResultContext& context, const kql::Json::Value& config)
 {
     kql::Json::Value object = resultObject(context, kSaved);
     object["channelAbilityPO"] = config;
-    post(context, object);
+    return post(context, object);
 }
 
 void postExited(const ResultContext& context)

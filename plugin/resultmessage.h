@@ -22,8 +22,9 @@ struct ResultContext {
     QString channelId;
 };
 
-/// Posts to the host that the operator saved @p config.
-void postSaved(const ResultContext& context, const kql::Json::Value& config);
+/// Posts to the host that the operator saved @p config; false, with nothing posted, when its text
+/// is too long.
+bool postSaved(const ResultContext& context, const kql::Json::Value& config);
 
 /// Posts to the host that the operator left without saving.
 void postExited(const ResultContext& context);

@@ -23,6 +23,7 @@
 #include "tabel/rulewidgettabel.h"
 #include "tabel/titlelabel.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
 
@@ -229,11 +230,21 @@ DrawItemButton* BaseTabelScene::createChildDrawItemButton(const QString& label,
 
 void BaseTabelScene::sltTabelRuleFucBtnClicked(int type)
 {
-    finishEdits();
     SetDrawStatus(true);
-    const auto pressed = static_cast<BaseDrawType>(type);
-    if (isBound() && canAddEntry(pressed))
-        addEntry(pressed);
+    perform([this, pressed = static_cast<BaseDrawType>(type)] {
+        if (canAddEntry(pressed))
+            addEntry(pressed);
+    });
+}
+
+void BaseTabelScene::perform(const std::function<void()>& action)
+{
+    const QPointer<BaseTabelScene> self(this);
+    finishEdits();
+    if (self && isBound())
+        action();
+    if (!self)
+        return;
     checkLayout();
     emit sgnRepaintCanvas();
 }
@@ -299,12 +310,8 @@ void BaseTabelScene::startFigure(const RuleProtocolItem& item, const RuleDataInf
 
 void BaseTabelScene::sltTabelChildRuleFucBtnClicked(int type)
 {
-    finishEdits();
     SetDrawStatus(true);
-    if (isBound())
-        addChildFigure(static_cast<BaseDrawType>(type));
-    checkLayout();
-    emit sgnRepaintCanvas();
+    perform([this, type] { addChildFigure(static_cast<BaseDrawType>(type)); });
 }
 
 void BaseTabelScene::addChildFigure(BaseDrawType type)
@@ -329,36 +336,39 @@ void BaseTabelScene::addChildFigure(BaseDrawType type)
 
 void BaseTabelScene::sltTabelDrawItemCheckBtnChanged()
 {
-    // An edit belongs to the entry that is still selected, not to the one just picked.
-    finishEdits();
-    const DrawItemButton* button = widgets().drawItems->currentButton();
-    if (isBound() && button)
-        showEntry(button->dataId());
-    checkLayout();
-    emit sgnRepaintCanvas();
+    perform([this] {
+        if (const DrawItemButton* button = widgets().drawItems->currentButton())
+            showEntry(button->dataId());
+    });
 }
 
 void BaseTabelScene::sltTabelChildDrawItemCheckBtnChanged()
 {
-    finishEdits();
-    const DrawItemButton* button = widgets().childDrawItems->currentButton();
-    if (isBound() && button)
-        selectFigure(button->id(), button->dataId());
-    emit sgnRepaintCanvas();
+    perform([this] {
+        if (const DrawItemButton* button = widgets().childDrawItems->currentButton())
+            selectFigure(button->id(), button->dataId());
+    });
 }
 
 void BaseTabelScene::sltDeleteDrawItem()
 {
-    finishEdits();
+    perform([this] {
+        deleteCurrent();
+        // The button that was pressed goes with the last entry.
+        if (widgets().drawItems->isEmpty())
+            takeFocusFrom(*widgets().actions);
+    });
+}
+
+void BaseTabelScene::deleteCurrent()
+{
     const QScopedValueRollback<bool> guard(m_nothingFollows, true);
     const DrawItemButton* child = widgets().childDrawItems->currentButton();
     const DrawItemButton* button = widgets().drawItems->currentButton();
-    if (isBound() && child)
+    if (child)
         deleteChild(child->id());
-    else if (isBound() && button)
+    else if (button)
         deleteEntry(button->dataId());
-    checkLayout();
-    emit sgnRepaintCanvas();
 }
 
 void BaseTabelScene::deleteChild(int itemId)
@@ -384,12 +394,8 @@ void BaseTabelScene::deleteEntry(int dataId)
 
 void BaseTabelScene::sltRedrawItem()
 {
-    finishEdits();
     SetDrawStatus(true);
-    if (isBound())
-        redrawCurrent();
-    checkLayout();
-    emit sgnRepaintCanvas();
+    perform([this] { redrawCurrent(); });
 }
 
 void BaseTabelScene::redrawCurrent()
@@ -447,10 +453,13 @@ bool BaseTabelScene::mayFollow() const
 
 void BaseTabelScene::setPartsEnabled(bool enabled)
 {
-    widgets().ruleFucBar->setControlEnable(enabled);
-    widgets().drawItems->setControlEnable(enabled);
-    widgets().childFucBar->setControlEnable(enabled);
-    widgets().childDrawItems->setControlEnable(enabled);
+    const QList<WidgetTabel*> parts{widgets().ruleFucBar, widgets().drawItems,
+                                    widgets().childFucBar, widgets().childDrawItems};
+    for (WidgetTabel* part : parts) {
+        if (!enabled && !takeFocusFrom(*part))
+            return;
+        part->setControlEnable(enabled);
+    }
 }
 
 void BaseTabelScene::sltRuleEnableChanged(int dataId, bool on)

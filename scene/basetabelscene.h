@@ -6,6 +6,7 @@
 #include "scene/statisticsdirection.h"
 
 #include <QList>
+#include <functional>
 #include <memory>
 
 class ControlTabel;
@@ -108,6 +109,10 @@ protected:
 
 private:
     void connectWidgets();
+    /// Does what the operator asked for, if there is data, and shows what came of it. An edit in
+    /// progress ends before: it belongs to the entry that is still selected. Where the focus moves
+    /// meanwhile, the host may let go of the data or delete the section.
+    void perform(const std::function<void()>& action);
     void release();
     void bindRows();
     void showFirstEntry();
@@ -118,6 +123,7 @@ private:
     /// Null when the item draws no figure. The new figure is not selected yet.
     DrawItem* addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry);
     void addChildFigure(BaseDrawType type);
+    void deleteCurrent();
     void deleteChild(int itemId);
     void deleteEntry(int dataId);
     void redrawCurrent();

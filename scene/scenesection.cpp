@@ -2,6 +2,7 @@
 
 #include "scene/scenetitlebar.h"
 #include "tabel/controlitemwidgettabel.h"
+#include "tabel/focus.h"
 #include "tabel/layouthold.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tabel/rulewidgettabel.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPointer>
 
 namespace
 {
@@ -24,6 +26,12 @@ SceneSection::SceneSection(QWidget* parent) : WidgetTabel(parent), m_widgets(thi
     m_widgets.titleBar->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* old, QWidget* now) { focusMoved(old, now); });
+}
+
+SceneSection::~SceneSection()
+{
+    // The focus may still go with the children, when nothing but their parent is left of this.
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void SceneSection::finishEdits()
@@ -141,6 +149,18 @@ void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
         setFold(false);
     if (!m_selected)
         emit sgnTrySelectedlScene();
+}
+
+bool SceneSection::takeFocusFrom(const QWidget& part)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    if (!focused || !part.isAncestorOf(focused))
+        return true;
+    const QPointer<SceneSection> self(this);
+    Focus::takeFrom(part);
+    if (self && isVisible())
+        setFocus();
+    return self;
 }
 
 void SceneSection::dropFocus()

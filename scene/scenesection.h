@@ -13,6 +13,7 @@ class SceneSection : public WidgetTabel
 
 public:
     explicit SceneSection(QWidget* parent = nullptr);
+    ~SceneSection() override;
 
     void relayout(int x, int y) override;
 
@@ -41,6 +42,10 @@ protected:
     virtual void checkLayout();
     /// Whether there is an entry whose attributes can be shown.
     virtual bool hasCurrentEntry() const = 0;
+
+    /// Takes the focus from a widget in @p part, which is about to be disabled or hidden. False
+    /// when whoever heard of it has deleted the section.
+    bool takeFocusFrom(const QWidget& part);
 
     const SceneWidgets& widgets() const { return m_widgets; }
 

@@ -3,6 +3,7 @@
 #include "tabel/drawitembutton.h"
 
 #include <QButtonGroup>
+#include <QPointer>
 #include <algorithm>
 
 RuleItemWidgetTabel::RuleItemWidgetTabel(QWidget* parent)
@@ -34,10 +35,12 @@ void RuleItemWidgetTabel::addButton(DrawItemButton* button)
 
 void RuleItemWidgetTabel::pressed(DrawItemButton* button)
 {
-    // Whoever listens may rebuild the table.
+    // Whoever listens may rebuild the table, or delete it.
+    const QPointer<RuleItemWidgetTabel> self(this);
     const int id = button->id();
     setCurrentButton(button, true);
-    emit sgnBtnClicked(id);
+    if (self)
+        emit sgnBtnClicked(id);
 }
 
 void RuleItemWidgetTabel::toggled(QAbstractButton* button, bool on)

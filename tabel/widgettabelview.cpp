@@ -24,17 +24,30 @@ void WidgetTabelView::addWidgetLayout(WidgetLayout* layout)
     m_content->addWidgetLayout(layout, true);
 }
 
+void WidgetTabelView::changeHidden(const std::function<void()>& work)
+{
+    m_content->hide();
+    work();
+    fit();
+    m_content->show();
+}
+
 void WidgetTabelView::clearAll()
 {
-    m_content->deleteAll();
+    changeHidden([this] { m_content->deleteAll(); });
 }
 
 void WidgetTabelView::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
+    fit();
+}
+
+void WidgetTabelView::fit()
+{
     layOut(viewport()->width());
-    // The bar comes by the event loop. Before the first show it is cheaper to leave it its place.
-    if (!isOverfull() || viewport()->isVisible())
+    // The bar comes by the event loop. While nothing shows it is cheaper to leave it its place.
+    if (!isOverfull() || m_content->isVisible())
         return;
     layOut(viewport()->width() - verticalScrollBar()->sizeHint().width());
     if (!isOverfull())

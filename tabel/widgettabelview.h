@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QScrollArea>
+#include <functional>
 
 class WidgetLayout;
 class WidgetTabel;
@@ -13,7 +14,11 @@ class WidgetTabelView : public QScrollArea
 public:
     explicit WidgetTabelView(QWidget* parent = nullptr);
 
+    /// Parent for what is to be added: a widget that is moved from another one is styled twice.
     WidgetTabel* content() const { return m_content; }
+    /// Does @p work, which adds or takes out much, while the content does not show. What shows is
+    /// laid out and painted in a time that grows with the square of its number.
+    void changeHidden(const std::function<void()>& work);
     void addWidget(QWidget* widget);
     void addWidgetLayout(WidgetLayout* layout);
     void clearAll();
@@ -23,6 +28,7 @@ protected:
 
 private:
     bool isOverfull() const;
+    void fit();
     void layOut(int width);
 
     WidgetTabel* m_content;

@@ -179,6 +179,14 @@
         <source>Nothing was saved. %1</source>
         <translation>Es wurde nichts gesichert. %1</translation>
     </message>
+    <message>
+        <source>The documents are too long.</source>
+        <translation>Die Dokumente sind zu lang.</translation>
+    </message>
+    <message>
+        <source>The configuration is too long.</source>
+        <translation>Die Konfiguration ist zu lang.</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -336,6 +344,14 @@
     <message>
         <source>The template has no place &quot;%1&quot; for what is set under &quot;%2&quot;.</source>
         <translation>In der Vorlage fehlt der Platz &quot;%1&quot; für das, was unter &quot;%2&quot; eingestellt ist.</translation>
+    </message>
+    <message>
+        <source>The template has more than %1 attributes or %2 choices in one section.</source>
+        <translation>Ein Abschnitt der Vorlage hat mehr als %1 Attribute oder %2 Auswahlwerte.</translation>
+    </message>
+    <message>
+        <source>The configuration has %1 entries under &quot;%2&quot;; at most %3 can be edited.</source>
+        <translation>Die Konfiguration hat %1 Einträge unter &quot;%2&quot;; höchstens %3 können bearbeitet werden.</translation>
     </message>
 </context>
 <context>

@@ -179,6 +179,14 @@
         <source>Nothing was saved. %1</source>
         <translation>未保存任何内容。%1</translation>
     </message>
+    <message>
+        <source>The documents are too long.</source>
+        <translation>文档过长。</translation>
+    </message>
+    <message>
+        <source>The configuration is too long.</source>
+        <translation>配置过长。</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -336,6 +344,14 @@
     <message>
         <source>The template has no place &quot;%1&quot; for what is set under &quot;%2&quot;.</source>
         <translation>模板中没有位置&quot;%1&quot;来写入&quot;%2&quot;的设置。</translation>
+    </message>
+    <message>
+        <source>The template has more than %1 attributes or %2 choices in one section.</source>
+        <translation>模板的一个部分中的属性超过 %1 个或选项超过 %2 个。</translation>
+    </message>
+    <message>
+        <source>The configuration has %1 entries under &quot;%2&quot;; at most %3 can be edited.</source>
+        <translation>配置在&quot;%2&quot;下有 %1 个条目；最多可编辑 %3 个。</translation>
     </message>
 </context>
 <context>

@@ -370,6 +370,24 @@ private slots:
         check("", config({}));
         check("Global.Level.R[]", R"({"Global": {"Level": {"R": []}, "Span": [1, 5]}})");
     }
+
+    /// What the window cannot show whole it does not save either.
+    void refusesTooMuch()
+    {
+        Desk desk;
+        const QByteArray gate = rule("Gate") + ',';
+        desk.load(gate.repeated(10000) + rule("Gate"));
+        QCOMPARE(desk.find<QLabel>("lblHint")->text(),
+                 QString("The configuration has 10001 entries under \"Rules[]\"; at most 10000 can "
+                         "be edited."));
+        QVERIFY(!desk.find("rules") && !desk.pictureRect().isEmpty());
+        desk.click("btnSave");
+        QCOMPARE(desk.mailbox.takeHeads(), QStringList());
+        desk.load(QString(16 << 20, QChar::Space) + block(kChannel, config({})));
+        QCOMPARE(desk.find<QLabel>("lblHint")->text(), QString("The documents are too long."));
+        desk.load(rule("Gate"));
+        QVERIFY(desk.find("rules") && !desk.find("lblHint")->isVisible());
+    }
 };
 
 QTEST_MAIN(TstController)

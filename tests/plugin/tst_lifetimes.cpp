@@ -133,6 +133,8 @@ private:
         image.fill(Qt::gray);
         QVERIFY(image.save(m_folder.filePath("grey.png")));
         sources().setDefaultAddress(m_folder.filePath("grey.png"));
+        connect(qApp, &QApplication::focusChanged, this,
+                [this] { std::exchange(m_whileFocusing, [] {})(); });
         sources().addMaker([this](const QString&, const auto&) {
             std::exchange(m_whileMaking, [] {})();
             return nullptr;
@@ -189,6 +191,7 @@ private:
         const auto types = [](const Window& window, const Happening& happen) {
             window.load("C1", rule("Gate"));
             auto* const edit = window.find<QWidget>("high")->findChild<QLineEdit*>();
+            edit->setFocus();
             QTest::keyClick(edit, Qt::Key_Backspace);
             QTest::keyClick(edit, Qt::Key_7);
             happen();
@@ -197,6 +200,30 @@ private:
             m_whileMaking = happen;
             window.load("C1", rule("Gate"));
         };
+        // The client hears of the focus that leaves a widget while something is done to it.
+        const auto movesFocus = [this](const char* name, auto act) {
+            return [=](const Window& window, const Happening& happen) {
+                window.load("C1", rule("Gate"));
+                // What gets the focus outlives what happens: Qt touches it again.
+                QWidget client;
+                window.parent->setParent(&client);
+                window.parent->show();
+                client.show();
+                QApplication::setActiveWindow(&client);
+                window.find<QWidget>(name)->setFocus();
+                QWidget* const focused = QApplication::focusWidget();
+                QVERIFY(focused && window.content->isAncestorOf(focused));
+                QTest::keyClick(focused, Qt::Key_7);
+                m_whileFocusing = happen;
+                act(window);
+                if (window.parent)
+                    window.parent->setParent(nullptr);
+            };
+        };
+        const auto loadsLocked = [](const Window& window) {
+            window.load("C1", rule("Gate"), R"(, "editable": false)");
+        };
+        const auto adds = [](const Window& window) { window.click("addRule"); };
         const auto reports = [this](const Window& window, const Happening& happen) {
             m_whileReporting = happen;
             connect(window.content, SIGNAL(sgnNotifyVideoSize(int, int)), this,
@@ -212,7 +239,10 @@ private:
                 {"drawing", draws, "", true},
                 {"typing", types},
                 {"asking for the picture", loads},
-                {"told the picture's size", reports}};
+                {"told the picture's size", reports},
+                {"focus leaves a row that goes", movesFocus("high", loadsLocked)},
+                {"focus leaves a button that hides", movesFocus("btnSave", loadsLocked)},
+                {"focus leaves a button that is disabled", movesFocus("addRule", adds)}};
     }
 
     void happen(What what, Window& window)
@@ -245,6 +275,7 @@ private:
     IClientUIPluginAPI* m_plugin = nullptr;
     Happening m_whileMaking = [] {};
     Happening m_whileReporting = [] {};
+    Happening m_whileFocusing = [] {};
 
 private slots:
     void survives_data()

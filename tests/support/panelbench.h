@@ -1,13 +1,14 @@
 #pragma once
 
 #include "Protocol/ruleparser.h"
+#include "scene/basetabelscene.h"
 #include "tabel/widgettabelview.h"
 
 #include <QPoint>
+#include <QPointer>
 #include <QStringList>
 #include <QVector>
 
-class BaseTabelScene;
 class DrawItem;
 class DrawItemButton;
 class DrawScene;
@@ -69,5 +70,5 @@ private:
     RuleParser m_parser;
     RuleData* m_data = nullptr;
     WidgetTabelView m_view;
-    BaseTabelScene* m_panel = nullptr;
+    QPointer<BaseTabelScene> m_panel;
 };

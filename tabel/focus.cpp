@@ -1,0 +1,11 @@
+#include "tabel/focus.h"
+
+#include <QApplication>
+#include <QWidget>
+
+void Focus::takeFrom(const QWidget& widget)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    if (focused && widget.isAncestorOf(focused))
+        widget.window()->setFocus();
+}
