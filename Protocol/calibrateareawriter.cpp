@@ -38,9 +38,12 @@ private:
         const RuleDataInfo& entry;
         const Value& asRead;
         Value& json;
+        QVector<QVariant> lengthsAsRead; ///< of each kind, as shown
     };
 
     const Value& asRead(const RuleDataInfo& entry) const;
+    const Value& staffsIn(const Value& asRead) const;
+    QVector<QVariant> shownLengths(const Value& staffs) const;
     const DrawItem* area(const RuleDataInfo& entry) const;
     void writeArea(const Pass& pass) const;
     void writeMethod(const Pass& pass) const;
@@ -48,8 +51,7 @@ private:
     Value drawnStaffs(const Pass& pass, const Value& prototype) const;
     Value derivedStaffs(const Pass& pass, const Value& prototype) const;
     bool isDrawnHere(const Pass& pass) const;
-    Value staffLength(const Pass& pass, const CalibrateStaffs::Kind& kind,
-                      const DrawItem& staff) const;
+    Value staffLength(const Pass& pass, int kind, const DrawItem& staff) const;
     const JsonPath& staffsPath() const { return m_template.verticalStaffItem()->path(); }
 
     const CalibrateAreaTemplate& m_template;
@@ -85,6 +87,20 @@ const Value& AreaWriter::asRead(const RuleDataInfo& entry) const
     return source ? *source : m_nothing;
 }
 
+const Value& AreaWriter::staffsIn(const Value& asRead) const
+{
+    const Value* staffs = staffsPath().probe(asRead);
+    return staffs ? *staffs : m_nothing;
+}
+
+QVector<QVariant> AreaWriter::shownLengths(const Value& staffs) const
+{
+    QVector<QVariant> lengths;
+    for (const CalibrateStaffs::Kind& kind : m_kinds)
+        lengths.append(CalibrateStaffs::shownLength(staffs, kind.type));
+    return lengths;
+}
+
 const DrawItem* AreaWriter::area(const RuleDataInfo& entry) const
 {
     return m_writer.figures().first(entry.id(), *m_template.regionItem());
@@ -92,7 +108,8 @@ const DrawItem* AreaWriter::area(const RuleDataInfo& entry) const
 
 void AreaWriter::write(const RuleDataInfo& entry, Value& json) const
 {
-    const Pass pass{entry, asRead(entry), json};
+    const Value& source = asRead(entry);
+    const Pass pass{entry, source, json, shownLengths(staffsIn(source))};
     writeArea(pass);
     writeMethod(pass);
     writeStaffs(pass);
@@ -130,12 +147,12 @@ Value AreaWriter::drawnStaffs(const Pass& pass, const Value& prototype) const
 {
     Value staffs(kql::Json::ValueType::Array);
     for (const auto& [id, figure] : m_writer.figures().of(pass.entry.id())) {
-        for (const CalibrateStaffs::Kind& kind : m_kinds) {
-            const bool isOfKind = figure->drawType() == kind.staff->drawType();
+        for (int kind = 0; kind < m_kinds.size(); ++kind) {
+            const bool isOfKind = figure->drawType() == m_kinds[kind].staff->drawType();
             const auto points = isOfKind ? figure->getPoints() : QVector<QPoint>();
             if (points.size() >= kStaffPoints)
-                staffs.append(
-                    writeStaff(prototype, kind.type, staffLength(pass, kind, *figure), points));
+                staffs.append(writeStaff(prototype, m_kinds[kind].type,
+                                         staffLength(pass, kind, *figure), points));
         }
     }
     return staffs;
@@ -168,14 +185,11 @@ bool AreaWriter::isDrawnHere(const Pass& pass) const
 }
 
 /// A staff keeps the length that it was read with until the length shown for its type changes.
-Value AreaWriter::staffLength(const Pass& pass, const CalibrateStaffs::Kind& kind,
-                              const DrawItem& staff) const
+Value AreaWriter::staffLength(const Pass& pass, int kind, const DrawItem& staff) const
 {
-    const QVariant shown = pass.entry.value(kind.length->key());
-    const Value* found = staffsPath().probe(pass.asRead);
-    const Value& staffs = found ? *found : m_nothing;
-    const Value& own = staffs[staff.sourceIndex()][ConfigMember::kLength];
-    if (own.isNumeric() && shown == CalibrateStaffs::shownLength(staffs, kind.type))
+    const QVariant shown = pass.entry.value(m_kinds[kind].length->key());
+    const Value& own = staffsIn(pass.asRead)[staff.sourceIndex()][ConfigMember::kLength];
+    if (own.isNumeric() && shown == pass.lengthsAsRead[kind])
         return own;
     if (!shown.isValid())
         return {};

@@ -17,23 +17,30 @@ using kql::Json::Value;
 namespace
 {
 
-// All entries of a scene together, in characters of the text that they are written as: half of what
-// a document may have.
-constexpr int kMostText = 64 << 20;
 // What an entry takes beside its text, and what a condition or a check of it takes, in the same.
 constexpr int kEntry = 256;
 constexpr int kTest = 16;
+// What an element takes that an entry may have beside its prototype, and how many it may have.
+constexpr int kElement = 32;
+constexpr qint64 kMostElements = 1024;
 
-/// An entry of the section that has nothing but its places.
-int textOfEmpty(const RuleData& data, const QString& section)
+qint64 textOf(const Value& entry)
 {
-    return EntryWriter(data, section).emptyEntry().toStyledText().size();
+    constexpr qint64 kTooLong = qint64{1} << 30;
+    const QString text = entry.toStyledText();
+    return text.isNull() ? kTooLong : text.size();
 }
 
-int textOfFirst(const Value& skeleton, const QString& parent)
+/// An entry of the section that has nothing but its places.
+qint64 textOfEmpty(const RuleData& data, const QString& section)
+{
+    return textOf(EntryWriter(data, section).emptyEntry());
+}
+
+qint64 textOfFirst(const Value& skeleton, const QString& parent)
 {
     const Value* first = EntryList::object(EntryList::at(skeleton, JsonPath(parent)), 0);
-    return first ? first->toStyledText().size() : 0;
+    return first ? textOf(*first) : 0;
 }
 
 qint64 tests(const DataTemplate& dataTemplate)
@@ -46,18 +53,27 @@ qint64 tests(const DataTemplate& dataTemplate)
     return count;
 }
 
+qint64 elements(const DataTemplate& dataTemplate)
+{
+    qint64 count = 0;
+    for (const auto& item : dataTemplate.items())
+        count += std::max(item->index(), 0);
+    return std::min(count, kMostElements);
+}
+
 } // namespace
 
-int EntryLimit::mostEntries(const RuleData& data, const Value& skeleton)
+qint64 EntryLimit::textPerEntry(const RuleData& data, const Value& skeleton)
 {
     const DataTemplate& dataTemplate = *data.getTemplate();
-    qint64 cost = kEntry + kTest * tests(dataTemplate) + textOfEmpty(data, dataTemplate.name()) +
+    qint64 cost = kEntry + kTest * tests(dataTemplate) + kElement * elements(dataTemplate) +
+                  textOfEmpty(data, dataTemplate.name()) +
                   textOfFirst(skeleton, dataTemplate.parent());
     if (const auto* lanes = dynamic_cast<const LanesTemplate*>(&dataTemplate)) {
         cost += textOfEmpty(data, ConfigMember::kRuleSection) +
                 textOfFirst(skeleton, lanes->rulesParent());
     }
-    return static_cast<int>(kMostText / cost);
+    return cost;
 }
 
 int EntryLimit::countEntries(const RuleData& data, const Value& document)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class RuleData;
 namespace kql
 {
@@ -20,9 +22,17 @@ namespace EntryLimit
 constexpr int kMostAttributes = 1000;
 constexpr int kMostChoices = 5000;
 
-/// How many entries, or figures inside of them, the scene of @p data may have. @p skeleton is the
-/// document that its entries are written into.
-int mostEntries(const RuleData& data, const kql::Json::Value& skeleton);
+/// What a configuration may have.
+struct Limits {
+    int entries = 3000; ///< of a scene; each has a button, which takes some 15 kB
+    /// In characters: all entries of all scenes as they are written, and what the attributes of a
+    /// scene read of them.
+    qint64 text = 32 << 20;
+};
+
+/// What an entry of the scene of @p data, or a figure inside of one, counts of Limits::text.
+/// @p skeleton is the document that the entries are written into.
+qint64 textPerEntry(const RuleData& data, const kql::Json::Value& skeleton);
 
 /// How many entries @p document has for the scene of @p data.
 int countEntries(const RuleData& data, const kql::Json::Value& document);

@@ -18,6 +18,24 @@ using kql::Json::Value;
 namespace
 {
 
+// What a value, a figure and a point of it count beside the texts, in characters: their memory, and
+// of figures the time in which they are painted.
+constexpr int kValue = 16;
+constexpr int kFigure = 1024;
+constexpr int kPoint = 128;
+
+qint64 textIn(const QVariant& value)
+{
+    if (value.userType() == QMetaType::QString)
+        return value.toString().size();
+    qint64 size = 0;
+    if (value.userType() == QMetaType::QStringList) {
+        for (const QString& text : value.toStringList())
+            size += kValue + text.size();
+    }
+    return size;
+}
+
 QVector<QPoint> directionPoints(const Value& json)
 {
     const Value* points = ConfigMember::directionPath().readPath(json);
@@ -27,7 +45,7 @@ QVector<QPoint> directionPoints(const Value& json)
 } // namespace
 
 EntryReader::EntryReader(RuleData& data, const QString& section, const EntryReader* before)
-    : m_blank(before ? before->m_blank : data.defaults()), m_figures(data)
+    : m_data(data), m_blank(before ? before->m_blank : data.defaults()), m_figures(data)
 {
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
@@ -70,13 +88,16 @@ void EntryReader::parseJsonToDataItem(const Source& source, const Value& json, R
     const Value* found = item.path().readPath(json);
     if (!item.isFigure())
         entry.setValue(source.key, found ? parseValue(item, *found) : QVariant());
-    else if (found && found->isArray())
+    else if (found && found->isArray() && m_data.takeRoom(kFigure + qint64{kPoint} * found->size()))
         addFigure(item, json, PointConversion::toPoints(*found), entry, parent);
 }
 
 QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& found) const
 {
-    QVariant value = ValueConversion::parseJsonToValue(found, item);
+    QVariant value =
+        m_data.isCutShort() ? QVariant() : ValueConversion::parseJsonToValue(found, item);
+    if (!m_data.takeRoom(kValue + textIn(value)))
+        return {};
     if (value.userType() == QMetaType::QString && !item.enumeration().isEmpty())
         return *m_choices.insert(value.toString());
     return value;

@@ -21,7 +21,8 @@ class Value;
 
 /**
  * Reads what a template's items name of one entry after another: values of control items into
- * the entry, figures onto the canvas. EntryWriter is its mirror.
+ * the entry, figures onto the canvas. Many items may name the same place; what they read of it all
+ * together has a limit, at which the data is cut short. EntryWriter is its mirror.
  */
 class EntryReader
 {
@@ -51,6 +52,7 @@ private:
                    const QVector<QPoint>& points, const RuleDataInfo& entry,
                    const DrawItem* parent) const;
 
+    RuleData& m_data;
     std::vector<Source> m_sources;
     RuleDataInfo m_blank; ///< as an entry is of which none of the items is found
     int m_controlCount = 0;

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -61,6 +62,18 @@ public:
     /// Position of the entry in the list; -1 when there is none.
     int indexOf(int id) const;
 
+    /// What may be read into it still, in characters of text.
+    void setRoom(qint64 room) { m_room = room; }
+    /// False when there is less room than @p size, and from then on.
+    bool takeRoom(qint64 size)
+    {
+        if (m_room >= 0)
+            m_room -= size;
+        return m_room >= 0;
+    }
+    /// Whether the configuration asked for more than there was room for.
+    bool isCutShort() const { return m_room < 0; }
+
     void setSelectedDataId(int id);
     int getSelectedDataId() const { return m_selectedDataId; }
     RuleDataInfo* selectedDataInfo() const { return getDataInfo(m_selectedDataId); }
@@ -90,5 +103,6 @@ private:
     mutable std::vector<Place> m_places; ///< of all entries by id; empty until one is looked for
     mutable std::unique_ptr<RuleDataInfo> m_defaults; ///< made when needed
     int m_selectedDataId = 0;
+    qint64 m_room = std::numeric_limits<qint64>::max();
     QString m_ruleFucTitle;
 };

@@ -3,7 +3,6 @@
 #include "Protocol/configreader.h"
 #include "Protocol/configwriter.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/entrylimit.h"
 #include "Protocol/missingplace.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/templatereader.h"
@@ -70,7 +69,7 @@ Type lookUp(const Spelling<Type> (&spellings)[Size], const QString& text)
 
 int RuleParser::g_nId = 0;
 
-RuleParser::RuleParser() : m_mostEntries(std::numeric_limits<int>::max()) {}
+RuleParser::RuleParser() = default;
 RuleParser::~RuleParser() = default;
 
 int RuleParser::createId()
@@ -148,15 +147,18 @@ bool RuleParser::readData(const QString& text, QString& why)
     if (!Reader().parse(text, document))
         return false;
     const auto isRoomFor = [&](const auto& countOf) {
+        qint64 room = m_limits.text;
         return std::all_of(m_data.begin(), m_data.end(), [&](const auto& scene) {
-            return hasRoomFor(*scene, countOf(*scene), why);
+            return hasRoomFor(*scene, countOf(*scene), room, why);
         });
     };
     if (!isRoomFor(
             [&](const RuleData& scene) { return EntryLimit::countEntries(scene, document); }))
         return false;
+    for (const auto& scene : m_data)
+        scene->setRoom(m_limits.text);
     ConfigReader(m_data).read(document);
-    if (!isRoomFor(&EntryLimit::countInnerFigures)) {
+    if (!isRoomFor(&EntryLimit::countInnerFigures) || !isReadWhole(why)) {
         m_data = TemplateReader(m_templateDocument).read();
         return false;
     }
@@ -164,15 +166,27 @@ bool RuleParser::readData(const QString& text, QString& why)
     return true;
 }
 
-bool RuleParser::hasRoomFor(const RuleData& scene, int count, QString& why) const
+bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& room, QString& why) const
 {
-    const int most = std::min(m_mostEntries,
-                              EntryLimit::mostEntries(scene, m_templateDocument["configTemplate"]));
+    const qint64 text = EntryLimit::textPerEntry(scene, m_templateDocument["configTemplate"]);
+    const qint64 most = std::min<qint64>(m_limits.entries, room / text);
+    room -= count * text;
     if (count <= most)
         return true;
     const DataTemplate& dataTemplate = *scene.getTemplate();
     why = tr("The configuration has %1 entries under \"%2\"; at most %3 can be edited.")
               .arg(QString::number(count), dataTemplate.parent(), QString::number(most));
+    return false;
+}
+
+bool RuleParser::isReadWhole(QString& why) const
+{
+    const auto cut = std::find_if(m_data.begin(), m_data.end(),
+                                  [](const auto& scene) { return scene->isCutShort(); });
+    if (cut == m_data.end())
+        return true;
+    why = tr("The attributes read too much of what the configuration has under \"%1\".")
+              .arg((*cut)->getTemplate()->parent());
     return false;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Protocol/entrylimit.h"
 #include "Protocol/ruletypes.h"
 #include "host/value.h"
 
@@ -37,9 +38,8 @@ public:
     /// Algorithm that the rules are for; written into each rule when @p id is 1.
     void setAlgorithmInfo(int id, const QString& name);
 
-    /// Most entries that a scene may have in a configuration to be read; without it as many as take
-    /// up a bearable amount of memory.
-    void setMostEntries(int count) { m_mostEntries = count; }
+    /// What a configuration to be read may have; without it what a client's window can bear.
+    void setLimits(const EntryLimit::Limits& limits) { m_limits = limits; }
 
     /// Builds the scenes; false when the text is not JSON or has no "configDescription", or when it
     /// describes too much. @p why then says so in a sentence, and is left alone in the other cases.
@@ -66,12 +66,14 @@ public:
 private:
     static int g_nId; ///< last id given out
 
-    bool hasRoomFor(const RuleData& scene, int count, QString& why) const;
+    /// Takes the text of @p count entries off @p room.
+    bool hasRoomFor(const RuleData& scene, int count, qint64& room, QString& why) const;
+    bool isReadWhole(QString& why) const;
 
     kql::Json::Value m_templateDocument;
     kql::Json::Value m_configuration; ///< as read: what no template names is kept from here
     int m_algorithmId = 0;
     QString m_algorithmName;
-    int m_mostEntries;
+    EntryLimit::Limits m_limits;
     std::vector<std::unique_ptr<RuleData>> m_data;
 };

@@ -25,6 +25,20 @@ void RuleProtocolItem::setRange(const QVariant& minimum, const QVariant& maximum
     m_rangeMaximum = maximum;
 }
 
+void RuleProtocolItem::takeDetailsFrom(const RuleProtocolItem& other)
+{
+    m_facade = other.m_facade;
+    m_caption = other.m_caption;
+    m_units = other.m_units;
+    m_rangeMinimum = other.m_rangeMinimum;
+    m_rangeMaximum = other.m_rangeMaximum;
+    m_default = other.m_default;
+    m_enumeration = other.m_enumeration;
+    m_hasAllChoice = other.m_hasAllChoice;
+    m_countRange = other.m_countRange;
+    m_pointCount = other.m_pointCount;
+}
+
 bool RuleProtocolItem::isFigure() const
 {
     constexpr int kFirstControl = 100;

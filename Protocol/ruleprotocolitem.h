@@ -81,6 +81,10 @@ public:
     bool isControl() const { return !isFigure() && m_facade != FacadeType::None; }
     BaseDrawType drawType() const { return toDrawType(m_facade); }
 
+    /// Takes over what @p other was given beside its own place: caption, facade, limits, choices.
+    /// The texts are shared.
+    void takeDetailsFrom(const RuleProtocolItem& other);
+
     /// The row that edits this item; null when there is none or it is gone. Not owned.
     ControlRow* row() const { return m_rowObject ? m_row : nullptr; }
     void setRow(ControlRow* row);

@@ -34,16 +34,6 @@ void parseValid(RuleProtocolItem& item, const Value& valid)
     item.addValidity(condition);
 }
 
-/// The j-th key is taken from the j-th control, not from the control that the list is for:
-/// devices' templates are written against this order.
-QStringList parseDependencies(const Value& controls)
-{
-    QStringList keys;
-    for (int j = 0; j < controls[j]["depend"].size(); ++j)
-        keys.append(controls[j]["depend"][j]["key"].asString());
-    return keys;
-}
-
 QVariant numberBoxDefault(ValueType type, const Value& value)
 {
     if (value.isNull())
@@ -122,17 +112,23 @@ void parseFigure(RuleProtocolItem& item, const Value& details)
 
 } // namespace
 
-std::unique_ptr<RuleProtocolItem> TemplateItemReader::parseControl(const Value& controls,
-                                                                   int position)
+/// The j-th key is taken from the j-th control, not from the control that the list is for:
+/// devices' templates are written against this order.
+QStringList TemplateItemReader::parseDependencies(const Value& controls)
+{
+    QStringList keys;
+    for (int j = 0; j < controls[j]["depend"].size(); ++j)
+        keys.append(controls[j]["depend"][j]["key"].asString());
+    return keys;
+}
+
+std::unique_ptr<RuleProtocolItem> TemplateItemReader::parseControl(const Value& control)
 {
     auto item = std::make_unique<RuleProtocolItem>();
-    const Value& control = controls[position];
     parseProtocol(*item, control["protocol"]);
     item->setKey(control["key"].asString());
     if (const Value* const valid = control.find("valid"))
         parseValid(*item, *valid);
-    if (control["depend"].isArray())
-        item->setDependencies(parseDependencies(controls));
     return item;
 }
 

@@ -2,6 +2,7 @@
 
 #include "Protocol/countrange.h"
 
+#include <QStringList>
 #include <memory>
 #include <optional>
 
@@ -18,8 +19,11 @@ class Value;
 namespace TemplateItemReader
 {
 
-/// What the control @p position of @p controls says itself: key, place of the value, conditions.
-std::unique_ptr<RuleProtocolItem> parseControl(const kql::Json::Value& controls, int position);
+/// What a control says itself: key, place of the value, conditions.
+std::unique_ptr<RuleProtocolItem> parseControl(const kql::Json::Value& control);
+
+/// The keys that each of @p controls with a list of dependencies depends on.
+QStringList parseDependencies(const kql::Json::Value& controls);
 
 /// What the details say: caption, facade, and what belongs to that facade.
 void parseRuleProtocolItem(RuleProtocolItem& item, const kql::Json::Value& details);

@@ -14,6 +14,9 @@
 #include "Protocol/templateitemreader.h"
 #include "host/value.h"
 
+#include <QHash>
+#include <QPair>
+#include <QStringList>
 #include <algorithm>
 
 using kql::Json::Value;
@@ -161,16 +164,26 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
     const Value& controls = section["controls"];
     if (!section.isMember("parent") || !controls.isArray())
         return items;
+    const QString parent = section["parent"].asString();
+    const QStringList dependencies = TemplateItemReader::parseDependencies(controls);
+    QHash<QPair<QString, int>, const RuleProtocolItem*> known;
     int room = controls.size() <= EntryLimit::kMostAttributes ? EntryLimit::kMostChoices : -1;
     for (int i = 0; i < controls.size() && room >= 0; ++i) {
-        auto item = TemplateItemReader::parseControl(controls, i);
-        item->setParent(section["parent"].asString());
+        auto item = TemplateItemReader::parseControl(controls[i]);
+        if (controls[i]["depend"].isArray())
+            item->setDependencies(dependencies);
+        item->setParent(parent);
         item->setTemplateName(sectionName);
         if (const Value* const details = m_configItems.find(item->key().toStdString())) {
             // Many items may share one long list, so it is counted before it is read.
             room -= (*details)["enumeration"].size();
-            if (room >= 0)
+            const RuleProtocolItem*& same =
+                known[{item->key(), static_cast<int>(item->valueType())}];
+            if (same)
+                item->takeDetailsFrom(*same);
+            else if (room >= 0)
                 TemplateItemReader::parseRuleProtocolItem(*item, *details);
+            same = item.get();
         }
         items.push_back(std::move(item));
     }

@@ -28,41 +28,66 @@ const RuleProtocolItem* controllerOf(const DataTemplate& dataTemplate,
     return condition.values.isEmpty() ? nullptr : dataTemplate.findItem(condition.controlKey);
 }
 
-/// A condition that names no item or lists no values does not count.
-bool isMet(const DataTemplate& dataTemplate, const RuleDataInfo& entry,
-           const ValidCondition& condition)
+/// Tells which items' conditions one entry meets, as long as its values stay.
+class Conditions
 {
-    const RuleProtocolItem* const controller = controllerOf(dataTemplate, condition);
-    if (!controller)
-        return true;
-    const QStringList current = currentValues(*controller, entry);
-    return std::any_of(current.begin(), current.end(), [&condition](const QString& value) {
-        return condition.values.contains(value);
-    });
-}
+public:
+    Conditions(const DataTemplate& dataTemplate, const RuleDataInfo& entry)
+        : m_template(dataTemplate), m_entry(entry)
+    {
+    }
 
-bool allMet(const DataTemplate& dataTemplate, const RuleDataInfo& entry,
-            const RuleProtocolItem& item)
-{
-    return std::all_of(
-        item.validity().begin(), item.validity().end(),
-        [&](const ValidCondition& condition) { return isMet(dataTemplate, entry, condition); });
-}
+    bool allMet(const RuleProtocolItem& item)
+    {
+        return std::all_of(item.validity().begin(), item.validity().end(),
+                           [this](const ValidCondition& condition) { return isMet(condition); });
+    }
+
+private:
+    /// A condition that names no item or lists no values does not count.
+    bool isMet(const ValidCondition& condition)
+    {
+        const RuleProtocolItem* const controller = controllerOf(m_template, condition);
+        if (!controller)
+            return true;
+        const QStringList current = currentValues(*controller, m_entry);
+        const auto isOneOf = [](const QStringList& texts, const auto& others) {
+            return std::any_of(texts.begin(), texts.end(),
+                               [&others](const QString& text) { return others.contains(text); });
+        };
+        if (current.size() <= kFew)
+            return isOneOf(current, condition.values);
+        // Both lists may be as long as documents are, and many conditions name one controller.
+        QSet<QString>& texts = m_longLists[controller];
+        if (texts.isEmpty())
+            texts = QSet<QString>(current.begin(), current.end());
+        return isOneOf(condition.values, texts);
+    }
+
+    static constexpr int kFew = 8;
+
+    const DataTemplate& m_template;
+    const RuleDataInfo& m_entry;
+    QHash<const RuleProtocolItem*, QSet<QString>> m_longLists;
+};
 
 } // namespace
 
 void Validity::update(const DataTemplate& dataTemplate, RuleDataInfo& entry)
 {
+    Conditions conditions(dataTemplate, entry);
     for (const auto& item : dataTemplate.items()) {
         if (!item->validity().isEmpty())
-            update(dataTemplate, entry, *item);
+            entry.setValid(item->key(), conditions.allMet(*item));
     }
 }
 
 void Validity::update(const DataTemplate& dataTemplate, RuleDataInfo& entry,
-                      const RuleProtocolItem& item)
+                      const QVector<const RuleProtocolItem*>& items)
 {
-    entry.setValid(item.key(), allMet(dataTemplate, entry, item));
+    Conditions conditions(dataTemplate, entry);
+    for (const RuleProtocolItem* item : items)
+        entry.setValid(item->key(), conditions.allMet(*item));
 }
 
 Validity::Dependents Validity::dependents(const DataTemplate& dataTemplate)
@@ -83,12 +108,13 @@ QSet<const RuleProtocolItem*> Validity::hiddenItems(const DataTemplate& dataTemp
 {
     QHash<const RuleProtocolItem*, QVector<const RuleProtocolItem*>> controlled;
     QVector<const RuleProtocolItem*> toVisit;
+    Conditions conditions(dataTemplate, entry);
     for (const auto& item : dataTemplate.items()) {
         for (const ValidCondition& condition : item->validity()) {
             if (const RuleProtocolItem* const controller = controllerOf(dataTemplate, condition))
                 controlled[controller].append(item.get());
         }
-        if (!allMet(dataTemplate, entry, *item))
+        if (!conditions.allMet(*item))
             toVisit.append(item.get());
     }
     QSet<const RuleProtocolItem*> hidden;

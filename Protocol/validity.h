@@ -16,8 +16,9 @@ namespace Validity
 /// Flags every conditional item of @p dataTemplate in @p entry.
 void update(const DataTemplate& dataTemplate, RuleDataInfo& entry);
 
-/// Flags one item of @p dataTemplate in @p entry.
-void update(const DataTemplate& dataTemplate, RuleDataInfo& entry, const RuleProtocolItem& item);
+/// Flags those items of @p dataTemplate in @p entry.
+void update(const DataTemplate& dataTemplate, RuleDataInfo& entry,
+            const QVector<const RuleProtocolItem*>& items);
 
 /// By key, the items with a condition that names it, in the template's order.
 using Dependents = QHash<QString, QVector<const RuleProtocolItem*>>;

@@ -31,6 +31,7 @@ const RuleParser& loaded(int size)
     std::unique_ptr<RuleParser>& parser = made[size];
     if (!parser) {
         parser = std::make_unique<RuleParser>();
+        SampleDocument::liftLimits(*parser);
         parser->parseTemplate(SampleDocument::ruleTemplate());
         parser->readData(QString::fromUtf8(configuration(size)));
     }
@@ -54,6 +55,7 @@ void load(benchmark::State& state, int size)
     const QString text = QString::fromUtf8(configuration(size));
     for (auto _ : state) {
         RuleParser parser;
+        SampleDocument::liftLimits(parser);
         if (!parser.parseTemplate(templateText) || !parser.readData(text) ||
             parser.getData(SceneType::Rules)->getDataCount() != size)
             state.SkipWithError("not all rules were read");

@@ -31,6 +31,7 @@ void printRules()
     const QString text = QString::fromUtf8(utf8);
     const double before = bytesInUse();
     RuleParser parser;
+    SampleDocument::liftLimits(parser);
     parser.parseTemplate(templateText);
     parser.readData(text);
     const double bytes = bytesInUse() - before;

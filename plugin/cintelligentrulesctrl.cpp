@@ -39,8 +39,6 @@ constexpr int kEmptyConfigLength = 10;
 constexpr int kQuestionType = 1;
 // In characters: dozens of times what a channel's documents have together.
 constexpr int kLongestBlock = 16 << 20;
-// Each has a button, which takes some 15 kB.
-constexpr int kMostEntries = 10'000;
 // Some lines of the narrow column; names from documents can be of any length.
 constexpr int kLongestHint = 300;
 
@@ -220,7 +218,6 @@ bool CIntelligentRulesCtrl::readDocuments(const QString& templateText, const QSt
 {
     auto parser = std::make_unique<RuleParser>();
     parser->setAlgorithmInfo(m_algorithmType, m_algorithmCode);
-    parser->setMostEntries(kMostEntries);
     QString why;
     if (templateText.isEmpty() || configText.isEmpty())
         why = tr("The documents are too long.");

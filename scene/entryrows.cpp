@@ -78,8 +78,7 @@ private:
     Level enter(const QString& key)
     {
         const QVector<const RuleProtocolItem*> items = m_dependents.value(key);
-        for (const RuleProtocolItem* item : items)
-            Validity::update(m_template, m_entry, *item);
+        Validity::update(m_template, m_entry, items);
         return {items, 0};
     }
 

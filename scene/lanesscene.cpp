@@ -84,7 +84,7 @@ int LanesScene::freeLaneNumber() const
 {
     const CountRange count = ruleData()->getTemplate()->countRange();
     int number = count.min;
-    while (number <= count.max && m_laneNumbers.contains(number))
+    while (number <= count.max && number < kAnyCount && m_laneNumbers.contains(number))
         ++number;
     return number;
 }

@@ -353,6 +353,10 @@
         <source>The configuration has %1 entries under &quot;%2&quot;; at most %3 can be edited.</source>
         <translation>Die Konfiguration hat %1 Einträge unter &quot;%2&quot;; höchstens %3 können bearbeitet werden.</translation>
     </message>
+    <message>
+        <source>The attributes read too much of what the configuration has under &quot;%1&quot;.</source>
+        <translation>Die Attribute lesen zu viel von dem, was die Konfiguration unter &quot;%1&quot; hat.</translation>
+    </message>
 </context>
 <context>
     <name>RuleScene</name>

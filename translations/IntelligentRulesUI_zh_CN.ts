@@ -353,6 +353,10 @@
         <source>The configuration has %1 entries under &quot;%2&quot;; at most %3 can be edited.</source>
         <translation>配置在&quot;%2&quot;下有 %1 个条目；最多可编辑 %3 个。</translation>
     </message>
+    <message>
+        <source>The attributes read too much of what the configuration has under &quot;%1&quot;.</source>
+        <translation>属性从配置的&quot;%1&quot;下读取的内容过多。</translation>
+    </message>
 </context>
 <context>
     <name>RuleScene</name>

@@ -41,6 +41,34 @@ QByteArray nested(int depth)
     return QByteArray("[").repeated(depth) + QByteArray("]").repeated(depth);
 }
 
+/// Attributes of one key that share a place.
+QByteArray sharing(const QByteArray& type, const QByteArray& facade)
+{
+    const QByteArray control = R"({"key": "n", "protocol": {"name": "N", "type": ")";
+    return AbsurdDocuments::rules(AbsurdDocuments::list(1000, control + type + "\"}}"),
+                                  R"("n": {"facade": ")" + facade + "\"}", R"({"N": 0})");
+}
+
+/// An attribute that applies while a list has one of @p count values.
+QByteArray conditional(int count)
+{
+    return AbsurdDocuments::rules(
+        R"({"key": "n", "protocol": {"name": "N", "type": "string"}}, {"key": "m",
+            "protocol": {"name": "M", "type": "int"}, "valid": {"controlKey": "n",
+            "enumValueArray": [)" +
+            AbsurdDocuments::list(count, R"("a%1")") + "]}}",
+        {}, R"({"N": []})");
+}
+
+/// An element that an entry gets only when it is written: its place is another attribute's, too.
+QByteArray laterElement()
+{
+    return AbsurdDocuments::rules(
+        R"({"key": "o", "protocol": {"name": "N.O", "type": "object"}},
+           {"key": "n", "protocol": {"name": "N", "type": "int", "index": 1000}})",
+        {}, R"({"N": null})");
+}
+
 constexpr int kLong = 1 << 20;
 
 } // namespace
@@ -132,6 +160,20 @@ private slots:
         row("a prototype in entries",
             areas().replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'), empty,
             entries);
+        row("elements in entries", laterElement(),
+            R"({"R": [)" + AbsurdDocuments::list(9000, R"({"N": []})") + "]}", entries);
+        const auto reads =
+            "The attributes read too much of what the configuration has under \"R[]\".";
+        row("attributes with one text", sharing("string", "inputBoxNumber"),
+            oneRule("\"N\": \"" + QByteArray(70'000, 'x') + '"'), reads);
+        row("attributes with one figure", sharing("point", "region"),
+            oneRule("\"N\": [" + AbsurdDocuments::list(1100, "[%1, 7]") + ']'), reads);
+        row("entries of two sections",
+            areas()
+                .replace("\"rules\"", "\"detectArea\": {\"parent\": \"R[]\"}, \"rules\"")
+                .replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'),
+            R"({"R": [)" + AbsurdDocuments::list(2500, "{}") + "]}",
+            "The configuration has 2500 entries under \"R[]\"; at most %1 can be edited.");
         row("entries", areas(), R"({"R": [)" + AbsurdDocuments::list(8001, "{}") + "]}",
             "The configuration has 8001 entries under \"R[]\"; at most 8000 can be edited.");
         row("figures in an entry",
@@ -148,7 +190,7 @@ private slots:
         QFETCH(QByteArray, config);
         QFETCH(QString, why);
         QString said;
-        m_parser.setMostEntries(8000);
+        m_parser.setLimits({8000, 64 << 20});
         const bool isRead = m_parser.parseTemplate(QString::fromUtf8(description), said) &&
                             m_parser.readData(QString::fromUtf8(config), said);
         QVERIFY(!isRead);
@@ -156,6 +198,17 @@ private slots:
         QCOMPARE(said, why.contains("%1") ? why.arg(most) : why);
         for (const auto& refused : m_parser.getAllData())
             QVERIFY(refused->getDataCount() == 0 && !refused->getDrawScene()->getFirstDrawItem());
+    }
+
+    /// Every value of one long list is looked for in another one.
+    void longConditions()
+    {
+        const QByteArray others = AbsurdDocuments::list(20'000, "\"b%1\"");
+        const QByteArray description = conditional(20'000);
+        read(description, oneRule("\"N\": [" + others + ']'));
+        QVERIFY(!entry().isValid("m"));
+        read(description, oneRule("\"N\": [" + others + ", \"a19999\"]"));
+        QVERIFY(entry().isValid("m"));
     }
 
     void counts_data()

@@ -376,9 +376,9 @@ private slots:
     {
         Desk desk;
         const QByteArray gate = rule("Gate") + ',';
-        desk.load(gate.repeated(10000) + rule("Gate"));
+        desk.load(gate.repeated(3000) + rule("Gate"));
         QCOMPARE(desk.find<QLabel>("lblHint")->text(),
-                 QString("The configuration has 10001 entries under \"Rules[]\"; at most 10000 can "
+                 QString("The configuration has 3001 entries under \"Rules[]\"; at most 3000 can "
                          "be edited."));
         QVERIFY(!desk.find("rules") && !desk.pictureRect().isEmpty());
         desk.click("btnSave");

@@ -79,7 +79,8 @@ void drawArea(PanelBench& bench)
 void drawLane(PanelBench& bench, int x)
 {
     bench.click("fuc8");
-    bench.press({{x, 100}, {x, 500}, {x + 80, 100}, {x + 80, 500}});
+    // The fourth point is on the wrong side of the first line.
+    bench.press({{x, 100}, {x, 500}, {x + 80, 100}, {x - 50, 300}, {x + 80, 500}});
 }
 
 } // namespace
@@ -160,6 +161,11 @@ private slots:
         QCOMPARE(number(2), 1);
         drawLane(bench, 550);
         QCOMPARE(number(3), 4);
+
+        PanelBench last(lanes("[2147483647, 2147483647]"), R"({"Lanes": {"Number": 2147483647}})",
+                        SceneType::Lanes);
+        drawLane(last, 100);
+        QCOMPARE(last.entry(1).value("lanesNum"), QVariant(2147483647));
     }
 
     void laneNumberGoesToItsRule()
@@ -167,6 +173,7 @@ private slots:
         PanelBench bench(kLaneRules, "{}", SceneType::Lanes);
         QVERIFY(!bench.isShown("childFucBar"));
         drawLane(bench, 100);
+        QVERIFY(bench.canvas().getFirstDrawItem()->getPoints().contains({1440, 4000}));
         QCOMPARE(bench.entry(0).value("ruleLaneNumber"), QVariant(1));
         QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
         bench.enter("lanesNum", "2");
@@ -202,11 +209,25 @@ private slots:
         bench.click("redraw");
         QCOMPARE(bench.canvas().message(), QString("Please draw verticalLine1!"));
 
+        PanelBench loaded(calibrate("Scene"),
+                          R"({"Areas": [{"Area": [[0, 0], [800, 0], [800, 800], [0, 800]],
+                              "Staffs": [{"Type": "Vertical", "Length": 2, "Start": [100, 100],
+                              "End": [100, 700]}]}]})",
+                          SceneType::CalibrateArea);
+        loaded.pick(0, "childDrawItems");
+        loaded.click("redraw");
+        loaded.press({{500, 500}}); // outside the area
+        QCOMPARE(loaded.figures(0),
+                 QString("calibrateAreaRegion: 4, calibrateAreaVerticalLine: 0..."));
+
         PanelBench byLane(calibrate("Lane"), "{}", SceneType::CalibrateArea);
         QCOMPARE(caption(byLane, "calibrateAreaVertical"), QString("Length"));
         QCOMPARE(caption(byLane, "calibrateAreaHorizontal"), QString("Width"));
         drawArea(byLane);
         QVERIFY(!byLane.isShown("childFucBar") && !byLane.isShown("childDrawItems"));
+        byLane.click("fuc1");
+        byLane.press({{200, 200}}); // inside the first area
+        QCOMPARE(byLane.figures(1), QString("calibrateAreaRegion: 0..."));
     }
 
     void tabFollowsTheRows()
