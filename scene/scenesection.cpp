@@ -43,8 +43,8 @@ void SceneSection::setSelected(bool selected)
 {
     finishEdits();
     m_selected = selected;
-    if (!selected)
-        dropFocus();
+    if (!selected && !dropFocus())
+        return;
     setProperty("selected", selected);
     m_widgets.titleBar->setSelected(selected);
     updateMask();
@@ -66,8 +66,8 @@ void SceneSection::setSelectMode(bool on)
 
 void SceneSection::setFold(bool folded)
 {
-    if (folded)
-        dropFocus();
+    if (folded && !dropFocus())
+        return;
     m_folded = folded;
     m_widgets.titleBar->setFolded(folded);
     relayout(0, 0);
@@ -163,9 +163,9 @@ bool SceneSection::takeFocusFrom(const QWidget& part)
     return self;
 }
 
-void SceneSection::dropFocus()
+bool SceneSection::dropFocus()
 {
-    QWidget* focused = QApplication::focusWidget();
-    if (focused && isAncestorOf(focused))
-        focused->clearFocus();
+    const QPointer<SceneSection> self(this);
+    Focus::takeFrom(*this);
+    return self;
 }

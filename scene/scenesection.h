@@ -53,7 +53,8 @@ private:
     void updateMask();
     void updateContentWidgets();
     void focusMoved(const QWidget* old, const QWidget* now);
-    void dropFocus();
+    /// Takes the focus out of the section. False as takeFocusFrom().
+    bool dropFocus();
 
     SceneWidgets m_widgets;
     bool m_folded = false;

@@ -224,6 +224,10 @@ private:
             window.load("C1", rule("Gate"), R"(, "editable": false)");
         };
         const auto adds = [](const Window& window) { window.click("addRule"); };
+        const auto picksOther = [](const Window& window) {
+            QVERIFY(
+                QMetaObject::invokeMethod(window.find<QWidget>("global"), "sgnTrySelectedlScene"));
+        };
         const auto reports = [this](const Window& window, const Happening& happen) {
             m_whileReporting = happen;
             connect(window.content, SIGNAL(sgnNotifyVideoSize(int, int)), this,
@@ -242,7 +246,8 @@ private:
                 {"told the picture's size", reports},
                 {"focus leaves a row that goes", movesFocus("high", loadsLocked)},
                 {"focus leaves a button that hides", movesFocus("btnSave", loadsLocked)},
-                {"focus leaves a button that is disabled", movesFocus("addRule", adds)}};
+                {"focus leaves a button that is disabled", movesFocus("addRule", adds)},
+                {"focus leaves a section for another one", movesFocus("high", picksOther)}};
     }
 
     void happen(What what, Window& window)
