@@ -143,8 +143,9 @@ private slots:
         staff->addPoint(10, 20);
         staff->setMovePoint(50, 60);
         QCOMPARE(staff->movePoint().value(), QPoint(10, 60));
+        const quint64 shown = staff->revision();
         staff->setMovePoint(std::nullopt);
-        QVERIFY(!staff->movePoint());
+        QVERIFY(!staff->movePoint() && staff->revision() != shown);
     }
 
     void keepsDirectionPointsUntilSomethingChanges()

@@ -63,11 +63,9 @@ private slots:
             p.AddRectangle(Rect(0, 0, 50, 50));
             addSquare(p, 10, 10, 10, true);
         };
-        const auto overlap = [](bool clockwise) {
-            return [clockwise](GraphicsPath& p) {
-                addSquare(p, 0, 0, 20, true);
-                addSquare(p, 10, 10, 20, clockwise);
-            };
+        const auto opposed = [](GraphicsPath& p) {
+            addSquare(p, 0, 0, 20, true);
+            addSquare(p, 10, 10, 20, false);
         };
         const auto polygon = [](const std::array<Point, 4>& points) {
             return [points](GraphicsPath& p) { p.AddPolygon(points.data(), 4); };
@@ -95,9 +93,7 @@ private slots:
               {{10, 10}, {19, 19}, {50, 5}, {-1, 5}});
         check("winding has no hole of like direction", FillModeWinding, hole, {{10, 10}, {15, 15}},
               {});
-        check("winding joins overlaps", FillModeWinding, overlap(true),
-              {{15, 15}, {5, 5}, {25, 25}}, {{25, 5}, {5, 25}});
-        check("winding cancels opposite directions", FillModeWinding, overlap(false),
+        check("winding cancels opposite directions", FillModeWinding, opposed,
               {{5, 5}, {25, 25}, {20, 20}}, {{10, 10}, {15, 15}, {19, 19}});
         check("far away", FillModeAlternate,
               polygon({{{-kFar, -kFar}, {kFar, -kFar}, {kFar, kFar}, {-kFar, kFar}}}),
@@ -117,12 +113,8 @@ private slots:
                 QCOMPARE(image.pixel(filled.topLeft()), QRgb(kInk));
             }
         };
-        check("level line", {10, 9, 10, 2}, {},
-              [this](Graphics& g) { g.DrawLine(&m_pen, 10, 10, 20, 10); });
         check("upright line, backwards", {9, 10, 2, 10}, {},
               [this](Graphics& g) { g.DrawLine(&m_pen, 10.0F, 20.0F, 10.0F, 10.0F); });
-        check("rectangle", {9, 9, 22, 22}, {11, 11, 18, 18},
-              [this](Graphics& g) { g.DrawRectangle(&m_pen, 10, 10, 20, 20); });
         check("crossing mark", {9, 9, 4, 4}, {},
               [this](Graphics& g) { g.DrawRectangle(&m_pen, 10.0F, 10.0F, 2.0F, 2.0F); });
         check("filled rectangle", {10, 12, 20, 8}, {},

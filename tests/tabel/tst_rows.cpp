@@ -3,19 +3,16 @@
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
-#include "tabel/drawfucbutton.h"
 #include "tabel/drawitembutton.h"
 #include "tabel/radiobuttonwidget.h"
 #include "tabel/rowedit.h"
 #include "tabel/ruleitemwidgettabel.h"
-#include "tabel/rulewidgettabel.h"
 #include "tests/support/rulestest.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDoubleValidator>
 #include <QLabel>
-#include <memory>
 #include <tuple>
 #include <vector>
 
@@ -107,19 +104,9 @@ class TstRows : public RulesTest
     Q_OBJECT
 
 private slots:
-    void makesRowsByFacade()
+    void unitsLieInTheirEdits()
     {
-        RuleProtocolItem item;
-        for (int facade = -1; facade < 120; ++facade) {
-            item.setFacade(FacadeType(facade));
-            const std::unique_ptr<ControlTabel> row(createControlTabel(&item, nullptr));
-            QCOMPARE(row != nullptr, facade >= 102 && facade <= 106);
-            QCOMPARE(item.row(), row.get());
-        }
-        const Bench bench(FacadeType::InputBoxNumber, ValueType::Int, {}, {}, 7);
-        QCOMPARE(bench.row->objectName(), QStringLiteral("key"));
-        QCOMPARE(bench.row->value(), QVariant(7));
-        QVERIFY(!bench.row->isModified());
+        const Bench bench(FacadeType::InputBoxNumber, ValueType::Int);
         auto* edit = bench.row->findChild<RowEdit*>(QStringLiteral("edit"));
         auto* unit = bench.row->findChild<QLabel*>(QStringLiteral("unit"));
         QCOMPARE(edit->textMargins().right(), unit->width() + 5);
@@ -157,10 +144,8 @@ private slots:
         const auto f = ValueType::Float;
         const QVariant none;
         const QString old = QStringLiteral("old");
-        check("int", i, 1, 100, 7, "42", "42", "42", "42");
         check("int keeps out letters", i, none, none, 7, "a4,2.", "42", "42", "42");
         check("int above, while typing", i, -10, 5, 3, "9", "5", "5", "5");
-        check("int above a positive range", i, 1, 100, 7, "101", "100", "100", "100");
         check("int below is mended", i, 10, 50, 20, "3", "3", "10", "10");
         check("int emptied is mended", i, 10, 50, 20, "", "", "10", "10");
         check("int emptied below 0 is mended", i, -50, -10, -20, "", "", "-10", "-10");
@@ -186,15 +171,10 @@ private slots:
         QCOMPARE(bench.take() + edit->text(), QStringLiteral("700"));
 
         // Reached when text gets past the validator.
-        const auto finish = [&](const char* text) {
-            edit->setText(QLatin1String(text));
-            emit edit->editingFinished();
-            return bench.take();
-        };
-        QCOMPARE(finish("3"), QStringLiteral("10 3"));
-        QCOMPARE(finish("77"), QStringLiteral("50 77"));
         bench.item.setRange(20, 10);
-        QCOMPARE(finish("15"), QStringLiteral("20 10 15"));
+        edit->setText(QStringLiteral("15"));
+        emit edit->editingFinished();
+        QCOMPARE(bench.take(), QStringLiteral("20 10 15"));
     }
 
     void editsRanges()
@@ -381,17 +361,6 @@ private slots:
         buttons[1]->click();
         QVERIFY(table.buttons().isEmpty() && table.isEmpty());
         QCOMPARE(clicked.value(2).value(0).toInt(), 12);
-
-        RuleWidgetTabel bar;
-        QSignalSpy wanted(&bar, &RuleWidgetTabel::sgnBtnClicked);
-        auto* line = new DrawFucButton(BaseDrawType::DirectionLine, QStringLiteral("Line"));
-        bar.addButton(line);
-        line->click();
-        bar.removeWidget(line);
-        line->click();
-        QCOMPARE(wanted.count(), 1);
-        QCOMPARE(wanted.value(0).value(0).toInt(), 2);
-        QVERIFY(bar.drawTypes().isEmpty());
     }
 
     void enableCheckBoxFollows()

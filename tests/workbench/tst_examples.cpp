@@ -55,97 +55,76 @@ private slots:
         QVERIFY2(written["channelAbilityPO"] == read(saved), qPrintable(written.toStyledText()));
     }
 
-    void refusesArguments_data()
+    void refusesArguments()
     {
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("says");
-        const auto row = [](const char* name, const QString& arguments, const char* says,
-                            int status = Unusable) {
-            QTest::newRow(name) << arguments << status << says;
+        const auto check = [this](const QString& arguments, const char* says,
+                                  int status = Unusable) {
+            const Outcome outcome = run(arguments.split(' '));
+            QVERIFY2(outcome.said.contains(QRegularExpression(says)),
+                     qPrintable(arguments + ": " + outcome.said));
+            QVERIFY2(outcome.status == status, qPrintable(arguments));
         };
         const QString good = documents().join(' ') + ' ';
         const QString config = "--config " + kPerimeter + "config.json --template ";
-        row("help", "--help", "--editable [\\s\\S]*presence\\s+locks", SavedOrClosed);
-        row("version", "--version", "rules-workbench \\d", SavedOrClosed);
-        row("no option", "template.json", "Unexpected argument: template.json");
-        row("no number", "--type one", "--type takes a number, not \"one\"");
-        row("no switch", "--editable maybe", "takes true or false, not \"maybe\"");
-        row("missing template", config + "none.json", "none.json: No such file");
-        row("broken template", config + file("a.json", "{\n \"a\": 1,\n ]\n"), "a.json:3:2: \\S");
-        row("other document", config + file("b.json", "{}"),
-            "b.json:1:1: .* \"configDescription\"");
-        row("broken configuration", good + "--config " + file("c.json", "{} d"), "c.json:1:4: \\S");
-        row("missing session", good + "--replay none.jsonl", "none.jsonl: No such file");
-        row("broken session", good + "--replay " + file("e.jsonl", "{\"do\":\"save\"}\n\n{]\n"),
-            "e.jsonl:3:2: \\S");
-        row("nothing to do", good + "--replay " + file("f.jsonl", "{\"to\":1}"),
-            "f.jsonl:1:1: .*\"do\"");
-        row("no plug-in", good + "--plugin " + file("g.so", "text"), "g.so");
-        row("no folder for the result",
-            good + "--result none/result.json --replay " +
-                file("h.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n{\"do\":\"wait\"}\n"),
-            "none/result.json: \\S");
-    }
-
-    void refusesArguments()
-    {
-        QFETCH(const QString, arguments);
-        QFETCH(const int, status);
-        QFETCH(const QString, says);
-        const Outcome outcome = run(arguments.split(' '));
-        QVERIFY2(outcome.said.contains(QRegularExpression(says)), qPrintable(outcome.said));
-        QCOMPARE(outcome.status, status);
-    }
-
-    void failsAtSteps_data()
-    {
-        QTest::addColumn<QByteArray>("steps");
-        QTest::addColumn<QString>("says");
-        // Two steps are parted by a bar; the last one fails.
-        const auto row = [](const QByteArray& steps, const char* says) {
-            QTest::newRow(steps.constData()) << steps << QString(says);
-        };
-        const QByteArray rules = "\"scene\":\"rules\",";
-        row(R"("dance")", "there is no step \"dance\"");
-        row(R"("select","scene":"moon")", "there is no section \"moon\"");
-        row("\"click\"," + rules + R"("object":"fuc9")", "no such widget");
-        row("\"pick\"," + rules + R"("entry":4)", "no such widget");
-        row("\"enable\"," + rules + R"("entry":1,"on":false)", "no such widget");
-        row("\"set\"," + rules + R"("key":"speed","value":1)", "no row \"speed\"");
-        row("\"set\"," + rules + R"("key":"ruleAction","value":"Fly")", "no option \"Fly\"");
-        row("\"set\"," + rules + R"("key":"ruleCrossing","value":"Both")", "it is hidden");
-        row(R"("set","scene":"global","key":"globalShadow","value":false)", "it is covered");
-        row("\"click\"," + rules + "\"object\":\"addRule\"|\"pick\"," + rules + "\"entry\":1",
-            "it is disabled");
-        row(R"("load","editable":true|"save")", "it is hidden");
-        row(R"("press","button":"left","at":[8300,100])", "not on the picture");
-        row(R"("wait","ms":1|"save")", "a question came up.*Please confirm");
-        row(R"("load","config":"none.json")", "none.json: No such file");
-        row(R"("screenshot","file":"none/step.png")", "cannot write");
-        row(R"("expect","box":"Saved")", "the last box is null, not \"Saved\"");
-        row("\"expect\"," + rules + "\"hint\":\"Draw\"", "the hint is \".*\", not \"Draw\"");
-        row("\"expect\"," + rules + "\"entries\":2", "the number of entries is 3, not 2");
-        row("\"expect\"," + rules + "\"current\":2", "the current entry is 1, not 2");
-        row(R"("expect","row":"ruleDwell","value":16)", "value is \"15\", not 16");
-        row(R"("expect","row":"ruleDwell","visible":false)", "visibility is true, not false");
-        row(R"("expect","row":"ruleDwell","enabled":false)", "enabled state is true, not false");
-        row(R"("query"|"expect","posted":{"unFinishedDraw":true})", "Draw is false, not true");
-        row(R"("query"|"expect","posted":null)", "a message was posted");
+        check("--help", "--editable [\\s\\S]*presence\\s+locks", SavedOrClosed);
+        check("--version", "rules-workbench \\d", SavedOrClosed);
+        check("template.json", "Unexpected argument: template.json");
+        check("--type one", "--type takes a number, not \"one\"");
+        check("--editable maybe", "takes true or false, not \"maybe\"");
+        check(config + "none.json", "none.json: No such file");
+        check(config + file("a.json", "{\n \"a\": 1,\n ]\n"), "a.json:3:2: \\S");
+        check(config + file("b.json", "{}"), "b.json:1:1: .* \"configDescription\"");
+        check(good + "--config " + file("c.json", "{} d"), "c.json:1:4: \\S");
+        check(good + "--replay none.jsonl", "none.jsonl: No such file");
+        check(good + "--replay " + file("e.jsonl", "{\"do\":\"save\"}\n\n{]\n"),
+              "e.jsonl:3:2: \\S");
+        check(good + "--replay " + file("f.jsonl", "{\"to\":1}"), "f.jsonl:1:1: .*\"do\"");
+        check(good + "--plugin " + file("g.so", "text"), "g.so");
+        check(good + "--result none/result.json --replay " +
+                  file("h.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n{\"do\":\"wait\"}\n"),
+              "none/result.json: \\S");
     }
 
     void failsAtSteps()
     {
-        QFETCH(QByteArray, steps);
-        QFETCH(const QString, says);
-        steps.prepend("\"wait\",\"picture\":true|");
-        const int last = steps.count('|') + 1;
-        const QByteArray session = "{\"do\":" + steps.replace("|", "}\n{\"do\":") + "}\n";
-        const Outcome outcome =
-            run(documents() + QStringList{"--replay", file("steps.jsonl", session)});
-        const QRegularExpression pattern(QString("steps.jsonl: line %1: .*%2").arg(last).arg(says));
-        QVERIFY2(outcome.said.contains(pattern), qPrintable(outcome.said));
-        QCOMPARE(outcome.status, int(StepFailed));
+        // Two steps are parted by a bar; the last one fails.
+        const auto check = [this](QByteArray steps, const char* says) {
+            steps.prepend("\"wait\",\"picture\":true|");
+            const int last = steps.count('|') + 1;
+            const QByteArray session = "{\"do\":" + steps.replace("|", "}\n{\"do\":") + "}\n";
+            const Outcome outcome =
+                run(documents() + QStringList{"--replay", file("steps.jsonl", session)});
+            const QRegularExpression failure(
+                QString("steps.jsonl: line %1: .*%2").arg(last).arg(says));
+            QVERIFY2(outcome.said.contains(failure), qPrintable(steps + ": " + outcome.said));
+            QVERIFY2(outcome.status == StepFailed, steps.constData());
+        };
+        const QByteArray rules = "\"scene\":\"rules\",";
+        check(R"("dance")", "there is no step \"dance\"");
+        check(R"("select","scene":"moon")", "there is no section \"moon\"");
+        check("\"click\"," + rules + R"("object":"fuc9")", "no such widget");
+        check("\"pick\"," + rules + R"("entry":4)", "no such widget");
+        check("\"enable\"," + rules + R"("entry":1,"on":false)", "no such widget");
+        check("\"set\"," + rules + R"("key":"speed","value":1)", "no row \"speed\"");
+        check("\"set\"," + rules + R"("key":"ruleAction","value":"Fly")", "no option \"Fly\"");
+        check("\"set\"," + rules + R"("key":"ruleCrossing","value":"Both")", "it is hidden");
+        check(R"("set","scene":"global","key":"globalShadow","value":false)", "it is covered");
+        check("\"click\"," + rules + "\"object\":\"addRule\"|\"pick\"," + rules + "\"entry\":1",
+              "it is disabled");
+        check(R"("load","editable":true|"save")", "it is hidden");
+        check(R"("press","button":"left","at":[8300,100])", "not on the picture");
+        check(R"("wait","ms":1|"save")", "a question came up.*Please confirm");
+        check(R"("load","config":"none.json")", "none.json: No such file");
+        check(R"("screenshot","file":"none/step.png")", "cannot write");
+        check(R"("expect","box":"Saved")", "the last box is null, not \"Saved\"");
+        check("\"expect\"," + rules + "\"hint\":\"Draw\"", "the hint is \".*\", not \"Draw\"");
+        check("\"expect\"," + rules + "\"entries\":2", "the number of entries is 3, not 2");
+        check("\"expect\"," + rules + "\"current\":2", "the current entry is 1, not 2");
+        check(R"("expect","row":"ruleDwell","value":16)", "value is \"15\", not 16");
+        check(R"("expect","row":"ruleDwell","visible":false)", "visibility is true, not false");
+        check(R"("expect","row":"ruleDwell","enabled":false)", "enabled state is true, not false");
+        check(R"("query"|"expect","posted":{"unFinishedDraw":true})", "Draw is false, not true");
+        check(R"("query"|"expect","posted":null)", "a message was posted");
     }
 
     void knowsEveryStep()

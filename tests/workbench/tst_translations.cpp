@@ -65,50 +65,35 @@ private slots:
         QVERIFY(count > 0);
     }
 
-    void windowSpeaksTheLocale_data()
-    {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("example");
-        QTest::addColumn<QString>("scene");
-        QTest::addColumn<QString>("object");
-        QTest::addColumn<QString>("text");
-        const auto add = [](const char* locale, const char* example, const char* scene,
-                            const char* object, const char* text) {
-            QTest::addRow("%s %s %s", locale, scene, object)
-                << locale << example << scene << object << QString::fromUtf8(text);
-        };
-        add("fr_FR", "perimeter", "rules", "delete", "Delete");
-        add("de_DE", "perimeter", "rules", "addRule", "Regel hinzufügen");
-        add("de_AT", "perimeter", "rules", "redraw", "Neu");
-        add("de_DE", "perimeter", "global", "titleLabel", "Globale Konfiguration");
-        add("de_DE", "perimeter", "", "btnSave", "Sichern");
-        add("de_DE", "traffic", "lanes", "titleLabel", "Fahrspurkonfiguration");
-        add("zh_CN", "perimeter", "rules", "addRule", "添加规则");
-        add("zh_CN", "perimeter", "rules", "hint", "单击左键添加点，单击右键完成绘制。");
-        add("zh_CN", "fight-calibration", "fightCalibrate", "drawItems", "区域1");
-        add("zh_CN", "scene-calibration", "calibrateArea", "drawItems", "区域1");
-    }
-
     void windowSpeaksTheLocale()
     {
-        QFETCH(const QString, locale);
-        QFETCH(const QString, example);
-        QFETCH(const QString, scene);
-        QFETCH(const QString, object);
-        QFETCH(const QString, text);
-        const QLocale before;
-        QLocale::setDefault(QLocale(locale));
-        {
+        const auto check = [](const char* locale, const char* example, const char* scene,
+                              const char* object, const char* text) {
+            QLocale::setDefault(QLocale(locale));
             WorkbenchWindow window(WorkbenchBench::example(example));
             QString error;
             QVERIFY2(window.start(error), qPrintable(error));
             const PanelFinder finder(window.rulesWindow());
-            QWidget* panel = scene.isEmpty() ? window.rulesWindow() : finder.panel(scene);
-            QWidget* shown = finder.part(panel, object);
-            if (object == QLatin1String("drawItems"))
-                shown = finder.entryButtons(panel, false).value(0);
-            QCOMPARE(textOf(shown), text);
-        }
+            QWidget* panel = *scene ? finder.panel(scene) : window.rulesWindow();
+            const QWidget* shown = qstrcmp(object, "drawItems") == 0
+                                       ? finder.entryButtons(panel, false).value(0)
+                                       : finder.part(panel, object);
+            QCOMPARE(textOf(shown), QString::fromUtf8(text));
+        };
+        const QLocale before;
+        check("fr_FR", "perimeter", "rules", "delete", "Delete");
+        check("fr_FR", "traffic", "detectArea", "titleLabel", "Detection configuration");
+        check("fr_FR", "fight-calibration", "fightCalibrate", "titleLabel", "Fight configuration");
+        check("fr_FR", "scene-calibration", "calibrateArea", "titleLabel", "Scene calibration");
+        check("fr_FR", "lane-calibration", "calibrateArea", "titleLabel", "Lane calibration");
+        check("de_DE", "perimeter", "rules", "addRule", "Regel hinzufügen");
+        check("de_AT", "perimeter", "rules", "redraw", "Neu");
+        check("de_DE", "perimeter", "global", "titleLabel", "Globale Konfiguration");
+        check("de_DE", "perimeter", "", "btnSave", "Sichern");
+        check("de_DE", "traffic", "lanes", "titleLabel", "Fahrspurkonfiguration");
+        check("zh_CN", "perimeter", "rules", "hint", "单击左键添加点，单击右键完成绘制。");
+        check("zh_CN", "fight-calibration", "fightCalibrate", "drawItems", "区域1");
+        check("zh_CN", "scene-calibration", "calibrateArea", "drawItems", "区域1");
         QLocale::setDefault(before);
     }
 };
