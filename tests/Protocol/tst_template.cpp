@@ -177,6 +177,42 @@ private slots:
         QCOMPARE(options[2].value + item->units(), QString());
     }
 
+    /// Controls of one key have the same details; a default is of each one's own type.
+    void sharedDetails()
+    {
+        const auto described = [](const RuleProtocolItem& item) {
+            const CountRange points = item.pointCount();
+            return QVariantList{item.caption(),
+                                int(item.facade()),
+                                item.units(),
+                                item.rangeMinimum(),
+                                item.rangeMaximum(),
+                                item.defaultValue(),
+                                item.hasAllChoice(),
+                                item.enumeration().size(),
+                                item.countRange().max,
+                                points.min,
+                                points.max};
+        };
+        for (const char* kind : {R"("inputBoxNumber", "range": [2, 9], "default": 4, "units": "s")",
+                                 R"("checkbox", "default": "x", "enumeration": [{"isAll": true}])",
+                                 R"("region", "range": [4, 7])"}) {
+            const QString control = R"({"key": "a", "protocol": {"type": "%1"}})";
+            const QString controls =
+                control.arg("int") + "," + control.arg("int") + "," + control.arg("string");
+            const RuleData* data =
+                parse(rules(R"("parent": "R", "controls": [)" + controls + "]",
+                            R"({"a": {"describe": "A", "facade": )" + QString(kind) + "}}"));
+            const auto& items = data->getTemplate()->items();
+            QVariantList expected = described(*items[0]);
+            QVERIFY(expected.first() == "A" && expected[1] != int(FacadeType::None));
+            QCOMPARE(described(*items[1]), expected);
+            if (items[0]->facade() == FacadeType::InputBoxNumber)
+                expected[5] = QString(); // no text
+            QCOMPARE(described(*items[2]), expected);
+        }
+    }
+
     void figurePoints()
     {
         using Limits = std::optional<CountRange>;
