@@ -11,6 +11,8 @@
 
 #include <QHash>
 #include <QPair>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 using kql::Json::Value;
@@ -62,6 +64,7 @@ EntryWriter::EntryWriter(const RuleData& data, const QString& section) : m_figur
             m_targets.push_back({item.get(), EntryKey(item->key()), false});
     }
     markSharedPlaces();
+    listElements();
 }
 
 void EntryWriter::markSharedPlaces()
@@ -71,6 +74,17 @@ void EntryWriter::markSharedPlaces()
         ++users[{target.item->path().text(), target.item->index()}];
     for (Target& target : m_targets)
         target.isShared = users.value({target.item->path().text(), target.item->index()}) > 1;
+}
+
+void EntryWriter::listElements()
+{
+    for (const Target& target : m_targets) {
+        if (!target.item->isFigure() && target.item->index() >= 0)
+            m_elements.push_back(target);
+    }
+    std::stable_sort(m_elements.begin(), m_elements.end(), [](const Target& a, const Target& b) {
+        return a.item->index() > b.item->index();
+    });
 }
 
 Value EntryWriter::emptyEntry() const
@@ -91,6 +105,7 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
 {
     ElementMaker elements;
     const Pass pass{entry, asRead, json, elements};
+    makeElements(pass);
     // What does not apply goes first, so that the row that the operator sees wins.
     const auto isWrittenFirst = [&entry](const Target& target) {
         return target.isShared && !entry.isValid(target.key);
@@ -102,6 +117,32 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
     for (const Target& target : m_targets) {
         if (!isWrittenFirst(target))
             writeItem(target, pass);
+    }
+}
+
+/// A skeleton may have null where devices have a list. Elements that this one's list lacks are
+/// made when they are other than what is read without them.
+void EntryWriter::makeElements(const Pass& pass) const
+{
+    const auto listOf = [&pass](const Target& target) {
+        const Value* found = pass.asRead ? target.item->path().probe(*pass.asRead) : nullptr;
+        return found && found->isArray() ? found : nullptr;
+    };
+    std::vector<Target> missing;
+    std::copy_if(m_elements.begin(), m_elements.end(), std::back_inserter(missing),
+                 [&](const Target& target) {
+                     const Value* field = target.item->path().probe(pass.json);
+                     return field && field->isNull() && listOf(target);
+                 });
+    for (const Target& target : missing) {
+        const RuleProtocolItem& item = *target.item;
+        const Value& list = *listOf(target);
+        Value& field = *item.path().readPath(pass.json);
+        if (field.isNull())
+            field = Value(kql::Json::ValueType::Array);
+        if (item.index() < list.size() ||
+            pass.entry.value(target.key) != ValueConversion::parseJsonToValue(list, item))
+            pass.elements.make(field, item.index());
     }
 }
 
@@ -121,8 +162,6 @@ void EntryWriter::writeValueToJson(const Target& source, const Pass& pass)
         pass.asRead && (item.valueType() == ValueType::Float || item.index() >= 0);
     const Value* asRead = needsSource ? item.path().probe(*pass.asRead) : nullptr;
     if (Value* target = item.path().readPath(pass.json)) {
-        if (item.index() >= 0 && target->isNull() && asRead && asRead->isArray())
-            pass.elements.make(*target = Value(kql::Json::ValueType::Array), item.index());
         ValueConversion::toJson(value, item, *target, asRead);
         return;
     }

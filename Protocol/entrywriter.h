@@ -38,10 +38,13 @@ private:
     struct Pass;
 
     void markSharedPlaces();
+    void listElements();
+    void makeElements(const Pass& pass) const;
     void writeItem(const Target& target, const Pass& pass) const;
     static void writeValueToJson(const Target& source, const Pass& pass);
     void writeFigure(const RuleProtocolItem& item, const Pass& pass) const;
 
     std::vector<Target> m_targets;
+    std::vector<Target> m_elements; ///< of array-valued fields, the last ones first
     EntryFigures m_figures;
 };
