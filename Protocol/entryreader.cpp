@@ -22,7 +22,7 @@ namespace
 // of figures the time in which they are painted.
 constexpr int kValue = 16;
 constexpr int kFigure = 1024;
-constexpr int kPoint = 128;
+constexpr int kPoint = 1024;
 
 qint64 textIn(const QVariant& value)
 {

@@ -17,6 +17,26 @@ namespace
 const Gdiplus::ARGB kShade = 0x64000000;
 const Gdiplus::ARGB kMessageColor = 0xFFFFFFFF;
 
+// Smoothing more than that takes seconds where lines cross all over the picture, areas even more.
+constexpr int kMostSmoothPoints = 8192;
+constexpr int kMostSmoothAreaPoints = 128;
+
+void setSmooth(Gdiplus::Graphics& graphics, bool on)
+{
+    graphics.SetSmoothingMode(on ? Gdiplus::SmoothingModeAntiAlias : Gdiplus::SmoothingModeNone);
+}
+
+void paintFigures(Gdiplus::Graphics& graphics, const std::vector<BaseDraw*>& figures)
+{
+    qint64 points = 0;
+    for (const BaseDraw* figure : figures)
+        points += figure->pointCount();
+    setSmooth(graphics, points <= kMostSmoothPoints);
+    for (BaseDraw* figure : figures)
+        figure->draw(&graphics);
+    setSmooth(graphics, true);
+}
+
 /// Maps the items of @p source's tree to those of @p copy's, a clone of it.
 void pairTrees(DrawItem* source, DrawItem* copy, QHash<const DrawItem*, DrawItem*>& pairs)
 {
@@ -239,7 +259,7 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
     }
     drawLayer(*graphics, m_below, below, true);
     if (live)
-        live->draw(graphics);
+        paintFigures(*graphics, {live});
     drawLayer(*graphics, m_above, above, false);
     drawMessage(*graphics);
 }
@@ -404,15 +424,16 @@ void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
     layer.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
         if (withArea)
             drawForbidenArea(target);
-        for (BaseDraw* figure : figures)
-            figure->draw(&target);
+        paintFigures(target, figures);
     });
 }
 
 void DrawScene::drawForbidenArea(Gdiplus::Graphics& graphics) const
 {
     const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
+    setSmooth(graphics, m_forbidenArea->GetPointCount() <= kMostSmoothAreaPoints);
     graphics.FillPath(&shade, m_forbidenArea.get());
+    setSmooth(graphics, true);
 }
 
 void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
@@ -421,14 +442,15 @@ void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
         return;
     const Gdiplus::Font& font = LabelFont::font();
     Gdiplus::RectF text;
-    graphics.MeasureString(wideText(m_message), -1, &font, Gdiplus::PointF(0, 0), &text);
+    graphics.MeasureString(wideText(m_message), paintedLength(m_message), &font,
+                           Gdiplus::PointF(0, 0), &text);
     text.X = std::trunc((float(m_canvasSize.width()) - text.Width) / 2);
     text.Y = std::trunc((float(m_canvasSize.height()) - text.Height) / 2);
     const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
     graphics.FillRectangle(&shade, text.X, text.Y, text.Width, text.Height);
     const Gdiplus::StringFormat format;
     const Gdiplus::SolidBrush ink{Gdiplus::Color(kMessageColor)};
-    graphics.DrawString(wideText(m_message), -1, &font, text, &format, &ink);
+    graphics.DrawString(wideText(m_message), paintedLength(m_message), &font, text, &format, &ink);
 }
 
 QString DrawScene::getBeginDrawMsg(const DrawItem* item) const

@@ -114,7 +114,8 @@ void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
     const StateScope scope(m_graphics);
     moveTo(m_graphics, segment.p1(), segment);
     const Gdiplus::SolidBrush brush(m_color);
-    m_graphics.DrawString(wideText(text), -1, &LabelFont::font(), Gdiplus::PointF(0, 0), &brush);
+    m_graphics.DrawString(wideText(text), paintedLength(text), &LabelFont::font(),
+                          Gdiplus::PointF(0, 0), &brush);
 }
 
 void FigurePainter::stroke(float x1, float y1, float x2, float y2) const

@@ -376,10 +376,13 @@ void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
 {
     if (m_selectionMode || !m_drawScene)
         return;
+    const LoadGuard guard(this);
     if (event->button() == Qt::LeftButton)
         m_drawScene->addDrawPoint(DrawScene::DrawMouseLeftPress, event->pos());
     else if (event->button() == Qt::RightButton)
         m_drawScene->addDrawPoint(DrawScene::DrawMouseRightPress, event->pos());
+    if (!guard.holds())
+        return;
     const bool drawing = std::any_of(m_scenes.cbegin(), m_scenes.cend(),
                                      [](BaseTabelScene* s) { return s->GetDrawStatus(); });
     if (drawing)

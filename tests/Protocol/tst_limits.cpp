@@ -166,6 +166,8 @@ private slots:
             "The attributes read too much of what the configuration has under \"R[]\".";
         row("attributes with one text", sharing("string", "inputBoxNumber"),
             oneRule("\"N\": \"" + QByteArray(70'000, 'x') + '"'), reads);
+        row("points", areas(),
+            oneRule("\"Area\": [" + AbsurdDocuments::list(100'000, "[%1, 7]") + ']'), reads);
         row("attributes with one figure", sharing("point", "region"),
             oneRule("\"N\": [" + AbsurdDocuments::list(1100, "[%1, 7]") + ']'), reads);
         row("entries of two sections",

@@ -9,6 +9,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QRandomGenerator>
+#include <QSet>
+#include <QtMath>
 #include <functional>
 #include <memory>
 
@@ -118,6 +120,37 @@ private slots:
                  qPrintable(QString::number(compared)));
     }
 
+    void smoothsWhatIsNotTooMuch_data()
+    {
+        QTest::addColumn<int>("points");
+        QTest::addColumn<bool>("areLinesSmooth");
+        QTest::addColumn<bool>("isAreaSmooth");
+        QTest::newRow("regions") << 100 << true << true;
+        QTest::newRow("many regions") << 8192 << true << false;
+        QTest::newRow("a blot") << 8193 << false << false;
+    }
+
+    /// A smooth line, or a forbidden area's smooth edge, mixes its colour with the picture's.
+    void smoothsWhatIsNotTooMuch()
+    {
+        QFETCH(const int, points);
+        QVector<QPoint> ring;
+        for (int i = 0; i < points; ++i) {
+            const double angle = 2 * M_PI * i / points;
+            ring.append({int(4096 + 3000 * std::cos(angle)), int(4096 + 3000 * std::sin(angle))});
+        }
+        addPolygon(1, ring);
+        const int ofLines = colorsAboveTheHint();
+        QVERIFY(ofLines >= 2); // the picture's and the line's
+        QTEST(ofLines > 2, "areLinesSmooth");
+        m_scene->setDrawByDataId(true);
+        m_scene->setCurrentDataId(2);
+        m_scene->setSelected(addPolygon(2, {})->itemId(), 2);
+        const int ofArea = colorsAboveTheHint();
+        QVERIFY(ofArea >= 2);
+        QTEST(ofArea > 2, "isAreaSmooth");
+    }
+
 private:
     static constexpr int kSteps = 600;
 
@@ -125,6 +158,27 @@ private:
     QPoint somewhere() { return {random(kCanvas), random(kCanvas)}; }
     QPoint anywhere() { return {random(8192), random(8192)}; }
     QVector<QPoint> twoPoints() { return {anywhere(), anywhere()}; }
+
+    /// Finished, if it has points; no other one may be drawn over it.
+    DrawItem* addPolygon(int dataId, const QVector<QPoint>& points)
+    {
+        auto item = std::make_unique<DrawItem>(BaseDrawType::Polygon);
+        item->setDataId(dataId);
+        item->setForbidenAreaType(DrawItemForbidenAreaType::ForbidenOtherItems);
+        if (!points.isEmpty())
+            item->figure()->setFinishedPoints(points);
+        return m_scene->addItem(std::move(item), 0);
+    }
+
+    /// How many colours are seen in the upper third.
+    int colorsAboveTheHint()
+    {
+        const QImage seen = painted([this](Gdiplus::Graphics& target) { m_scene->draw(&target); });
+        QSet<QRgb> colors;
+        for (int i = 0; i < kCanvas * (kCanvas / 3); ++i)
+            colors.insert(seen.pixel(i % kCanvas, i / kCanvas));
+        return colors.size();
+    }
 
     DrawItem* some()
     {

@@ -27,8 +27,8 @@ QByteArray areas();
 /// A configuration of one rule with these members.
 QByteArray oneRule(const QByteArray& members);
 
-/// Documents with too many of each thing that they may have many of: @p count, of points ten times
-/// as many.
+/// Documents with too many of each thing that they may have many of: @p count, of points
+/// thirty times as many.
 std::vector<Pair> crowded(int count);
 
 } // namespace AbsurdDocuments
