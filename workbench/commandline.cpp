@@ -3,6 +3,7 @@
 #include "host/maskedaddress.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace
 {
@@ -21,7 +22,7 @@ struct FileOption {
 
 const FileOption kTextOptions[] = {
     {"template", "Template document to load.", &WorkbenchOptions::templateFile, "F"},
-    {"config", "Configuration document to load; none is an empty one.",
+    {"config", "Configuration document to load, or a result with one; none is an empty one.",
      &WorkbenchOptions::configFile, "F"},
     {"source",
      "Address or file that gives the channel's picture, in place of the sample camera: an RTSP "
@@ -105,7 +106,7 @@ bool CommandLine::readOptions()
     m_options.selectionMode = m_parser.isSet(QString::fromLatin1(kSelectionMode));
     return readChannelSources() &&
            readNumber(QString::fromLatin1(kType), m_options.algorithmType) &&
-           readSwitch(QString::fromLatin1(kEditable), m_options.editable);
+           readSwitch(QString::fromLatin1(kEditable), m_options.editable) && keepsDocuments();
 }
 
 QString CommandLine::text() const
@@ -126,6 +127,18 @@ bool CommandLine::readChannelSources()
             return false;
         }
         m_options.channelSources.insert(channel, address);
+    }
+    return true;
+}
+
+bool CommandLine::keepsDocuments()
+{
+    const QString result = QFileInfo(m_options.resultFile).canonicalFilePath();
+    for (const QString& document : {m_options.templateFile, m_options.configFile}) {
+        if (result.isEmpty() || result != QFileInfo(document).canonicalFilePath())
+            continue;
+        m_text = translated("--result would replace a document that is loaded: %1").arg(document);
+        return false;
     }
     return true;
 }

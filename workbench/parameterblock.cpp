@@ -12,6 +12,8 @@ namespace ParameterBlock
 namespace
 {
 
+constexpr char kConfiguration[] = "channelAbilityPO";
+
 bool readTemplate(const QString& path, kql::Json::Value& document, QString& error)
 {
     if (!DocumentFile::read(path, document, error))
@@ -22,6 +24,13 @@ bool readTemplate(const QString& path, kql::Json::Value& document, QString& erro
                                         "%1:1:1: the template has no \"configDescription\"")
                 .arg(path);
     return false;
+}
+
+/// A result of an earlier save carries the configuration in one of its members.
+kql::Json::Value configurationIn(kql::Json::Value document)
+{
+    const bool isResult = document.isMember("result") && document.isMember(kConfiguration);
+    return isResult ? document[kConfiguration] : document;
 }
 
 } // namespace
@@ -44,7 +53,7 @@ QString build(const WorkbenchOptions& options, QString& error)
     if (options.editable)
         block["editable"] = *options.editable;
     block["videoConfigRuleProperty"] = std::move(rulesTemplate);
-    block["channelAbilityPO"] = std::move(config);
+    block[kConfiguration] = configurationIn(std::move(config));
     return block.toStyledText();
 }
 

@@ -55,6 +55,23 @@ private slots:
         QVERIFY2(written["channelAbilityPO"] == read(saved), qPrintable(written.toStyledText()));
     }
 
+    void loadsAResult()
+    {
+        const QString save =
+            file("save.jsonl", "{\"do\":\"wait\",\"picture\":true}\n"
+                               "{\"do\":\"expect\",\"scene\":\"rules\",\"entries\":3}\n"
+                               "{\"do\":\"save\",\"answer\":\"Yes\"}\n");
+        const QString first = path("first.json");
+        QString config = kPerimeter + "config.json";
+        for (const QString& result : {first, path("second.json")}) {
+            const Outcome outcome = run({"--template", kPerimeter + "template.json", "--config",
+                                         config, "--replay", save, "--result", result});
+            QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+            config = result;
+        }
+        QCOMPARE(read(config)["channelAbilityPO"], read(kPerimeter + "config.json"));
+    }
+
     void refusesArguments()
     {
         const auto check = [this](const QString& arguments, const char* says,
@@ -70,6 +87,8 @@ private slots:
         check("--version", "rules-workbench \\d", SavedOrClosed);
         check("template.json", "Unexpected argument: template.json");
         check("--type one", "--type takes a number, not \"one\"");
+        check(config + file("t.json", "{}") + " --result " + path("./t.json"),
+              "--result would replace .*t\\.json");
         check("--editable maybe", "takes true or false, not \"maybe\"");
         check(config + "none.json", "none.json: No such file");
         check(config + file("a.json", "{\n \"a\": 1,\n ]\n"), "a.json:3:2: \\S");
