@@ -18,11 +18,8 @@ using kql::Json::Value;
 namespace
 {
 
-// What a value, a figure and a point of it count beside the texts, in characters: their memory, and
-// of figures the time in which they are painted.
+/// What a value or a point counts beside its text, in characters.
 constexpr int kValue = 16;
-constexpr int kFigure = 1024;
-constexpr int kPoint = 1024;
 
 qint64 textIn(const QVariant& value)
 {
@@ -88,7 +85,7 @@ void EntryReader::parseJsonToDataItem(const Source& source, const Value& json, R
     const Value* found = item.path().readPath(json);
     if (!item.isFigure())
         entry.setValue(source.key, found ? parseValue(item, *found) : QVariant());
-    else if (found && found->isArray() && m_data.takeRoom(kFigure + qint64{kPoint} * found->size()))
+    else if (found && found->isArray() && !m_data.isCutShort())
         addFigure(item, json, PointConversion::toPoints(*found), entry, parent);
 }
 
@@ -108,6 +105,9 @@ void EntryReader::addFigure(const RuleProtocolItem& item, const Value& json,
                             const DrawItem* parent) const
 {
     DrawItem* drawItem = m_figures.add(item, entry, points, item.caption(), parent);
-    if (drawItem && drawItem->drawType() == BaseDrawType::Parallelogram)
-        drawItem->figure()->setDirectionPoints(directionPoints(json));
+    if (!drawItem || drawItem->drawType() != BaseDrawType::Parallelogram)
+        return;
+    const QVector<QPoint> direction = directionPoints(json);
+    if (m_data.takeRoom(qint64{kValue} * direction.size()))
+        drawItem->figure()->setDirectionPoints(direction);
 }

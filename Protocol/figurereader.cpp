@@ -13,12 +13,19 @@ namespace
 
 constexpr int kNoParent = -1;
 
+// In characters of text, of which a scene has room for so many: the memory, and mostly the time in
+// which figures are painted.
+constexpr int kFigureSize = 1024;
+constexpr int kPointSize = 1024;
+
 } // namespace
 
 DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& entry,
                             const QVector<QPoint>& points, const QString& label,
                             const DrawItem* parent) const
 {
+    if (!m_data.takeRoom(kFigureSize + qint64{kPointSize} * points.size()))
+        return nullptr;
     auto drawItem =
         FigureMaker::make(m_data, item, entry.id(), FigureMaker::forbiddenType(m_data, item));
     if (!drawItem || !drawItem->figure())

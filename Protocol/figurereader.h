@@ -17,7 +17,8 @@ public:
     explicit FigureReader(RuleData& data) : m_data(data) {}
 
     /// Adds a finished figure of @p item with @p points (0..8192) for @p entry, inside
-    /// @p parent when there is one. The scene owns the result; null when the item draws none.
+    /// @p parent when there is one. The scene owns the result; null when the item draws none
+    /// or @p data has no room left.
     DrawItem* add(const RuleProtocolItem& item, const RuleDataInfo& entry,
                   const QVector<QPoint>& points, const QString& label,
                   const DrawItem* parent = nullptr) const;

@@ -1,10 +1,11 @@
 #include "draw/drawscene.h"
 
 #include "draw/basedraw.h"
-#include "draw/closedoutline.h"
 #include "draw/drawgeometry.h"
 #include "draw/drawitem.h"
+#include "draw/forbidenarea.h"
 #include "draw/labelfont.h"
+#include "draw/shortenedtext.h"
 #include "draw/widetext.h"
 
 #include <QHash>
@@ -16,25 +17,21 @@ namespace
 
 const Gdiplus::ARGB kShade = 0x64000000;
 const Gdiplus::ARGB kMessageColor = 0xFFFFFFFF;
+const int kLongestMessage = 200;
 
-// Smoothing more than that takes seconds where lines cross all over the picture, areas even more.
+// Where they cross all over the picture, smoothing the lines of more points takes seconds.
 constexpr int kMostSmoothPoints = 8192;
-constexpr int kMostSmoothAreaPoints = 128;
-
-void setSmooth(Gdiplus::Graphics& graphics, bool on)
-{
-    graphics.SetSmoothingMode(on ? Gdiplus::SmoothingModeAntiAlias : Gdiplus::SmoothingModeNone);
-}
 
 void paintFigures(Gdiplus::Graphics& graphics, const std::vector<BaseDraw*>& figures)
 {
     qint64 points = 0;
     for (const BaseDraw* figure : figures)
         points += figure->pointCount();
-    setSmooth(graphics, points <= kMostSmoothPoints);
+    if (points > kMostSmoothPoints)
+        graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
     for (BaseDraw* figure : figures)
         figure->draw(&graphics);
-    setSmooth(graphics, true);
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
 }
 
 /// Maps the items of @p source's tree to those of @p copy's, a clone of it.
@@ -272,7 +269,7 @@ void DrawScene::dropPainting()
 
 bool DrawScene::isPointForbidden(const QPoint& point) const
 {
-    return m_forbidenArea && m_forbidenArea->IsVisible(point.x(), point.y());
+    return m_forbidenArea && m_forbidenArea->contains(point);
 }
 
 void DrawScene::itemAdded(DrawItem& item)
@@ -334,7 +331,7 @@ void DrawScene::pressLeft(DrawItem& item, const QPoint& point)
         finishDrawing(item);
     } else if (item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
                !m_forbidenArea) {
-        m_forbidenArea = figure->getForbidenArea();
+        m_forbidenArea = ForbidenArea::of(figure->getForbidenArea());
         m_forbidenFor = &item;
         ++m_forbidenRevision;
     }
@@ -379,29 +376,28 @@ void DrawScene::resizeForbidenArea()
         keepInsideParent(*m_forbidenFor);
         break;
     case DrawItemForbidenAreaType::ForbidenSelf:
-        m_forbidenArea = m_forbidenFor->figure()->getForbidenArea();
+        m_forbidenArea = ForbidenArea::of(m_forbidenFor->figure()->getForbidenArea());
         break;
     }
 }
 
 void DrawScene::keepOutOfItems(const DrawItem* except)
 {
-    m_forbidenArea = std::make_unique<Gdiplus::GraphicsPath>(Gdiplus::FillModeWinding);
+    m_forbidenArea = ForbidenArea::inside(m_canvasSize);
     for (const DrawItem* item : m_items.all()) {
         if (item->figure() && item != except)
-            addClosedOutline(*m_forbidenArea,
-                             DrawGeometry::clockwise(item->figure()->canvasPoints()));
+            m_forbidenArea->addOutline(DrawGeometry::clockwise(item->figure()->canvasPoints()));
     }
 }
 
 void DrawScene::keepInsideParent(const DrawItem& item)
 {
-    m_forbidenArea = std::make_unique<Gdiplus::GraphicsPath>(Gdiplus::FillModeAlternate);
+    m_forbidenArea = ForbidenArea::between(m_canvasSize);
     const DrawItem* parent = item.parent();
     if (!parent || !parent->figure() || parent->drawType() == BaseDrawType::VehicleLane)
         return;
-    addCanvasOutline(*m_forbidenArea, m_canvasSize);
-    addClosedOutline(*m_forbidenArea, parent->figure()->canvasPoints());
+    m_forbidenArea->addCanvas();
+    m_forbidenArea->addOutline(parent->figure()->canvasPoints());
 }
 
 DrawItem* DrawScene::itemBeingDrawn() const
@@ -423,17 +419,9 @@ void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
         shown.push_back(figure->revision());
     layer.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
         if (withArea)
-            drawForbidenArea(target);
+            m_forbidenArea->paint(target);
         paintFigures(target, figures);
     });
-}
-
-void DrawScene::drawForbidenArea(Gdiplus::Graphics& graphics) const
-{
-    const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
-    setSmooth(graphics, m_forbidenArea->GetPointCount() <= kMostSmoothAreaPoints);
-    graphics.FillPath(&shade, m_forbidenArea.get());
-    setSmooth(graphics, true);
 }
 
 void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
@@ -442,15 +430,15 @@ void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
         return;
     const Gdiplus::Font& font = LabelFont::font();
     Gdiplus::RectF text;
-    graphics.MeasureString(wideText(m_message), paintedLength(m_message), &font,
-                           Gdiplus::PointF(0, 0), &text);
+    const QString shown = ShortenedText::of(m_message, kLongestMessage);
+    graphics.MeasureString(wideText(shown), -1, &font, Gdiplus::PointF(0, 0), &text);
     text.X = std::trunc((float(m_canvasSize.width()) - text.Width) / 2);
     text.Y = std::trunc((float(m_canvasSize.height()) - text.Height) / 2);
     const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
     graphics.FillRectangle(&shade, text.X, text.Y, text.Width, text.Height);
     const Gdiplus::StringFormat format;
     const Gdiplus::SolidBrush ink{Gdiplus::Color(kMessageColor)};
-    graphics.DrawString(wideText(m_message), paintedLength(m_message), &font, text, &format, &ink);
+    graphics.DrawString(wideText(shown), -1, &font, text, &format, &ink);
 }
 
 QString DrawScene::getBeginDrawMsg(const DrawItem* item) const

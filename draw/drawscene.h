@@ -16,10 +16,10 @@
 
 class BaseDraw;
 class DrawItem;
+class ForbidenArea;
 namespace Gdiplus
 {
 class Graphics;
-class GraphicsPath;
 } // namespace Gdiplus
 
 /**
@@ -116,7 +116,6 @@ private:
     DrawItem* itemBeingDrawn() const;
     void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
                    const std::vector<BaseDraw*>& figures, bool withForbidenArea) const;
-    void drawForbidenArea(Gdiplus::Graphics& graphics) const;
     void drawMessage(Gdiplus::Graphics& graphics) const;
     QString getBeginDrawMsg(const DrawItem* item) const;
     QString getEndDrawMsg(const DrawItem* item) const;
@@ -125,9 +124,9 @@ private:
     std::vector<std::unique_ptr<DrawItem>> m_roots; ///< the items without a parent
     QSize m_canvasSize{0, 0};
     QString m_message;
-    std::unique_ptr<Gdiplus::GraphicsPath> m_forbidenArea;
-    const DrawItem* m_forbidenFor = nullptr; ///< whose standing area it is; not owned
-    quint64 m_forbidenRevision = 0;          ///< another one whenever the area is another
+    std::unique_ptr<ForbidenArea> m_forbidenArea; ///< null: no point is forbidden
+    const DrawItem* m_forbidenFor = nullptr;      ///< whose standing area it is; not owned
+    quint64 m_forbidenRevision = 0;               ///< another one whenever the area is another
     FigureLayer m_below; ///< the area and the figures before the one being drawn
     FigureLayer m_above; ///< the figures after it
     bool m_drawByDataId = false;

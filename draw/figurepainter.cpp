@@ -2,6 +2,7 @@
 
 #include "draw/drawgeometry.h"
 #include "draw/labelfont.h"
+#include "draw/shortenedtext.h"
 #include "draw/widetext.h"
 
 #include <algorithm>
@@ -11,6 +12,8 @@ namespace
 
 const Gdiplus::ARGB kRefusedColor = 0xFFFF0000;
 const Gdiplus::REAL kPenWidth = 2.0F;
+// A text at an angle of its own is rendered letter by letter.
+const int kLongestLabel = 64;
 const float kHalfShaft = 20.0F;
 const float kWing = 10.0F;
 const float kLeftWingDegrees = -135.0F;
@@ -114,8 +117,8 @@ void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
     const StateScope scope(m_graphics);
     moveTo(m_graphics, segment.p1(), segment);
     const Gdiplus::SolidBrush brush(m_color);
-    m_graphics.DrawString(wideText(text), paintedLength(text), &LabelFont::font(),
-                          Gdiplus::PointF(0, 0), &brush);
+    const QString shown = ShortenedText::of(text, kLongestLabel);
+    m_graphics.DrawString(wideText(shown), -1, &LabelFont::font(), Gdiplus::PointF(0, 0), &brush);
 }
 
 void FigurePainter::stroke(float x1, float y1, float x2, float y2) const

@@ -9,12 +9,13 @@ namespace
 
 /// More than an operator reads; names from documents can be of any length.
 constexpr int kLongestText = 2000;
+/// The buttons have to stay on the screen.
+constexpr int kMostLines = 20;
 
 QString shortened(const QString& text)
 {
-    if (text.size() <= kLongestText)
-        return text;
-    return text.left(kLongestText) + QChar(0x2026);
+    const QString shown = text.left(kLongestText).section(QLatin1Char('\n'), 0, kMostLines - 1);
+    return shown.size() < text.size() ? shown + QChar(0x2026) : text;
 }
 
 QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& title,

@@ -5,6 +5,7 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
 #include "draw/drawscene.h"
+#include "draw/shortenedtext.h"
 #include "host/gdiplus.h"
 #include "host/kqmessagebox.h"
 #include "host/qrtspvideownd.h"
@@ -534,8 +535,7 @@ void CIntelligentRulesCtrl::showError(const QString& message)
 
 void CIntelligentRulesCtrl::showHint(const QString& text)
 {
-    const bool isLong = text.size() > kLongestHint;
-    m_form->lblHint->setText(isLong ? text.left(kLongestHint) + QChar(0x2026) : text);
+    m_form->lblHint->setText(ShortenedText::line(text, kLongestHint));
     m_form->lblHint->setVisible(!text.isEmpty());
 }
 

@@ -96,7 +96,7 @@ void InputBoxTabel::setValue(const QVariant& value, bool emitChange)
 
 QVariant InputBoxTabel::value() const
 {
-    const QString text = m_box->lineEdit()->text();
+    const QString text = m_box->lineEdit()->value();
     const ValueType type = typeOf(protocolItem());
     if (type != ValueType::Int && type != ValueType::Float)
         return text;
@@ -141,7 +141,7 @@ void InputBoxTabel::textEdited(const QString& text)
 
 void InputBoxTabel::editingFinished()
 {
-    const QString text = m_box->lineEdit()->text();
+    const QString text = m_box->lineEdit()->value();
     switch (typeOf(protocolItem())) {
     case ValueType::Int:
         finishInt(text);

@@ -1,25 +1,25 @@
 #include "tabel/plaintext.h"
 
+#include "draw/shortenedtext.h"
+
 #include <QTextDocument>
 
 namespace
 {
 
-constexpr int kMaxLength = 2000;
+constexpr int kLongestLine = 300;
+constexpr int kLongestTip = 2000;
 
 } // namespace
 
 QString PlainText::line(const QString& text)
 {
-    if (text.size() <= kMaxLength)
-        return text;
-    const int cut = text[kMaxLength].isLowSurrogate() ? kMaxLength - 1 : kMaxLength;
-    return text.left(cut) + QChar(0x2026);
+    return ShortenedText::line(text, kLongestLine);
 }
 
 QString PlainText::toolTip(const QString& text)
 {
-    const QString shown = line(text);
+    const QString shown = ShortenedText::of(text, kLongestTip);
     if (!Qt::mightBeRichText(shown))
         return shown;
     return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(shown.toHtmlEscaped());

@@ -7,13 +7,13 @@
 namespace PlainText
 {
 
-/// For labels of one line, which elide what they have no room for.
+/// For labels of one line, which elide what they have no room for. Line breaks become spaces.
 QString line(const QString& text);
 
 /// For tool tips: no part of @p text is taken for rich text.
 QString toolTip(const QString& text);
 
-/// For button texts: "&" stays a character and makes no shortcut.
+/// For buttons, as line(): "&" stays a character and makes no shortcut.
 QString button(const QString& text);
 
 } // namespace PlainText

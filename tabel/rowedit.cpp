@@ -1,17 +1,39 @@
 #include "tabel/rowedit.h"
 
+#include "draw/shortenedtext.h"
+
 #include <QFocusEvent>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QValidator>
 
-RowEdit::RowEdit(QWidget* parent) : QLineEdit(parent) {}
+namespace
+{
+
+/// Laying out more takes longer than an operator waits; a panel can have a thousand edits.
+constexpr int kLongest = 2000;
+
+} // namespace
+
+RowEdit::RowEdit(QWidget* parent) : QLineEdit(parent)
+{
+    setMaxLength(kLongest);
+}
 
 void RowEdit::showValue(const QString& text)
 {
     m_value = text;
-    if (!isUntouchedWith(text))
-        setText(text);
+    const bool isTooLong = text.size() > kLongest;
+    setReadOnly(isTooLong);
+    setToolTip(isTooLong ? tr("The text is too long to be edited here.") : QString());
+    const QString shown = ShortenedText::of(text, kLongest);
+    if (!isUntouchedWith(shown))
+        setText(shown);
+}
+
+QString RowEdit::value() const
+{
+    return isReadOnly() ? m_value : text();
 }
 
 bool RowEdit::isUntouchedWith(const QString& text) const

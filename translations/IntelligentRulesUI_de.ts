@@ -265,6 +265,13 @@
     </message>
 </context>
 <context>
+    <name>RowEdit</name>
+    <message>
+        <source>The text is too long to be edited here.</source>
+        <translation>Der Text ist zu lang, um hier bearbeitet zu werden.</translation>
+    </message>
+</context>
+<context>
     <name>RuleData</name>
     <message>
         <source>Rule</source>

@@ -265,6 +265,13 @@
     </message>
 </context>
 <context>
+    <name>RowEdit</name>
+    <message>
+        <source>The text is too long to be edited here.</source>
+        <translation>文本过长，无法在此编辑。</translation>
+    </message>
+</context>
+<context>
     <name>RuleData</name>
     <message>
         <source>Rule</source>

@@ -166,8 +166,15 @@ private slots:
             "The attributes read too much of what the configuration has under \"R[]\".";
         row("attributes with one text", sharing("string", "inputBoxNumber"),
             oneRule("\"N\": \"" + QByteArray(70'000, 'x') + '"'), reads);
-        row("points", areas(),
-            oneRule("\"Area\": [" + AbsurdDocuments::list(100'000, "[%1, 7]") + ']'), reads);
+        const QByteArray points = '[' + AbsurdDocuments::list(100'000, "[%1, 7]") + ']';
+        row("points", areas(), oneRule("\"Area\": " + points), reads);
+        row("points of a calibrated area",
+            R"({"configDescription": {"calibrateArea": {"parent": "R[]"}}, "configTemplate": {}})",
+            R"({"R": [{"Area": )" + points + "}]}", reads);
+        row("attributes with one direction", sharing("point", "parallelogram"),
+            oneRule(R"("N": [[1, 1], [9, 1], [9, 9], [1, 9]], "Config": {"Direction": )" + points +
+                    '}'),
+            reads);
         row("attributes with one figure", sharing("point", "region"),
             oneRule("\"N\": [" + AbsurdDocuments::list(1100, "[%1, 7]") + ']'), reads);
         row("entries of two sections",

@@ -120,35 +120,34 @@ private slots:
                  qPrintable(QString::number(compared)));
     }
 
-    void smoothsWhatIsNotTooMuch_data()
+    void paintsRoughlyWhatIsTooMuch_data()
     {
         QTest::addColumn<int>("points");
-        QTest::addColumn<bool>("areLinesSmooth");
-        QTest::addColumn<bool>("isAreaSmooth");
-        QTest::newRow("regions") << 100 << true << true;
-        QTest::newRow("many regions") << 8192 << true << false;
-        QTest::newRow("a blot") << 8193 << false << false;
+        QTest::addColumn<int>("rounds");
+        QTest::addColumn<int>("lineColors");
+        QTest::addColumn<int>("areaColors");
+        QTest::newRow("a region") << 100 << 1 << kSmooth << kSmooth;
+        QTest::newRow("a tangle") << 8192 << 100 << kSmooth << kRough;
+        QTest::newRow("a blot") << 8193 << 1000 << kRough << kNone;
     }
 
     /// A smooth line, or a forbidden area's smooth edge, mixes its colour with the picture's.
-    void smoothsWhatIsNotTooMuch()
+    void paintsRoughlyWhatIsTooMuch()
     {
         QFETCH(const int, points);
+        QFETCH(const int, rounds);
         QVector<QPoint> ring;
         for (int i = 0; i < points; ++i) {
-            const double angle = 2 * M_PI * i / points;
+            const double angle = 2 * M_PI * rounds * i / points;
             ring.append({int(4096 + 3000 * std::cos(angle)), int(4096 + 3000 * std::sin(angle))});
         }
         addPolygon(1, ring);
-        const int ofLines = colorsAboveTheHint();
-        QVERIFY(ofLines >= 2); // the picture's and the line's
-        QTEST(ofLines > 2, "areLinesSmooth");
+        QTEST(colorsAboveTheHint(), "lineColors");
         m_scene->setDrawByDataId(true);
         m_scene->setCurrentDataId(2);
         m_scene->setSelected(addPolygon(2, {})->itemId(), 2);
-        const int ofArea = colorsAboveTheHint();
-        QVERIFY(ofArea >= 2);
-        QTEST(ofArea > 2, "isAreaSmooth");
+        QTEST(colorsAboveTheHint(), "areaColors");
+        QVERIFY(m_scene->isPointForbidden({kCanvas / 2 + 20, kCanvas / 2}));
     }
 
 private:
@@ -170,14 +169,16 @@ private:
         return m_scene->addItem(std::move(item), 0);
     }
 
-    /// How many colours are seen in the upper third.
+    static constexpr int kNone = 1, kRough = 2, kSmooth = 3;
+
+    /// How many colours are seen in the upper third, the picture's among them.
     int colorsAboveTheHint()
     {
         const QImage seen = painted([this](Gdiplus::Graphics& target) { m_scene->draw(&target); });
         QSet<QRgb> colors;
         for (int i = 0; i < kCanvas * (kCanvas / 3); ++i)
             colors.insert(seen.pixel(i % kCanvas, i / kCanvas));
-        return colors.size();
+        return qMin(colors.size(), kSmooth);
     }
 
     DrawItem* some()

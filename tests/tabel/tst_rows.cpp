@@ -4,6 +4,7 @@
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
 #include "tabel/drawitembutton.h"
+#include "tabel/plaintext.h"
 #include "tabel/radiobuttonwidget.h"
 #include "tabel/rowedit.h"
 #include "tabel/ruleitemwidgettabel.h"
@@ -159,6 +160,35 @@ private slots:
         check("float below is refused", f, 0.5, 10.0, 1.0, "0.1", "0.1", "", "1");
         check("float emptied is refused", f, none, none, 12345678.25, "", "", "", "12345678.25");
         check("text", ValueType::String, 1, 2, old, "9 & <b>", "9 & <b>", "9 & <b>", "9 & <b>");
+    }
+
+    /// Shown in part, and never lost: not by passing through, by keys or by Return.
+    void keepsTextsTooLongToEdit()
+    {
+        Bench bench(FacadeType::InputBoxNumber, ValueType::String);
+        const QString text = QStringLiteral("line\n").repeated(20'000);
+        bench.container.setControlValue(bench.item.key(), text);
+        bench.take();
+        RowEdit* edit = bench.type("edit", QStringLiteral("7"));
+        QTest::keyClick(edit, Qt::Key_Return);
+        bench.leave();
+        QVERIFY(edit->text().size() <= 2000);
+        QVERIFY(!edit->toolTip().isEmpty());
+        QCOMPARE(bench.row->value(), QVariant(text));
+        bench.container.setControlValue(bench.item.key(), QStringLiteral("short"));
+        bench.type("edit", QStringLiteral("7"));
+        bench.leave();
+        QCOMPARE(bench.row->value(), QVariant(QStringLiteral("7")));
+        QVERIFY(edit->toolTip().isEmpty());
+    }
+
+    void linesHaveNoBreaks()
+    {
+        QCOMPARE(PlainText::button(QStringLiteral("a\nb\r&\u2028c")), QStringLiteral("a b && c"));
+        const QString faces = PlainText::line(QStringLiteral("\U0001F600").repeated(1000));
+        QVERIFY(faces.size() < 400);
+        QVERIFY(faces.at(faces.size() - 2).isLowSurrogate());
+        QVERIFY(PlainText::toolTip(QStringLiteral("a\nb")).contains('\n'));
     }
 
     void finishesWithinLimits()

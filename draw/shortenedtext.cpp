@@ -1,0 +1,38 @@
+#include "draw/shortenedtext.h"
+
+#include <algorithm>
+
+namespace
+{
+
+bool isLineBreak(QChar character)
+{
+    switch (character.unicode()) {
+    case '\n':
+    case '\r':
+    case '\v':
+    case '\f':
+    case QChar::LineSeparator:
+    case QChar::ParagraphSeparator:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+QString ShortenedText::of(const QString& text, int most)
+{
+    if (text.size() <= most)
+        return text;
+    const int cut = text[most - 1].isLowSurrogate() ? most - 2 : most - 1;
+    return text.left(cut) + QChar(0x2026);
+}
+
+QString ShortenedText::line(const QString& text, int most)
+{
+    QString shown = of(text, most);
+    std::replace_if(shown.begin(), shown.end(), isLineBreak, QLatin1Char(' '));
+    return shown;
+}

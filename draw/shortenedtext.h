@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// For what shows texts of documents, which can be of any length.
+namespace ShortenedText
+{
+
+/// @p text, or the beginning of it and an ellipsis, @p most characters together.
+QString of(const QString& text, int most);
+
+/// As of(), with spaces in the place of line breaks.
+QString line(const QString& text, int most);
+
+} // namespace ShortenedText
