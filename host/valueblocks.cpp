@@ -1,7 +1,8 @@
 #include "host/valueblocks.h"
 
+#include "host/namehash.h"
+
 #include <algorithm>
-#include <functional>
 #include <new>
 
 namespace kql
@@ -223,7 +224,7 @@ Value* MemberBlock::findLinear(const Value& name) noexcept
 Value* MemberBlock::findHashed(std::string_view name) noexcept
 {
     const std::size_t mask = slotCount(capacity) - 1;
-    for (std::size_t slot = std::hash<std::string_view>()(name) & mask;; slot = (slot + 1) & mask) {
+    for (std::size_t slot = std::size_t(hashOfName(name)) & mask;; slot = (slot + 1) & mask) {
         const std::uint32_t position = table()[slot];
         if (position == kFree)
             return nullptr;
@@ -259,7 +260,7 @@ void MemberBlock::addToTable(int position) noexcept
     if (capacity <= kLinear)
         return;
     const std::size_t mask = slotCount(capacity) - 1;
-    std::size_t slot = std::hash<std::string_view>()(begin()[position].name.asView()) & mask;
+    std::size_t slot = std::size_t(hashOfName(begin()[position].name.asView())) & mask;
     while (table()[slot] != kFree)
         slot = (slot + 1) & mask;
     table()[slot] = std::uint32_t(position);

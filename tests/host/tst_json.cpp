@@ -3,6 +3,7 @@
 #include "host/value.h"
 #include "tests/support/rulestest.h"
 
+#include <functional>
 #include <limits>
 
 using kql::Json::Reader;
@@ -189,6 +190,21 @@ private slots:
         for (int i = 101; i < count; ++i)
             QCOMPARE(value[name(i)].asInt(), i);
         QVERIFY(value.memberName(100) == name(101) && !value.isMember(name(100)));
+    }
+
+    /// All begin to look for their place in an eighth of a table of known hashes, which fills it.
+    /// Each compared with all before it takes minutes.
+    void namesThatShareTheirHashes()
+    {
+        const int count = 400000;
+        QByteArray text;
+        for (int i = 0, found = 0; found < count; ++i) {
+            const std::string name = std::to_string(i);
+            if (std::hash<std::string_view>()(name) % 1048576 >= 131072)
+                continue;
+            text += (found++ == 0 ? "{\"" : ",\"") + QByteArray::fromStdString(name) + "\":0";
+        }
+        QCOMPARE(parsed(text + '}').size(), count);
     }
 
     void copiesAreIndependent()
