@@ -3,6 +3,8 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/drawitem.h"
 
+#include <QHash>
+
 #include <algorithm>
 
 DataTemplate::DataTemplate() = default;

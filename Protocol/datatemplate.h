@@ -3,8 +3,8 @@
 #include "Protocol/checkrule.h"
 #include "Protocol/countrange.h"
 
-#include <QHash>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <memory>
 #include <vector>
@@ -67,6 +67,6 @@ private:
     QString m_title;
     CountRange m_countRange{0, kAnyCount};
     Items m_items;
-    mutable QHash<QString, RuleProtocolItem*> m_itemsByKey; ///< the first of each key, when needed
+    mutable QMap<QString, RuleProtocolItem*> m_itemsByKey; ///< the first of each key, when needed
     QList<CheckRule> m_checkRules;
 };

@@ -96,7 +96,7 @@ QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& foun
     if (!m_data.takeRoom(kValue + textIn(value)))
         return {};
     if (value.userType() == QMetaType::QString && !item.enumeration().isEmpty())
-        return *m_choices.insert(value.toString());
+        return *m_choices.insert(value.toString()).first;
     return value;
 }
 

@@ -4,8 +4,8 @@
 #include "Protocol/figurereader.h"
 #include "Protocol/ruledatainfo.h"
 
-#include <QSet>
 #include <QString>
+#include <set>
 #include <vector>
 
 class DrawItem;
@@ -57,5 +57,5 @@ private:
     RuleDataInfo m_blank; ///< as an entry is of which none of the items is found
     int m_controlCount = 0;
     FigureReader m_figures;
-    mutable QSet<QString> m_choices; ///< texts of enumerations, which entries share
+    mutable std::set<QString> m_choices; ///< texts of enumerations, which entries share
 };

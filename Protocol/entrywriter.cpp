@@ -9,7 +9,7 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 
-#include <QHash>
+#include <QMap>
 #include <QPair>
 #include <algorithm>
 #include <iterator>
@@ -69,7 +69,7 @@ EntryWriter::EntryWriter(const RuleData& data, const QString& section) : m_figur
 
 void EntryWriter::markSharedPlaces()
 {
-    QHash<QPair<QString, int>, int> users;
+    QMap<QPair<QString, int>, int> users;
     for (const Target& target : m_targets)
         ++users[{target.item->path().text(), target.item->index()}];
     for (Target& target : m_targets)

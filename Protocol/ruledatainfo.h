@@ -2,7 +2,7 @@
 
 #include <QBitArray>
 #include <QExplicitlySharedDataPointer>
-#include <QHash>
+#include <QMap>
 #include <QString>
 #include <QVariant>
 #include <optional>
@@ -62,7 +62,7 @@ private:
 
     /// Keys have slots, counted from 0, and there the value of entries without one of their own.
     struct Common : QSharedData {
-        QHash<QString, int> slotOf;
+        QMap<QString, int> slotOf;
         std::vector<std::optional<QVariant>> values;
     };
     struct OwnValue {

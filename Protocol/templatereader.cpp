@@ -14,7 +14,7 @@
 #include "Protocol/templateitemreader.h"
 #include "host/value.h"
 
-#include <QHash>
+#include <QMap>
 #include <QPair>
 #include <QStringList>
 #include <algorithm>
@@ -166,7 +166,7 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
         return items;
     const QString parent = section["parent"].asString();
     const QStringList dependencies = TemplateItemReader::parseDependencies(controls);
-    QHash<QPair<QString, int>, const RuleProtocolItem*> known;
+    QMap<QPair<QString, int>, const RuleProtocolItem*> known;
     int room = controls.size() <= EntryLimit::kMostAttributes ? EntryLimit::kMostChoices : -1;
     for (int i = 0; i < controls.size() && room >= 0; ++i) {
         auto item = TemplateItemReader::parseControl(controls[i]);

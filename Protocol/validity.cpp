@@ -4,6 +4,8 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
+#include <QHash>
+
 #include <algorithm>
 
 namespace
@@ -51,24 +53,27 @@ private:
         if (!controller)
             return true;
         const QStringList current = currentValues(*controller, m_entry);
-        const auto isOneOf = [](const QStringList& texts, const auto& others) {
-            return std::any_of(texts.begin(), texts.end(),
-                               [&others](const QString& text) { return others.contains(text); });
-        };
         if (current.size() <= kFew)
-            return isOneOf(current, condition.values);
+            return std::any_of(current.begin(), current.end(), [&](const QString& text) {
+                return condition.values.contains(text);
+            });
         // Both lists may be as long as documents are, and many conditions name one controller.
-        QSet<QString>& texts = m_longLists[controller];
-        if (texts.isEmpty())
-            texts = QSet<QString>(current.begin(), current.end());
-        return isOneOf(condition.values, texts);
+        QStringList& sorted = m_longLists[controller];
+        if (sorted.isEmpty()) {
+            sorted = current;
+            std::sort(sorted.begin(), sorted.end());
+        }
+        return std::any_of(condition.values.begin(), condition.values.end(),
+                           [&sorted](const QString& text) {
+                               return std::binary_search(sorted.cbegin(), sorted.cend(), text);
+                           });
     }
 
     static constexpr int kFew = 8;
 
     const DataTemplate& m_template;
     const RuleDataInfo& m_entry;
-    QHash<const RuleProtocolItem*, QSet<QString>> m_longLists;
+    QHash<const RuleProtocolItem*, QStringList> m_longLists;
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QHash>
+#include <QMap>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -21,7 +21,7 @@ void update(const DataTemplate& dataTemplate, RuleDataInfo& entry,
             const QVector<const RuleProtocolItem*>& items);
 
 /// By key, the items with a condition that names it, in the template's order.
-using Dependents = QHash<QString, QVector<const RuleProtocolItem*>>;
+using Dependents = QMap<QString, QVector<const RuleProtocolItem*>>;
 Dependents dependents(const DataTemplate& dataTemplate);
 
 /// The items whose rows are not to be shown for @p entry: those whose condition is not met, and

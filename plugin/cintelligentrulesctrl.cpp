@@ -23,7 +23,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QSet>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -431,7 +430,7 @@ void CIntelligentRulesCtrl::sltSave()
 
 bool CIntelligentRulesCtrl::checkScenes()
 {
-    QSet<QString> names;
+    std::set<QString> names;
     for (BaseTabelScene* scene : qAsConst(m_scenes)) {
         if (!checkScene(*scene) || !collectNames(*scene, names))
             return false;
@@ -454,18 +453,16 @@ bool CIntelligentRulesCtrl::checkScene(BaseTabelScene& scene)
     return false;
 }
 
-bool CIntelligentRulesCtrl::collectNames(const BaseTabelScene& scene, QSet<QString>& names)
+bool CIntelligentRulesCtrl::collectNames(const BaseTabelScene& scene, std::set<QString>& names)
 {
     const RuleData& rules = *scene.ruleData();
     if (rules.getSceneType() != SceneType::Rules)
         return true;
     for (int i = 0; i < rules.getDataCount(); ++i) {
-        const QString name = EntryName::written(rules, i);
-        if (names.contains(name)) {
+        if (!names.insert(EntryName::written(rules, i)).second) {
             showError(tr("Duplicate rule name exists"));
             return false;
         }
-        names.insert(name);
     }
     return true;
 }

@@ -2,10 +2,10 @@
 
 #include <QList>
 #include <QRect>
-#include <QSet>
 #include <QWidget>
 #include <atomic>
 #include <memory>
+#include <set>
 
 class BaseTabelScene;
 class DrawScene;
@@ -94,7 +94,7 @@ private:
 
     bool checkScenes();
     bool checkScene(BaseTabelScene& scene);
-    bool collectNames(const BaseTabelScene& scene, QSet<QString>& names);
+    bool collectNames(const BaseTabelScene& scene, std::set<QString>& names);
     bool checkSelection();
     bool confirmChange();
     bool postResult();

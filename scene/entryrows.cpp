@@ -8,7 +8,7 @@
 #include "tabel/controltabel.h"
 #include "tabel/layouthold.h"
 
-#include <QHash>
+#include <QMap>
 #include <vector>
 
 namespace
@@ -30,9 +30,9 @@ void storeRow(ControlTabel& row, const QString& key, RuleDataInfo& entry)
     entry.setValue(key, row.value());
 }
 
-QHash<QString, ControlTabel*> rowsByKey(const ControlItemWidgetTabel& rows)
+QMap<QString, ControlTabel*> rowsByKey(const ControlItemWidgetTabel& rows)
 {
-    QHash<QString, ControlTabel*> found;
+    QMap<QString, ControlTabel*> found;
     for (ControlTabel* row : rows.controls()) {
         if (!found.contains(row->key()))
             found.insert(row->key(), row);
@@ -97,7 +97,7 @@ private:
     const DataTemplate& m_template;
     RuleDataInfo& m_entry;
     const Validity::Dependents m_dependents;
-    const QHash<QString, ControlTabel*> m_rows;
+    const QMap<QString, ControlTabel*> m_rows;
 };
 
 } // namespace

@@ -3,8 +3,6 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "tabel/checkboxwidget.h"
 
-#include <QSet>
-
 #include <algorithm>
 
 void CheckBoxTabel::init()
@@ -26,10 +24,10 @@ void CheckBoxTabel::init()
 
 void CheckBoxTabel::setValue(const QVariant& value, bool emitChange)
 {
-    const QStringList values = value.toStringList();
-    const QSet<QString> checked(values.begin(), values.end());
+    QStringList checked = value.toStringList();
+    std::sort(checked.begin(), checked.end());
     for (CheckBoxWidget* box : qAsConst(m_boxes))
-        box->setChecked(checked.contains(box->value()));
+        box->setChecked(std::binary_search(checked.cbegin(), checked.cend(), box->value()));
     if (emitChange)
         announce();
 }

@@ -60,6 +60,21 @@ QByteArray conditional(int count)
         {}, R"({"N": []})");
 }
 
+/// @p count attributes, each for one of the texts of a list.
+QByteArray choosing(int count)
+{
+    return AbsurdDocuments::rules(AbsurdDocuments::list(count, R"({"key": "%1",
+            "protocol": {"name": "N", "type": "string", "index": %1}})"),
+                                  AbsurdDocuments::list(count, R"("%1": {"facade": "radioButton",
+            "enumeration": [{"value": "a"}]})"),
+                                  "{}");
+}
+
+QByteArray quoted(const QStringList& texts)
+{
+    return '"' + texts.join("\", \"").toUtf8() + '"';
+}
+
 /// An element that an entry gets only when it is written: its place is another attribute's, too.
 QByteArray laterElement()
 {
@@ -209,15 +224,25 @@ private slots:
             QVERIFY(refused->getDataCount() == 0 && !refused->getDrawScene()->getFirstDrawItem());
     }
 
-    /// Every value of one long list is looked for in another one.
+    /// Every value of one long list is looked for in another one, whose values share a hash.
     void longConditions()
     {
-        const QByteArray others = AbsurdDocuments::list(20'000, "\"b%1\"");
+        const QByteArray others = quoted(AbsurdDocuments::ofOneHash());
         const QByteArray description = conditional(20'000);
         read(description, oneRule("\"N\": [" + others + ']'));
         QVERIFY(!entry().isValid("m"));
         read(description, oneRule("\"N\": [" + others + ", \"a19999\"]"));
         QVERIFY(entry().isValid("m"));
+    }
+
+    /// All that the attributes of many entries choose shares a hash.
+    void longChoices()
+    {
+        QByteArrayList rules;
+        for (auto texts = AbsurdDocuments::ofOneHash(); !texts.isEmpty(); texts = texts.mid(1000))
+            rules.append("{\"N\": [" + quoted(texts.mid(0, 1000)) + "]}");
+        read(choosing(1000), "{\"R\": [" + rules.join(", ") + "]}");
+        QCOMPARE(entry().value("999").toString().size(), 20);
     }
 
     void counts_data()

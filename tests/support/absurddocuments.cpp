@@ -51,6 +51,25 @@ QByteArray AbsurdDocuments::list(int count, const QByteArray& text)
     return parts.join(',');
 }
 
+QStringList AbsurdDocuments::ofOneHash()
+{
+    constexpr int kBits = 18;
+    QStringList texts;
+    for (int number = 0; number < 1 << kBits; ++number) {
+        QString text(kBits + 2, QLatin1Char('A'));
+        QChar* next = text.data();
+        for (int bit = 0; bit < kBits; ++bit, ++next) {
+            if (((number >> bit) & 1) == 0)
+                continue;
+            next[0].unicode() ^= 0x76F1;
+            next[1].unicode() ^= 0x05EC;
+            next[2].unicode() ^= 0x0001;
+        }
+        texts.append(text);
+    }
+    return texts;
+}
+
 QByteArray AbsurdDocuments::rules(const QByteArray& controls, const QByteArray& details,
                                   const QByteArray& entry, const QByteArray& more)
 {

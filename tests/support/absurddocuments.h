@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QStringList>
 #include <vector>
 
 /// Templates and configurations, as text, that no device sends.
@@ -15,6 +16,12 @@ struct Pair {
 
 /// @p text with 0 to @p count - 1 in the place of %1, separated by commas.
 QByteArray list(int count, const QByteArray& text);
+
+/**
+ * A quarter of a million texts that share their hash, whatever its seed, where Qt hashes by
+ * CRC-32C: they differ by multiples of its polynomial. Compared with each other they take minutes.
+ */
+QStringList ofOneHash();
 
 /// A template whose entries are rules with these controls and their details, in a list "R".
 /// @p entry is the skeleton's, @p more are further members of the section.

@@ -8,6 +8,7 @@
 #include "tabel/radiobuttonwidget.h"
 #include "tabel/rowedit.h"
 #include "tabel/ruleitemwidgettabel.h"
+#include "tests/support/absurddocuments.h"
 #include "tests/support/rulestest.h"
 
 #include <QButtonGroup>
@@ -260,6 +261,8 @@ private slots:
         QCOMPARE(click(2), QStringLiteral("1"));
         bench.row->setValue(QStringLiteral("ALL"), true);
         QCOMPARE(bench.take(), QStringLiteral("none"));
+        bench.row->setValue(AbsurdDocuments::ofOneHash() << QStringLiteral("2"), true);
+        QCOMPARE(bench.take(), QStringLiteral("2"));
     }
 
     void clicksRadioButtons()
