@@ -115,8 +115,14 @@ bool RuleParser::parseTemplate(const QString& text, QString& why)
     m_templateDocument = Value();
     m_configuration = Value();
     Value document;
-    if (!Reader().parse(text, document) || !document.isMember("configDescription"))
+    if (!Reader().parse(text, document)) {
+        why = tr("The template is not valid JSON.");
         return false;
+    }
+    if (!document.isMember("configDescription")) {
+        why = tr("The template has no \"configDescription\".");
+        return false;
+    }
     TemplateReader reader(document);
     auto scenes = reader.read();
     if (reader.isTooLarge()) {
@@ -144,8 +150,10 @@ bool RuleParser::checkTemplate() const
 bool RuleParser::readData(const QString& text, QString& why)
 {
     Value document;
-    if (!Reader().parse(text, document))
+    if (!Reader().parse(text, document)) {
+        why = tr("The configuration is not valid JSON.");
         return false;
+    }
     const auto isRoomFor = [&](const auto& countOf) {
         qint64 room = m_limits.text;
         return std::all_of(m_data.begin(), m_data.end(), [&](const auto& scene) {

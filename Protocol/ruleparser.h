@@ -42,7 +42,7 @@ public:
     void setLimits(const EntryLimit::Limits& limits) { m_limits = limits; }
 
     /// Builds the scenes; false when the text is not JSON or has no "configDescription", or when it
-    /// describes too much. @p why then says so in a sentence, and is left alone in the other cases.
+    /// describes too much. @p why then says so in a sentence.
     bool parseTemplate(const QString& text, QString& why);
     bool parseTemplate(const QString& text);
     /// Always true: kept for hosts that ask before reading.

@@ -20,6 +20,9 @@ class TextStream
 public:
     using Ch = ushort;
 
+    /// So many characters indent a line at most.
+    static constexpr std::size_t kDeepest = std::size_t(4) * 32;
+
     TextStream() { grow(0); }
 
     /// Makes room for @p count characters more.
@@ -48,8 +51,6 @@ public:
     void Flush() {}
 
 private:
-    static constexpr std::size_t kDeepest = std::size_t(4) * 32;
-
     void grow(std::size_t count);
 
     QString m_text; ///< as long as there is room

@@ -125,6 +125,11 @@ public:
     /// The document as indented text. A number that is not finite is written as null.
     std::string toStyledString() const;
     QString toStyledText() const;
+    /// How many characters toStyledText() has, or would have if it were not too long to be made.
+    qint64 styledLength() const;
+    /// The document as text on one line, without blanks: no more than a few times as long as the
+    /// text that it was read from.
+    QString toCompactText() const;
 
 private:
     friend class ValueBuilder;

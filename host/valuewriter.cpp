@@ -1,5 +1,6 @@
 #include "host/value.h"
 
+#include "host/textmeter.h"
 #include "host/textstream.h"
 #include "host/valueblocks.h"
 
@@ -12,6 +13,8 @@ namespace kql
 {
 namespace Json
 {
+
+using Utf16 = rapidjson::UTF16<TextStream::Ch>;
 
 /// Tells a writer of any kind of text what a document holds.
 template<typename Writer>
@@ -96,8 +99,23 @@ std::string Value::toStyledString() const
 QString Value::toStyledText() const
 {
     TextStream text;
-    rapidjson::PrettyWriter<TextStream, rapidjson::UTF8<>, rapidjson::UTF16<TextStream::Ch>> writer(
-        text);
+    rapidjson::PrettyWriter<TextStream, rapidjson::UTF8<>, Utf16> writer(text);
+    ValueWriter(writer).write(*this);
+    return text.take();
+}
+
+qint64 Value::styledLength() const
+{
+    TextMeter meter;
+    rapidjson::PrettyWriter<TextMeter, rapidjson::UTF8<>, Utf16> writer(meter);
+    ValueWriter(writer).write(*this);
+    return meter.length();
+}
+
+QString Value::toCompactText() const
+{
+    TextStream text;
+    rapidjson::Writer<TextStream, rapidjson::UTF8<>, Utf16> writer(text);
     ValueWriter(writer).write(*this);
     return text.take();
 }

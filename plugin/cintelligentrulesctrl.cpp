@@ -34,8 +34,6 @@ namespace IntelligentRulesUI
 namespace
 {
 
-// A styled document this short is an empty object: nothing is running that a save could affect.
-constexpr int kEmptyConfigLength = 10;
 constexpr int kQuestionType = 1;
 // In characters: dozens of times what a channel's documents have together.
 constexpr int kLongestBlock = 16 << 20;
@@ -158,7 +156,7 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
         return;
     const LoadGuard guard(this);
     showParameters(*parameters);
-    initScenes(parameters->templateText, parameters->configText, parameters->selectionMode);
+    initScenes(*parameters);
     if (guard.holds())
         openPicture(*parameters);
     if (guard.holds())
@@ -195,15 +193,15 @@ void CIntelligentRulesCtrl::showParameters(const RulesParameters& parameters)
     m_form->wgtChannelInfo->setEnabled(m_editable);
 }
 
-void CIntelligentRulesCtrl::initScenes(const QString& templateText, const QString& configText,
-                                       bool selectionMode)
+void CIntelligentRulesCtrl::initScenes(const RulesParameters& parameters)
 {
-    m_skipModifyPrompt = configText.length() < kEmptyConfigLength;
-    if (!readDocuments(templateText, configText))
+    // Without a configuration nothing is running that a save could affect.
+    m_skipModifyPrompt = !parameters.hasConfig;
+    if (!readDocuments(parameters.templateText, parameters.configText))
         return;
-    m_form->sceneView->changeHidden([this, selectionMode] {
+    m_form->sceneView->changeHidden([this, &parameters] {
         for (const auto& sceneData : m_parser->getAllData())
-            addPanel(*sceneData, selectionMode);
+            addPanel(*sceneData, parameters.selectionMode);
     });
     if (m_scenes.isEmpty())
         return;
@@ -219,15 +217,12 @@ bool CIntelligentRulesCtrl::readDocuments(const QString& templateText, const QSt
     auto parser = std::make_unique<RuleParser>();
     parser->setAlgorithmInfo(m_algorithmType, m_algorithmCode);
     QString why;
-    if (templateText.isEmpty() || configText.isEmpty())
-        why = tr("The documents are too long.");
-    else if (parser->parseTemplate(templateText, why))
-        parser->readData(configText, why);
+    const bool isRead =
+        parser->parseTemplate(templateText, why) && parser->readData(configText, why);
     showHint(why);
-    if (!why.isEmpty())
-        return false;
-    m_parser = std::move(parser);
-    return true;
+    if (isRead)
+        m_parser = std::move(parser);
+    return isRead;
 }
 
 void CIntelligentRulesCtrl::addPanel(RuleData& sceneData, bool selectionMode)

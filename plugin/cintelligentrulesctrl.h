@@ -78,7 +78,7 @@ private:
     void connectSurface();
     void resetToDefaults();
     void showParameters(const RulesParameters& parameters);
-    void initScenes(const QString& templateText, const QString& configText, bool selectionMode);
+    void initScenes(const RulesParameters& parameters);
     bool readDocuments(const QString& templateText, const QString& configText);
     void addPanel(RuleData& sceneData, bool selectionMode);
     void openPicture(const RulesParameters& parameters);

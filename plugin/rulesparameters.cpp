@@ -18,6 +18,9 @@ namespace
 constexpr char kChannelKey[] = "channalId";
 constexpr char kChannelKeyAlt[] = "channelId";
 
+// Characters of styled text: what is shorter is an empty object, or says as little.
+constexpr int kShortestConfig = 10;
+
 bool hasRequiredMembers(const Value& block)
 {
     constexpr std::array<const char*, 4> kRequired = {
@@ -57,8 +60,9 @@ std::optional<RulesParameters> RulesParameters::parse(const QString& json, int s
     result.hasChannelSn = block.isMember("channelSn");
     result.channelSn = block["channelSn"].asString();
     result.channelName = block["channelName"].asString();
-    result.templateText = block["videoConfigRuleProperty"].toStyledText();
-    result.configText = block["channelAbilityPO"].toStyledText();
+    result.templateText = block["videoConfigRuleProperty"].toCompactText();
+    result.configText = block["channelAbilityPO"].toCompactText();
+    result.hasConfig = block["channelAbilityPO"].styledLength() >= kShortestConfig;
     result.selectionMode = block["selectionMode"].asBool();
     // The mere presence of "editable" locks the window, unless rules are to be selected in it.
     result.editable = !block.isMember("editable") || result.selectionMode;

@@ -17,8 +17,9 @@ struct RulesParameters {
     QString channelSn; ///< shown in place of the channel id when hasChannelSn
     bool hasChannelSn = false;
     QString channelName;
-    QString templateText; ///< styled JSON
-    QString configText;   ///< styled JSON
+    QString templateText;   ///< compact JSON
+    QString configText;     ///< compact JSON
+    bool hasConfig = false; ///< whether there is more in it than an empty object
     bool selectionMode = false;
     bool editable = true;
     /// The stream to show; without an address the channel's live picture is shown.

@@ -345,6 +345,18 @@
 <context>
     <name>RuleParser</name>
     <message>
+        <source>The template is not valid JSON.</source>
+        <translation>Die Vorlage ist kein gültiges JSON.</translation>
+    </message>
+    <message>
+        <source>The template has no &quot;configDescription&quot;.</source>
+        <translation>In der Vorlage fehlt &quot;configDescription&quot;.</translation>
+    </message>
+    <message>
+        <source>The configuration is not valid JSON.</source>
+        <translation>Die Konfiguration ist kein gültiges JSON.</translation>
+    </message>
+    <message>
         <source>The template has no &quot;configTemplate&quot; to write into.</source>
         <translation>In der Vorlage fehlt &quot;configTemplate&quot;, in das geschrieben wird.</translation>
     </message>

@@ -345,6 +345,18 @@
 <context>
     <name>RuleParser</name>
     <message>
+        <source>The template is not valid JSON.</source>
+        <translation>模板不是有效的 JSON。</translation>
+    </message>
+    <message>
+        <source>The template has no &quot;configDescription&quot;.</source>
+        <translation>模板中没有“configDescription”。</translation>
+    </message>
+    <message>
+        <source>The configuration is not valid JSON.</source>
+        <translation>配置不是有效的 JSON。</translation>
+    </message>
+    <message>
         <source>The template has no &quot;configTemplate&quot; to write into.</source>
         <translation>模板中缺少用于写入的&quot;configTemplate&quot;。</translation>
     </message>

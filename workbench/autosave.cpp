@@ -3,7 +3,6 @@
 #include "host/kqmessagebox.h"
 #include "host/qrtspvideownd.h"
 #include "host/value.h"
-#include "workbench/compactjson.h"
 #include "workbench/messagerecord.h"
 #include "workbench/recordedstep.h"
 #include "workbench/restorebar.h"
@@ -129,11 +128,11 @@ void Autosave::begin()
     m_steps.clear();
     if (m_window.options().templateFile.isEmpty())
         return;
-    m_steps.push_back(CompactJson::text(RecordedStep::size(m_window)));
+    m_steps.push_back(RecordedStep::size(m_window).toCompactText().toUtf8());
     const WorkbenchOptions& options = m_window.options();
     Value load = RecordedStep::load(nullptr, options);
     load["digest"] = digestOf({options.templateFile, options.configFile});
-    m_steps.push_back(CompactJson::text(load));
+    m_steps.push_back(load.toCompactText().toUtf8());
 }
 
 void Autosave::append(const Value& step)
@@ -141,7 +140,7 @@ void Autosave::append(const Value& step)
     if (isOneOf(step, {"load"})) {
         begin();
     } else if (!isAnswer(step)) {
-        m_steps.push_back(CompactJson::text(step));
+        m_steps.push_back(step.toCompactText().toUtf8());
         if (isEdit(step))
             changed();
     }

@@ -1,6 +1,6 @@
 #include "workbench/sessionfile.h"
 
-#include "workbench/compactjson.h"
+#include "host/value.h"
 
 bool SessionFile::open(const QString& path, QString& error)
 {
@@ -14,7 +14,7 @@ bool SessionFile::open(const QString& path, QString& error)
 void SessionFile::append(const kql::Json::Value& step)
 {
     m_lastStart = m_file.pos();
-    m_file.write(CompactJson::text(step) + '\n');
+    m_file.write(step.toCompactText().toUtf8() + '\n');
     m_file.flush();
 }
 

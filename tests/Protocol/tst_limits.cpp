@@ -412,11 +412,15 @@ private slots:
         QFETCH(QString, text);
         read(number({}), oneRule("\"N\": 5"));
         const Value before = written();
-        QVERIFY(!m_parser.readData(text));
+        QString config;
+        QVERIFY(!m_parser.readData(text, config) && !config.isEmpty());
         QCOMPARE(scene().getDataCount(), 1);
         QCOMPARE(written(), before);
         const QString description = QString::fromUtf8(number({}));
-        QVERIFY(!m_parser.parseTemplate(QString(description).insert(1, "\"a\": " + text + ",")));
+        QString why;
+        QVERIFY(
+            !m_parser.parseTemplate(QString(description).insert(1, "\"a\": " + text + ","), why));
+        QVERIFY(!why.isEmpty() && why != config);
         QVERIFY(m_parser.getAllData().empty());
     }
 

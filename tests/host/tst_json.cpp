@@ -127,6 +127,7 @@ private slots:
             const Value again = parsed(QByteArray::fromStdString(written));
             QVERIFY2(again == value, text);
             QCOMPARE(again.toStyledString(), written);
+            QCOMPARE(parsed(value.toCompactText().toUtf8()), value);
         }
     }
 
@@ -144,6 +145,7 @@ private slots:
         const Value list = parsed(nested(500).insert(500, QByteArray("1,").repeated(1000) + '1'));
         const QString text = list.toStyledText();
         QVERIFY(text.size() < 300000 && parsed(text.toUtf8()) == list);
+        QCOMPARE(list.styledLength(), qint64(text.size()));
     }
 
     void writesMakeTheirKind()
@@ -153,8 +155,9 @@ private slots:
         value["nan"] = std::numeric_limits<double>::quiet_NaN();
         value["list"].append(1);
         value["list"].append(value["list"]);
-        const Value written = parsed(QByteArray::fromStdString(value.toStyledString()));
-        QVERIFY(written == parsed(R"({"a":{"b":[null,null,"x"]},"nan":null,"list":[1,[1]]})"));
+        const auto expected = R"({"a":{"b":[null,null,"x"]},"nan":null,"list":[1,[1]]})";
+        QCOMPARE(value.toCompactText(), QString(expected));
+        QVERIFY(parsed(QByteArray::fromStdString(value.toStyledString())) == parsed(expected));
 
         Value& list = value["list"];
         list[-1] = 5;

@@ -385,7 +385,13 @@ private slots:
         QCOMPARE(desk.mailbox.takeHeads(), QStringList());
         desk.load(QString(16 << 20, QChar::Space) + block(kChannel, config({})));
         QCOMPARE(desk.find<QLabel>("lblHint")->text(), QString("The documents are too long."));
-        desk.load(rule("Gate"));
+        desk.load(block(kChannel, config({}), "{}"));
+        QCOMPARE(desk.find<QLabel>("lblHint")->text(),
+                 QString("The template has no \"configDescription\"."));
+        // Indented, this has a hundred times the length.
+        const QByteArray deep = QByteArray("[").repeated(400) + QByteArray("0,").repeated(1 << 20) +
+                                '0' + QByteArray("]").repeated(400);
+        desk.load(rule("Gate", ", \"More\": " + deep));
         QVERIFY(desk.find("rules") && !desk.find("lblHint")->isVisible());
     }
 };

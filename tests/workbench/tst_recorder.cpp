@@ -2,7 +2,6 @@
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
 #include "workbench/boxwatcher.h"
-#include "workbench/compactjson.h"
 #include "workbench/messagerecord.h"
 #include "workbench/sessionrecorder.h"
 
@@ -312,8 +311,7 @@ private slots:
         load["template"] = other.templateFile;
         load["config"] = Value();
         load["type"] = 7;
-        compareRecorded({R"({"do":"cancel","answer":"No"})",
-                         QString::fromUtf8(CompactJson::text(load)),
+        compareRecorded({R"({"do":"cancel","answer":"No"})", load.toCompactText(),
                          R"({"do":"cancel","answer":"Yes"})"});
         compareReplayed(Bench::example());
     }
