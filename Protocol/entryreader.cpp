@@ -81,19 +81,24 @@ void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawIte
 void EntryReader::parseJsonToDataItem(const Source& source, const Value& json, RuleDataInfo& entry,
                                       const DrawItem* parent) const
 {
+    if (m_data.isCutShort())
+        return; // all is dropped in the end
     const RuleProtocolItem& item = *source.item;
     const Value* found = item.path().readPath(json);
     if (!item.isFigure())
         entry.setValue(source.key, found ? parseValue(item, *found) : QVariant());
-    else if (found && found->isArray() && !m_data.isCutShort())
+    else if (found && found->isArray())
         addFigure(item, json, PointConversion::toPoints(*found), entry, parent);
 }
 
 QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& found) const
 {
-    QVariant value =
-        m_data.isCutShort() ? QVariant() : ValueConversion::parseJsonToValue(found, item);
-    if (!m_data.takeRoom(kValue + textIn(value)))
+    // Styled text may be a hundred times as long as what it is made of.
+    const qint64 styled = ValueConversion::styledLength(found, item);
+    if (!m_data.takeRoom(kValue + styled))
+        return {};
+    QVariant value = ValueConversion::parseJsonToValue(found, item);
+    if (styled == 0 && !m_data.takeRoom(textIn(value)))
         return {};
     if (value.userType() == QMetaType::QString && !item.enumeration().isEmpty())
         return *m_choices.insert(value.toString()).first;

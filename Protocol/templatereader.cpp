@@ -54,6 +54,17 @@ QList<CheckRule> parseChecks(const Value& checks)
     return rules;
 }
 
+/// How many choices a list counts as. Styled, an object may have a hundred times its length.
+qint64 countChoices(const Value& choices)
+{
+    qint64 count = choices.size();
+    for (int i = 0; i < choices.size(); ++i) {
+        if (const Value& value = choices[i]["value"]; value.isObject())
+            count += value.styledLength() / EntryLimit::kChoiceText;
+    }
+    return count;
+}
+
 bool isEditedPerLane(const DataTemplate::Items& ruleItems)
 {
     return std::any_of(ruleItems.begin(), ruleItems.end(), [](const auto& item) {
@@ -167,7 +178,7 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
     const QString parent = section["parent"].asString();
     const QStringList dependencies = TemplateItemReader::parseDependencies(controls);
     QMap<QPair<QString, int>, const RuleProtocolItem*> known;
-    int room = controls.size() <= EntryLimit::kMostAttributes ? EntryLimit::kMostChoices : -1;
+    qint64 room = controls.size() <= EntryLimit::kMostAttributes ? EntryLimit::kMostChoices : -1;
     for (int i = 0; i < controls.size() && room >= 0; ++i) {
         auto item = TemplateItemReader::parseControl(controls[i]);
         if (controls[i]["depend"].isArray())
@@ -176,7 +187,7 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
         item->setTemplateName(sectionName);
         if (const Value* const details = m_configItems.find(item->key().toStdString())) {
             // Many items may share one long list, so it is counted before it is read.
-            room -= (*details)["enumeration"].size();
+            room -= countChoices((*details)["enumeration"]);
             const RuleProtocolItem*& same =
                 known[{item->key(), static_cast<int>(item->valueType())}];
             if (same)

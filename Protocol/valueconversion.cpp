@@ -104,6 +104,12 @@ Value ValueConversion::numberLike(double number, const Value& like)
     return isWhole && like.isInt() ? Value(static_cast<qint64>(number)) : Value(number);
 }
 
+qint64 ValueConversion::styledLength(const Value& found, const RuleProtocolItem& item)
+{
+    return item.valueType() == ValueType::Object ? readElement(found, item.index()).styledLength()
+                                                 : 0;
+}
+
 QVariant ValueConversion::parseJsonToValue(const Value& found, const RuleProtocolItem& item)
 {
     const Value& value = readElement(found, item.index());

@@ -18,6 +18,9 @@ class Value;
 namespace ValueConversion
 {
 
+/// How many characters the styled text has that @p item reads of @p found; 0 for other types.
+qint64 styledLength(const kql::Json::Value& found, const RuleProtocolItem& item);
+
 /// @p found as a variant; invalid for null and where the type holds no value.
 QVariant parseJsonToValue(const kql::Json::Value& found, const RuleProtocolItem& item);
 

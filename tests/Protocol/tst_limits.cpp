@@ -159,6 +159,7 @@ private slots:
         };
         const auto parts =
             "The template has more than 1000 attributes or 5000 choices in one section.";
+        const QByteArray deep = nested(400).insert(400, QByteArray("0,").repeated(kLong * 2) + '0');
         const auto many = AbsurdDocuments::crowded(1000);
         row("attributes", AbsurdDocuments::crowded(1001)[0].description, "{}", parts);
         row("choices", AbsurdDocuments::crowded(5001)[1].description, "{}", parts);
@@ -166,6 +167,9 @@ private slots:
         row("choices in many attributes",
             QByteArray(many[1].description)
                 .replace(shared, shared + QByteArray(", " + shared).repeated(5)),
+            "{}", parts);
+        row("a choice that is long when it is indented",
+            number(R"(, "facade": "radioButton", "enumeration": [{"value": {"a": )" + deep + "}}]"),
             "{}", parts);
         const QByteArray empty = R"({"R": [)" + AbsurdDocuments::list(9000, "{}") + "]}";
         const auto entries = "The configuration has 9000 entries under \"R[]\"; at most %1 can be "
@@ -181,6 +185,8 @@ private slots:
             "The attributes read too much of what the configuration has under \"R[]\".";
         row("attributes with one text", sharing("string", "inputBoxNumber"),
             oneRule("\"N\": \"" + QByteArray(70'000, 'x') + '"'), reads);
+        row("an object that is long when it is indented", number({}, "object"),
+            oneRule("\"N\": " + deep), reads);
         const QByteArray points = '[' + AbsurdDocuments::list(100'000, "[%1, 7]") + ']';
         row("points", areas(), oneRule("\"Area\": " + points), reads);
         row("points of a calibrated area",
