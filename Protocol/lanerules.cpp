@@ -24,10 +24,14 @@ struct Candidate {
 };
 using Candidates = QVector<Candidate>;
 
+constexpr int kLongestNumber = 32; // in characters
+
 std::optional<int> numberIn(const Value& json, const RuleProtocolItem* item)
 {
     const Value* found = item ? item->path().probe(json) : nullptr;
-    const QVariant value = found ? ValueConversion::parseJsonToValue(*found, *item) : QVariant();
+    if (!found || ValueConversion::styledLength(*found, *item) > kLongestNumber)
+        return std::nullopt;
+    const QVariant value = ValueConversion::parseJsonToValue(*found, *item);
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
     return isNumber ? std::optional<int>(number) : std::nullopt;
