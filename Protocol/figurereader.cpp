@@ -16,7 +16,7 @@ constexpr int kNoParent = -1;
 // In characters of text, of which a scene has room for so many: the memory, and mostly the time in
 // which figures are painted.
 constexpr int kFigureSize = 1024;
-constexpr int kPointSize = 1024;
+constexpr int kPointSize = 512;
 
 } // namespace
 

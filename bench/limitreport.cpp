@@ -139,7 +139,7 @@ void printLimitReport()
     const auto once = AbsurdDocuments::crowded(kCount);
     const auto twice = AbsurdDocuments::crowded(2 * kCount);
     std::printf(
-        "\nAbsurd documents: %d of one thing, of points thirty times as many. The reaction is "
+        "\nAbsurd documents: %d of one thing, of points sixty times as many. The reaction is "
         "to read, check and write.\n%-16s %9s %9s %14s %12s %14s %14s %9s\n",
         kCount, "", "text", "parse", "reaction", "of the parse", "twice as many", "memory",
         "paint");

@@ -117,7 +117,7 @@ void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
     const StateScope scope(m_graphics);
     moveTo(m_graphics, segment.p1(), segment);
     const Gdiplus::SolidBrush brush(m_color);
-    const QString shown = ShortenedText::of(text, kLongestLabel);
+    const QString shown = ShortenedText::middle(text, kLongestLabel);
     m_graphics.DrawString(wideText(shown), -1, &LabelFont::font(), Gdiplus::PointF(0, 0), &brush);
 }
 

@@ -14,8 +14,8 @@ const Gdiplus::ARGB kShade = 0x64000000;
 
 // Where edges cross all over the canvas, more of them takes Qt's rasteriser seconds, a hundred
 // times as long when they are smooth.
-constexpr qint64 kMostSmooth = 32 * 1024;
-constexpr qint64 kMostShaded = 512 * 1024;
+constexpr qint64 kMostSmooth = 32'768;
+constexpr qint64 kMostShaded = 524'288;
 
 } // namespace
 

@@ -31,8 +31,8 @@ public:
     void addOutline(const QVector<QPoint>& points);
 
     bool contains(const QPoint& point) const;
-    /// Shades the area: smoothly, with rough edges when these are long, and not at all when they
-    /// cover the canvas. Leaves the painting smooth.
+    /// Shades the area: with rough edges when these are long together, and not at all when they are
+    /// so long that it would take seconds. Leaves the painting smooth.
     void paint(Gdiplus::Graphics& graphics) const;
 
 private:

@@ -30,6 +30,12 @@ QString ShortenedText::of(const QString& text, int most)
     return text.left(cut) + QChar(0x2026);
 }
 
+QString ShortenedText::middle(const QString& text, int most)
+{
+    constexpr int kEnd = 8;
+    return text.size() <= most ? text : of(text, most - kEnd) + text.right(kEnd);
+}
+
 QString ShortenedText::line(const QString& text, int most)
 {
     QString shown = of(text, most);

@@ -14,8 +14,11 @@ constexpr int kMostLines = 20;
 
 QString shortened(const QString& text)
 {
-    const QString shown = text.left(kLongestText).section(QLatin1Char('\n'), 0, kMostLines - 1);
-    return shown.size() < text.size() ? shown + QChar(0x2026) : text;
+    QString shown = text.left(kLongestText);
+    shown.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    shown.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    shown = shown.section(QLatin1Char('\n'), 0, kMostLines - 1);
+    return shown.size() < text.size() ? shown + QChar(0x2026) : shown;
 }
 
 QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& title,

@@ -23,7 +23,8 @@ RowEdit::RowEdit(QWidget* parent) : QLineEdit(parent)
 void RowEdit::showValue(const QString& text)
 {
     m_value = text;
-    const bool isTooLong = text.size() > kLongest;
+    // Where less can be typed anyway, as in names, a longer text is typed over.
+    const bool isTooLong = text.size() > kLongest && maxLength() == kLongest;
     setReadOnly(isTooLong);
     setToolTip(isTooLong ? tr("The text is too long to be edited here.") : QString());
     const QString shown = ShortenedText::of(text, kLongest);

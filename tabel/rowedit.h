@@ -9,6 +9,7 @@
 class RowEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QString value READ value)
 
 public:
     explicit RowEdit(QWidget* parent = nullptr);

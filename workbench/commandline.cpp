@@ -3,7 +3,6 @@
 #include "host/maskedaddress.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace
 {
@@ -133,14 +132,10 @@ bool CommandLine::readChannelSources()
 
 bool CommandLine::keepsDocuments()
 {
-    const QString result = QFileInfo(m_options.resultFile).canonicalFilePath();
-    for (const QString& document : {m_options.templateFile, m_options.configFile}) {
-        if (result.isEmpty() || result != QFileInfo(document).canonicalFilePath())
-            continue;
-        m_text = translated("--result would replace a document that is loaded: %1").arg(document);
-        return false;
-    }
-    return true;
+    const QString replaced = m_options.replacedDocument();
+    if (!replaced.isEmpty())
+        m_text = translated("--result would replace a document that is loaded: %1").arg(replaced);
+    return replaced.isEmpty();
 }
 
 bool CommandLine::readNumber(const QString& name, int& target)

@@ -99,6 +99,8 @@ QString type(QLineEdit* edit, const QString& text, bool finish)
     const QString why = click(edit);
     if (!why.isEmpty())
         return why;
+    if (edit->isReadOnly())
+        return QCoreApplication::translate("OperatorHand", "it cannot be edited");
     edit->setFocus(Qt::MouseFocusReason);
     edit->selectAll();
     QTest::keyClick(edit, Qt::Key_Delete);

@@ -26,11 +26,21 @@ bool readTemplate(const QString& path, kql::Json::Value& document, QString& erro
     return false;
 }
 
-/// A result of an earlier save carries the configuration in one of its members.
-kql::Json::Value configurationIn(kql::Json::Value document)
+/// Reads a configuration, or a result of an earlier save, which has it in one of its members.
+bool readConfiguration(const QString& path, kql::Json::Value& config, QString& error)
 {
-    const bool isResult = document.isMember("result") && document.isMember(kConfiguration);
-    return isResult ? document[kConfiguration] : document;
+    if (!DocumentFile::read(path, config, error))
+        return false;
+    if (!config.isMember("result") || !config.isMember("algorithmId"))
+        return true;
+    if (!config.isMember(kConfiguration)) {
+        error = QCoreApplication::translate(
+                    "ParameterBlock", "%1:1:1: nothing was saved, so there is no configuration")
+                    .arg(path);
+        return false;
+    }
+    config = kql::Json::Value(config[kConfiguration]);
+    return true;
 }
 
 } // namespace
@@ -42,7 +52,7 @@ QString build(const WorkbenchOptions& options, QString& error)
     kql::Json::Value config(kql::Json::ValueType::Object);
     if (!readTemplate(options.templateFile, rulesTemplate, error))
         return {};
-    if (!options.configFile.isEmpty() && !DocumentFile::read(options.configFile, config, error))
+    if (!options.configFile.isEmpty() && !readConfiguration(options.configFile, config, error))
         return {};
     block["algorithmId"] = options.algorithmId;
     block["algorithmType"] = options.algorithmType;
@@ -53,7 +63,7 @@ QString build(const WorkbenchOptions& options, QString& error)
     if (options.editable)
         block["editable"] = *options.editable;
     block["videoConfigRuleProperty"] = std::move(rulesTemplate);
-    block[kConfiguration] = configurationIn(std::move(config));
+    block[kConfiguration] = std::move(config);
     return block.toStyledText();
 }
 

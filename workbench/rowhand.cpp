@@ -149,7 +149,7 @@ Value shown(const QWidget* row)
     switch (kindOf(row)) {
     case Kind::Input: {
         const auto* edit = row->findChild<QLineEdit*>();
-        return edit ? Value(edit->text()) : Value();
+        return edit ? Value(edit->property("value").toString()) : Value();
     }
     case Kind::CheckBoxes:
         return shownOptions(row);

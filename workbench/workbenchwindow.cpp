@@ -277,7 +277,10 @@ void WorkbenchWindow::takeResult(const QString& result)
     kql::Json::Reader().parse(result, object);
     m_exited = qAsConst(object)["result"].asInt() < 0;
     m_resultError.clear();
-    if (!m_options.resultFile.isEmpty())
+    const QString replaced = m_options.replacedDocument();
+    if (!replaced.isEmpty())
+        m_resultError = tr("The result would replace a document that is loaded: %1").arg(replaced);
+    else if (!m_options.resultFile.isEmpty())
         DocumentFile::write(m_options.resultFile, result, m_resultError);
     m_resultError = UICommonMdl::maskedAddress(m_resultError);
     statusBar()->showMessage(!m_resultError.isEmpty() ? m_resultError

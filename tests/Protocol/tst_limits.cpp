@@ -187,7 +187,7 @@ private slots:
             oneRule("\"N\": \"" + QByteArray(70'000, 'x') + '"'), reads);
         row("an object that is long when it is indented", number({}, "object"),
             oneRule("\"N\": " + deep), reads);
-        const QByteArray points = '[' + AbsurdDocuments::list(100'000, "[%1, 7]") + ']';
+        const QByteArray points = '[' + AbsurdDocuments::list(200'000, "[%1, 7]") + ']';
         row("points", areas(), oneRule("\"Area\": " + points), reads);
         row("points of a calibrated area",
             R"({"configDescription": {"calibrateArea": {"parent": "R[]"}}, "configTemplate": {}})",

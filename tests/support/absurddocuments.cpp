@@ -93,7 +93,7 @@ QByteArray AbsurdDocuments::oneRule(const QByteArray& members)
 
 std::vector<AbsurdDocuments::Pair> AbsurdDocuments::crowded(int count)
 {
-    const QByteArray points = "\"Area\": [" + list(30 * count, "[%1, 7]") + "]";
+    const QByteArray points = "\"Area\": [" + list(60 * count, "[%1, 7]") + "]";
     const QByteArray texts = "\"N\": [" + list(count, "\"%1\"") + "]";
     const QByteArray parts = QByteArray("a[].").repeated(count) + "b";
     return {{"controls", controls(count), oneRule(list(count, "\"N%1\": %1"))},

@@ -35,7 +35,7 @@ QByteArray areas();
 QByteArray oneRule(const QByteArray& members);
 
 /// Documents with too many of each thing that they may have many of: @p count, of points
-/// thirty times as many.
+/// sixty times as many.
 std::vector<Pair> crowded(int count);
 
 } // namespace AbsurdDocuments

@@ -89,6 +89,8 @@ private slots:
         check("--type one", "--type takes a number, not \"one\"");
         check(config + file("t.json", "{}") + " --result " + path("./t.json"),
               "--result would replace .*t\\.json");
+        check(good + "--config " + file("u.json", R"({"result": -1, "algorithmId": "a"})"),
+              "u.json:1:1: nothing was saved");
         check("--editable maybe", "takes true or false, not \"maybe\"");
         check(config + "none.json", "none.json: No such file");
         check(config + file("a.json", "{\n \"a\": 1,\n ]\n"), "a.json:3:2: \\S");
