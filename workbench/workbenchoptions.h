@@ -20,9 +20,10 @@ struct WorkbenchOptions {
     std::optional<bool> editable;
     QString pluginFile; ///< empty: the one beside the program
     QString resultFile;
-    /// The document to load that writing the result would replace; empty when there is none.
-    QString replacedDocument() const;
     QString screenshotFile;
     QString replayFile;
     QString recordFile;
+
+    /// The document to load that writing the result would replace; empty when there is none.
+    QString replacedDocument() const;
 };

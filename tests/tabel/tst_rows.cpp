@@ -1,4 +1,5 @@
 #include "Protocol/ruleprotocolitem.h"
+#include "draw/shortenedtext.h"
 #include "tabel/checkboxwidget.h"
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
@@ -181,6 +182,11 @@ private slots:
         bench.leave();
         QCOMPARE(bench.row->value(), QVariant(QStringLiteral("7")));
         QVERIFY(edit->toolTip().isEmpty());
+        edit->setMaxLength(20); // as of names
+        bench.container.setControlValue(bench.item.key(), text);
+        bench.type("edit", QStringLiteral("8"));
+        bench.leave();
+        QCOMPARE(bench.row->value(), QVariant(QStringLiteral("8")));
     }
 
     void linesHaveNoBreaks()
@@ -190,6 +196,8 @@ private slots:
         QVERIFY(faces.size() < 400);
         QVERIFY(faces.at(faces.size() - 2).isLowSurrogate());
         QVERIFY(PlainText::toolTip(QStringLiteral("a\nb")).contains('\n'));
+        const QString label = ShortenedText::middle(QString(1000, 'x') + "12", 64);
+        QVERIFY(label.size() == 64 && label.endsWith("x12"));
     }
 
     void finishesWithinLimits()

@@ -70,6 +70,15 @@ private slots:
             config = result;
         }
         QCOMPARE(read(config)["channelAbilityPO"], read(kPerimeter + "config.json"));
+        // Opened later, the file is one of those that are loaded.
+        const QString opened = path("opened.json");
+        QVERIFY(QFile::copy(kPerimeter + "config.json", opened));
+        const QString open = file("open.jsonl", "{\"do\":\"load\",\"config\":\"opened.json\"}\n"
+                                                "{\"do\":\"save\",\"answer\":\"Yes\"}\n");
+        const Outcome outcome =
+            run(documents() + QStringList{"--replay", open, "--result", opened});
+        QVERIFY2(outcome.said.contains("would replace"), qPrintable(outcome.said));
+        QCOMPARE(read(opened), read(kPerimeter + "config.json"));
     }
 
     void refusesArguments()
