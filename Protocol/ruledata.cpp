@@ -40,6 +40,8 @@ void RuleData::copyFrom(const RuleData& other)
     setSelectedDataId(other.m_selectedDataId);
 }
 
+void RuleData::collectNotices(QStringList&) const {}
+
 bool RuleData::checkData(QString& message) const
 {
     if (!m_template || !m_drawScene)

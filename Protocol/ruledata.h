@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -34,6 +35,8 @@ public:
 
     /// Checks whether the scene may be saved; on failure @p message says what to mend.
     virtual bool checkData(QString& message) const;
+    /// Adds what a save would leave out of the document as it is now, a sentence each.
+    virtual void collectNotices(QStringList& notices) const;
 
     SceneType getSceneType() const { return m_sceneType; }
     void setSceneType(SceneType type) { m_sceneType = type; }

@@ -174,6 +174,14 @@ bool RuleParser::readData(const QString& text, QString& why)
     return true;
 }
 
+QStringList RuleParser::notices() const
+{
+    QStringList notices;
+    for (const auto& scene : m_data)
+        scene->collectNotices(notices);
+    return notices;
+}
+
 bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& room, QString& why) const
 {
     const qint64 text = EntryLimit::textPerEntry(scene, m_templateDocument["configTemplate"]);

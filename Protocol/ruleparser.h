@@ -5,6 +5,7 @@
 #include "host/value.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <memory>
 #include <vector>
 
@@ -58,6 +59,9 @@ public:
     bool writeData(kql::Json::Value& config, QString& why) const;
     bool writeData(kql::Json::Value& config) const;
     bool writeData(QString& text) const;
+
+    /// What a save would leave out of the document as it is now, a sentence each.
+    QStringList notices() const;
 
     const std::vector<std::unique_ptr<RuleData>>& getAllData() const { return m_data; }
     /// The scene of that type; null when the template has none.

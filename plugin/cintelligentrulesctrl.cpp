@@ -65,6 +65,7 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
     connect(this, &CIntelligentRulesCtrl::sgnNotifyVideoSize, this,
             &CIntelligentRulesCtrl::sltNotifyVideoSize, Qt::QueuedConnection);
     m_form->lblHint->hide();
+    m_form->lblNotices->hide();
     applySkin();
 }
 
@@ -157,6 +158,8 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
     const LoadGuard guard(this);
     showParameters(*parameters);
     initScenes(*parameters);
+    if (guard.holds())
+        showNotices();
     if (guard.holds())
         openPicture(*parameters);
     if (guard.holds())
@@ -287,6 +290,7 @@ void CIntelligentRulesCtrl::unload()
         scene->setRuleData(nullptr);
     }
     m_form->sceneView->clearAll();
+    showNotices();
     repaintPicture();
 }
 
@@ -352,6 +356,7 @@ void CIntelligentRulesCtrl::repaintPicture()
 void CIntelligentRulesCtrl::sceneChanged()
 {
     showHint({});
+    showNotices();
     repaintPicture();
 }
 
@@ -529,6 +534,13 @@ void CIntelligentRulesCtrl::showHint(const QString& text)
 {
     m_form->lblHint->setText(ShortenedText::line(text, kLongestHint));
     m_form->lblHint->setVisible(!text.isEmpty());
+}
+
+void CIntelligentRulesCtrl::showNotices()
+{
+    const QStringList notices = m_parser ? m_parser->notices() : QStringList();
+    m_form->lblNotices->setTitle(notices.join(QLatin1Char(' ')));
+    m_form->lblNotices->setVisible(!notices.isEmpty());
 }
 
 void CIntelligentRulesCtrl::paintEvent(QPaintEvent*)

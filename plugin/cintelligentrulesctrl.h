@@ -102,6 +102,8 @@ private:
     bool ask(const QString& question);
     void showError(const QString& message);
     void showHint(const QString& text);
+    /// Tells beside Save what a save would leave out of the document as it is now.
+    void showNotices();
     void sceneChanged();
 
     std::unique_ptr<Ui_IntelligentRulesCtrl> m_form;

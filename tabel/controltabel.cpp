@@ -3,6 +3,8 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "tabel/titlelabel.h"
 
+#include <QStyle>
+
 ControlTabel::ControlTabel(QWidget* parent) : WidgetTabel(parent)
 {
     titleLabel()->show();
@@ -67,4 +69,14 @@ void ControlTabel::announce()
 {
     m_touched = isModified();
     emit sgnControlValueChange(key());
+}
+
+void ControlTabel::setMark(const QString& reason)
+{
+    setToolTip(reason);
+    if (m_marked == !reason.isEmpty())
+        return;
+    m_marked = !reason.isEmpty();
+    for (QWidget* widget : findChildren<QWidget*>())
+        style()->polish(widget);
 }

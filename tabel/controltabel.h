@@ -14,6 +14,7 @@ class RuleProtocolItem;
 class ControlTabel : public WidgetTabel, public ControlRow
 {
     Q_OBJECT
+    Q_PROPERTY(bool marked READ isMarked)
 
 public:
     explicit ControlTabel(QWidget* parent = nullptr);
@@ -40,6 +41,11 @@ public:
     /// The row counts as modified until another value is loaded.
     void setModified() { m_touched = true; }
 
+    /// Shows that the row needs the operator's eye, with @p reason as its tool tip; an empty
+    /// reason takes the mark away. The property "marked" tells it to the skin and to hosts.
+    void setMark(const QString& reason);
+    bool isMarked() const { return m_marked; }
+
     bool isRowVisible() const override { return !isHidden(); }
     const QObject* rowObject() const override { return this; }
 
@@ -61,4 +67,5 @@ private:
     RuleProtocolItem* m_item = nullptr;
     QVariant m_loaded;
     bool m_touched = false;
+    bool m_marked = false;
 };
