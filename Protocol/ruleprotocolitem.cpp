@@ -1,5 +1,6 @@
 #include "Protocol/ruleprotocolitem.h"
 
+#include "Protocol/comparabletext.h"
 #include "Protocol/controlrow.h"
 
 #include <QObject>
@@ -23,6 +24,14 @@ void RuleProtocolItem::setRange(const QVariant& minimum, const QVariant& maximum
 {
     m_rangeMinimum = minimum;
     m_rangeMaximum = maximum;
+}
+
+void RuleProtocolItem::addValidity(ValidCondition condition)
+{
+    condition.comparable.clear();
+    for (const QString& value : qAsConst(condition.values))
+        condition.comparable.append(ComparableText::of(value, ValueType::Object));
+    m_validity.append(condition);
 }
 
 void RuleProtocolItem::takeDetailsFrom(const RuleProtocolItem& other)

@@ -65,7 +65,7 @@ public:
     std::optional<CountRange> figurePointLimits() const;
 
     const QList<ValidCondition>& validity() const { return m_validity; }
-    void addValidity(const ValidCondition& condition) { m_validity.append(condition); }
+    void addValidity(ValidCondition condition);
     const QStringList& dependencies() const { return m_dependencies; }
     void setDependencies(const QStringList& keys) { m_dependencies = keys; }
     /// Name of the section or template that the item belongs to.

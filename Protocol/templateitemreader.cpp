@@ -21,15 +21,21 @@ void parseProtocol(RuleProtocolItem& item, const Value& protocol)
         item.setIndex(index->asInt());
 }
 
+/// Attributes of type "object" have objects for choices, which may be given as texts, too.
+QString objectOrText(const Value& value)
+{
+    return value.isObject() ? value.toCompactText() : value.asString();
+}
+
 void parseValid(RuleProtocolItem& item, const Value& valid)
 {
     ValidCondition condition;
     condition.controlKey = valid["controlKey"].asString();
     if (const Value* const single = valid.find("enumValue")) {
-        condition.values.append(single->asString());
+        condition.values.append(objectOrText(*single));
     } else if (const Value& several = valid["enumValueArray"]; several.isArray()) {
         for (int i = 0; i < several.size(); ++i)
-            condition.values.append(several[i].asString());
+            condition.values.append(objectOrText(several[i]));
     }
     item.addValidity(condition);
 }
@@ -45,6 +51,8 @@ QVariant numberBoxDefault(ValueType type, const Value& value)
         return value.asDouble();
     case ValueType::String:
         return value.asString();
+    case ValueType::Object:
+        return value.isObject() ? QVariant(value.toCompactText()) : QVariant();
     default:
         return {};
     }
@@ -93,8 +101,9 @@ void parseCheckBoxes(RuleProtocolItem& item, const Value& details)
 void parseRadioButtons(RuleProtocolItem& item, const Value& details)
 {
     parseEnumeration(item, details);
-    if (const Value& value = details["default"]; value.isString())
-        item.setDefaultValue(value.asString());
+    const Value& value = details["default"];
+    if (value.isString() || (value.isObject() && item.valueType() == ValueType::Object))
+        item.setDefaultValue(objectOrText(value));
 }
 
 /// The range of a figure counts its points; each entry has one such figure.

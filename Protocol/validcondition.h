@@ -7,4 +7,5 @@
 struct ValidCondition {
     QString controlKey;
     QStringList values;
+    QStringList comparable = {}; ///< the values for attributes of types with several spellings
 };

@@ -1,5 +1,6 @@
 #include "Protocol/validity.h"
 
+#include "Protocol/comparabletext.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -21,7 +22,7 @@ QStringList currentValues(const RuleProtocolItem& controller, const RuleDataInfo
         return {};
     if (value.userType() == QMetaType::QStringList)
         return value.toStringList();
-    return {value.toString()};
+    return {ComparableText::of(value.toString(), controller.valueType())};
 }
 
 const RuleProtocolItem* controllerOf(const DataTemplate& dataTemplate,
@@ -52,21 +53,32 @@ private:
         const RuleProtocolItem* const controller = controllerOf(m_template, condition);
         if (!controller)
             return true;
-        const QStringList current = currentValues(*controller, m_entry);
+        const bool hasSpellings = ComparableText::hasSpellings(controller->valueType());
+        const QStringList& wanted = hasSpellings ? condition.comparable : condition.values;
+        const QStringList current = currentOf(*controller);
         if (current.size() <= kFew)
-            return std::any_of(current.begin(), current.end(), [&](const QString& text) {
-                return condition.values.contains(text);
-            });
+            return std::any_of(current.begin(), current.end(),
+                               [&](const QString& text) { return wanted.contains(text); });
         // Both lists may be as long as documents are, and many conditions name one controller.
         QStringList& sorted = m_longLists[controller];
         if (sorted.isEmpty()) {
             sorted = current;
             std::sort(sorted.begin(), sorted.end());
         }
-        return std::any_of(condition.values.begin(), condition.values.end(),
-                           [&sorted](const QString& text) {
-                               return std::binary_search(sorted.cbegin(), sorted.cend(), text);
-                           });
+        return std::any_of(wanted.begin(), wanted.end(), [&sorted](const QString& text) {
+            return std::binary_search(sorted.cbegin(), sorted.cend(), text);
+        });
+    }
+
+    /// What is long to compare is made so once.
+    QStringList currentOf(const RuleProtocolItem& controller)
+    {
+        if (!ComparableText::hasSpellings(controller.valueType()))
+            return currentValues(controller, m_entry);
+        const auto known = m_spelled.constFind(&controller);
+        if (known != m_spelled.constEnd())
+            return *known;
+        return *m_spelled.insert(&controller, currentValues(controller, m_entry));
     }
 
     static constexpr int kFew = 8;
@@ -74,6 +86,7 @@ private:
     const DataTemplate& m_template;
     const RuleDataInfo& m_entry;
     QHash<const RuleProtocolItem*, QStringList> m_longLists;
+    QHash<const RuleProtocolItem*, QStringList> m_spelled;
 };
 
 } // namespace

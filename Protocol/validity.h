@@ -24,8 +24,9 @@ void update(const DataTemplate& dataTemplate, RuleDataInfo& entry,
 using Dependents = QMap<QString, QVector<const RuleProtocolItem*>>;
 Dependents dependents(const DataTemplate& dataTemplate);
 
-/// The items whose rows are not to be shown for @p entry: those whose condition is not met, and
-/// what they control, down the chain.
+/// The items that do not apply to @p entry: those whose condition is not met, and what they
+/// control, down the chain. Items that control each other are not among them for that alone. Rows,
+/// checks and the order of writing all go by this.
 QSet<const RuleProtocolItem*> hiddenItems(const DataTemplate& dataTemplate,
                                           const RuleDataInfo& entry);
 

@@ -1,5 +1,6 @@
 #include "tabel/radiobuttontabel.h"
 
+#include "Protocol/comparabletext.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "tabel/radiobuttonwidget.h"
 
@@ -27,7 +28,7 @@ void RadioButtonTabel::init()
     deleteAll();
     const auto options = protocolItem() ? protocolItem()->enumeration() : QList<EnumOption>();
     for (const EnumOption& option : options) {
-        auto* button = new RadioButtonWidget(option, this);
+        auto* button = new RadioButtonWidget(option, protocolItem()->valueType(), this);
         m_group->addButton(button, 0); // without an id it would look for a free one among all
         button->show();
         addWidget(button, false);
@@ -49,11 +50,12 @@ QAbstractButton* RadioButtonTabel::findButton(const QVariant& value) const
 {
     if (!value.isValid())
         return nullptr;
-    const QString wanted = value.toString();
+    const auto type = protocolItem() ? protocolItem()->valueType() : ValueType::None;
+    const QString wanted = ComparableText::of(value.toString(), type);
     const QList<QAbstractButton*> buttons = m_group->buttons();
     const auto found =
         std::find_if(buttons.begin(), buttons.end(), [&wanted](const QAbstractButton* button) {
-            return static_cast<const RadioButtonWidget*>(button)->value() == wanted;
+            return static_cast<const RadioButtonWidget*>(button)->comparable() == wanted;
         });
     return found == buttons.end() ? nullptr : *found;
 }

@@ -1,13 +1,16 @@
 #include "tabel/radiobuttonwidget.h"
 
+#include "Protocol/comparabletext.h"
 #include "Protocol/enumoption.h"
 #include "tabel/optionbox.h"
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
-RadioButtonWidget::RadioButtonWidget(const EnumOption& option, QWidget* parent)
-    : QRadioButton(parent), m_value(option.value)
+RadioButtonWidget::RadioButtonWidget(const EnumOption& option, ValueType type, QWidget* parent)
+    : QRadioButton(parent),
+      m_value(option.value),
+      m_comparable(ComparableText::of(option.value, type))
 {
     OptionBox::bind(*this, option);
 }

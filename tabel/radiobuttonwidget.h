@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Protocol/ruletypes.h"
+
 #include <QRadioButton>
 
 struct EnumOption;
@@ -10,14 +12,18 @@ class RadioButtonWidget : public QRadioButton
     Q_OBJECT
 
 public:
-    explicit RadioButtonWidget(const EnumOption& option, QWidget* parent = nullptr);
+    /// @p type is that of the attribute.
+    RadioButtonWidget(const EnumOption& option, ValueType type, QWidget* parent = nullptr);
 
     /// As stored in the configuration.
     const QString& value() const { return m_value; }
+    /// As it is compared with other texts of its type.
+    const QString& comparable() const { return m_comparable; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QString m_value;
+    QString m_comparable;
 };
