@@ -5,12 +5,12 @@
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/validity.h"
 #include "Protocol/valueconversion.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 
 #include <QMap>
-#include <QPair>
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -41,6 +41,23 @@ private:
     int m_room = 1024;
 };
 
+/// The field's path in one spelling.
+QString fieldOf(const RuleProtocolItem& item)
+{
+    const QString& path = item.path().text();
+    return path.endsWith(QLatin1String("[]")) ? path.chopped(2) : path;
+}
+
+/// In which order the items of an entry are written.
+enum class Turn { Hidden, WithoutRow, Shown };
+
+Turn turnOf(const RuleProtocolItem& item, const QSet<const RuleProtocolItem*>& hidden)
+{
+    if (hidden.contains(&item))
+        return Turn::Hidden;
+    return item.isFigure() || item.isControl() ? Turn::Shown : Turn::WithoutRow;
+}
+
 void writePointToJson(const QVector<QPoint>& points, const JsonPath& path, Value& json)
 {
     if (Value* target = path.readPath(json))
@@ -57,23 +74,27 @@ struct EntryWriter::Pass {
     ElementMaker& elements;
 };
 
-EntryWriter::EntryWriter(const RuleData& data, const QString& section) : m_figures(data)
+EntryWriter::EntryWriter(const RuleData& data, const QString& section)
+    : m_template(*data.getTemplate()), m_figures(data)
 {
-    for (const auto& item : data.getTemplate()->items()) {
+    for (const auto& item : m_template.items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
-            m_targets.push_back({item.get(), EntryKey(item->key()), false});
+            m_targets.push_back({item.get(), EntryKey(item->key()), QString()});
     }
-    markSharedPlaces();
+    markSharedFields();
     listElements();
 }
 
-void EntryWriter::markSharedPlaces()
+void EntryWriter::markSharedFields()
 {
-    QMap<QPair<QString, int>, int> users;
+    QMap<QString, int> users;
     for (const Target& target : m_targets)
-        ++users[{target.item->path().text(), target.item->index()}];
-    for (Target& target : m_targets)
-        target.isShared = users.value({target.item->path().text(), target.item->index()}) > 1;
+        ++users[fieldOf(*target.item)];
+    for (Target& target : m_targets) {
+        const QString field = fieldOf(*target.item);
+        if (users.value(field) > 1)
+            target.sharedField = field;
+    }
 }
 
 void EntryWriter::listElements()
@@ -106,18 +127,40 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
     ElementMaker elements;
     const Pass pass{entry, asRead, json, elements};
     makeElements(pass);
-    // What does not apply goes first, so that the row that the operator sees wins.
-    const auto isWrittenFirst = [&entry](const Target& target) {
-        return target.isShared && !entry.isValid(target.key);
-    };
-    for (const Target& target : m_targets) {
-        if (isWrittenFirst(target))
-            writeItem(target, pass);
+    // The rows that the operator sees win: they go last, and what they write in whole is not
+    // written before, which might leave the place in a shape that they do not fit.
+    const HiddenItems hidden = Validity::hiddenItems(m_template, entry);
+    const std::set<Place> inSight = placesInSight(pass, hidden);
+    for (const Turn turn : {Turn::Hidden, Turn::WithoutRow, Turn::Shown}) {
+        for (const Target& target : m_targets) {
+            const bool isWritten = turn == Turn::Shown || target.sharedField.isEmpty() ||
+                                   inSight.count(placeOf(target, json)) == 0;
+            if (turnOf(*target.item, hidden) == turn && isWritten)
+                writeItem(target, pass);
+        }
     }
+}
+
+EntryWriter::Place EntryWriter::placeOf(const Target& target, const Value& json)
+{
+    const Value* field = target.item->path().probe(json);
+    const int index = target.item->index();
+    const bool isElement = field && field->isArray() && index >= 0 && index < field->size();
+    return {target.sharedField, isElement ? index : -1};
+}
+
+/// The shared places that a row which the operator sees has a value for.
+std::set<EntryWriter::Place> EntryWriter::placesInSight(const Pass& pass,
+                                                        const HiddenItems& hidden) const
+{
+    std::set<Place> places;
     for (const Target& target : m_targets) {
-        if (!isWrittenFirst(target))
-            writeItem(target, pass);
+        const bool hasValue = !target.sharedField.isEmpty() && target.item->isControl() &&
+                              pass.entry.value(target.key).isValid();
+        if (hasValue && turnOf(*target.item, hidden) == Turn::Shown)
+            places.insert(placeOf(target, pass.json));
     }
+    return places;
 }
 
 /// A skeleton may have null where devices have a list. Elements that this one's list lacks are

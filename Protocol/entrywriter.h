@@ -4,9 +4,13 @@
 #include "Protocol/entrykey.h"
 #include "host/value.h"
 
+#include <QSet>
 #include <QString>
+#include <set>
+#include <utility>
 #include <vector>
 
+class DataTemplate;
 class RuleData;
 class RuleProtocolItem;
 
@@ -33,18 +37,24 @@ private:
     struct Target {
         const RuleProtocolItem* item;
         EntryKey key;
-        bool isShared; ///< another item writes to the same place
+        QString sharedField; ///< that other items write to, too, however it is spelled; else empty
     };
     struct Pass;
+    /// A shared field, or one element of it; -1 for the field itself.
+    using Place = std::pair<QString, int>;
+    using HiddenItems = QSet<const RuleProtocolItem*>;
 
-    void markSharedPlaces();
+    void markSharedFields();
     void listElements();
     void makeElements(const Pass& pass) const;
+    static Place placeOf(const Target& target, const kql::Json::Value& json);
+    std::set<Place> placesInSight(const Pass& pass, const HiddenItems& hidden) const;
     void writeItem(const Target& target, const Pass& pass) const;
     static void writeValueToJson(const Target& source, const Pass& pass);
     void writeFigure(const RuleProtocolItem& item, const Pass& pass) const;
 
     std::vector<Target> m_targets;
     std::vector<Target> m_elements; ///< of array-valued fields, the last ones first
+    const DataTemplate& m_template;
     EntryFigures m_figures;
 };

@@ -1,11 +1,13 @@
 #include "Protocol/rulecheck.h"
 
+#include "Protocol/comparabletext.h"
 #include "Protocol/controlrow.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/entryfigures.h"
 #include "Protocol/entrykey.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/validity.h"
 #include "Protocol/valuecompare.h"
 #include "draw/drawitem.h"
 
@@ -79,6 +81,12 @@ QString reasonText(CheckRuleOperatorType operatorType)
     }
 }
 
+QVariant comparable(const QVariant& value, const RuleProtocolItem& item)
+{
+    const bool hasSpellings = item.valueType() == ValueType::Object;
+    return hasSpellings ? ComparableText::of(value.toString(), item.valueType()) : value;
+}
+
 /// Checks one entry after another; what is the same for all is looked up once.
 class EntryCheck
 {
@@ -97,23 +105,24 @@ private:
     };
 
     Failure checkFigures(const RuleDataInfo& entry, const RuleProtocolItem& item) const;
+    Failure checkValues(const RuleDataInfo& entry) const;
     static Failure compare(const RuleDataInfo& entry, const Comparison& comparison);
 
+    const DataTemplate& m_template;
     EntryFigures m_figures;
     std::vector<const RuleProtocolItem*> m_items; ///< those that there is something to check of
     std::vector<Comparison> m_comparisons;
 };
 
-EntryCheck::EntryCheck(const RuleData& data) : m_figures(data)
+EntryCheck::EntryCheck(const RuleData& data) : m_template(*data.getTemplate()), m_figures(data)
 {
-    const DataTemplate& dataTemplate = *data.getTemplate();
-    for (const auto& item : dataTemplate.items()) {
+    for (const auto& item : m_template.items()) {
         if (item->isFigure() || item->valueType() == ValueType::ArrayInt)
             m_items.push_back(item.get());
     }
-    for (const CheckRule& rule : dataTemplate.checkRules()) {
-        const RuleProtocolItem* const first = dataTemplate.findItem(rule.firstKey);
-        const RuleProtocolItem* const second = dataTemplate.findItem(rule.secondKey);
+    for (const CheckRule& rule : m_template.checkRules()) {
+        const RuleProtocolItem* const first = m_template.findItem(rule.firstKey);
+        const RuleProtocolItem* const second = m_template.findItem(rule.secondKey);
         if (first && second)
             m_comparisons.push_back({first, second, rule.operatorType, EntryKey(rule.firstKey),
                                      EntryKey(rule.secondKey)});
@@ -127,11 +136,7 @@ Failure EntryCheck::firstFailure(const RuleDataInfo& entry) const
         if (failure)
             return failure;
     }
-    for (const Comparison& comparison : m_comparisons) {
-        if (Failure failure = compare(entry, comparison))
-            return failure;
-    }
-    return {};
+    return m_comparisons.empty() ? Failure() : checkValues(entry);
 }
 
 Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolItem& item) const
@@ -152,6 +157,18 @@ Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolIt
     return {};
 }
 
+Failure EntryCheck::checkValues(const RuleDataInfo& entry) const
+{
+    const auto hidden = Validity::hiddenItems(m_template, entry);
+    for (const Comparison& comparison : m_comparisons) {
+        if (hidden.contains(comparison.first) || hidden.contains(comparison.second))
+            continue;
+        if (Failure failure = compare(entry, comparison))
+            return failure;
+    }
+    return {};
+}
+
 Failure EntryCheck::compare(const RuleDataInfo& entry, const Comparison& comparison)
 {
     if (!entry.isValid(comparison.firstKey) || !entry.isValid(comparison.secondKey))
@@ -159,7 +176,8 @@ Failure EntryCheck::compare(const RuleDataInfo& entry, const Comparison& compari
     const QVariant& first = entry.value(comparison.firstKey);
     const QVariant& second = entry.value(comparison.secondKey);
     if (!first.isValid() || !second.isValid() ||
-        ValueCompare::holds(first, comparison.operatorType, second))
+        ValueCompare::holds(comparable(first, *comparison.first), comparison.operatorType,
+                            comparable(second, *comparison.second)))
         return {};
     return RuleData::tr("%1 must be %2 to %3")
         .arg(comparison.first->caption(), reasonText(comparison.operatorType),

@@ -313,6 +313,49 @@ private slots:
         QCOMPARE(json(typed.written())["R"][0]["Config"]["Type"], Value("code"));
     }
 
+    /// Of two attributes in one place; each is given as name, type and index.
+    void shownRowsWin()
+    {
+        const auto check = [](const char* hidden, const char* shown, const char* place,
+                              const QVariant& hiddenValue, const char* expected,
+                              const char* facade = "inputBoxNumber") {
+            const QString controls = QString(R"([
+                {"key": "top", "protocol": {"name": "T", "type": "bool"}},
+                {"key": "middle", "protocol": {"name": "M", "type": "bool"},
+                 "valid": {"controlKey": "top", "enumValue": "true"}},
+                {"key": "shown", "protocol": {%1}},
+                {"key": "hidden", "protocol": {%2},
+                 "valid": {"controlKey": "middle", "enumValue": "%3"}}])");
+            const bool hasRow = *facade != '\0';
+            const QString items =
+                QString(R"("top": {"facade": "bool"}, "middle": {"facade": "bool"},
+                "shown": {"facade": "inputBoxNumber"}, "hidden": {"facade": "%1"})");
+            const Load load(
+                makeTemplate(R"("ruleDescription": {"rules": {"parent": "R", "controls": )" +
+                                 controls.arg(shown, hidden, hasRow ? "true" : "false") + "}}",
+                             items.arg(facade), QString(R"({"R": {"V": %1}})").arg(place)),
+                QString(R"({"R": {"M": %1, "V": %2}})").arg(hasRow ? "true" : "false", place));
+            if (hiddenValue.isValid())
+                load.entry().setValue("hidden", hiddenValue);
+            load.entry().setValue("shown", 7);
+            QCOMPARE(text(json(load.written())["R"]["V"]), text(json(expected)));
+        };
+        const char* const intAtV = R"("name": "V", "type": "int")";
+        const char* const intInV = R"("name": "V[]", "type": "int")";
+        const char* const firstInV = R"("name": "V", "type": "int", "index": 0)";
+        check(intAtV, intAtV, "5", QVariant(), "7");
+        check(intInV, intAtV, "5", QVariant(), "7");
+        check(firstInV, intAtV, "5", QVariant(), "7");
+        check(intInV, firstInV, "5", QVariant(), "7");
+        check(R"("name": "V[]", "type": "int", "index": 0)", firstInV, "[5, 6]", QVariant(),
+              "[7, 6]");
+        check(R"("name": "V", "type": "string")", intAtV, "null", Texts{"a", "b"}, "7");
+        check(R"("name": "V", "type": "array int")", firstInV, "[5, 6]", QSize(8, 9), "[7, 9]");
+        check(R"("name": "V", "type": "object")", R"("name": "V.A", "type": "int")",
+              R"({"A": 5, "B": 6})", R"({"A": 8, "B": 9})", R"({"A": 7, "B": 9})");
+        check(intAtV, intAtV, "5", 8, "7", ""); // applies, but has no row
+    }
+
     void detectionEdits()
     {
         const auto check = [](const char* skeleton, const char* config, const char* expected) {

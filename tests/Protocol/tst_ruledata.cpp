@@ -279,6 +279,12 @@ private slots:
         check("switch", true, {"false"}, false);
         check("switch", QVariant(), {"false"}, true);
         check("number", 7.5, {"7.5"}, true);
+        scene.add("float", FacadeType::InputBoxNumber, ValueType::Float);
+        scene.add("object", FacadeType::RadioButton, ValueType::Object);
+        const QString object = R"({"b": [2, "x"], "a": 1.0})";
+        check("float", 7.0, {"7.0"}, true);
+        check("object", object, {R"({"a":1,"b":[2.0,"x"]})"}, true);
+        check("object", object, {R"({"a":1,"b":["x",2]})", R"({"a":1})", "x"}, false);
         check("nobody", 1, {"2"}, true);
         check("radio", "c", {}, true);
     }
@@ -303,6 +309,29 @@ private slots:
         QVERIFY(Validity::hiddenItems(items, *entry).contains(low));
         entry->setValue("low", 5);
         QVERIFY(!Validity::hiddenItems(items, *entry).contains(low));
+    }
+
+    void checksGoByWhatIsShown()
+    {
+        Scene scene;
+        scene.add("top", FacadeType::Bool);
+        scene.add("middle", FacadeType::Bool)->addValidity({"top", {"true"}});
+        scene.add("low", FacadeType::RadioButton, ValueType::Object)
+            ->addValidity({"middle", {"true"}});
+        scene.add("other", FacadeType::RadioButton, ValueType::Object);
+        scene.data.getTemplate()->addCheckRule({"low", "other", CheckRuleOperatorType::Equal});
+        RuleDataInfo* const entry = scene.addEntry();
+        entry->setValue("middle", true);
+        entry->setValue("low", R"({"a": 1, "b": 2})");
+        const auto passes = [&](bool isShown, const char* other) {
+            entry->setValue("top", isShown);
+            entry->setValue("other", other);
+            Validity::update(*scene.data.getTemplate(), *entry);
+            return scene.complaint().isEmpty();
+        };
+        QVERIFY(passes(false, "{}")); // nobody sees the row
+        QVERIFY(!passes(true, "{}"));
+        QVERIFY(passes(true, R"({"b": 2.0, "a": 1})"));
     }
 };
 
