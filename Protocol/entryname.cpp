@@ -5,6 +5,8 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
+#include <QSet>
+
 namespace
 {
 
@@ -20,6 +22,17 @@ QString EntryName::written(const RuleData& data, int position)
 {
     const QString name = ownName(data, position);
     return name.isEmpty() ? RuleData::tr("Rule") + QString::number(position + 1) : name;
+}
+
+QString EntryName::unused(const RuleData& data, const QString& wanted, const QStringList& others)
+{
+    QSet<QString> taken(others.begin(), others.end());
+    for (int i = 0; i < data.getDataCount(); ++i)
+        taken.insert(written(data, i));
+    QString name = wanted;
+    for (int number = data.getDataCount() + 1; taken.contains(name); ++number)
+        name = RuleData::tr("Rule") + QString::number(number);
+    return name;
 }
 
 QString EntryName::button(const RuleData& data, int position)

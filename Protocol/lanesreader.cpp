@@ -36,6 +36,7 @@ public:
     }
 
     void read(const Value& json, int index);
+    QStringList otherRuleNames() const;
 
 private:
     const DrawItem* readLines(const Value& json, const RuleDataInfo& entry);
@@ -56,6 +57,14 @@ void LaneReader::read(const Value& json, int index)
     readRule(m_rules.ruleOf(index), *entry, lane);
     Validity::update(*m_data.getTemplate(), *entry);
     m_data.addDataInfo(std::move(entry));
+}
+
+QStringList LaneReader::otherRuleNames() const
+{
+    QStringList names;
+    for (const Value* rule : m_rules.unpaired())
+        names.append((*rule)[ConfigMember::kName].asString());
+    return names;
 }
 
 const DrawItem* LaneReader::readLines(const Value& json, const RuleDataInfo& entry)
@@ -91,4 +100,5 @@ void LanesReader::read(LanesData& data, const Value& document)
         if (const Value* json = EntryList::object(entries, i))
             reader.read(*json, i);
     }
+    data.setOtherRuleNames(reader.otherRuleNames());
 }

@@ -92,6 +92,12 @@ RuleProtocolItem* RuleScene::firstFigureItem(BaseDrawType) const
     return ruleFigureItems().value(0);
 }
 
+void RuleScene::prepareNewEntry(RuleDataInfo& entry)
+{
+    const RuleData& rules = *ruleData();
+    entry.setName(EntryName::unused(rules, EntryName::button(rules, rules.getDataCount())));
+}
+
 int RuleScene::pickedFigure(int dataId) const
 {
     const QList<DrawItem*> figures = getDrawScene()->getItemListByDataId(dataId);

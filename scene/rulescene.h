@@ -27,6 +27,7 @@ protected:
     void loadFixedRows(const RuleDataInfo* entry) override;
     QList<RuleProtocolItem*> ruleFigureItems() const override;
     RuleProtocolItem* firstFigureItem(BaseDrawType pressed) const override;
+    void prepareNewEntry(RuleDataInfo& entry) override;
     int pickedFigure(int dataId) const override;
     QList<int> dropsOnRedraw(const DrawItem& figure) const override;
     RuleProtocolItem* missingFigureItem(int dataId) const override;
