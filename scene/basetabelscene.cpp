@@ -27,6 +27,8 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace
 {
 
@@ -67,7 +69,7 @@ void BaseTabelScene::connectWidgets()
     connect(widgets().ruleFucBar, &RuleWidgetTabel::sgnBtnClicked, this,
             &BaseTabelScene::sltTabelRuleFucBtnClicked);
     connect(widgets().childFucBar, &RuleWidgetTabel::sgnBtnClicked, this,
-            &BaseTabelScene::sltTabelChildRuleFucBtnClicked);
+            &BaseTabelScene::pressChildFuc);
     connect(widgets().drawItems, &RuleItemWidgetTabel::sgnCheckBtnChanged, this,
             &BaseTabelScene::sltTabelDrawItemCheckBtnChanged);
     connect(widgets().drawItems, &RuleItemWidgetTabel::sgnEnableChanged, this,
@@ -310,18 +312,27 @@ void BaseTabelScene::startFigure(const RuleProtocolItem& item, const RuleDataInf
 
 void BaseTabelScene::sltTabelChildRuleFucBtnClicked(int type)
 {
+    const QString itemKey = std::exchange(m_pressedItem, QString());
     SetDrawStatus(true);
-    perform([this, type] { addChildFigure(static_cast<BaseDrawType>(type)); });
+    perform([this, type, itemKey] { addChildFigure(static_cast<BaseDrawType>(type), itemKey); });
 }
 
-void BaseTabelScene::addChildFigure(BaseDrawType type)
+void BaseTabelScene::pressChildFuc(int type, const QString& itemKey)
+{
+    m_pressedItem = itemKey;
+    sltTabelChildRuleFucBtnClicked(type);
+}
+
+void BaseTabelScene::addChildFigure(BaseDrawType type, const QString& itemKey)
 {
     const DrawItemButton* parent = widgets().drawItems->currentButton();
     const RuleDataInfo* entry = parent ? m_data->getDataInfo(parent->dataId()) : nullptr;
     if (!entry)
         return;
-    const RuleProtocolItem* item = SceneFigures::itemWithRoom(*m_data, type, entry->id());
-    if (!item)
+    const DataTemplate& dataTemplate = *m_data->getTemplate();
+    const RuleProtocolItem* item =
+        itemKey.isEmpty() ? dataTemplate.figureItem(type) : dataTemplate.findItem(itemKey);
+    if (!item || !SceneFigures::hasRoom(*m_data, *item, entry->id()))
         return;
     auto figure =
         SceneFigures::make(*m_data, *item, *entry, DrawItemForbidenAreaType::ForbidenOutsideParent);

@@ -58,6 +58,7 @@ public:
 
 public slots:
     virtual void sltTabelRuleFucBtnClicked(int type);
+    /// Called without a button it draws the first item of the kind.
     virtual void sltTabelChildRuleFucBtnClicked(int type);
     virtual void sltTabelDrawItemCheckBtnChanged();
     virtual void sltTabelChildDrawItemCheckBtnChanged();
@@ -122,7 +123,8 @@ private:
     void addEntry(BaseDrawType pressed);
     /// Null when the item draws no figure. The new figure is not selected yet.
     DrawItem* addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry);
-    void addChildFigure(BaseDrawType type);
+    void pressChildFuc(int type, const QString& itemKey);
+    void addChildFigure(BaseDrawType type, const QString& itemKey);
     void deleteCurrent();
     void deleteChild(int itemId);
     void deleteEntry(int dataId);
@@ -132,6 +134,7 @@ private:
 
     RuleData* m_data = nullptr; ///< not owned
     StatisticsDirection m_direction;
+    QString m_pressedItem; ///< of the child-function button that is being answered
     bool m_drawStatus = false;
     bool m_uiEditable = true;
     bool m_nothingFollows = false; ///< during loads, deletes and redraws

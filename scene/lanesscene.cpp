@@ -1,5 +1,7 @@
 #include "scene/lanesscene.h"
 
+#include "Protocol/entryname.h"
+#include "Protocol/lanesdata.h"
 #include "Protocol/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -59,9 +61,14 @@ void LanesScene::bindFixedRows()
 
 void LanesScene::addRuleButtons()
 {
+    RuleWidgetTabel* bar = widgets().childFucBar;
     for (const auto& item : lanesTemplate()->items()) {
-        if (item->templateName() == kRules && item->isFigure())
-            addFucButton(widgets().childFucBar, item->drawType(), item->caption());
+        if (item->templateName() != kRules || !item->isFigure())
+            continue;
+        const bool isFirst = lanesTemplate()->figureItem(item->drawType()) == item.get();
+        DrawFucButton* button = addFucButton(bar, item->drawType(), item->caption());
+        if (!isFirst)
+            button->setItemKey(item->key());
     }
 }
 
@@ -78,6 +85,11 @@ void LanesScene::prepareNewEntry(RuleDataInfo& entry)
         entry.setValue(kRuleLaneNumber, number);
     Validity::update(*ruleData()->getTemplate(), entry);
     m_laneNumbers.insert(number);
+    const auto* lanes = dynamic_cast<const LanesData*>(ruleData());
+    if (lanes && lanes->lanesTemplate()->hasRuleItems()) {
+        const QString wanted = EntryName::written(*lanes, lanes->getDataCount());
+        entry.setName(EntryName::unused(*lanes, wanted, lanes->otherRuleNames()));
+    }
 }
 
 int LanesScene::freeLaneNumber() const

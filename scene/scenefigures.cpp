@@ -12,18 +12,6 @@
 
 #include <algorithm>
 
-namespace
-{
-
-bool hasRoom(const RuleData& data, const RuleProtocolItem& item, int dataId)
-{
-    const CountRange range = item.countRange();
-    const bool anyNumber = range == CountRange{0, 0};
-    return anyNumber || data.figuresOf(dataId, item).size() < range.max;
-}
-
-} // namespace
-
 std::unique_ptr<DrawItem> SceneFigures::make(const RuleData& data, const RuleProtocolItem& item,
                                              const RuleDataInfo& entry,
                                              DrawItemForbidenAreaType forbidden)
@@ -38,13 +26,11 @@ std::unique_ptr<DrawItem> SceneFigures::make(const RuleData& data, const RulePro
     return figure;
 }
 
-RuleProtocolItem* SceneFigures::itemWithRoom(const RuleData& data, BaseDrawType type, int dataId)
+bool SceneFigures::hasRoom(const RuleData& data, const RuleProtocolItem& item, int dataId)
 {
-    const QList<RuleProtocolItem*> items = data.getTemplate()->figureItems();
-    const auto found = std::find_if(items.begin(), items.end(), [&](const RuleProtocolItem* item) {
-        return item->drawType() == type && hasRoom(data, *item, dataId);
-    });
-    return found == items.end() ? nullptr : *found;
+    const CountRange range = item.countRange();
+    const bool anyNumber = range == CountRange{0, 0};
+    return anyNumber || data.figuresOf(dataId, item).size() < range.max;
 }
 
 RuleProtocolItem* SceneFigures::firstMissing(const RuleData& data,

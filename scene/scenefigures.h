@@ -20,8 +20,8 @@ namespace SceneFigures
 std::unique_ptr<DrawItem> make(const RuleData& data, const RuleProtocolItem& item,
                                const RuleDataInfo& entry, DrawItemForbidenAreaType forbidden);
 
-/// The first item of kind @p type of which the entry may have one more figure; null for none.
-RuleProtocolItem* itemWithRoom(const RuleData& data, BaseDrawType type, int dataId);
+/// Whether the entry may have one more figure of @p item.
+bool hasRoom(const RuleData& data, const RuleProtocolItem& item, int dataId);
 /// The first of @p items that the entry has no figure for; null when it has them all.
 RuleProtocolItem* firstMissing(const RuleData& data, const QList<RuleProtocolItem*>& items,
                                int dataId);

@@ -22,8 +22,8 @@ public:
     void removeWidget(QWidget* widget) override;
 
 signals:
-    /// A button was pressed; @p type is its BaseDrawType.
-    void sgnBtnClicked(int type);
+    /// A button was pressed; @p type is its BaseDrawType, @p itemKey as its itemKey().
+    void sgnBtnClicked(int type, const QString& itemKey);
 
 protected:
     void forgetWidget(const QObject* child) override;

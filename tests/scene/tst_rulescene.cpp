@@ -47,6 +47,19 @@ const QByteArray kConfig = R"({"Rules": [{"Name": "Gate", "Enable": true, )" + k
                            kArrow + R"(, "Mode": "Long", "Dwell": 7, "Note": "n1"}, {)" + kArea +
                            R"(, "Mode": "Short", "Note": "n2"}]})";
 
+const QByteArray kRelayTemplate = R"({
+  "configDescription": {"ruleDescription": {"rules": {"count": [1, 3], "parent": "Rules",
+    "controls": [
+      {"key": "relay", "protocol": {"name": "Relay", "type": "object"}},
+      {"key": "volume", "protocol": {"name": "Volume", "type": "int"}, "valid":
+        {"controlKey": "relay", "enumValue": {"Seconds": 20, "Output": 1}}}]}}},
+  "configItems": {
+    "relay": {"describe": "Relay", "facade": "radioButton", "default": {"Seconds": 0, "Output": 0},
+      "enumeration": [{"name": "Off", "value": {"Output": 0, "Seconds": 0}},
+                      {"name": "Siren", "value": {"Output": 1, "Seconds": 20}}]},
+    "volume": {"describe": "Volume", "facade": "inputBoxNumber"}},
+  "configTemplate": {"Rules": [{"Relay": {}, "Volume": 0}]}})";
+
 PanelBench ofExample(const QString& name)
 {
     const QString folder = ExampleFiles::folder(name);
@@ -156,6 +169,13 @@ private slots:
         bench.click("delete");
         QCOMPARE(bench.buttons(), QString("[Rule1]"));
         QCOMPARE(bench.find("note")->findChild<QLineEdit*>()->text(), QString("n2"));
+
+        PanelBench named(kTemplate, R"({"Rules": [{"Name": "Rule1"}, {"Name": "Rule3"}, {}]})",
+                         SceneType::Rules);
+        named.click("delete");
+        named.click("addRule"); // Rule3 has its name already, the one without has Rule2
+        QCOMPARE(named.buttons(), QString("Rule3 Rule2 [Rule4]"));
+        QCOMPARE(named.entry(2).name(), QString("Rule4"));
     }
 
     void names()
@@ -235,6 +255,31 @@ private slots:
         regions.clickOption(key, "LeftToRight");
         QCOMPARE(direction(regions, 1), 2);
         QCOMPARE(direction(regions, 0), 1);
+    }
+
+    void objectsCompareByWhatTheyHold()
+    {
+        const QString relay = R"({ "Seconds": 20.0, "Output": 1 })";
+        PanelBench bench(kRelayTemplate,
+                         R"({"Rules": [{"Name": "a", "Relay": )" + relay.toUtf8() + "}]}",
+                         SceneType::Rules);
+        const auto checked = [&bench] {
+            for (const auto* box : bench.find("relay")->findChildren<QAbstractButton*>()) {
+                if (box->isChecked())
+                    return box->text();
+            }
+            return QString();
+        };
+        QCOMPARE(checked(), QString("Siren"));
+        QVERIFY(bench.isShown("volume"));
+        bench.click("addRule");
+        QCOMPARE(checked(), QString("Off"));
+        QVERIFY(!bench.isShown("volume"));
+        QString written;
+        QVERIFY(bench.parser().writeData(written));
+        written = written.simplified().remove(' ');
+        QVERIFY2(written.contains(R"("Relay":{"Seconds":20.0,"Output":1})"), qPrintable(written));
+        QVERIFY2(written.contains(R"("Relay":{"Seconds":0,"Output":0})"), qPrintable(written));
     }
 
     void lettingGoKeepsNothing()

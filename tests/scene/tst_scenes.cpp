@@ -47,12 +47,16 @@ const QByteArray kLaneRules = R"({
     "ruleDescription": {"rules": {"count": [1, 4], "parent": "Rules", "controls": [
       {"key": "ruleLaneNumber", "protocol": {"name": "Lane", "type": "int"}},
       {"key": "trip", "protocol": {"name": "Line[]", "type": "point"}},
+      {"key": "wait", "protocol": {"name": "Wait[]", "type": "point"}},
       {"key": "speed", "protocol": {"name": "Speed", "type": "int"},
        "valid": {"controlKey": "ruleLaneNumber", "enumValueArray": ["1", "3"]}}]}}},
   "configItems": {
     "ruleLaneNumber": {"describe": "Lane", "facade": "inputBoxNumber", "range": [1, 9]},
     "trip": {"describe": "Trip", "facade": "line"},
-    "speed": {"describe": "Speed", "facade": "inputBoxNumber", "range": [1, 99]}}})";
+    "wait": {"describe": "Wait", "facade": "line"},
+    "speed": {"describe": "Speed", "facade": "inputBoxNumber", "range": [1, 99]}},
+  "configTemplate": {"Lanes": [{"Number": 0, "LeftLine": [], "RightLine": []}],
+                     "Rules": [{"Lane": 0, "Line": [], "Wait": []}]}})";
 
 const QByteArray kGlobal = R"({
   "configDescription": {"ruleDescription": {"global": {"count": [1, 1], "parent": "Global",
@@ -183,10 +187,33 @@ private slots:
         QVERIFY(bench.entry(0).isValid("speed") && bench.isShown("speed"));
         QVERIFY(!bench.panel().findChild<QWidget*>("ruleLaneNumber"));
         QCOMPARE(caption(bench, "speed"), QString("Speed"));
-        bench.click("fuc2");
+        bench.click("fuc2wait");
         bench.press({{120, 200}, {160, 210}});
-        QCOMPARE(bench.buttons("childDrawItems"), QString("[Trip]"));
-        QCOMPARE(bench.figures(0), QString("lanesLanes: 4, trip: 2"));
+        QCOMPARE(bench.buttons("childDrawItems"), QString("[Wait]"));
+        QString written;
+        QVERIFY(bench.parser().writeData(written));
+        PanelBench again(kLaneRules, written.toUtf8(), SceneType::Lanes);
+        QCOMPARE(again.figures(0), QString("lanesLanes: 4, trip: 0, wait: 2"));
+        bench.panel().sltTabelChildRuleFucBtnClicked(2);
+        bench.press({{120, 300}, {160, 310}});
+        bench.panel().sltTabelChildRuleFucBtnClicked(2);
+        QCOMPARE(bench.buttons("childDrawItems"), QString("[Trip] Wait"));
+        QCOMPARE(bench.figures(0), QString("lanesLanes: 4, wait: 2, trip: 2"));
+    }
+
+    void addedLanesTakeFreeNames()
+    {
+        PanelBench bench(kLaneRules,
+                         R"({"Lanes": [{"Number": 1}, {"Number": 2}, {"Number": 3}],
+            "Rules": [{"Lane": 1, "Name": "Rule1"}, {"Lane": 2, "Name": "Rule3"}, {"Lane": 3},
+                      {"Lane": 9, "Name": "Rule4"}]})",
+                         SceneType::Lanes);
+        bench.click("delete");
+        drawLane(bench, 100);
+        QCOMPARE(bench.buttons(), QString("Rule3 Lanes2 [Rule5]"));
+        PanelBench plain(lanes("[1, 3]"), "{}", SceneType::Lanes);
+        drawLane(plain, 100);
+        QCOMPARE(plain.buttons(), QString("[Lanes1]"));
     }
 
     void calibrates()
@@ -242,7 +269,7 @@ private slots:
             const QWidget* focused = QApplication::focusWidget();
             order.append(focused->objectName().isEmpty() ? QString("-") : focused->objectName());
         }
-        QCOMPARE(order.join(' '), QString("- - redraw delete fuc2 edit"));
+        QCOMPARE(order.join(' '), QString("- - redraw delete fuc2 fuc2wait"));
     }
 
     void longChainsAndLongTexts()
