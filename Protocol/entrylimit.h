@@ -21,7 +21,7 @@ namespace EntryLimit
 // What one section of a template may have: an attribute's row takes some 60 kB, a choice 16.
 constexpr int kMostAttributes = 1000;
 constexpr int kMostChoices = 5000;
-/// Each so many characters of a choice's styled text count as one choice more.
+/// Each so many characters of the styled text of a choice or default count as one choice more.
 constexpr int kChoiceText = 1024;
 
 /// What a configuration may have.

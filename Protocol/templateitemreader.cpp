@@ -21,8 +21,14 @@ void parseProtocol(RuleProtocolItem& item, const Value& protocol)
         item.setIndex(index->asInt());
 }
 
-/// Attributes of type "object" have objects for choices, which may be given as texts, too.
-QString objectOrText(const Value& value)
+/// Values of type "object" are held as styled text.
+QString textOfValue(const Value& value)
+{
+    return value.isObject() ? value.toStyledText() : value.asString();
+}
+
+/// What a condition compares with is never written, so it need not be long.
+QString textOfCondition(const Value& value)
 {
     return value.isObject() ? value.toCompactText() : value.asString();
 }
@@ -32,10 +38,10 @@ void parseValid(RuleProtocolItem& item, const Value& valid)
     ValidCondition condition;
     condition.controlKey = valid["controlKey"].asString();
     if (const Value* const single = valid.find("enumValue")) {
-        condition.values.append(objectOrText(*single));
+        condition.values.append(textOfCondition(*single));
     } else if (const Value& several = valid["enumValueArray"]; several.isArray()) {
         for (int i = 0; i < several.size(); ++i)
-            condition.values.append(objectOrText(several[i]));
+            condition.values.append(textOfCondition(several[i]));
     }
     item.addValidity(condition);
 }
@@ -52,7 +58,7 @@ QVariant numberBoxDefault(ValueType type, const Value& value)
     case ValueType::String:
         return value.asString();
     case ValueType::Object:
-        return value.isObject() ? QVariant(value.toCompactText()) : QVariant();
+        return value.isObject() ? QVariant(textOfValue(value)) : QVariant();
     default:
         return {};
     }
@@ -69,8 +75,7 @@ void parseNumberBox(RuleProtocolItem& item, const Value& details)
 EnumOption parseOption(const Value& choice)
 {
     EnumOption option;
-    const Value& value = choice["value"];
-    option.value = value.isObject() ? value.toStyledText() : value.asString();
+    option.value = textOfValue(choice["value"]);
     option.text = choice["name"].asString();
     option.description = choice["describe"].asString();
     option.isAll = choice["isAll"].asBool();
@@ -103,7 +108,7 @@ void parseRadioButtons(RuleProtocolItem& item, const Value& details)
     parseEnumeration(item, details);
     const Value& value = details["default"];
     if (value.isString() || (value.isObject() && item.valueType() == ValueType::Object))
-        item.setDefaultValue(objectOrText(value));
+        item.setDefaultValue(textOfValue(value));
 }
 
 /// The range of a figure counts its points; each entry has one such figure.

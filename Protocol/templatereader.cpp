@@ -54,14 +54,19 @@ QList<CheckRule> parseChecks(const Value& checks)
     return rules;
 }
 
-/// How many choices a list counts as. Styled, an object may have a hundred times its length.
-qint64 countChoices(const Value& choices)
+/// Styled, an object may have a hundred times its length.
+qint64 countStyled(const Value& value)
 {
-    qint64 count = choices.size();
-    for (int i = 0; i < choices.size(); ++i) {
-        if (const Value& value = choices[i]["value"]; value.isObject())
-            count += value.styledLength() / EntryLimit::kChoiceText;
-    }
+    return value.isObject() ? value.styledLength() / EntryLimit::kChoiceText : 0;
+}
+
+/// How many choices the details of an attribute count as.
+qint64 countChoices(const Value& details)
+{
+    const Value& choices = details["enumeration"];
+    qint64 count = choices.size() + countStyled(details["default"]);
+    for (int i = 0; i < choices.size(); ++i)
+        count += countStyled(choices[i]["value"]);
     return count;
 }
 
@@ -187,7 +192,7 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
         item->setTemplateName(sectionName);
         if (const Value* const details = m_configItems.find(item->key().toStdString())) {
             // Many items may share one long list, so it is counted before it is read.
-            room -= countChoices((*details)["enumeration"]);
+            room -= countChoices(*details);
             const RuleProtocolItem*& same =
                 known[{item->key(), static_cast<int>(item->valueType())}];
             if (same)
