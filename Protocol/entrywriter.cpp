@@ -79,7 +79,7 @@ EntryWriter::EntryWriter(const RuleData& data, const QString& section)
 {
     for (const auto& item : m_template.items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
-            m_targets.push_back({item.get(), EntryKey(item->key()), QString()});
+            m_targets.push_back({item.get(), EntryKey(item->key()), -1});
     }
     markSharedFields();
     listElements();
@@ -87,13 +87,17 @@ EntryWriter::EntryWriter(const RuleData& data, const QString& section)
 
 void EntryWriter::markSharedFields()
 {
-    QMap<QString, int> users;
-    for (const Target& target : m_targets)
-        ++users[fieldOf(*target.item)];
+    int count = 0;
+    QMap<QString, Target*> firstUsers;
     for (Target& target : m_targets) {
-        const QString field = fieldOf(*target.item);
-        if (users.value(field) > 1)
-            target.sharedField = field;
+        Target*& first = firstUsers[fieldOf(*target.item)];
+        if (!first) {
+            first = &target;
+            continue;
+        }
+        if (first->sharedField < 0)
+            first->sharedField = count++;
+        target.sharedField = first->sharedField;
     }
 }
 
@@ -133,9 +137,10 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
     const std::set<Place> inSight = placesInSight(pass, hidden);
     for (const Turn turn : {Turn::Hidden, Turn::WithoutRow, Turn::Shown}) {
         for (const Target& target : m_targets) {
-            const bool isWritten = turn == Turn::Shown || target.sharedField.isEmpty() ||
-                                   inSight.count(placeOf(target, json)) == 0;
-            if (turnOf(*target.item, hidden) == turn && isWritten)
+            if (turnOf(*target.item, hidden) != turn)
+                continue;
+            const bool mayYield = turn != Turn::Shown && target.sharedField >= 0;
+            if (!mayYield || inSight.count(placeOf(target, json)) == 0)
                 writeItem(target, pass);
         }
     }
@@ -155,7 +160,7 @@ std::set<EntryWriter::Place> EntryWriter::placesInSight(const Pass& pass,
 {
     std::set<Place> places;
     for (const Target& target : m_targets) {
-        const bool hasValue = !target.sharedField.isEmpty() && target.item->isControl() &&
+        const bool hasValue = target.sharedField >= 0 && target.item->isControl() &&
                               pass.entry.value(target.key).isValid();
         if (hasValue && turnOf(*target.item, hidden) == Turn::Shown)
             places.insert(placeOf(target, pass.json));

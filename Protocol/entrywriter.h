@@ -37,11 +37,11 @@ private:
     struct Target {
         const RuleProtocolItem* item;
         EntryKey key;
-        QString sharedField; ///< that other items write to, too, however it is spelled; else empty
+        int sharedField; ///< that other items write to, too, however it is spelled; -1 for none
     };
     struct Pass;
-    /// A shared field, or one element of it; -1 for the field itself.
-    using Place = std::pair<QString, int>;
+    /// A shared field, and which element of it; -1 for the field itself.
+    using Place = std::pair<int, int>;
     using HiddenItems = QSet<const RuleProtocolItem*>;
 
     void markSharedFields();
