@@ -270,9 +270,14 @@ void BaseDraw::copyStateFrom(const BaseDraw& other)
 
 bool BaseDraw::appendCanvasPoint(const QPoint& canvasPoint)
 {
+    return appendNormalizedPoint(normalized(canvasPoint));
+}
+
+bool BaseDraw::appendNormalizedPoint(const QPoint& normalizedPoint)
+{
     const bool accepted = !m_finished && m_points.size() < m_maximumPoints;
     if (accepted) {
-        m_points.append(normalized(canvasPoint));
+        m_points.append(normalizedPoint);
         m_directionPoints.clear();
     }
     if (m_points.size() >= m_maximumPoints)
@@ -283,8 +288,13 @@ bool BaseDraw::appendCanvasPoint(const QPoint& canvasPoint)
 
 void BaseDraw::storeMovePoint(const QPoint& canvasPoint)
 {
-    m_movePoint = DrawGeometry::toNormalized(canvasPoint, m_canvasSize)
-                      .value_or(m_movePoint.value_or(QPoint()));
+    storeNormalizedMovePoint(DrawGeometry::toNormalized(canvasPoint, m_canvasSize)
+                                 .value_or(m_movePoint.value_or(QPoint())));
+}
+
+void BaseDraw::storeNormalizedMovePoint(const QPoint& normalizedPoint)
+{
+    m_movePoint = normalizedPoint;
     // A finished figure does not show it, and the mouse moves over those all the time.
     if (!m_finished)
         change();

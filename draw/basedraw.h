@@ -128,7 +128,9 @@ protected:
     /// @p canvasPoint in normalized space; (0, 0) while the canvas has no area.
     QPoint normalized(const QPoint& canvasPoint) const;
     bool appendCanvasPoint(const QPoint& canvasPoint);
+    bool appendNormalizedPoint(const QPoint& normalizedPoint);
     void storeMovePoint(const QPoint& canvasPoint);
+    void storeNormalizedMovePoint(const QPoint& normalizedPoint);
     const QVector<QPoint>& points() const { return m_points; }
     QVector<QPoint> canvasPointsLocked() const;
     QMutex& mutex() const { return m_mutex; }

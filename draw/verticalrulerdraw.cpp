@@ -9,13 +9,18 @@ bool VerticalRulerDraw::addPoint(int x, int y)
     const QMutexLocker lock(&mutex());
     if (points().size() >= 2)
         return true;
-    const int column = points().isEmpty() ? x : canvasPointsLocked().first().x();
-    return appendCanvasPoint({column, y});
+    return appendNormalizedPoint(points().isEmpty() ? normalized({x, y}) : inColumn(y));
 }
 
 void VerticalRulerDraw::setMovePoint(int, int y)
 {
     const QMutexLocker lock(&mutex());
     if (points().size() == 1)
-        storeMovePoint({canvasPointsLocked().first().x(), y});
+        storeNormalizedMovePoint(inColumn(y));
+}
+
+QPoint VerticalRulerDraw::inColumn(int canvasY) const
+{
+    // Taken over canvas pixels, the column would come out beside that of the first point.
+    return {points().first().x(), normalized({0, canvasY}).y()};
 }

@@ -11,4 +11,8 @@ public:
     bool addPoint(int x, int y) override;
     using BaseDraw::setMovePoint;
     void setMovePoint(int x, int y) override;
+
+private:
+    /// @p canvasY in normalized space, in the first point's column.
+    QPoint inColumn(int canvasY) const;
 };

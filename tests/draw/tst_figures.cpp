@@ -146,6 +146,14 @@ private slots:
         const quint64 shown = staff->revision();
         staff->setMovePoint(std::nullopt);
         QVERIFY(!staff->movePoint() && staff->revision() != shown);
+
+        // Upright in the device's coordinates, on a canvas that has no pixel for each of them.
+        const auto small = makeFigure(Type::VerticalRuler, 833);
+        small->addPoint(335, 100);
+        small->setMovePoint(50, 700);
+        QCOMPARE(small->movePoint()->x(), small->canvasPoint(0)->x());
+        small->addPoint(50, 700);
+        QCOMPARE(pointsOf(*small)[1], QPoint(pointsOf(*small)[0].x(), 700 * 8192 / 833));
     }
 
     void keepsDirectionPointsUntilSomethingChanges()
