@@ -1,6 +1,7 @@
 #include "tabel/controltabel.h"
 
 #include "Protocol/ruleprotocolitem.h"
+#include "tabel/plaintext.h"
 #include "tabel/titlelabel.h"
 
 #include <QStyle>
@@ -73,10 +74,30 @@ void ControlTabel::announce()
 
 void ControlTabel::setMark(const QString& reason)
 {
-    setToolTip(reason);
-    if (m_marked == !reason.isEmpty())
+    const bool wasMarked = isMarked();
+    m_mark = reason;
+    showMark(wasMarked);
+}
+
+void ControlTabel::setTip(const QString& tip)
+{
+    m_tip = tip;
+    showMark(isMarked());
+}
+
+void ControlTabel::setRefusal(const QString& reason)
+{
+    const bool wasMarked = isMarked();
+    m_refusal = reason;
+    showMark(wasMarked);
+}
+
+void ControlTabel::showMark(bool wasMarked)
+{
+    const QString& reason = m_refusal.isEmpty() ? m_mark : m_refusal;
+    setToolTip(PlainText::toolTip(reason.isEmpty() ? m_tip : reason));
+    if (wasMarked == isMarked())
         return;
-    m_marked = !reason.isEmpty();
     for (QWidget* widget : findChildren<QWidget*>())
         style()->polish(widget);
 }

@@ -44,7 +44,7 @@ public:
     /// Shows that the row needs the operator's eye, with @p reason as its tool tip; an empty
     /// reason takes the mark away. The property "marked" tells it to the skin and to hosts.
     void setMark(const QString& reason);
-    bool isMarked() const { return m_marked; }
+    bool isMarked() const { return !m_mark.isEmpty() || !m_refusal.isEmpty(); }
 
     bool isRowVisible() const override { return !isHidden(); }
     const QObject* rowObject() const override { return this; }
@@ -60,12 +60,19 @@ protected:
     /// The item's default value; invalid without an item.
     QVariant itemValue() const;
     void announce();
+    /// The tool tip of a row that is not marked.
+    void setTip(const QString& tip);
+    /// Marks the row besides setMark() while it refuses what is typed.
+    void setRefusal(const QString& reason);
 
 private:
     void rememberLoaded();
+    void showMark(bool wasMarked);
 
     RuleProtocolItem* m_item = nullptr;
     QVariant m_loaded;
     bool m_touched = false;
-    bool m_marked = false;
+    QString m_tip;
+    QString m_mark;
+    QString m_refusal;
 };

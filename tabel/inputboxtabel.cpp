@@ -4,6 +4,7 @@
 #include "tabel/inputboxwidget.h"
 #include "tabel/intvalidator.h"
 #include "tabel/numberlocale.h"
+#include "tabel/numbertip.h"
 #include "tabel/rowedit.h"
 
 #include <QDoubleValidator>
@@ -46,6 +47,7 @@ InputBoxTabel::InputBoxTabel(QWidget* parent)
     m_box->show();
     connect(m_box->lineEdit(), &RowEdit::textEdited, this, &InputBoxTabel::textEdited);
     connect(m_box->lineEdit(), &RowEdit::editingFinished, this, &InputBoxTabel::editingFinished);
+    connect(m_box->lineEdit(), &RowEdit::sgnRefusalChanged, this, &InputBoxTabel::showRefusal);
 }
 
 void InputBoxTabel::init()
@@ -59,17 +61,33 @@ void InputBoxTabel::init()
     else
         m_box->lineEdit()->replaceValidator(nullptr);
     m_box->setUnit(item ? item->units() : QString());
+    setTip(isForNumbers() ? NumberTip::of(*item) : QString());
     setValue(itemValue(), false);
+}
+
+bool InputBoxTabel::isForNumbers() const
+{
+    const ValueType type = typeOf(protocolItem());
+    return type == ValueType::Int || type == ValueType::Float;
+}
+
+void InputBoxTabel::showRefusal()
+{
+    const RuleProtocolItem* item = protocolItem();
+    const bool isRefusing = item && m_box->lineEdit()->isRefusing();
+    setRefusal(isRefusing ? NumberTip::refusal(NumberTip::of(*item)) : QString());
 }
 
 QValidator* InputBoxTabel::createIntValidator() const
 {
     const RuleProtocolItem& item = *protocolItem();
-    if (!hasRange(item))
-        return new IntValidator(m_box->lineEdit());
-    using Limits = std::numeric_limits<int>;
-    return new IntValidator(limit(item.rangeMinimum(), Limits::min()),
-                            limit(item.rangeMaximum(), Limits::max()), m_box->lineEdit());
+    const int maximum = limit(item.rangeMaximum(), std::numeric_limits<int>::max());
+    if (item.rangeMinimum().isValid())
+        return new IntValidator(item.rangeMinimum().toInt(), maximum, m_box->lineEdit());
+    // Without a minimum there is nothing to mend an empty edit with.
+    auto* validator = new IntValidator(m_box->lineEdit());
+    validator->QIntValidator::setRange(std::numeric_limits<int>::min(), maximum);
+    return validator;
 }
 
 QValidator* InputBoxTabel::createFloatValidator() const
@@ -97,12 +115,12 @@ void InputBoxTabel::setValue(const QVariant& value, bool emitChange)
 QVariant InputBoxTabel::value() const
 {
     const QString text = m_box->lineEdit()->value();
-    const ValueType type = typeOf(protocolItem());
-    if (type != ValueType::Int && type != ValueType::Float)
+    if (!isForNumbers())
         return text;
     if (text.isEmpty())
         return {};
-    return type == ValueType::Int ? QVariant(text.toInt()) : QVariant(text.toDouble());
+    return typeOf(protocolItem()) == ValueType::Int ? QVariant(text.toInt())
+                                                    : QVariant(text.toDouble());
 }
 
 void InputBoxTabel::finishEdit()
@@ -128,12 +146,15 @@ void InputBoxTabel::setMaxLength(int length)
 
 void InputBoxTabel::textEdited(const QString& text)
 {
-    const ValueType type = typeOf(protocolItem());
-    if (type != ValueType::Int && type != ValueType::Float)
+    if (!isForNumbers())
         return;
-    const QVariant& maximum = protocolItem()->rangeMaximum();
+    QVariant maximum = protocolItem()->rangeMaximum();
+    // Left to the validator, a number longer than any int would become the minimum.
+    if (!maximum.isValid() && protocolItem()->rangeMinimum().isValid() &&
+        typeOf(protocolItem()) == ValueType::Int)
+        maximum = std::numeric_limits<int>::max();
     bool isNumber = false;
-    const double typed = type == ValueType::Int ? text.toInt(&isNumber) : text.toDouble(&isNumber);
+    const double typed = text.toDouble(&isNumber);
     // Too small a number may be on its way to a longer one; too large a one only grows.
     if (isNumber && maximum.isValid() && maximum.toDouble() < typed)
         setValue(maximum, true);

@@ -26,6 +26,8 @@ public:
     void setMaxLength(int length);
 
 private:
+    bool isForNumbers() const;
+    void showRefusal();
     void textEdited(const QString& text);
     void editingFinished();
     void finishInt(const QString& text);

@@ -59,6 +59,8 @@ InputRangeEdit::InputRangeEdit(QWidget* parent)
             [this] { setMiniValue(typedValue(*m_minimum), true); });
     connect(m_maximum, &RowEdit::editingFinished, this,
             [this] { setMaxValue(typedValue(*m_maximum), true); });
+    for (const RowEdit* edit : {m_minimum, m_maximum})
+        connect(edit, &RowEdit::sgnRefusalChanged, this, &InputRangeEdit::sgnRefusalChanged);
 }
 
 void InputRangeEdit::setMiniValue(int value, bool emitChange)
@@ -103,6 +105,11 @@ void InputRangeEdit::finishEdits()
     m_maximum->finishEdit();
 }
 
+bool InputRangeEdit::isRefusing() const
+{
+    return m_minimum->isRefusing() || m_maximum->isRefusing();
+}
+
 void InputRangeEdit::limitMaximumEdit(int minimum)
 {
     if (minimum == kUnset) {
@@ -132,11 +139,11 @@ void InputRangeEdit::limitMinimumEdit(int maximum)
     m_minimum->replaceValidator(validator);
 }
 
-void InputRangeEdit::minimumEdited()
+void InputRangeEdit::minimumEdited(const QString& text)
 {
     bool hasMinimum = false;
     bool hasMaximum = false;
-    const int minimum = m_minimum->text().toInt(&hasMinimum);
+    const double minimum = text.toDouble(&hasMinimum);
     const int maximum = m_maximum->text().toInt(&hasMaximum);
     if (hasMinimum && hasMaximum && minimum > maximum)
         setMiniValue(maximum, true);

@@ -22,9 +22,12 @@ public:
     void setRange(const QSize& range, bool emitChange);
     /// Ends edits in progress as leaving them does.
     void finishEdits();
+    /// Whether one of the edits refused text and the operator did nothing about it yet.
+    bool isRefusing() const;
 
 signals:
     void sgnRangeValueChange();
+    void sgnRefusalChanged();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -32,7 +35,7 @@ protected:
 private:
     void limitMaximumEdit(int minimum);
     void limitMinimumEdit(int maximum);
-    void minimumEdited();
+    void minimumEdited(const QString& text);
 
     RowEdit* m_minimum;
     RowEdit* m_maximum;

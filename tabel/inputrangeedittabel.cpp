@@ -1,6 +1,7 @@
 #include "tabel/inputrangeedittabel.h"
 
 #include "tabel/inputrangeedit.h"
+#include "tabel/numbertip.h"
 
 InputRangeEditTabel::InputRangeEditTabel(QWidget* parent)
     : ControlTabel(parent), m_edit(new InputRangeEdit(this))
@@ -8,11 +9,20 @@ InputRangeEditTabel::InputRangeEditTabel(QWidget* parent)
     m_edit->show();
     addWidget(m_edit, false);
     connect(m_edit, &InputRangeEdit::sgnRangeValueChange, this, [this] { announce(); });
+    connect(m_edit, &InputRangeEdit::sgnRefusalChanged, this, &InputRangeEditTabel::showRefusal);
+}
+
+void InputRangeEditTabel::showRefusal()
+{
+    const RuleProtocolItem* item = protocolItem();
+    const bool isRefusing = item && m_edit->isRefusing();
+    setRefusal(isRefusing ? NumberTip::refusal(NumberTip::of(*item)) : QString());
 }
 
 void InputRangeEditTabel::init()
 {
     ControlTabel::init();
+    setTip(protocolItem() ? NumberTip::of(*protocolItem()) : QString());
     setValue(itemValue(), false);
 }
 

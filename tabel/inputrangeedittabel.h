@@ -22,5 +22,7 @@ protected:
     void showValue(const QVariant& value) override;
 
 private:
+    void showRefusal();
+
     InputRangeEdit* m_edit;
 };

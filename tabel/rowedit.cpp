@@ -1,11 +1,15 @@
 #include "tabel/rowedit.h"
 
 #include "draw/shortenedtext.h"
+#include "tabel/numberentry.h"
 
+#include <QClipboard>
+#include <QDoubleValidator>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QPointer>
 #include <QSignalBlocker>
-#include <QValidator>
+#include <cmath>
 
 namespace
 {
@@ -13,16 +17,32 @@ namespace
 /// Laying out more takes longer than an operator waits; a panel can have a thousand edits.
 constexpr int kLongest = 2000;
 
+/// Whether a key types a letter, rather than being a shortcut. AltGr is Ctrl and Alt.
+bool isTyping(const QKeyEvent& event)
+{
+    const auto modifiers = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    return !event.text().isEmpty() && event.text().at(0).isPrint() &&
+           modifiers != Qt::ControlModifier;
+}
+
+bool isReturn(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
 } // namespace
 
 RowEdit::RowEdit(QWidget* parent) : QLineEdit(parent)
 {
     setMaxLength(kLongest);
+    connect(this, &QLineEdit::textChanged, this, &RowEdit::sltTextChanged);
+    connect(this, &QLineEdit::selectionChanged, this, &RowEdit::sltSelectionChanged);
 }
 
 void RowEdit::showValue(const QString& text)
 {
     m_value = text;
+    setRefusal(Refusal::None);
     // Where less can be typed anyway, as in names, a longer text is typed over.
     const bool isTooLong = text.size() > kLongest && maxLength() == kLongest;
     setReadOnly(isTooLong);
@@ -43,11 +63,150 @@ bool RowEdit::isUntouchedWith(const QString& text) const
            !isModified() && !isUndoAvailable() && !isRedoAvailable();
 }
 
+bool RowEdit::isForNumbers() const
+{
+    return !isReadOnly() && NumberEntry::isFor(validator());
+}
+
+void RowEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (isReturn(*event)) {
+        pressReturn(event);
+        return;
+    }
+    if (event->matches(QKeySequence::Paste)) {
+        paste();
+        event->accept();
+        return;
+    }
+    const bool deletes = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
+    if (deletes && m_refusal == Refusal::Input)
+        setRefusal(Refusal::None);
+    if (!isForNumbers() || !isTyping(*event)) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    enter(event->text());
+    event->accept();
+}
+
+void RowEdit::paste()
+{
+    if (isForNumbers())
+        enterPasted(QGuiApplication::clipboard()->text());
+    else
+        QLineEdit::paste();
+}
+
+void RowEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QClipboard* clipboard = QGuiApplication::clipboard();
+    const bool pastes = event->button() == Qt::MiddleButton && clipboard->supportsSelection();
+    if (!pastes || !isForNumbers()) {
+        QLineEdit::mouseReleaseEvent(event);
+        return;
+    }
+    deselect();
+    enterPasted(clipboard->text(QClipboard::Selection));
+}
+
+void RowEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    const QString committed = isForNumbers() ? event->commitString() : QString();
+    if (!committed.isEmpty()) {
+        event->setCommitString(QString());
+        enter(committed);
+    }
+    QLineEdit::inputMethodEvent(event);
+}
+
+void RowEdit::enterPasted(const QString& text)
+{
+    const QString trimmed = text.trimmed();
+    if (!trimmed.isEmpty())
+        enter(trimmed);
+}
+
+void RowEdit::enter(const QString& typed)
+{
+    if (m_refusal == Refusal::Input)
+        return;
+    QString rest = text();
+    const int position = hasSelectedText() ? selectionStart() : cursorPosition();
+    rest.remove(position, selectedText().size());
+    const NumberEntry entry(typed, rest, position, *validator());
+    const QPointer<RowEdit> self(this);
+    switch (entry.text.isEmpty() ? NumberEntry::Fate::Dropped : entry.fate) {
+    case NumberEntry::Fate::Taken:
+        insert(entry.text);
+        break;
+    case NumberEntry::Fate::Above:
+        // Whoever listens puts the maximum in its place.
+        emit textEdited(entry.result);
+        break;
+    case NumberEntry::Fate::Below:
+        selectAll();
+        insert(NumberEntry::minimum(*validator()));
+        break;
+    case NumberEntry::Fate::Refused:
+        setRefusal(Refusal::Input);
+        break;
+    case NumberEntry::Fate::Dropped:
+        break;
+    }
+    if (self && entry.isCut)
+        setRefusal(Refusal::Input);
+}
+
+void RowEdit::pressReturn(QKeyEvent* event)
+{
+    const QPointer<RowEdit> self(this);
+    if (becomesMinimum()) {
+        emit editingFinished();
+        event->ignore();
+    } else {
+        QLineEdit::keyPressEvent(event);
+    }
+    if (self && isModified() && !hasAcceptableInput())
+        setRefusal(Refusal::Text);
+}
+
+bool RowEdit::becomesMinimum() const
+{
+    const auto* range = qobject_cast<const QDoubleValidator*>(validator());
+    if (!range || !std::isfinite(range->bottom()) || !isModified() || hasAcceptableInput())
+        return false;
+    bool isNumber = false;
+    const double number = text().toDouble(&isNumber);
+    return isNumber ? number < range->bottom() : m_value.isEmpty();
+}
+
+void RowEdit::setRefusal(Refusal refusal)
+{
+    if (m_refusal == refusal)
+        return;
+    m_refusal = refusal;
+    emit sgnRefusalChanged();
+}
+
+void RowEdit::sltTextChanged()
+{
+    if (m_refusal == Refusal::Text && hasAcceptableInput())
+        setRefusal(Refusal::None);
+}
+
+void RowEdit::sltSelectionChanged()
+{
+    if (m_refusal == Refusal::Input && hasSelectedText())
+        setRefusal(Refusal::None);
+}
+
 void RowEdit::finishEdit()
 {
+    setRefusal(Refusal::None);
     if (!isModified())
         return;
-    if (hasAcceptableInput() || mend())
+    if (hasAcceptableInput() || becomesMinimum() || mend())
         emit editingFinished();
     else
         showValue(m_value);
@@ -74,12 +233,19 @@ void RowEdit::replaceValidator(const QValidator* newValidator)
 
 void RowEdit::focusOutEvent(QFocusEvent* event)
 {
+    const QPointer<RowEdit> self(this);
+    const bool isLeaving = event->reason() != Qt::PopupFocusReason;
+    if (isLeaving) {
+        setRefusal(Refusal::None);
+        if (becomesMinimum())
+            emit editingFinished();
+    }
+    if (!self)
+        return;
     if (!isModified()) {
         leaveUntouched(event);
         return;
     }
-    const QPointer<RowEdit> self(this);
-    const bool isLeaving = event->reason() != Qt::PopupFocusReason;
     QLineEdit::focusOutEvent(event);
     // What was accepted or mended by now is shown as the value.
     if (self && isLeaving && isModified() && !hasAcceptableInput())

@@ -5,6 +5,10 @@
 /**
  * The line edit of rows. Left with text that its validator refuses and cannot mend, it shows what
  * it showed before and announces nothing; left as it was, it announces nothing either.
+ *
+ * An edit with a validator for numbers takes typed and pasted text as what it was meant for: see
+ * NumberEntry. What it cannot take is refused rather than left out of a number that then is
+ * another one.
  */
 class RowEdit : public QLineEdit
 {
@@ -24,14 +28,41 @@ public:
     void finishEdit();
     /// As setValidator(), and deletes the validator that this edit owns as its parent.
     void replaceValidator(const QValidator* newValidator);
+    /// Whether text was refused and the operator did nothing about it yet.
+    bool isRefusing() const { return m_refusal != Refusal::None; }
+
+public slots:
+    /// Hides QLineEdit's, which the context menu finds by its name, too.
+    void paste();
+
+signals:
+    void sgnRefusalChanged();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    enum class Refusal {
+        None,
+        Input, ///< and all that follows it, until a deletion or selection
+        Text   ///< the whole text, which the edit cannot be ended with
+    };
+
+    bool isForNumbers() const;
+    void enterPasted(const QString& text);
+    void enter(const QString& typed);
+    void pressReturn(QKeyEvent* event);
+    bool becomesMinimum() const;
+    void setRefusal(Refusal refusal);
+    void sltTextChanged();
+    void sltSelectionChanged();
     bool mend();
     bool isUntouchedWith(const QString& text) const;
     void leaveUntouched(QFocusEvent* event);
 
     QString m_value;
+    Refusal m_refusal = Refusal::None;
 };

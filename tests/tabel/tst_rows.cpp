@@ -14,6 +14,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDoubleValidator>
 #include <QLabel>
 #include <tuple>
@@ -52,6 +53,8 @@ public:
         QApplication::setActiveWindow(&container);
     }
 
+    ~Bench() { container.disconnect(); } // what is typed still is not announced any more
+
     static EnumOption option(const char* value, bool isAll = false)
     {
         const QString v = QLatin1String(value);
@@ -69,17 +72,28 @@ public:
         return value.isValid() ? value.toString() : QStringLiteral("none");
     }
 
-    /// Replaces the text of an edit by typing; the edit keeps the focus.
+    /// Replaces the text of an edit by typing, or by pasting what follows a leading "^"; the edit
+    /// keeps the focus.
     RowEdit* type(const char* name, const QString& keys) const
     {
         auto* edit = row->findChild<RowEdit*>(QLatin1String(name));
         edit->setFocus();
         edit->selectAll();
-        if (keys.isEmpty())
+        if (keys.isEmpty()) {
             QTest::keyClick(edit, Qt::Key_Delete);
-        else
+        } else if (keys.startsWith('^')) {
+            QGuiApplication::clipboard()->setText(keys.mid(1));
+            QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+        } else {
             QTest::keyClicks(edit, keys);
+        }
         return edit;
+    }
+
+    /// The text of an edit, and "!" where the row is marked.
+    QString shown(const RowEdit* edit) const
+    {
+        return edit->text() + QLatin1String(row->isMarked() ? "!" : "");
     }
 
     void leave() const { other->setFocus(); }
@@ -132,22 +146,36 @@ private slots:
             bench.row->loadValue(loaded);
             QCOMPARE(bench.take(), QString());
             const RowEdit* edit = bench.type("edit", keys);
-            QVERIFY2(edit->text() == shown, name);
+            QVERIFY2(bench.shown(edit) == shown, qPrintable(name + (": " + bench.shown(edit))));
             bench.leave();
-            QVERIFY2(edit->text() == left && bench.take() == announced, name);
+            QVERIFY2(bench.shown(edit) == left && bench.take() == announced,
+                     qPrintable(name + (", left: " + bench.shown(edit))));
 
             // Finishing without leaving ends the same way.
             bench.row->loadValue(loaded);
             bench.type("edit", keys);
             bench.container.finishEdits();
             bench.container.finishEdits();
-            QVERIFY2(edit->text() == left && bench.take() == announced, name);
+            QVERIFY2(bench.shown(edit) == left && bench.take() == announced, name);
         };
         const auto i = ValueType::Int;
         const auto f = ValueType::Float;
         const QVariant none;
         const QString old = QStringLiteral("old");
-        check("int keeps out letters", i, none, none, 7, "a4,2.", "42", "42", "42");
+        check("int keeps out letters", i, none, none, 7, "a4b2", "42", "42", "42");
+        check("int ends at a comma", i, 1, 30, 7, "4,75", "4!", "4", "4");
+        check("int ends at a point", i, 1, 30, 7, "2.5", "2!", "2", "2");
+        check("int pasted ends at a comma", i, 1, 30, 7, "^4,75", "4!", "4", "4");
+        check("int not below 0", i, 1, 600, 20, "-5", "20!", "", "20");
+        check("int minus in a number", i, none, none, 20, "-5-3", "-5!", "-5", "-5");
+        check("int pasted with blanks", i, none, none, 20, "^ 42\n", "42", "42", "42");
+        check("int pasted letters", i, none, none, 20, "^4x", "20!", "", "20");
+        check("int with surplus digits", i, 1, 600, 20, "1000", "600", "600", "600");
+        check("int pasted above", i, 1, 600, 20, "^1000", "600", "600", "600");
+        check("int with surplus digits below", i, -600, 600, 20, "-1000", "-600", "-600", "-600");
+        check("int beyond all", i, 1, 2000000000, 20, "3000000000", "2000000000", "2000000000",
+              "2000000000");
+        check("int emptied without a minimum", i, none, 50, 20, "", "", "", "20");
         check("int above, while typing", i, -10, 5, 3, "9", "5", "5", "5");
         check("int below is mended", i, 10, 50, 20, "3", "3", "10", "10");
         check("int emptied is mended", i, 10, 50, 20, "", "", "10", "10");
@@ -157,11 +185,58 @@ private slots:
               "2147483647");
         check("int too long", i, none, none, 20, "99999999999", "9999999999", "", "20");
         check("float", f, 0.5, 10.0, 1.0, "2.755", "2.75", "2.75", "2.75");
-        check("float keeps out commas", f, none, none, 1.0, "1,5e3", "153", "153", "153");
+        check("float with a comma", f, none, none, 1.0, "1,5e3", "1.53", "1.53", "1.53");
+        check("float pasted with a comma", f, 0.5, 10.0, 1.0, "^\t4,75 ", "4.75", "4.75", "4.75");
+        check("float ends at the second comma", f, none, none, 1.0, "1,5,2", "1.5!", "1.5", "1.5");
+        check("float pasted with groups", f, none, none, 1.0, "^1.234,5", "1!", "", "1");
+        check("float not below 0", f, 0.5, 10.0, 1.0, "-5", "1!", "", "1");
+        check("float with surplus digits", f, 0.5, 600.0, 1.0, "1000", "600", "600", "600");
         check("float above, while typing", f, 0.5, 10.0, 1.0, "11", "10", "10", "10");
-        check("float below is refused", f, 0.5, 10.0, 1.0, "0.1", "0.1", "", "1");
+        check("float below", f, 0.5, 10.0, 1.0, "0.1", "0.1", "0.5", "0.5");
+        check("float below a fine minimum", f, 0.005, 10.0, 1.0, "0", "0", "0.005", "0.005");
         check("float emptied is refused", f, none, none, 12345678.25, "", "", "", "12345678.25");
         check("text", ValueType::String, 1, 2, old, "9 & <b>", "9 & <b>", "9 & <b>", "9 & <b>");
+    }
+
+    void marksWhatItRefuses()
+    {
+        Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 1, 30, 7);
+        const QString tip = bench.row->toolTip();
+        QVERIFY2(tip.contains("1 to 30") && tip.contains(" s"), qPrintable(tip));
+        RowEdit* edit = bench.type("edit", QStringLiteral("1,2"));
+        QVERIFY(bench.row->toolTip() != tip && bench.row->toolTip().contains(tip));
+        QTest::keyClick(edit, Qt::Key_Backspace);
+        QCOMPARE(bench.shown(edit) + bench.row->toolTip(), tip);
+        QTest::keyClicks(edit, QStringLiteral("2,9"));
+        QTest::keyClick(edit, Qt::Key_Home, Qt::ShiftModifier);
+        QCOMPARE(bench.shown(edit), QStringLiteral("2"));
+        QTest::keyClicks(edit, QStringLiteral("3,"));
+        bench.row->loadValue(9);
+        QCOMPARE(bench.shown(edit), QStringLiteral("9"));
+        edit->selectAll();
+        QGuiApplication::clipboard()->setText(QStringLiteral("8."));
+        QVERIFY(QMetaObject::invokeMethod(edit, "paste")); // as the context menu does
+        QCOMPARE(bench.shown(edit), QStringLiteral("8!"));
+
+        // Return cannot end the edit of such a text, which stays marked until it is right.
+        Bench floats(FacadeType::InputBoxNumber, ValueType::Float, 0.5, 10.0, 1.0);
+        edit = floats.type("edit", QString());
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCOMPARE(floats.shown(edit), QStringLiteral("!"));
+        QTest::keyClicks(edit, QStringLiteral("0"));
+        QCOMPARE(floats.shown(edit), QStringLiteral("0!"));
+        QTest::keyClicks(edit, QStringLiteral(",7"));
+        QCOMPARE(floats.shown(edit), QStringLiteral("0.7"));
+
+        // Without a value to fall back to it is the minimum, else nothing.
+        for (const auto& [minimum, left] :
+             {std::pair(QVariant(0.5), "0.5"), std::pair(QVariant(), "")}) {
+            Bench fresh(FacadeType::InputBoxNumber, ValueType::Float, minimum);
+            edit = fresh.type("edit", QStringLiteral("5"));
+            QTest::keyClick(edit, Qt::Key_Backspace);
+            fresh.leave();
+            QCOMPARE(fresh.shown(edit) + fresh.take(), QString(left).repeated(2));
+        }
     }
 
     /// Shown in part, and never lost: not by passing through, by keys or by Return.
@@ -227,9 +302,12 @@ private slots:
         QCOMPARE(edited("minimum", "20"), QStringLiteral("20..50|20"));
         QCOMPARE(edited("minimum", "20"), QStringLiteral("|20")); // no change, nothing said
         QCOMPARE(edited("maximum", "30"), QStringLiteral("20..30|30"));
-        QCOMPARE(edited("maximum", "7"), QStringLiteral("|30"));        // below: refused
-        QCOMPARE(edited("minimum", "99"), QStringLiteral("30..30|30")); // at once, while typing
-        QCOMPARE(edited("minimum", ""), QStringLiteral("-1..30|"));     // unset, not mended to 0
+        QCOMPARE(edited("maximum", "7"), QStringLiteral("|30"));         // below: refused
+        QCOMPARE(edited("minimum", "100"), QStringLiteral("30..30|30")); // at once, while typing
+        QCOMPARE(bench.shown(bench.type("minimum", QStringLiteral("-5"))), QStringLiteral("30!"));
+        QCOMPARE(bench.shown(bench.type("maximum", QStringLiteral("42,5"))), QStringLiteral("42!"));
+        QCOMPARE(edited("maximum", "^ 30\n"), QStringLiteral("|30"));
+        QCOMPARE(edited("minimum", ""), QStringLiteral("-1..30|")); // unset, not mended to 0
         QCOMPARE(edited("maximum", "4"), QStringLiteral("-1..4|4"));
         QCOMPARE(edited("maximum", ""), QStringLiteral("-1..-1|"));
         QCOMPARE(edited("minimum", "123456"), QStringLiteral("123456..-1|123456"));
