@@ -4,6 +4,8 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
+#include <utility>
+
 CalibrateAreaData::CalibrateAreaData()
 {
     setSceneType(SceneType::CalibrateArea);
@@ -16,11 +18,23 @@ CalibrateAreaTemplate* CalibrateAreaData::calibrateTemplate() const
     return dynamic_cast<CalibrateAreaTemplate*>(getTemplate());
 }
 
-void CalibrateAreaData::fillNewEntry(RuleDataInfo& entry) const
+void CalibrateAreaData::collectNotices(QStringList& notices) const
 {
     const CalibrateAreaTemplate* const area = calibrateTemplate();
-    if (area && area->defaultHeight())
-        entry.setValue(area->verticalLengthItem()->key(), *area->defaultHeight());
-    if (area && area->defaultWidth())
-        entry.setValue(area->horizontalLengthItem()->key(), *area->defaultWidth());
+    if (!area)
+        return;
+    const bool isScene = area->isSceneMethod();
+    const std::pair<QString, QString> lengths[] = {
+        {area->verticalLengthItem()->key(),
+         isScene ? tr("%1 has no vertical length.") : tr("%1 has no length.")},
+        {area->horizontalLengthItem()->key(),
+         isScene ? tr("%1 has no horizontal length.") : tr("%1 has no width.")}};
+    int number = 0;
+    for (const auto& entry : getAllData()) {
+        const QString name = getRuleFucTitle() + QString::number(++number);
+        for (const auto& [key, notice] : lengths) {
+            if (!entry->value(key).isValid())
+                notices.append(notice.arg(name));
+        }
+    }
 }

@@ -2,16 +2,19 @@
 
 #include "Protocol/ruledata.h"
 
+#include <QCoreApplication>
+
 class CalibrateAreaTemplate;
 
 /// The calibrate-area scene's data; makes its own template.
 class CalibrateAreaData : public RuleData
 {
+    Q_DECLARE_TR_FUNCTIONS(CalibrateAreaData)
+
 public:
     CalibrateAreaData();
+    /// Names each area that lacks a length.
+    void collectNotices(QStringList& notices) const override;
     /// Null when a template of another kind was put in its place.
     CalibrateAreaTemplate* calibrateTemplate() const;
-
-protected:
-    void fillNewEntry(RuleDataInfo& entry) const override;
 };

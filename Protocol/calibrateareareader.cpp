@@ -58,11 +58,8 @@ void readLengths(const CalibrateAreaTemplate& dataTemplate, const Value& staffs,
                  RuleDataInfo& entry)
 {
     const auto kinds = CalibrateStaffs::kinds(dataTemplate);
-    for (const CalibrateStaffs::Kind& kind : kinds) {
-        const QVariant length = CalibrateStaffs::shownLength(staffs, kind.type);
-        if (length.isValid())
-            entry.setValue(kind.length->key(), length);
-    }
+    for (const CalibrateStaffs::Kind& kind : kinds)
+        entry.setValue(kind.length->key(), CalibrateStaffs::shownLength(staffs, kind));
 }
 
 void readEntry(CalibrateAreaData& data, const Value& json, int index)

@@ -5,6 +5,8 @@
 namespace
 {
 
+constexpr double kShortest = 0.01; // metres
+constexpr double kLongest = 10000;
 constexpr CountRange kStaffPoints{2, 2};
 constexpr CountRange kAnyStaffs{0, 0};
 constexpr CountRange kVerticalStaffs{3, 3};
@@ -29,6 +31,7 @@ void initLength(RuleProtocolItem* length, const QString& unit)
 {
     length->setValueType(ValueType::Float);
     length->setUnits(unit);
+    length->setRange(kShortest, kLongest);
 }
 
 void enableStaff(RuleProtocolItem* staff, CountRange count)
@@ -97,11 +100,13 @@ void CalibrateAreaTemplate::setAreaPointCount(CountRange range)
 void CalibrateAreaTemplate::setDefaultWidth(double width)
 {
     m_defaultWidth = width;
+    horizontalLengthItem()->setDefaultValue(width);
 }
 
 void CalibrateAreaTemplate::setDefaultHeight(double height)
 {
     m_defaultHeight = height;
+    verticalLengthItem()->setDefaultValue(height);
 }
 
 RuleProtocolItem* CalibrateAreaTemplate::regionItem() const

@@ -23,7 +23,7 @@ public:
     /// Points of an area's polygon.
     void setAreaPointCount(CountRange range);
     /// Defaults of the length rows of new entries, in metres: height for the vertical row, width
-    /// for the horizontal one.
+    /// for the horizontal one. The items have them as their default values.
     void setDefaultWidth(double width);
     std::optional<double> defaultWidth() const { return m_defaultWidth; }
     void setDefaultHeight(double height);

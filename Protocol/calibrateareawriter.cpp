@@ -66,7 +66,9 @@ Value writeStaff(const Value& prototype, std::string_view type, const Value& len
 {
     Value json = prototype;
     json[ConfigMember::kType] = Value(type);
-    if (!length.isNull())
+    if (length.isNull())
+        json.removeMember(ConfigMember::kLength);
+    else
         json[ConfigMember::kLength] = length;
     json[ConfigMember::kStart] = PointConversion::toJson(points[0]);
     json[ConfigMember::kEnd] = PointConversion::toJson(points[1]);
@@ -97,7 +99,7 @@ QVector<QVariant> AreaWriter::shownLengths(const Value& staffs) const
 {
     QVector<QVariant> lengths;
     for (const CalibrateStaffs::Kind& kind : m_kinds)
-        lengths.append(CalibrateStaffs::shownLength(staffs, kind.type));
+        lengths.append(CalibrateStaffs::shownLength(staffs, kind));
     return lengths;
 }
 
@@ -189,7 +191,7 @@ Value AreaWriter::staffLength(const Pass& pass, int kind, const DrawItem& staff)
 {
     const QVariant shown = pass.entry.value(m_kinds[kind].length->key());
     const Value& own = staffsIn(pass.asRead)[staff.sourceIndex()][ConfigMember::kLength];
-    if (own.isNumeric() && shown == pass.lengthsAsRead[kind])
+    if (!own.isNull() && shown == pass.lengthsAsRead[kind])
         return own;
     if (!shown.isValid())
         return {};

@@ -3,6 +3,7 @@
 #include "Protocol/calibrateareatemplate.h"
 #include "Protocol/configmember.h"
 #include "Protocol/pointconversion.h"
+#include "Protocol/ruleprotocolitem.h"
 #include "host/value.h"
 
 using kql::Json::Value;
@@ -34,12 +35,28 @@ QVector<QPoint> CalibrateStaffs::points(const Value& staff)
     return {PointConversion::toPoint(start), PointConversion::toPoint(end)};
 }
 
-QVariant CalibrateStaffs::shownLength(const Value& staffs, std::string_view type)
+QVariant CalibrateStaffs::shownLength(const Value& staffs, const Kind& kind)
 {
+    bool isReadable = true;
     for (int i = 0; staffs.isArray() && i < staffs.size(); ++i) {
         const Value& length = staffs[i][ConfigMember::kLength];
-        if (staffs[i][ConfigMember::kType].asView() == type && length.isNumeric())
+        if (staffs[i][ConfigMember::kType].asView() != kind.type)
+            continue;
+        if (length.isNumeric())
             return length.asDouble();
+        isReadable = isReadable && length.isNull();
     }
-    return {};
+    return isReadable ? kind.length->defaultValue() : QVariant();
+}
+
+void CalibrateStaffs::takeSampleLengths(CalibrateAreaTemplate& dataTemplate, const Value& skeleton)
+{
+    for (const Kind& kind : kinds(dataTemplate)) {
+        RuleProtocolItem* const length = dataTemplate.findItem(kind.length->key());
+        if (length->defaultValue().isValid())
+            continue;
+        const Value& first = skeleton[0][ConfigMember::kLength];
+        const QVariant own = shownLength(skeleton, kind);
+        length->setDefaultValue(own.isValid() || !first.isNumeric() ? own : first.asDouble());
+    }
 }

@@ -35,8 +35,12 @@ int kindOf(const kql::Json::Value& staff, const QVector<Kind>& kinds);
 /// Start and end of a staff (0..8192); empty when it lacks one.
 QVector<QPoint> points(const kql::Json::Value& staff);
 
-/// The length that stands for all staffs of that type in @p staffs: the first one's, in metres;
-/// invalid when there is none.
-QVariant shownLength(const kql::Json::Value& staffs, std::string_view type);
+/// The length that is shown for all staffs of @p kind in @p staffs, in metres: the first one's;
+/// the default where none has a length, and invalid where what they have are no numbers.
+QVariant shownLength(const kql::Json::Value& staffs, const Kind& kind);
+
+/// Makes the lengths in @p skeleton, the list of staffs that new ones are made from, the defaults
+/// of the types that have none: that of a staff of the type, else that of the first staff.
+void takeSampleLengths(CalibrateAreaTemplate& dataTemplate, const kql::Json::Value& skeleton);
 
 } // namespace CalibrateStaffs

@@ -78,11 +78,8 @@ std::unique_ptr<RuleDataInfo> RuleData::newDataInfo() const
         return nullptr;
     auto entry = std::make_unique<RuleDataInfo>(defaults());
     entry->setId(RuleParser::createId());
-    fillNewEntry(*entry);
     return entry;
 }
-
-void RuleData::fillNewEntry(RuleDataInfo&) const {}
 
 RuleDataInfo* RuleData::addDataInfo(std::unique_ptr<RuleDataInfo> entry)
 {

@@ -85,10 +85,6 @@ public:
     /// several items of that kind, those read or drawn for this one.
     QList<DrawItem*> figuresOf(int dataId, const RuleProtocolItem& item) const;
 
-protected:
-    /// Hook for default values that a specialised scene adds to a new entry.
-    virtual void fillNewEntry(RuleDataInfo& entry) const;
-
 private:
     /// Where the entry with an id is in the list.
     struct Place {

@@ -2,8 +2,10 @@
 
 #include "Protocol/calibrateareadata.h"
 #include "Protocol/calibrateareatemplate.h"
+#include "Protocol/calibratestaffs.h"
 #include "Protocol/configmember.h"
 #include "Protocol/entrylimit.h"
+#include "Protocol/entrylist.h"
 #include "Protocol/fightcalibratedata.h"
 #include "Protocol/fightcalibratetemplate.h"
 #include "Protocol/lanesdata.h"
@@ -80,7 +82,9 @@ bool isEditedPerLane(const DataTemplate::Items& ruleItems)
 } // namespace
 
 TemplateReader::TemplateReader(const Value& document)
-    : m_configItems(document["configItems"]), m_description(document["configDescription"])
+    : m_configItems(document["configItems"]),
+      m_description(document["configDescription"]),
+      m_skeleton(document["configTemplate"])
 {
 }
 
@@ -108,7 +112,19 @@ void TemplateReader::readCalibrateArea(const Value& section)
         area.setDefaultWidth(width->asDouble());
     if (const Value* const height = section.find("defaultHeight"))
         area.setDefaultHeight(height->asDouble());
+    if (area.isSceneMethod())
+        takeSampleLengths(area);
     m_scenes.push_back(std::move(data));
+}
+
+/// The staffs that are drawn are made from the skeleton's, lengths included.
+void TemplateReader::takeSampleLengths(CalibrateAreaTemplate& area) const
+{
+    const auto entries = EntryList::at(m_skeleton, JsonPath(area.parent()));
+    const Value* const entry = EntryList::object(entries, 0);
+    const Value* const staffs = entry ? area.verticalStaffItem()->path().probe(*entry) : nullptr;
+    if (staffs)
+        CalibrateStaffs::takeSampleLengths(area, *staffs);
 }
 
 void TemplateReader::readFightCalibrate(const Value& section)

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+class CalibrateAreaTemplate;
 class LanesTemplate;
 class RuleData;
 namespace kql
@@ -38,6 +39,7 @@ public:
 
 private:
     void readCalibrateArea(const kql::Json::Value& section);
+    void takeSampleLengths(CalibrateAreaTemplate& area) const;
     void readFightCalibrate(const kql::Json::Value& section);
     void readLanes(const kql::Json::Value& section);
     void readRuleDescription(const kql::Json::Value& description);
@@ -50,6 +52,7 @@ private:
 
     const kql::Json::Value& m_configItems;
     const kql::Json::Value& m_description;
+    const kql::Json::Value& m_skeleton;
     Scenes m_scenes;
     LanesTemplate* m_lanes = nullptr; ///< not owned; null without a lanes scene
     bool m_isTooLarge = false;

@@ -56,10 +56,21 @@ void CalibrateAreaScene::bindFixedRows()
 void CalibrateAreaScene::checkLayout()
 {
     BaseTabelScene::checkLayout();
-    if (!isSceneMethod() || !m_verticalRow || !m_horizontalRow)
+    if (!calibrateTemplate() || !m_verticalRow || !m_horizontalRow)
+        return;
+    for (ControlTabel* row : {m_verticalRow, m_horizontalRow})
+        markWithoutLength(*row);
+    if (!isSceneMethod())
         return;
     updateLengthRow(m_verticalRow, BaseDrawType::VerticalRuler);
     updateLengthRow(m_horizontalRow, BaseDrawType::HorizontalRuler);
+}
+
+void CalibrateAreaScene::markWithoutLength(ControlTabel& row)
+{
+    const RuleDataInfo* entry = ruleData()->selectedDataInfo();
+    const bool lacksLength = entry && !entry->value(row.key()).isValid();
+    row.setMark(lacksLength ? tr("The area has no length here.") : QString());
 }
 
 void CalibrateAreaScene::updateLengthRow(InputBoxTabel* row, BaseDrawType rulerType)

@@ -22,6 +22,7 @@ protected:
 private:
     const CalibrateAreaTemplate* calibrateTemplate() const;
     bool isSceneMethod() const;
+    void markWithoutLength(ControlTabel& row);
     void updateLengthRow(InputBoxTabel* row, BaseDrawType rulerType);
 
     // Children of the controls, made anew for each data; null without data.

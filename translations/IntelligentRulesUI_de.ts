@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>CalibrateAreaData</name>
+    <message>
+        <source>%1 has no vertical length.</source>
+        <translation>%1 hat keine senkrechte Länge.</translation>
+    </message>
+    <message>
+        <source>%1 has no length.</source>
+        <translation>%1 hat keine Länge.</translation>
+    </message>
+    <message>
+        <source>%1 has no horizontal length.</source>
+        <translation>%1 hat keine waagerechte Länge.</translation>
+    </message>
+    <message>
+        <source>%1 has no width.</source>
+        <translation>%1 hat keine Breite.</translation>
+    </message>
+</context>
+<context>
     <name>CalibrateAreaScene</name>
     <message>
         <source>Calibrate area</source>
@@ -30,6 +49,10 @@
     <message>
         <source>Horizontal ruler</source>
         <translation>Waagerechte Latte</translation>
+    </message>
+    <message>
+        <source>The area has no length here.</source>
+        <translation>Dem Bereich fehlt hier eine Länge.</translation>
     </message>
 </context>
 <context>
@@ -251,6 +274,41 @@
     <message>
         <source>right line</source>
         <translation>Rechte Linie</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTip</name>
+    <message>
+        <source>Whole numbers</source>
+        <translation>Ganze Zahlen</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Whole number</source>
+        <translation>Ganze Zahl</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>unit: %1</source>
+        <translation>Einheit: %1</translation>
+    </message>
+    <message>
+        <source>What was typed is not taken here. %1</source>
+        <translation>Diese Eingabe wird hier nicht angenommen. %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>CalibrateAreaData</name>
+    <message>
+        <source>%1 has no vertical length.</source>
+        <translation>%1没有垂直长度。</translation>
+    </message>
+    <message>
+        <source>%1 has no length.</source>
+        <translation>%1没有长度。</translation>
+    </message>
+    <message>
+        <source>%1 has no horizontal length.</source>
+        <translation>%1没有水平长度。</translation>
+    </message>
+    <message>
+        <source>%1 has no width.</source>
+        <translation>%1没有宽度。</translation>
+    </message>
+</context>
+<context>
     <name>CalibrateAreaScene</name>
     <message>
         <source>Calibrate area</source>
@@ -30,6 +49,10 @@
     <message>
         <source>Horizontal ruler</source>
         <translation>水平标尺</translation>
+    </message>
+    <message>
+        <source>The area has no length here.</source>
+        <translation>该区域此处缺少长度。</translation>
     </message>
 </context>
 <context>
@@ -251,6 +274,41 @@
     <message>
         <source>right line</source>
         <translation>右侧线</translation>
+    </message>
+</context>
+<context>
+    <name>NumberTip</name>
+    <message>
+        <source>Whole numbers</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>Whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>至少 %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>至多 %1</translation>
+    </message>
+    <message>
+        <source>unit: %1</source>
+        <translation>单位：%1</translation>
+    </message>
+    <message>
+        <source>What was typed is not taken here. %1</source>
+        <translation>此处不接受该输入。%1</translation>
     </message>
 </context>
 <context>

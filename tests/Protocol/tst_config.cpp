@@ -264,7 +264,7 @@ private slots:
                 {"Type": "Vertical", "Length": 2, "Start": [5, 6], "End": [7]},
                 {"Type": "Horizontal", "Start": [5, 6], "End": [9, 9]}]}]})",
             R"({"C": [{"Area": [[1, 1], [2, 2], [3, 1]], "Method": "Lane", "Staffs": [
-                {"Type": "Vertical", "Length": 2.0, "Start": [5, 6], "End": [7, 8]},
+                {"Type": "Vertical", "Length": "long", "Start": [5, 6], "End": [7, 8]},
                 {"Type": "Horizontal", "Length": 3.0, "Start": [5, 6], "End": [9, 9]}]}]})");
 
         const QString lanes = makeTemplate(R"("lanes": {"parent": "L[]"})", QString(),
@@ -354,6 +354,39 @@ private slots:
         check(R"("name": "V", "type": "object")", R"("name": "V.A", "type": "int")",
               R"({"A": 5, "B": 6})", R"({"A": 8, "B": 9})", R"({"A": 7, "B": 9})");
         check(intAtV, intAtV, "5", 8, "7", ""); // applies, but has no row
+    }
+
+    void calibrationLengths()
+    {
+        // What the template and the skeleton's staffs say, what a new area shows, what is sent
+        // with its staffs, and who is named for lacking a length.
+        const auto check = [](const char* described, const char* staffs, const Texts& lengths,
+                              const char* notices) {
+            const QString section = R"("calibrateArea": {"parent": "C[]", "method": )";
+            const QString skeleton = QString(R"({"C": [{"Staffs": [%1]}]})").arg(staffs);
+            const Load load(makeTemplate(section + described + '}', {}, skeleton), "{}");
+            const RuleDataInfo& entry = load.addEntry();
+            load.draw(1, entry, {{1, 1}, {1, 5}});
+            load.draw(2, entry, {{1, 1}, {5, 1}});
+            const Value written = json(load.written())["C"][0]["Staffs"];
+            QCOMPARE(written.size(), 2);
+            const char* const keys[] = {"calibrateAreaVertical", "calibrateAreaHorizontal"};
+            for (int i = 0; i < 2; ++i) {
+                QCOMPARE(entry.value(keys[i]).toString(), lengths[i]);
+                const Value* sent = qAsConst(written)[i].find("Length");
+                QCOMPARE(sent ? QString::number(sent->asDouble()) : QString(), lengths[i]);
+            }
+            QCOMPARE(load.parser.notices().join(' '), QString(notices));
+        };
+        const char* const vertical = R"({"Type": "Vertical", "Length": 1.75})";
+        const char* const both =
+            R"({"Type": "Horizontal", "Length": 4}, {"Type": "Vertical", "Length": 2})";
+        check(R"("Scene")", vertical, {"1.75", "1.75"}, "");
+        check(R"("Scene")", both, {"2", "4"}, "");
+        check(R"("Scene", "defaultWidth": 3.5)", both, {"2", "3.5"}, "");
+        check(R"("Scene", "defaultHeight": 3.5)", "{}", {"3.5", ""},
+              "Area1 has no horizontal length.");
+        check(R"("Lane")", both, {"", ""}, "Area1 has no length. Area1 has no width.");
     }
 
     void detectionEdits()

@@ -221,6 +221,14 @@ private slots:
         PanelBench bench(calibrate("Scene"), "{}", SceneType::CalibrateArea);
         QCOMPARE(caption(bench, "calibrateAreaVertical"), QString("Vertical length"));
         drawArea(bench);
+        const auto lacks = [&bench](const char* row) {
+            return bench.find(row)->property("marked").toBool();
+        };
+        QVERIFY(lacks("calibrateAreaVertical") && lacks("calibrateAreaHorizontal"));
+        bench.enter("calibrateAreaVertical", "0");
+        QCOMPARE(bench.entry(0).value("calibrateAreaVertical"), QVariant(0.01));
+        QVERIFY(!lacks("calibrateAreaVertical") && lacks("calibrateAreaHorizontal"));
+        QCOMPARE(bench.parser().notices(), QStringList("Area1 has no horizontal length."));
         for (int i = 0; i < 3; ++i) {
             bench.click("fuc6");
             QVERIFY(!bench.find("fuc6")->isEnabled());
