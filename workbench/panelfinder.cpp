@@ -1,6 +1,7 @@
 #include "workbench/panelfinder.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QVariant>
 
 #include <algorithm>
@@ -82,4 +83,10 @@ QWidget* PanelFinder::row(QWidget* panel, const QString& key) const
 QAbstractButton* PanelFinder::windowButton(const QString& name) const
 {
     return m_window->findChild<QAbstractButton*>(name);
+}
+
+QString PanelFinder::notices() const
+{
+    const auto* label = m_window->findChild<QLabel*>(QStringLiteral("lblNotices"));
+    return label && !label->isHidden() ? label->text() : QString();
 }

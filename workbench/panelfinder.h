@@ -29,6 +29,8 @@ public:
     QWidget* row(QWidget* panel, const QString& key) const;
     /// A button of the window itself, by object name.
     QAbstractButton* windowButton(const QString& name) const;
+    /// The line of notices beside the window's buttons, in full.
+    QString notices() const;
 
 private:
     QWidget* m_window; ///< not owned

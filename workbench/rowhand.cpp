@@ -85,10 +85,14 @@ QString setSwitch(QWidget* row, bool on)
     return box && box->isChecked() == on ? QString() : OperatorHand::click(box);
 }
 
+// The edits limit each other: a minimum above the maximum shown has to wait for its own.
 QString setRange(QWidget* row, const Value& value)
 {
     const char* const names[] = {"minimum", "maximum"};
-    for (int i = 0; i < 2; ++i) {
+    const auto* maximum = row->findChild<QLineEdit*>(QString::fromLatin1(names[1]));
+    const bool isLimited = maximum && !maximum->text().isEmpty() && value[0].isNumeric();
+    const bool rises = isLimited && value[0].asDouble() > maximum->text().toDouble();
+    for (const int i : {rises ? 1 : 0, rises ? 0 : 1}) {
         auto* edit = row->findChild<QLineEdit*>(QString::fromLatin1(names[i]));
         const QString why = OperatorHand::type(edit, textOf(value[i]), true);
         if (!why.isEmpty())

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -57,6 +58,8 @@ QString SessionExpectation::check(const Value& step) const
     QString why = checkBox(step);
     if (why.isEmpty())
         why = checkPosted(step);
+    if (why.isEmpty())
+        why = checkNotice(step);
     return why.isEmpty() ? checkPanel(step) : why;
 }
 
@@ -96,6 +99,14 @@ QString SessionExpectation::checkMembers(const Value& members) const
             return why;
     }
     return {};
+}
+
+QString SessionExpectation::checkNotice(const Value& step) const
+{
+    const QString notices = m_finder.notices();
+    if (!step.isMember("notice") || notices.contains(step["notice"].asString()))
+        return {};
+    return say("the notices are %1, not %2").arg(shownText(notices), shownText(step["notice"]));
 }
 
 QString SessionExpectation::checkPanel(const Value& step) const
@@ -153,5 +164,7 @@ QString SessionExpectation::checkRow(QWidget& panel, const Value& step) const
         why = compare(say("the row's visibility"), !row->isHidden(), step["visible"]);
     if (why.isEmpty() && step.isMember("enabled"))
         why = compare(say("the row's enabled state"), RowHand::isUsable(row), step["enabled"]);
+    if (why.isEmpty() && step.isMember("marked"))
+        why = compare(say("the row's mark"), row->property("marked").toBool(), step["marked"]);
     return why;
 }

@@ -153,6 +153,8 @@ private slots:
         check(R"("expect","row":"ruleDwell","value":16)", "value is \"15\", not 16");
         check(R"("expect","row":"ruleDwell","visible":false)", "visibility is true, not false");
         check(R"("expect","row":"ruleDwell","enabled":false)", "enabled state is true, not false");
+        check(R"("expect","row":"ruleDwell","marked":true)", "mark is false, not true");
+        check(R"("expect","notice":"lost")", "the notices are \"\", not \"lost\"");
         check(R"("query"|"expect","posted":{"unFinishedDraw":true})", "Draw is false, not true");
         check(R"("query"|"expect","posted":null)", "a message was posted");
     }
