@@ -120,7 +120,8 @@ bool CommandLine::readChannelSources()
         const QString channel = value.left(separator);
         const QString address = value.mid(separator + 1);
         // An address alone may have an equals sign as well.
-        if (separator < 1 || address.isEmpty() || channel.contains(QStringLiteral("://"))) {
+        if (separator < 1 || address.isEmpty() || channel.contains(QStringLiteral("://")) ||
+            UICommonMdl::maskedAddress(channel) != channel) {
             m_text = translated("--%1 takes ID=ADDRESS, not \"%2\"")
                          .arg(QString::fromLatin1(kChannelSource), value);
             return false;

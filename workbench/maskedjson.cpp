@@ -10,23 +10,29 @@ using UICommonMdl::maskedAddress;
 namespace
 {
 
-void mask(Value& value)
+/// Whether anything had to be masked.
+bool mask(Value& value)
 {
-    if (value.isString())
-        value = maskedAddress(value.asString());
+    bool isMasked = false;
+    if (value.isString()) {
+        const QString text = value.asString();
+        const QString shown = maskedAddress(text);
+        isMasked = shown != text;
+        if (isMasked)
+            value = shown;
+    }
     for (int i = 0; i < value.size(); ++i)
-        mask(value.isArray() ? value[i] : value.memberValue(i));
+        isMasked = mask(value.isArray() ? value[i] : value.memberValue(i)) || isMasked;
+    return isMasked;
 }
 
 } // namespace
 
 QString MaskedJson::text(const QString& json)
 {
-    if (!json.contains(QStringLiteral("://")))
-        return json;
+    // An address in JSON may be hard to see: "rtsp:\/\/", "\u0040".
     Value document;
     if (!kql::Json::Reader().parse(json, document))
         return maskedAddress(json);
-    mask(document);
-    return document.toStyledText();
+    return mask(document) ? document.toStyledText() : json;
 }
