@@ -25,4 +25,9 @@ QSize NoSignalSource::pictureSize() const
     return {};
 }
 
+bool NoSignalSource::canTryAgain() const
+{
+    return false;
+}
+
 } // namespace UICommonMdl

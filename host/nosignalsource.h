@@ -17,6 +17,7 @@ public:
     void stop() override;
     QImage picture() const override;
     QSize pictureSize() const override;
+    bool canTryAgain() const override;
 
 private:
     QString m_reason;

@@ -1,5 +1,7 @@
 #include "host/picturesource.h"
 
+#include "host/maskedaddress.h"
+
 namespace UICommonMdl
 {
 namespace
@@ -31,12 +33,18 @@ PictureStatistics PictureSource::statistics() const
     return statistics;
 }
 
+bool PictureSource::canTryAgain() const
+{
+    return true;
+}
+
 void PictureSource::setState(PictureState state, const QString& reason)
 {
-    if (m_status.state == state && m_status.reason == reason)
+    const QString shown = maskedAddress(reason);
+    if (m_status.state == state && m_status.reason == shown)
         return;
     m_status.state = state;
-    m_status.reason = reason;
+    m_status.reason = shown;
     emit sgnStateChanged();
 }
 

@@ -24,6 +24,7 @@ class KQHOST_EXPORT PictureSource : public QObject
 public:
     ~PictureSource() override;
 
+    /// Called again on a lost source, it tries anew.
     virtual void start() = 0;
     /// Returns at once; no picture is announced afterwards.
     virtual void stop() = 0;
@@ -41,6 +42,8 @@ public:
     /// The newest picture in its decoded size; this may take a moment.
     virtual QImage fullPicture() const;
     virtual PictureStatistics statistics() const;
+    /// Whether start() may help a lost source.
+    virtual bool canTryAgain() const;
 
     PictureStatus status() const { return m_status; }
 

@@ -13,6 +13,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 
 #include <cmath>
 
@@ -31,6 +32,7 @@ constexpr QRgb kStrip = 0xB0101418;
 constexpr QRgb kStripText = 0xFFE6EAEE;
 constexpr int kTextMargin = 16;
 constexpr int kStripMargin = 6;
+constexpr int kStatusFlags = Qt::AlignCenter | Qt::TextWordWrap;
 constexpr int kUdpMode = 1;
 /// More than any screen has. On a larger surface the picture is enlarged while it is painted.
 constexpr qreal kMostPixels = 64.0 * 1024 * 1024;
@@ -72,10 +74,19 @@ QMouseEvent movedTo(const QRect& picture, QEvent::Type type, const QMouseEvent& 
 } // namespace
 
 QRtspVideoWnd::QRtspVideoWnd(QWidget* parent, int)
-    : QWidget(parent), m_strip(new PictureStrip(this, [this]() {
-          return m_source ? m_source->statistics() : UICommonMdl::PictureStatistics();
-      }))
+    : QWidget(parent),
+      m_strip(new PictureStrip(this,
+                               [this]() {
+                                   return m_source ? m_source->statistics()
+                                                   : UICommonMdl::PictureStatistics();
+                               })),
+      m_tryAgain(new QPushButton(tr("Try again now"), this))
 {
+    m_tryAgain->setObjectName(QStringLiteral("tryAgain"));
+    m_tryAgain->setFocusPolicy(Qt::TabFocus);
+    m_tryAgain->setCursor(Qt::ArrowCursor);
+    m_tryAgain->hide();
+    connect(m_tryAgain, &QPushButton::clicked, this, &QRtspVideoWnd::tryAgain);
     connect(m_strip, &PictureStrip::sgnFreeze, this, &QRtspVideoWnd::setFrozen);
     connect(m_strip, &PictureStrip::sgnSnapshot, this, &QRtspVideoWnd::sltSaveSnapshot);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -187,6 +198,18 @@ QString QRtspVideoWnd::statusText() const
     return {};
 }
 
+bool QRtspVideoWnd::isLost() const
+{
+    return m_source && m_source->status().state == PictureState::NoSignal &&
+           m_source->canTryAgain();
+}
+
+void QRtspVideoWnd::tryAgain()
+{
+    if (isLost())
+        m_source->start();
+}
+
 void QRtspVideoWnd::setFrozen(bool frozen)
 {
     const QImage picture = frozen && m_source ? m_source->fullPicture() : QImage();
@@ -235,8 +258,8 @@ void QRtspVideoWnd::openAddress(const QString& address, const UICommonMdl::Strea
     m_source = std::move(made);
     PictureSource* source = m_source.get();
     connect(source, &PictureSource::sgnPictureReady, this, &QRtspVideoWnd::sltPictureReady);
-    connect(source, &PictureSource::sgnStateChanged, this, [this]() { update(); });
-    update();
+    connect(source, &PictureSource::sgnStateChanged, this, &QRtspVideoWnd::sltStateChanged);
+    sltStateChanged();
     source->start();
 }
 
@@ -253,7 +276,7 @@ void QRtspVideoWnd::closeSource()
     m_strip->setFrozen(false);
     m_pixmap = QPixmap();
     m_reportedSize = QSize();
-    update();
+    sltStateChanged();
     followPictureRect();
 }
 
@@ -267,6 +290,12 @@ void QRtspVideoWnd::sltPictureReady()
     followPictureRect();
     if (guard)
         reportVideoSize();
+}
+
+void QRtspVideoWnd::sltStateChanged()
+{
+    placeTryAgain();
+    update();
 }
 
 void QRtspVideoWnd::sltAddressesChanged()
@@ -306,6 +335,7 @@ void QRtspVideoWnd::followPictureRect()
         return;
     m_rect = picture;
     m_strip->setPictureRect(picture);
+    placeTryAgain();
     update();
     emit sgnPictureRectChanged(selectedPane());
 }
@@ -313,6 +343,7 @@ void QRtspVideoWnd::followPictureRect()
 void QRtspVideoWnd::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    placeTryAgain();
     followPictureRect();
 }
 
@@ -396,23 +427,46 @@ void QRtspVideoWnd::paintOver()
 }
 
 /// In the middle of an empty pane, else in a strip at the foot of the last picture.
+QRect QRtspVideoWnd::statusRect() const
+{
+    const QRect picture = paneRect(selectedPane());
+    const int margin = picture.isEmpty() ? kTextMargin : 0;
+    const QRect area =
+        (picture.isEmpty() ? rect() : picture).adjusted(margin, margin, -margin, -margin);
+    QRect words = fontMetrics().boundingRect(area, kStatusFlags, statusText());
+    if (!picture.isEmpty()) {
+        words.adjust(0, 0, 0, 2 * kStripMargin);
+        words.moveBottom(picture.bottom());
+    }
+    return {area.left(), words.top(), area.width(), words.height()};
+}
+
 void QRtspVideoWnd::paintStatus(QPainter& painter)
 {
     const QString text = statusText();
     if (text.isEmpty())
         return;
-    const int flags = Qt::AlignCenter | Qt::TextWordWrap;
-    const QRect picture = paneRect(selectedPane());
-    if (picture.isEmpty()) {
-        const QRect area = rect().adjusted(kTextMargin, kTextMargin, -kTextMargin, -kTextMargin);
-        painter.setPen(QColor::fromRgba(kQuietText));
-        painter.drawText(area, flags, text);
+    const QRect place = statusRect();
+    const bool isOverPicture = !paneRect(selectedPane()).isEmpty();
+    if (isOverPicture)
+        painter.fillRect(place, QColor::fromRgba(kStrip));
+    painter.setPen(QColor::fromRgba(isOverPicture ? kStripText : kQuietText));
+    painter.drawText(place, kStatusFlags, text);
+}
+
+/// Under the words of an empty pane, else above the strip's right end.
+void QRtspVideoWnd::placeTryAgain()
+{
+    m_tryAgain->setVisible(isLost());
+    if (!isLost())
         return;
-    }
-    QRect strip = painter.fontMetrics().boundingRect(picture, flags, text);
-    strip.setRect(picture.left(), picture.bottom() + 1 - strip.height() - 2 * kStripMargin,
-                  picture.width(), strip.height() + 2 * kStripMargin);
-    painter.fillRect(strip, QColor::fromRgba(kStrip));
-    painter.setPen(QColor::fromRgba(kStripText));
-    painter.drawText(strip, flags, text);
+    const QRect words = statusRect();
+    const QRect picture = paneRect(selectedPane());
+    QRect place({}, m_tryAgain->sizeHint());
+    if (picture.isEmpty())
+        place.moveCenter({words.center().x(), words.bottom() + kTextMargin + place.height() / 2});
+    else
+        place.moveBottomRight(words.topRight() - QPoint(kStripMargin, kStripMargin));
+    place.moveBottom(qMin(place.bottom(), height() - 1));
+    m_tryAgain->setGeometry(place);
 }

@@ -13,6 +13,7 @@ namespace CommonData
 {
 class CInterfaceSetManager;
 }
+class QPushButton;
 namespace PreviewLogical
 {
 struct RtspVideoParam;
@@ -71,6 +72,8 @@ public:
     QRect paneRect(int pane) const;
     /// What the pane says about its state; empty while a picture plays.
     QString statusText() const;
+    /// Opens a lost picture now, whatever it waits for; nothing happens while one plays.
+    void tryAgain();
 
     /// Holds the picture still; the source plays on unseen. Nothing happens without a picture.
     void setFrozen(bool frozen);
@@ -101,11 +104,15 @@ private:
     void openAddress(const QString& address, const UICommonMdl::StreamOptions& options);
     void closeSource();
     void sltPictureReady();
+    void sltStateChanged();
     void sltAddressesChanged();
     void sltSaveSnapshot();
     QSize shownSize() const;
     void reportVideoSize();
     void followPictureRect();
+    bool isLost() const;
+    QRect statusRect() const;
+    void placeTryAgain();
     bool deliverPress(QMouseEvent* event);
 
     void preparePixmap(const QRect& rect);
@@ -128,6 +135,7 @@ private:
     std::unique_ptr<UICommonMdl::PictureSource> m_source;
     std::optional<QImage> m_still; ///< the picture that is held, in its decoded size
     UICommonMdl::PictureStrip* m_strip;
+    QPushButton* m_tryAgain; ///< shown over a lost picture
     QSize m_reportedSize;
     QRect m_rect;     ///< the picture rectangle last announced
     QPixmap m_pixmap; ///< the newest picture as it is shown; null when not made yet

@@ -42,6 +42,12 @@ qint64 StreamMailbox::dropped() const
     return m_dropped;
 }
 
+bool StreamMailbox::isLoginRefused() const
+{
+    const Lock lock(m_mutex);
+    return m_isLoginRefused;
+}
+
 bool StreamMailbox::isClosed() const
 {
     const Lock lock(m_mutex);
@@ -70,6 +76,12 @@ void StreamMailbox::countDropped(int pictures)
 {
     const Lock lock(m_mutex);
     m_dropped += pictures;
+}
+
+void StreamMailbox::setLoginRefused()
+{
+    const Lock lock(m_mutex);
+    m_isLoginRefused = true;
 }
 
 void StreamMailbox::postPicture(const QImage& picture,

@@ -32,6 +32,7 @@ public:
     void setTargetSize(const QSize& size);
     QString codec() const;
     qint64 dropped() const;
+    bool isLoginRefused() const;
 
     // The stream's side.
     bool isClosed() const;
@@ -41,6 +42,8 @@ public:
     QSize targetSize() const;
     void setCodec(const QString& codec);
     void countDropped(int pictures);
+    /// The failure that follows is one that only another login ends.
+    void setLoginRefused();
     void postPicture(const QImage& picture, std::shared_ptr<const DecodedPicture> decoded);
     void postFailure(const QString& reason);
 
@@ -55,6 +58,7 @@ private:
     QSize m_targetSize;
     QString m_codec;
     qint64 m_dropped = 0;
+    bool m_isLoginRefused = false;
 };
 
 } // namespace UICommonMdl

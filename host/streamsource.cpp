@@ -31,7 +31,7 @@ void play(const StreamRequest& request, StreamMailbox& mailbox)
 StreamSource::StreamSource(const StreamRequest& request) : m_request(request), m_wait(kFirstWait)
 {
     m_retry.setSingleShot(true);
-    connect(&m_retry, &QTimer::timeout, this, &StreamSource::sltConnect);
+    connect(&m_retry, &QTimer::timeout, this, &StreamSource::sltRetry);
 }
 
 StreamSource::~StreamSource()
@@ -97,6 +97,12 @@ void StreamSource::sltConnect()
         m_mailbox->postFailure(tr("There is not enough memory."));
 }
 
+void StreamSource::sltRetry()
+{
+    sltConnect();
+    setState(PictureState::NoSignal, m_reason + QLatin1Char('\n') + tr("Trying again ..."));
+}
+
 void StreamSource::sltNews()
 {
     if (!m_mailbox)
@@ -128,15 +134,25 @@ void StreamSource::leave()
 
 void StreamSource::lose(const QString& reason)
 {
+    const bool isRefused = m_mailbox->isLoginRefused();
     leave();
+    m_reason = reason;
     kql::DPrintLog::instance()->Log("host", kLogLevel, "StreamSource::lose", __FILE__, __LINE__,
                                     "%s: %s", maskedAddress(m_request.address), reason);
     // A file does not get better; a camera may come back.
-    if (!m_request.isFile) {
-        m_retry.start(m_wait * kMillisecondsPerSecond);
-        m_wait = qMin(2 * m_wait, kLongestWait);
-    }
-    setState(PictureState::NoSignal, reason);
+    setState(PictureState::NoSignal,
+             m_request.isFile ? reason : reason + QLatin1Char('\n') + nextStep(isRefused));
+}
+
+/// Waits for the next try, unless it would cost the user the account; says which.
+QString StreamSource::nextStep(bool isRefused)
+{
+    if (isRefused)
+        return tr("It is tried again only when you ask for it.");
+    const QTime time = QTime::currentTime().addSecs(m_wait);
+    m_retry.start(m_wait * kMillisecondsPerSecond);
+    m_wait = qMin(2 * m_wait, kLongestWait);
+    return tr("Next try at %1").arg(time.toString(QStringLiteral("HH:mm:ss")));
 }
 
 } // namespace UICommonMdl

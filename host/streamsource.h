@@ -16,7 +16,8 @@ class StreamMailbox;
 /**
  * A live stream (RTSP, TCP or UDP) or a video file, which is played over and over at its own speed.
  * All waiting, decoding and scaling is done on threads of its own. A live stream that is lost is
- * tried again after 1, 2, 4, ... up to 30 seconds, for ever; a file is not.
+ * tried again after 1, 2, 4, ... up to 30 seconds, for ever, and says when; a file is not, nor is
+ * a server that refuses the login. start() tries at once.
  */
 class KQHOST_EXPORT StreamSource : public PictureSource
 {
@@ -36,16 +37,19 @@ public:
 
 private slots:
     void sltConnect();
+    void sltRetry();
     void sltNews();
 
 private:
     void leave();
     void lose(const QString& reason);
+    QString nextStep(bool isRefused);
 
     const StreamRequest m_request;
     std::shared_ptr<StreamMailbox> m_mailbox; ///< null while nothing is played
     QTimer m_retry;
     int m_wait; ///< seconds until the next try
+    QString m_reason; ///< why the stream was lost last
     QSize m_targetSize;
     QImage m_picture;
     std::shared_ptr<const DecodedPicture> m_decoded; ///< the same picture

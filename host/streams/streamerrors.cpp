@@ -11,6 +11,9 @@ extern "C" {
 
 namespace UICommonMdl
 {
+
+const int kSentElsewhere = FFERRTAG('A', 'W', 'A', 'Y');
+
 namespace
 {
 
@@ -31,6 +34,8 @@ const Reason kReasons[] = {
     {AVERROR_EOF, REASON("The stream was ended by the other side.")},
     {AVERROR_HTTP_UNAUTHORIZED, REASON("The user name or the password is not accepted.")},
     {AVERROR_HTTP_FORBIDDEN, REASON("Access is forbidden.")},
+    {kSentElsewhere, REASON("The camera sends its viewers to another server. It is not followed: "
+                            "user name and password would go along.")},
     {AVERROR_HTTP_NOT_FOUND, REASON("There is no stream of this name.")},
     {AVERROR_HTTP_BAD_REQUEST, REASON("The request is refused.")},
     {AVERROR_HTTP_OTHER_4XX, REASON("The request is refused.")},
@@ -40,6 +45,7 @@ const Reason kReasons[] = {
     {AVERROR_INVALIDDATA, REASON("It is no video that can be read.")},
     {AVERROR(ENOENT), REASON("There is no such file.")},
     {AVERROR(EACCES), REASON("It may not be read.")},
+    {AVERROR(ENAMETOOLONG), REASON("The address, or the login in it, is too long.")},
     {AVERROR(EISDIR), REASON("It is a folder.")},
     {AVERROR(ENOMEM), REASON("There is not enough memory.")},
 };
@@ -61,6 +67,11 @@ QString streamErrorText(int code)
     std::array<char, AV_ERROR_MAX_STRING_SIZE> text{};
     av_strerror(code, text.data(), text.size());
     return translated("It cannot be played: %1.").arg(QString::fromLocal8Bit(text.data()));
+}
+
+bool isLoginRefusal(int code)
+{
+    return code == AVERROR_HTTP_UNAUTHORIZED || code == AVERROR_HTTP_FORBIDDEN;
 }
 
 } // namespace UICommonMdl

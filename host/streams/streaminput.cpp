@@ -15,6 +15,8 @@ namespace
 {
 
 constexpr std::chrono::milliseconds kGoodbye{500};
+/// In bytes. The library would log in with the beginning of a longer one, until that is locked out.
+constexpr int kLongestLogin = 127;
 
 /// The libraries' own messages hold addresses with their passwords.
 void silenceLibraries()
@@ -48,8 +50,10 @@ bool isVideo(const AVStream& stream)
 
 } // namespace
 
-StreamInput::StreamInput(const StreamRequest& request, const StreamMailbox& mailbox)
-    : m_request(request), m_mailbox(mailbox)
+StreamInput::StreamInput(const StreamRequest& request, StreamMailbox& mailbox)
+    : m_request(request),
+      m_mailbox(mailbox),
+      m_address(StreamAddress::parse(request.isFile ? QString() : request.address))
 {
 }
 
@@ -66,6 +70,8 @@ QString StreamInput::open()
     if (m_request.isFile && QFileInfo(m_request.address).isDir())
         return streamErrorText(AVERROR(EISDIR));
     const int connected = connectToServer();
+    if (isLoginRefusal(connected))
+        m_mailbox.setLoginRefused();
     if (connected < 0)
         return streamErrorText(connected);
     // Before anything is decoded: room for an absurd size is never taken.
@@ -80,24 +86,28 @@ QString StreamInput::open()
 int StreamInput::connectToServer()
 {
     AvOptions options;
-    QByteArray address = m_request.address.toUtf8();
+    QByteArray address = m_address.encoded().toUtf8();
     if (m_request.isFile) {
         // Without it, "name:rest" would be taken for a protocol.
-        address.prepend("file:");
+        address = "file:" + m_request.address.toUtf8();
         options.set("protocol_whitelist", "file");
     } else {
         setStreamOptions(options, m_request.options);
     }
+    if (m_address.encodedLogin().toUtf8().size() > kLongestLogin)
+        return AVERROR(ENAMETOOLONG);
     AVFormatContext* format = avformat_alloc_context();
     if (!format)
         return AVERROR(ENOMEM);
     format->interrupt_callback = {&StreamInput::isInterrupted, this};
     expectAnswer(m_request.silenceLimit);
+    m_opening = format;
     const int opened = avformat_open_input(&format, address.constData(), nullptr, options.get());
-    if (opened < 0)
-        return explained(opened);
+    m_opening = nullptr;
     m_format.reset(format);
-    return 0;
+    if (m_isAstray)
+        return kSentElsewhere;
+    return opened < 0 ? explained(opened) : 0;
 }
 
 QString StreamInput::findVideo()
@@ -163,10 +173,20 @@ double StreamInput::picturesPerSecond() const
 
 int StreamInput::isInterrupted(void* input)
 {
-    const auto& self = *static_cast<const StreamInput*>(input);
+    auto& self = *static_cast<StreamInput*>(input);
+    self.m_isAstray = self.m_isAstray || self.isSentElsewhere();
     const bool given = !self.m_isClosing && (self.m_aborted || self.m_mailbox.isClosed());
     const bool silent = !self.m_request.isFile && Clock::now() > self.m_deadline;
-    return given || silent ? 1 : 0;
+    return given || silent || self.m_isAstray ? 1 : 0;
+}
+
+/// The library follows by itself, and asks before the first byte that it sends there.
+bool StreamInput::isSentElsewhere() const
+{
+    if (!m_opening || !m_opening->url || m_address.login.isEmpty())
+        return false;
+    const QString address = QString::fromUtf8(m_opening->url);
+    return !m_address.mayPassOnTo(StreamAddress::parse(address));
 }
 
 void StreamInput::expectAnswer(Clock::duration limit)

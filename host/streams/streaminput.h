@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/streamaddress.h"
 #include "host/streamrequest.h"
 #include "host/streams/avpointers.h"
 
@@ -14,12 +15,13 @@ class StreamMailbox;
 /**
  * The reading end of a stream or video file: connects, and hands over the packets of its video.
  * Every call that waits is given up when the mailbox is closed, on abort(), and when a server
- * stays silent for too long. Used on one thread at a time, abort() apart.
+ * stays silent for too long. A server that sends its clients to another one is not followed where
+ * a login would go along. Used on one thread at a time, abort() apart.
  */
 class StreamInput
 {
 public:
-    StreamInput(const StreamRequest& request, const StreamMailbox& mailbox);
+    StreamInput(const StreamRequest& request, StreamMailbox& mailbox);
     /// Says goodbye to the server, which takes a moment at most.
     ~StreamInput();
 
@@ -39,13 +41,17 @@ private:
     using Clock = std::chrono::steady_clock;
 
     static int isInterrupted(void* input);
+    bool isSentElsewhere() const;
     void expectAnswer(Clock::duration limit);
     int explained(int code) const;
     int connectToServer();
     QString findVideo();
 
     const StreamRequest m_request;
-    const StreamMailbox& m_mailbox;
+    StreamMailbox& m_mailbox;
+    const StreamAddress m_address;
+    const AVFormatContext* m_opening = nullptr; ///< not owned; null once opened
+    bool m_isAstray = false;
     AvFormatPointer m_format;
     int m_video = -1;
     Clock::time_point m_deadline;

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtEndian>
@@ -231,7 +232,7 @@ private slots:
         QTest::addColumn<QString>("user");
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("reason");
-        const auto row = [](const char* name, const QStringList& server, const char* user,
+        const auto row = [](const char* name, const QStringList& server, const QString& user,
                             const char* path, const char* reason) {
             QTest::newRow(name) << server << user << path << reason;
         };
@@ -239,6 +240,9 @@ private slots:
         row("path", {}, "", "nothing", "no stream of this name");
         row("no password", guarded, "", "bars", "not accepted");
         row("password", guarded, "viewer:wrong@", "bars", "not accepted");
+        row("long", {},
+            "viewer:a password of more than 127 bytes as they are sent " + QString(70, '.') + '@',
+            "bars", "too long");
     }
 
     void tellsWhyNothingComes()
@@ -278,10 +282,10 @@ private slots:
     void triesAgainAndKeepsSecrets()
     {
         const ErrorOutput output;
-        const QStringList guarded{"--user", "viewer", "--password", "s3cr3t"};
+        const QStringList guarded{"--user", "viewer", "--password", "s3cr3t/p?a#s %s@1"};
         Server camera(guarded);
         QVERIFY(camera.isRunning());
-        StreamSource source(request(camera.address(QString("viewer:s3cr3t@"))));
+        StreamSource source(request(camera.address(QString("viewer:s3cr3t/p?a#s %s@1@"))));
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::Playing, kPatience);
         camera.kill();
@@ -292,11 +296,51 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(output.text().count(refusal), 3, kPatience);
         QVERIFY2(timer.elapsed() > 2800, "tries after 1 and 2 seconds");
         QVERIFY(source.status().reason.contains("refused"));
+        QVERIFY(source.status().reason.contains("Next try at "));
+        timer.start();
+        source.start();
+        QTRY_COMPARE_WITH_TIMEOUT(output.text().count(refusal), 4, kPatience);
+        QVERIFY2(timer.elapsed() < 3000, "a wait of 4 seconds");
         camera.start(guarded);
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::Playing, kPatience);
         const QByteArray said = output.text() + source.status().reason.toUtf8();
         for (const char* secret : {"s3cr3t", "viewer", "dmlld2VyOnMzY3IzdA"})
             QVERIFY2(!said.contains(secret), said.constData());
+    }
+
+    void asksBeforeItTriesARefusedLoginAgain()
+    {
+        for (const char* refusal : {"401 Unauthorized", "403 Forbidden"}) {
+            Server camera({"--refuse", refusal});
+            QRtspVideoWnd surface;
+            surface.resize(400, 300);
+            auto* const again = surface.findChild<QPushButton*>("tryAgain");
+            PreviewLogical::RtspVideoParam param;
+            param.rtspUrl = camera.address("viewer:s3cr3t@");
+            QVERIFY(camera.isRunning() && surface.openByRtsp(param) && again->isHidden());
+            QTRY_VERIFY_WITH_TIMEOUT(surface.statusText().contains("only when you ask"), kPatience);
+            QVERIFY(!again->isHidden() && surface.rect().contains(again->geometry()));
+            const int tries = camera.printed().count("OPTIONS ");
+            QVERIFY(tries > 0);
+            QTest::qWait(1500); // the first wait is one second
+            QCOMPARE(camera.printed().count("OPTIONS "), tries);
+            again->click();
+            QVERIFY(again->isHidden());
+            QTRY_VERIFY_WITH_TIMEOUT(camera.printed().count("OPTIONS ") > tries, kPatience);
+        }
+    }
+
+    void takesNoLoginElsewhere()
+    {
+        Server greedy({"--refuse", "401 Unauthorized"});
+        Server camera({"--location", greedy.address()});
+        QVERIFY(greedy.isRunning() && camera.isRunning());
+        StreamSource source(request(camera.address("viewer:s3cr3t@")));
+        source.start();
+        QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
+        QCOMPARE(greedy.printed(), QByteArray());
+        QVERIFY2(source.status().reason.contains("to another server"),
+                 qPrintable(source.status().reason));
     }
 
     void closesAtOnce()

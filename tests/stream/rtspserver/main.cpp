@@ -1,6 +1,7 @@
 // An RTSP server on the loopback address that serves colour bars at /bars until it is killed.
 // It prints the port that it listens on. Or it plays a camera that means harm, by sending every
-// client to another address or by describing its streams as files say, and prints what it is asked.
+// client to another address, by refusing all, or by describing its streams as files say, and prints
+// what it is asked.
 
 #include <gst/gst.h>
 #include <gst/rtsp-server/rtsp-server.h>
@@ -22,6 +23,7 @@ struct Settings {
     gboolean udpOnly = FALSE;
     gboolean silent = FALSE;
     gchar* location = nullptr;
+    gchar* refuse = nullptr;
     gchar* describe = nullptr;
     gchar* certificate = nullptr;
 };
@@ -38,6 +40,7 @@ bool readSettings(int argc, char** argv, Settings& settings)
         {"udp-only", 0, 0, G_OPTION_ARG_NONE, &settings.udpOnly, "Refuse TCP", nullptr},
         {"silent", 0, 0, G_OPTION_ARG_NONE, &settings.silent, "Take connections, no more", nullptr},
         {"location", 0, 0, G_OPTION_ARG_STRING, &settings.location, "Send all there", "URL"},
+        {"refuse", 0, 0, G_OPTION_ARG_STRING, &settings.refuse, "Answer all with it", "STATUS"},
         {"describe", 0, 0, G_OPTION_ARG_STRING, &settings.describe,
          "Answer DESCRIBE with the file there that the address names", "FOLDER"},
         {"certificate", 0, 0, G_OPTION_ARG_STRING, &settings.certificate, "Speak TLS", "FILE"},
@@ -163,6 +166,9 @@ std::string answer(const Settings& settings, const std::string& request,
     if (settings.location)
         return "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + settings.location +
                "\r\n\r\n";
+    if (settings.refuse)
+        return std::string("RTSP/1.0 ") + settings.refuse + "\r\n" + sequence +
+               "\r\nWWW-Authenticate: Basic realm=\"x\"\r\n\r\n";
     const std::string ok = "RTSP/1.0 200 OK\r\n" + sequence + "\r\n";
     if (request.rfind("DESCRIBE ", 0) != 0)
         return ok + kSession;
@@ -170,7 +176,7 @@ std::string answer(const Settings& settings, const std::string& request,
     return ok + contentOf(settings.describe + address.substr(address.rfind('/')));
 }
 
-/// Answers every request of a connection, and prints its first line.
+/// Answers every request of a connection, and prints its first line and what it logs in with.
 gboolean misbehave(GThreadedSocketService*, GSocketConnection* connection, GObject*, gpointer user)
 {
     const auto& settings = *static_cast<const Settings*>(user);
@@ -186,6 +192,8 @@ gboolean misbehave(GThreadedSocketService*, GSocketConnection* connection, GObje
             request = line;
             std::printf("%s\n", line.c_str());
         }
+        if (line.rfind("Authorization:", 0) == 0)
+            std::printf("%s\n", line.c_str());
         if (line.rfind("CSeq:", 0) == 0)
             sequence = line;
         if (!line.empty())
@@ -214,7 +222,7 @@ int misbehaveAlways(Settings& settings)
 
 int portOf(Settings& settings)
 {
-    if (settings.location || settings.describe)
+    if (settings.location || settings.refuse || settings.describe)
         return misbehaveAlways(settings);
     return settings.silent ? listenOnly() : serve(settings);
 }
