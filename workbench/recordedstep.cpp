@@ -1,6 +1,5 @@
 #include "workbench/recordedstep.h"
 
-#include "host/maskedaddress.h"
 #include "workbench/panelfinder.h"
 #include "workbench/rowhand.h"
 #include "workbench/sourcebook.h"
@@ -112,12 +111,6 @@ Value pathOf(const QString& file)
     return file.isEmpty() ? Value() : Value(QFileInfo(file).absoluteFilePath());
 }
 
-/// Sessions are passed on; passwords are not.
-bool isSecret(const QString& source)
-{
-    return UICommonMdl::maskedAddress(source) != source;
-}
-
 Value sourceOf(const QString& source)
 {
     return source.isEmpty() ? Value() : Value(SourceBook::absolute(source));
@@ -213,7 +206,8 @@ Value load(const WorkbenchOptions* before, const WorkbenchOptions& now)
     Value result = step("load");
     result["template"] = pathOf(now.templateFile);
     result["config"] = pathOf(now.configFile);
-    if (isNew(&WorkbenchOptions::source) && !isSecret(now.source))
+    // Sessions are passed on; passwords are not.
+    if (isNew(&WorkbenchOptions::source) && !SourceBook::holdsLogin(now.source))
         result["source"] = sourceOf(now.source);
     const auto addNew = [&result, &now, isNew](const char* name, auto member) {
         if (isNew(member))

@@ -1,9 +1,13 @@
 #include "workbench/sourcebook.h"
 
+#include "host/maskedaddress.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace
 {
@@ -16,6 +20,7 @@ const auto kSources = QStringLiteral("sources");
 const auto kChannel = QStringLiteral("channel");
 const auto kAddress = QStringLiteral("address");
 const auto kRecent = QStringLiteral("recent");
+const auto kRemember = QStringLiteral("rememberLogins");
 
 } // namespace
 
@@ -32,14 +37,33 @@ QString SourceBook::absolute(const QString& source)
     return isFile ? QFileInfo(source).absoluteFilePath() : source;
 }
 
+bool SourceBook::holdsLogin(const QString& source)
+{
+    return UICommonMdl::maskedAddress(source) != source && !QFileInfo::exists(source);
+}
+
 void SourceBook::keepIn(const QString& file)
 {
     m_file = file;
-    read();
+    const Addresses kept = read();
+    const bool hasLogin = std::any_of(kept.begin(), kept.end(), &SourceBook::holdsLogin) ||
+                          std::any_of(m_recent.begin(), m_recent.end(), &SourceBook::holdsLogin);
+    if (hasLogin && !m_remembersLogins) {
+        writeAddresses(kept);
+        writeRecent();
+    }
+    overlay(kept);
 }
 
-void SourceBook::read()
+void SourceBook::setRemembersLogins(bool remembers)
 {
+    m_remembersLogins = remembers;
+    writeRecent();
+}
+
+SourceBook::Addresses SourceBook::read()
+{
+    Addresses addresses;
     QSettings settings(m_file, QSettings::IniFormat);
     settings.setIniCodec("UTF-8");
     const int count = qMin(settings.beginReadArray(kSources), kMostChannels);
@@ -48,11 +72,13 @@ void SourceBook::read()
         const QString channel = settings.value(kChannel).toString();
         const QString address = settings.value(kAddress).toString();
         if (!channel.isEmpty() && !address.isEmpty())
-            m_addresses.insert(channel, address);
+            addresses.insert(channel, address);
     }
     settings.endArray();
+    m_remembersLogins = settings.value(kRemember).toBool();
     m_recent = settings.value(kRecent).toStringList().mid(0, kMostRecent);
     m_recent.removeAll({});
+    return addresses;
 }
 
 void SourceBook::overlay(const Addresses& addresses)
@@ -64,7 +90,7 @@ void SourceBook::overlay(const Addresses& addresses)
 void SourceBook::setAddresses(const Addresses& addresses)
 {
     m_addresses = addresses;
-    writeAddresses();
+    writeAddresses(addresses);
 }
 
 void SourceBook::addRecent(const QString& source)
@@ -77,6 +103,13 @@ void SourceBook::addRecent(const QString& source)
     writeRecent();
 }
 
+/// What the file says of @p source; empty when it may say nothing.
+QString SourceBook::kept(const QString& source) const
+{
+    return m_remembersLogins || !holdsLogin(source) ? source
+                                                    : UICommonMdl::addressWithoutLogin(source);
+}
+
 /// Before anything is written, so that it is never readable by others for a moment.
 bool SourceBook::makePrivate() const
 {
@@ -87,19 +120,22 @@ bool SourceBook::makePrivate() const
     return file.open(QIODevice::Append) && file.setPermissions(kOwnerOnly);
 }
 
-void SourceBook::writeAddresses() const
+void SourceBook::writeAddresses(const Addresses& addresses) const
 {
     if (!makePrivate())
         return;
     QSettings settings(m_file, QSettings::IniFormat);
     settings.setIniCodec("UTF-8");
     settings.remove(kSources);
-    settings.beginWriteArray(kSources, m_addresses.size());
+    settings.beginWriteArray(kSources);
     int index = 0;
-    for (auto i = m_addresses.begin(); i != m_addresses.end(); ++i) {
+    for (auto i = addresses.begin(); i != addresses.end(); ++i) {
+        const QString address = kept(i.value());
+        if (address.isEmpty())
+            continue;
         settings.setArrayIndex(index++);
         settings.setValue(kChannel, i.key());
-        settings.setValue(kAddress, i.value());
+        settings.setValue(kAddress, address);
     }
     settings.endArray();
 }
@@ -110,5 +146,11 @@ void SourceBook::writeRecent() const
         return;
     QSettings settings(m_file, QSettings::IniFormat);
     settings.setIniCodec("UTF-8");
-    settings.setValue(kRecent, m_recent);
+    QStringList recent;
+    for (const QString& source : m_recent)
+        recent.append(kept(source));
+    recent.removeAll({});
+    recent.removeDuplicates();
+    settings.setValue(kRecent, recent);
+    settings.setValue(kRemember, m_remembersLogins);
 }

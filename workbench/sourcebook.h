@@ -6,8 +6,8 @@
 
 /**
  * The addresses of the channels' pictures, and the sources that were shown last. They are kept
- * from run to run once keepIn() was called, in a file that only its user can read: addresses hold
- * passwords.
+ * from run to run once keepIn() was called, in a file that only its user can read. User names and
+ * passwords end with the run unless the operator has them remembered.
  */
 class SourceBook
 {
@@ -18,9 +18,15 @@ public:
     static QString usualFile();
     /// @p source with the path of a file made absolute.
     static QString absolute(const QString& source);
+    /// Whether @p source is an address that tells a user name or a password.
+    static bool holdsLogin(const QString& source);
 
-    /// Reads what @p file keeps, and writes every later change to it.
+    /// Reads what @p file keeps, and writes every later change to it. A login that nobody had
+    /// remembered leaves the file at once, and this book at the end of the run.
     void keepIn(const QString& file);
+
+    bool remembersLogins() const { return m_remembersLogins; }
+    void setRemembersLogins(bool remembers);
 
     const Addresses& addresses() const { return m_addresses; }
     /// Puts @p addresses over the others for this run only.
@@ -32,12 +38,14 @@ public:
     void addRecent(const QString& source);
 
 private:
-    void read();
+    Addresses read();
+    QString kept(const QString& source) const;
     bool makePrivate() const;
-    void writeAddresses() const;
+    void writeAddresses(const Addresses& addresses) const;
     void writeRecent() const;
 
     QString m_file; ///< empty: nothing is kept
+    bool m_remembersLogins = false;
     Addresses m_addresses;
     QStringList m_recent;
 };

@@ -3,6 +3,7 @@
 #include "host/maskedaddress.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -31,9 +32,11 @@ public:
 
 } // namespace
 
-SourcesDialog::SourcesDialog(const SourceBook::Addresses& addresses, QWidget* parent)
+SourcesDialog::SourcesDialog(const SourceBook::Addresses& addresses, bool remembersLogins,
+                             QWidget* parent)
     : QDialog(parent),
       m_table(new QTableWidget(0, ColumnCount)),
+      m_remember(new QCheckBox(tr("Re&member user names and passwords"))),
       m_problem(new QLabel),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
@@ -45,6 +48,11 @@ SourcesDialog::SourcesDialog(const SourceBook::Addresses& addresses, QWidget* pa
     m_table->verticalHeader()->hide();
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_remember->setObjectName(QStringLiteral("remember"));
+    m_remember->setToolTip(
+        tr("They are written into a file that only you can read. Otherwise they have to be typed "
+           "again after the workbench was closed."));
+    m_remember->setChecked(remembersLogins);
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     createButtons();
@@ -74,6 +82,7 @@ void SourcesDialog::createButtons()
     upper->addLayout(side);
     auto* const all = new QVBoxLayout(this);
     all->addLayout(upper);
+    all->addWidget(m_remember);
     all->addWidget(m_problem);
     all->addWidget(m_buttons);
 }
@@ -95,6 +104,11 @@ SourceBook::Addresses SourcesDialog::addresses() const
             addresses.insert(textAt(row, ChannelColumn), SourceBook::absolute(address));
     }
     return addresses;
+}
+
+bool SourcesDialog::remembersLogins() const
+{
+    return m_remember->isChecked();
 }
 
 void SourcesDialog::appendRow(const QString& channel, const QString& address)

@@ -4,22 +4,25 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QDialogButtonBox;
 class QLabel;
 class QPushButton;
 class QTableWidget;
 
-/// Which address gives each channel's picture. User names and passwords show only in the address
-/// that is being edited.
+/// Which address gives each channel's picture, and whether user names and passwords are kept for
+/// the next run. They show only in the address that is being edited.
 class SourcesDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit SourcesDialog(const SourceBook::Addresses& addresses, QWidget* parent = nullptr);
+    explicit SourcesDialog(const SourceBook::Addresses& addresses, bool remembersLogins = false,
+                           QWidget* parent = nullptr);
 
     /// What the table says; rows without channel and address do not count.
     SourceBook::Addresses addresses() const;
+    bool remembersLogins() const;
 
 private:
     QPushButton* addButton(const char* name, const QString& text);
@@ -34,6 +37,7 @@ private:
     void check();
 
     QTableWidget* m_table;
+    QCheckBox* m_remember;
     QLabel* m_problem;
     QDialogButtonBox* m_buttons;
 };

@@ -172,10 +172,11 @@ void WorkbenchWindow::keepSources(const QString& file)
 void WorkbenchWindow::editSources()
 {
     const SourceBook::Addresses before = sources();
-    SourcesDialog dialog(before, this);
+    SourcesDialog dialog(before, m_book.remembersLogins(), this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const SourceBook::Addresses now = dialog.addresses();
+    m_book.setRemembersLogins(dialog.remembersLogins());
     for (auto i = now.begin(); i != now.end(); ++i) {
         if (before.value(i.key()) != i.value())
             m_book.addRecent(i.value());
@@ -201,9 +202,13 @@ void WorkbenchWindow::fillRecent()
 
 void WorkbenchWindow::showSource(const QString& source)
 {
+    const SourceBook::Addresses before = sources();
     m_options.source = source;
     m_book.addRecent(source);
     applySources();
+    QRtspVideoWnd* const surface = videoSurface();
+    if (surface && sources() == before)
+        surface->tryAgain();
 }
 
 SourceBook::Addresses WorkbenchWindow::sources() const
