@@ -1,19 +1,22 @@
 #include "host/picturefile.h"
 
+#include "host/wholefile.h"
+
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageWriter>
-#include <QSaveFile>
 
 namespace UICommonMdl
 {
 
-bool savePicture(const QImage& picture, const QString& path)
+bool savePicture(const QImage& picture, const QString& path, QString& error)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QImageWriter writer(&file, QFileInfo(path).suffix().toLatin1());
-    return writer.write(picture) && file.commit();
+    QBuffer buffer;
+    QImageWriter writer(&buffer, QFileInfo(path).suffix().toLatin1());
+    if (writer.write(picture))
+        return WholeFile::write(path, buffer.data(), error);
+    error = QStringLiteral("%1: %2").arg(path, writer.errorString());
+    return false;
 }
 
 } // namespace UICommonMdl

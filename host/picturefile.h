@@ -9,7 +9,8 @@ namespace UICommonMdl
 {
 
 /// Replaces @p path by @p picture in one step, in the format that its suffix names, so that a
-/// failure leaves the old file. False when the format or the place cannot be written.
-KQHOST_EXPORT bool savePicture(const QImage& picture, const QString& path);
+/// failure leaves the old file. False when the format or the place cannot be written, with one
+/// line in @p error that names the file.
+KQHOST_EXPORT bool savePicture(const QImage& picture, const QString& path, QString& error);
 
 } // namespace UICommonMdl

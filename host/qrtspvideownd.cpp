@@ -312,10 +312,11 @@ void QRtspVideoWnd::sltSaveSnapshot()
         QDateTime::currentDateTime().toString(QStringLiteral("'snapshot'-yyyyMMdd-HHmmss'.png'"));
     const QString file = QFileDialog::getSaveFileName(this, tr("Save snapshot"), name,
                                                       tr("Pictures (*.png *.jpg *.bmp)"));
-    if (!guard || file.isEmpty() || UICommonMdl::savePicture(picture, file))
+    QString error;
+    if (!guard || file.isEmpty() || UICommonMdl::savePicture(picture, file, error))
         return;
     KQGUI::KQMessageBox::ShowError(this, tr("Save snapshot"),
-                                   tr("The picture cannot be saved as \"%1\".").arg(file));
+                                   tr("The picture cannot be saved: %1").arg(error));
 }
 
 void QRtspVideoWnd::reportVideoSize()

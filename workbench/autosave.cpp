@@ -27,6 +27,7 @@ namespace
 constexpr int kRulesResult = 996;
 /// From the first change that is in no file until it is.
 constexpr int kDelay = 2000; // milliseconds
+const auto kKeptWork = QStringLiteral("kept work");
 
 bool isOneOf(const Value& step, std::initializer_list<const char*> names)
 {
@@ -168,6 +169,7 @@ void Autosave::settle()
     m_isUnsaved = false;
     m_timer.stop();
     m_file.remove();
+    m_window.tellTrouble(kKeptWork, {});
 }
 
 bool Autosave::write()
@@ -175,8 +177,15 @@ bool Autosave::write()
     QByteArray content;
     for (const QByteArray& step : m_steps)
         content += step + '\n';
-    // On a full disk or without rights it is tried again with the next change.
-    return m_file.write(content);
+    QString error;
+    if (m_file.write(content, error)) {
+        m_window.tellTrouble(kKeptWork, {});
+        return true;
+    }
+    m_window.tellTrouble(kKeptWork, tr("What you do is not kept from a crash: %1").arg(error));
+    // The disk may have room again.
+    m_timer.start();
+    return false;
 }
 
 void Autosave::takeMessage(const MessageRecord& message)
@@ -184,7 +193,7 @@ void Autosave::takeMessage(const MessageRecord& message)
     if (!isResult(message))
         return;
     m_isResultOld = false;
-    if (m_window.wasExited())
+    if (m_window.wasExited() && !m_window.hasUnwrittenSave())
         settle();
 }
 

@@ -1,10 +1,11 @@
 #include "workbench/autosavefile.h"
 
+#include "host/wholefile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace
@@ -46,7 +47,7 @@ std::unique_ptr<AutosaveFile> AutosaveFile::leftBehind(const QString& folder)
         QDir(folder).entryInfoList({QLatin1Char('*') + kSuffix}, QDir::Files, QDir::Time);
     for (const QFileInfo& entry : entries) {
         std::unique_ptr<AutosaveFile> file(new AutosaveFile(entry.filePath(), Existing()));
-        if (file->m_lock.tryLock(0) && QFileInfo::exists(file->m_path))
+        if (file->lockLeftBehind() && QFileInfo::exists(file->m_path))
             return file;
     }
     return nullptr;
@@ -63,7 +64,7 @@ void AutosaveFile::sweep(const QString& folder)
             continue;
         AutosaveFile file(QDir(folder).filePath(match.captured(1)), Existing());
         // A lock that can be taken was a dead run's; it goes when this one lets go of it.
-        if (file.m_lock.tryLock(0) && match.captured(2) != kLockSuffix)
+        if (file.lockLeftBehind() && match.captured(2) != kLockSuffix)
             QFile::remove(entry.filePath());
     }
 }
@@ -73,14 +74,29 @@ QDateTime AutosaveFile::written() const
     return QFileInfo(m_path).lastModified();
 }
 
-bool AutosaveFile::write(const QByteArray& content)
+/// A lock without an owner is of a run that was killed before it wrote its name there; the
+/// system's own lock on the file keeps one that is about to write it.
+bool AutosaveFile::lockLeftBehind()
 {
-    if (!QDir().mkpath(QFileInfo(m_path).path()) ||
-        !(m_lock.isLocked() || m_lock.tryLock(kLockPatience)))
+    if (m_lock.tryLock(0))
+        return true;
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return m_lock.error() == QLockFile::LockFailedError &&
+           !m_lock.getLockInfo(&process, &host, &program) && m_lock.removeStaleLockFile() &&
+           m_lock.tryLock(0);
+}
+
+bool AutosaveFile::write(const QByteArray& content, QString& error)
+{
+    const QString folder = QFileInfo(m_path).path();
+    if (!QDir().mkpath(folder) || !(m_lock.isLocked() || m_lock.tryLock(kLockPatience))) {
+        error = QCoreApplication::translate("AutosaveFile", "%1: nothing can be written there")
+                    .arg(folder);
         return false;
-    QSaveFile file(m_path);
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(kOwnerOnly) &&
-           file.write(content) == content.size() && file.commit();
+    }
+    return UICommonMdl::WholeFile::write(m_path, content, error, kOwnerOnly);
 }
 
 void AutosaveFile::remove()

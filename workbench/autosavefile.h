@@ -26,14 +26,15 @@ public:
 
     const QString& path() const { return m_path; }
     QDateTime written() const;
-    /// Replaces the content in one step; false when it cannot be written.
-    bool write(const QByteArray& content);
+    /// Replaces the content in one step; false with one line in @p error, the old one stands then.
+    bool write(const QByteArray& content, QString& error);
     void remove();
 
 private:
     struct Existing {
     };
     AutosaveFile(const QString& path, Existing);
+    bool lockLeftBehind();
 
     QString m_path;
     QLockFile m_lock;

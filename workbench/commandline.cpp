@@ -34,8 +34,8 @@ const FileOption kTextOptions[] = {
     {"code", "Algorithm code.", &WorkbenchOptions::algorithmCode, "TEXT"},
     {"plugin", "Plug-in to load in place of the one beside the program.",
      &WorkbenchOptions::pluginFile, "FILE"},
-    {"result", "Write the object of the last result message here.", &WorkbenchOptions::resultFile,
-     "F"},
+    {"result", "Write the object of the last result message here; leaving keeps what was saved.",
+     &WorkbenchOptions::resultFile, "F"},
     {"screenshot", "Save a picture of the window here before it closes.",
      &WorkbenchOptions::screenshotFile, "F"},
     {"replay", "Do what this session says, then close.", &WorkbenchOptions::replayFile, "F"},
@@ -53,8 +53,8 @@ CommandLine::CommandLine()
 {
     m_parser.setApplicationDescription(
         translated("Stand-alone host of the rules window.\n"
-                   "Exit status: 0 saved or closed, 1 left without saving, 2 unusable arguments or "
-                   "files, 3 a step of a replayed session failed."));
+                   "Exit status: 0 saved or closed, 1 left without saving what was changed since, "
+                   "2 unusable arguments or files, 3 a step of a replayed session failed."));
     for (const FileOption& option : kTextOptions)
         m_parser.addOption({QString::fromLatin1(option.name), translated(option.description),
                             QString::fromLatin1(option.valueName)});
@@ -105,7 +105,7 @@ bool CommandLine::readOptions()
     m_options.selectionMode = m_parser.isSet(QString::fromLatin1(kSelectionMode));
     return readChannelSources() &&
            readNumber(QString::fromLatin1(kType), m_options.algorithmType) &&
-           readSwitch(QString::fromLatin1(kEditable), m_options.editable) && keepsDocuments();
+           readSwitch(QString::fromLatin1(kEditable), m_options.editable) && keepsFiles();
 }
 
 QString CommandLine::text() const
@@ -131,12 +131,10 @@ bool CommandLine::readChannelSources()
     return true;
 }
 
-bool CommandLine::keepsDocuments()
+bool CommandLine::keepsFiles()
 {
-    const QString replaced = m_options.replacedDocument();
-    if (!replaced.isEmpty())
-        m_text = translated("--result would replace a document that is loaded: %1").arg(replaced);
-    return replaced.isEmpty();
+    m_text = m_options.outputFault();
+    return m_text.isEmpty();
 }
 
 bool CommandLine::readNumber(const QString& name, int& target)

@@ -22,7 +22,7 @@ public:
 private:
     bool readOptions();
     bool readChannelSources();
-    bool keepsDocuments();
+    bool keepsFiles();
     bool readNumber(const QString& name, int& target);
     bool readSwitch(const QString& name, std::optional<bool>& target);
 

@@ -1,10 +1,10 @@
 #include "workbench/documentfile.h"
 
 #include "host/reader.h"
+#include "host/wholefile.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QSaveFile>
 
 namespace DocumentFile
 {
@@ -29,12 +29,7 @@ bool read(const QString& path, kql::Json::Value& document, QString& error)
 
 bool write(const QString& path, const QString& text, QString& error)
 {
-    QSaveFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return true;
-    error = QStringLiteral("%1: %2").arg(path, file.errorString());
-    return false;
+    return UICommonMdl::WholeFile::write(path, text.toUtf8(), error);
 }
 
 } // namespace DocumentFile

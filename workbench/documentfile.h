@@ -12,7 +12,8 @@ namespace DocumentFile
 /// and column, and why.
 bool read(const QString& path, kql::Json::Value& document, QString& error);
 
-/// Replaces @p path by @p text in one step, so that a failure leaves the old file.
+/// Replaces @p path by @p text in one step, so that a failure leaves the old file; false with one
+/// line in @p error.
 bool write(const QString& path, const QString& text, QString& error);
 
 } // namespace DocumentFile

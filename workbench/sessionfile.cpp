@@ -1,25 +1,78 @@
 #include "workbench/sessionfile.h"
 
 #include "host/value.h"
+#include "host/wholefile.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+#ifdef Q_OS_UNIX
+#include <sys/file.h>
+#endif
+
+namespace WholeFile = UICommonMdl::WholeFile;
+
+namespace
+{
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("SessionFile", text);
+}
+
+} // namespace
+
+SessionFile::SessionFile(std::function<void(const QString&)> failed) : m_failed(std::move(failed))
+{
+}
 
 bool SessionFile::open(const QString& path, QString& error)
 {
     m_file.setFileName(path);
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return true;
-    error = QStringLiteral("%1: %2").arg(path, m_file.errorString());
-    return false;
+    // Emptied only when it is known that nobody else writes there.
+    if (WholeFile::isForeign(path))
+        error = WholeFile::foreignText(path);
+    else if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        error = QStringLiteral("%1: %2").arg(path, m_file.errorString());
+    else if (!lock())
+        error = say("%1: another recording is being written there").arg(path);
+    else if (!m_file.resize(0))
+        error = QStringLiteral("%1: %2").arg(path, m_file.errorString());
+    return error.isEmpty();
+}
+
+/// Ends with the file, and so with the process, however that ends.
+bool SessionFile::lock()
+{
+#ifdef Q_OS_UNIX
+    return ::flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0;
+#else
+    return true;
+#endif
 }
 
 void SessionFile::append(const kql::Json::Value& step)
 {
+    if (!m_failed)
+        return;
     m_lastStart = m_file.pos();
-    m_file.write(step.toCompactText().toUtf8() + '\n');
-    m_file.flush();
+    if (!WholeFile::writeAll(m_file, step.toCompactText().toUtf8() + '\n'))
+        fail();
+}
+
+void SessionFile::fail()
+{
+    const QString error =
+        say("%1: %2; nothing more is recorded").arg(m_file.fileName(), m_file.errorString());
+    // Half a line would make all of it unreadable.
+    m_file.resize(m_lastStart);
+    std::exchange(m_failed, nullptr)(error);
 }
 
 void SessionFile::replaceLast(const kql::Json::Value& step)
 {
+    if (!m_failed)
+        return;
     m_file.resize(m_lastStart);
     m_file.seek(m_lastStart);
     append(step);

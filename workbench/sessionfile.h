@@ -4,16 +4,29 @@
 
 #include <QFile>
 
-/// A session being written: one step a line, each on the disk before the next one happens.
+#include <functional>
+
+/**
+ * A session being written: one step a line, each on the disk before the next one happens. When one
+ * cannot be written, nothing comes after it: with a gap the session would do something else.
+ */
 class SessionFile : public SessionLog
 {
 public:
-    /// Replaces @p path by an empty session; false with one line in @p error.
+    /// @p failed is called, once, with one line that says what cannot be written.
+    explicit SessionFile(std::function<void(const QString&)> failed);
+
+    /// Replaces @p path by an empty session; false with one line in @p error, when another
+    /// recording is being written there, too.
     bool open(const QString& path, QString& error);
     void append(const kql::Json::Value& step) override;
     void replaceLast(const kql::Json::Value& step) override;
 
 private:
+    bool lock();
+    void fail();
+
+    std::function<void(const QString&)> m_failed; ///< null once it was called
     QFile m_file;
     qint64 m_lastStart = 0; ///< where the last step begins
 };

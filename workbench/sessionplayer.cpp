@@ -10,6 +10,7 @@
 #include "workbench/operatorhand.h"
 #include "workbench/rowhand.h"
 #include "workbench/sessionexpectation.h"
+#include "workbench/stepcheck.h"
 #include "workbench/workbenchwindow.h"
 
 #include <QAbstractButton>
@@ -99,6 +100,9 @@ QString SessionPlayer::run(const Value& step)
     const Action action = actionFor(name);
     if (!action)
         return tr("there is no step \"%1\"").arg(name);
+    const QString fault = StepCheck::fault(step);
+    if (!fault.isEmpty())
+        return fault;
     if (action == &SessionPlayer::doExpect)
         return doExpect(step);
     m_posted.clear();
@@ -286,8 +290,9 @@ QString SessionPlayer::doLoad(const Value& step)
 
 QString SessionPlayer::doScreenshot(const Value& step)
 {
-    const QString path = step["file"].asString();
-    return m_window.saveScreenshot(path) ? QString() : tr("cannot write %1").arg(path);
+    QString error;
+    m_window.saveScreenshot(step["file"].asString(), error);
+    return error;
 }
 
 QString SessionPlayer::doWait(const Value& step)

@@ -36,7 +36,8 @@ SessionRecorder::~SessionRecorder() = default;
 
 bool SessionRecorder::open(const QString& path, QString& error)
 {
-    auto file = std::make_unique<SessionFile>();
+    auto file =
+        std::make_unique<SessionFile>([this](const QString& line) { emit sgnFailed(line); });
     if (!file->open(path, error))
         return false;
     start(std::move(file));

@@ -33,10 +33,15 @@ public:
     explicit SessionRecorder(WorkbenchWindow& window, QObject* parent = nullptr);
     ~SessionRecorder() override;
 
-    /// Starts recording into @p path, which is replaced; false with one line in @p error.
+    /// Starts recording into @p path, which is replaced; false with one line in @p error. What
+    /// cannot be written later is told by sgnFailed().
     bool open(const QString& path, QString& error);
     /// Starts recording into @p log.
     void start(std::unique_ptr<SessionLog> log);
+
+signals:
+    /// From here on nothing is recorded; @p line says why.
+    void sgnFailed(const QString& line);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

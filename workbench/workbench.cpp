@@ -38,12 +38,16 @@ int Workbench::run()
     }
     QApplication::exec();
     m_player.reset();
-    const QString failure = m_replayError.isEmpty() ? m_window->resultError() : m_replayError;
-    if (!failure.isEmpty())
-        complain(failure);
+    // Before the troubles are read: ending it may write once more.
+    m_autosave.reset();
+    const QStringList troubles = m_window->troubles();
+    if (!m_replayError.isEmpty())
+        complain(m_replayError);
+    for (const QString& trouble : troubles)
+        complain(trouble);
     if (!m_replayError.isEmpty())
         return StepFailed;
-    if (!m_window->resultError().isEmpty())
+    if (!troubles.isEmpty())
         return Unusable;
     return m_window->wasExited() ? LeftWithoutSaving : SavedOrClosed;
 }
@@ -59,6 +63,9 @@ bool Workbench::start(QString& error)
     const WorkbenchOptions& options = m_window->options();
     if (!options.recordFile.isEmpty()) {
         auto* recorder = new SessionRecorder(*m_window, m_window.get());
+        connect(recorder, &SessionRecorder::sgnFailed, m_window.get(), [this](const QString& line) {
+            m_window->tellTrouble(QStringLiteral("record"), line);
+        });
         if (!recorder->open(options.recordFile, error))
             return false;
     }
@@ -90,7 +97,5 @@ void Workbench::finishReplay(const QString& error)
 {
     const WorkbenchOptions& options = m_window->options();
     m_replayError = error.isEmpty() ? QString() : options.replayFile + QStringLiteral(": ") + error;
-    if (!options.screenshotFile.isEmpty() && !m_window->saveScreenshot(options.screenshotFile))
-        complain(tr("cannot write %1").arg(options.screenshotFile));
     m_window->close();
 }

@@ -14,6 +14,7 @@ class Workbench : public QObject
     Q_OBJECT
 
 public:
+    /// Left without saving means what was changed since the load or the last save.
     enum ExitStatus { SavedOrClosed = 0, LeftWithoutSaving = 1, Unusable = 2, StepFailed = 3 };
 
     explicit Workbench(const WorkbenchOptions& options);

@@ -26,4 +26,7 @@ struct WorkbenchOptions {
 
     /// The document to load that writing the result would replace; empty when there is none.
     QString replacedDocument() const;
+    /// The line that says which output cannot be where it should: its place is no regular file, or
+    /// that of another file of this run. Empty when there is none.
+    QString outputFault() const;
 };

@@ -13,6 +13,7 @@
 #include "workbench/modulehost.h"
 #include "workbench/parameterblock.h"
 #include "workbench/sourcesdialog.h"
+#include "workbench/troublelabel.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -43,7 +44,8 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options, QWidget* paren
       m_options(options),
       m_host(new ModuleHost(this)),
       m_dock(new MessageDock(this)),
-      m_pointer(new QLabel)
+      m_pointer(new QLabel),
+      m_trouble(new TroubleLabel)
 {
     setWindowTitle(tr("Rules workbench"));
     addDockWidget(Qt::BottomDockWidgetArea, m_dock);
@@ -87,6 +89,7 @@ void WorkbenchWindow::createMenus()
 void WorkbenchWindow::createStatusBar()
 {
     m_pointer->setObjectName(QStringLiteral("pointer"));
+    statusBar()->addPermanentWidget(m_trouble);
     statusBar()->addPermanentWidget(m_pointer);
 }
 
@@ -122,6 +125,7 @@ bool WorkbenchWindow::load(const WorkbenchOptions& options, QString& error)
     if (block.isEmpty())
         return false;
     m_options = options;
+    m_hasSaved = false;
     emit sgnLoad();
     m_book.addRecent(SourceBook::absolute(m_options.source));
     applySources();
@@ -277,25 +281,54 @@ void WorkbenchWindow::takeMessage(const MessageRecord& message)
 
 void WorkbenchWindow::takeResult(const QString& result)
 {
-    m_lastResult = result;
     kql::Json::Value object;
     kql::Json::Reader().parse(result, object);
     m_exited = qAsConst(object)["result"].asInt() < 0;
-    m_resultError.clear();
-    const QString replaced = m_options.replacedDocument();
-    if (!replaced.isEmpty())
-        m_resultError = tr("The result would replace a document that is loaded: %1").arg(replaced);
-    else if (!m_options.resultFile.isEmpty())
-        DocumentFile::write(m_options.resultFile, result, m_resultError);
-    m_resultError = UICommonMdl::maskedAddress(m_resultError);
-    statusBar()->showMessage(!m_resultError.isEmpty() ? m_resultError
-                             : m_exited               ? tr("Left without saving")
-                                                      : tr("Saved"));
+    m_hasSaved = m_hasSaved || !m_exited;
+    // Leaving takes nothing back that was saved; what could not be written is tried once more.
+    const bool isSaveKept = m_exited && m_hasSaved;
+    if (!isSaveKept)
+        m_lastResult = result;
+    if (!isSaveKept || !m_resultError.isEmpty())
+        writeResult();
+    statusBar()->showMessage(resultText());
     if (!m_exited)
         return;
     m_host->close();
     if (!m_replaying)
         close();
+}
+
+void WorkbenchWindow::writeResult()
+{
+    m_resultError.clear();
+    const QString replaced = m_options.replacedDocument();
+    if (!replaced.isEmpty())
+        m_resultError = tr("The result would replace a document that is loaded: %1").arg(replaced);
+    else if (!m_options.resultFile.isEmpty())
+        DocumentFile::write(m_options.resultFile, m_lastResult, m_resultError);
+    m_resultError = UICommonMdl::maskedAddress(m_resultError);
+    tellTrouble(QStringLiteral("result"), m_resultError);
+}
+
+QString WorkbenchWindow::resultText() const
+{
+    if (!m_resultError.isEmpty())
+        return m_resultError;
+    if (!m_exited)
+        return tr("Saved");
+    return m_hasSaved ? tr("Left without saving what was changed since")
+                      : tr("Left without saving");
+}
+
+void WorkbenchWindow::tellTrouble(const QString& subject, const QString& line)
+{
+    m_trouble->tell(subject, UICommonMdl::maskedAddress(line));
+}
+
+QStringList WorkbenchWindow::troubles() const
+{
+    return m_trouble->lines();
 }
 
 void WorkbenchWindow::showPointer(const QMouseEvent* event)
@@ -311,15 +344,16 @@ void WorkbenchWindow::showPointer(const QMouseEvent* event)
                            .arg(kNormalizedExtent));
 }
 
-bool WorkbenchWindow::saveScreenshot(const QString& path)
+bool WorkbenchWindow::saveScreenshot(const QString& path, QString& error)
 {
-    return UICommonMdl::savePicture(grab().toImage(), path);
+    return UICommonMdl::savePicture(grab().toImage(), path, error);
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_options.screenshotFile.isEmpty() && !m_replaying)
-        saveScreenshot(m_options.screenshotFile);
+    QString error;
+    if (!m_options.screenshotFile.isEmpty() && !saveScreenshot(m_options.screenshotFile, error))
+        tellTrouble(QStringLiteral("screenshot"), error);
     m_host->close();
     QMainWindow::closeEvent(event);
 }

@@ -12,6 +12,7 @@ class QLabel;
 class QMenu;
 class QMouseEvent;
 class QRtspVideoWnd;
+class TroubleLabel;
 
 /**
  * The workbench's window: a host around one rules window, with menus for the documents, a dock of
@@ -45,7 +46,15 @@ public:
     bool wasExited() const { return m_exited; }
     /// What went wrong with writing the result file; empty when nothing did.
     const QString& resultError() const { return m_resultError; }
-    bool saveScreenshot(const QString& path);
+    /// Whether a save of the documents that are loaded is in no file although it should be.
+    bool hasUnwrittenSave() const { return m_hasSaved && !m_resultError.isEmpty(); }
+    /// False with one line in @p error.
+    bool saveScreenshot(const QString& path, QString& error);
+
+    /// Shows what is wrong with writing @p subject; an empty @p line ends that.
+    void tellTrouble(const QString& subject, const QString& line);
+    /// What is wrong now, one line for each subject.
+    QStringList troubles() const;
 
 signals:
     /// options() are the new ones; the rules window does not show them yet.
@@ -75,6 +84,8 @@ private:
     void report(const QString& error);
     void takeMessage(const MessageRecord& message);
     void takeResult(const QString& result);
+    void writeResult();
+    QString resultText() const;
     void showPointer(const QMouseEvent* event);
 
     WorkbenchOptions m_options;
@@ -82,10 +93,12 @@ private:
     ModuleHost* m_host;
     MessageDock* m_dock;
     QLabel* m_pointer;
+    TroubleLabel* m_trouble;
     QMenu* m_recent = nullptr;
     QWidget* m_rulesWindow = nullptr; ///< the central widget once started
     QString m_lastResult;
     QString m_resultError;
     bool m_replaying = false;
     bool m_exited = false;
+    bool m_hasSaved = false; ///< since the load
 };

@@ -331,11 +331,15 @@ private slots:
         QTemporaryDir folder;
         const QString path = written(folder, "before");
         const QImage picture = QImage::fromData(encoded("png", {8, 6}));
-        QVERIFY(!savePicture(picture, path + ".nonsense") && !savePicture({}, path));
-        QVERIFY(!savePicture(picture, folder.filePath("missing/picture.png")));
+        for (const QString& wrong : {path + ".nonsense", folder.filePath("missing/picture.png")}) {
+            QString error;
+            QVERIFY(!savePicture(picture, wrong, error) && error.startsWith(wrong + ": "));
+        }
+        QString error;
+        QVERIFY(!savePicture({}, path, error));
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("picture.jpg"));
         QVERIFY(QImage(path).isNull());
-        QVERIFY(savePicture(picture, path));
+        QVERIFY(savePicture(picture, path, error));
         QCOMPARE(QImage(path).size(), picture.size());
     }
 

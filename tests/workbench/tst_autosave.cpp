@@ -1,3 +1,4 @@
+#include "tests/support/fulldisk.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
 #include "tests/support/workbenchprogram.h"
@@ -277,10 +278,12 @@ private slots:
         const QByteArray dead = "2147483647" + lock.mid(lock.indexOf('\n'));
         leaveBehind(dead, "1-1.jsonl.lock");
         leaveBehind("half", "1-1.jsonl.aB3xYz");
-        leaveBehind(dead, "3-3.jsonl.lock");
+        leaveBehind("", "3-3.jsonl.lock");
         leaveBehind("half", "3-3.jsonl.aB3xYz");
         leaveBehind(kWork, "3-3.jsonl");
         leaveBehind(dead, "4-4.jsonl.lock");
+        // Killed before its owner was in it.
+        leaveBehind("", "5-5.jsonl.lock");
         for (const char* other : {"1-1.jsonl.backups", "notes-1.jsonl.backup", "notes.lock"})
             leaveBehind("mine", other);
         Bench bench(folder());
@@ -288,6 +291,29 @@ private slots:
         QCOMPARE(namesIn(folder()), QStringList({"1-1.jsonl.backups", "2-2.jsonl.aB3xYz",
                                                  "2-2.jsonl.lock", "3-3.jsonl", "3-3.jsonl.lock",
                                                  "notes-1.jsonl.backup", "notes.lock"}));
+    }
+
+    void saysThatItCannotBeWritten()
+    {
+        FullDisk disk;
+        const QString folder = disk.path("autosave");
+        Bench bench(folder, gate());
+        const auto* const trouble = bench.window().findChild<QLabel*>("trouble");
+        QVERIFY(bench.isReady() && trouble);
+        QCOMPARE(bench.play(kWork), QString());
+        const auto kept = [&] { return contentOf(folder).count("globalSensitivity"); };
+        QTRY_COMPARE_WITH_TIMEOUT(kept(), 1, kTryFor);
+        disk.fill();
+        const QSize size = bench.window().size();
+        QCOMPARE(bench.play(R"({"do":"set","scene":"global","key":"globalSensitivity","value":4})"),
+                 QString());
+        QTRY_VERIFY_WITH_TIMEOUT(trouble->isVisible(), kTryFor);
+        QVERIFY2(trouble->text().contains("; the old file stands"), qPrintable(trouble->text()));
+        QCOMPARE(kept(), 1);
+        QCOMPARE(bench.window().size(), size);
+        disk.makeRoom();
+        QTRY_COMPARE_WITH_TIMEOUT(kept(), 2, kTryFor);
+        QVERIFY(!trouble->isVisible());
     }
 
     void replaysNeitherReadNorWriteIt()

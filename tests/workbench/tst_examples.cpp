@@ -1,9 +1,12 @@
 #include "host/value.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchprogram.h"
 
 #include <QImage>
 #include <QScopedValueRollback>
+
+#include <sys/stat.h>
 
 using kql::Json::Value;
 using WorkbenchFiles::read;
@@ -98,6 +101,17 @@ private slots:
         check("--type one", "--type takes a number, not \"one\"");
         check(config + file("t.json", "{}") + " --result " + path("./t.json"),
               "--result would replace .*t\\.json");
+        // What is no regular file is not replaced, by no output.
+        const QString pipe = path("pipe.png");
+        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+        for (const char* output : {"result", "screenshot", "record"})
+            check(good + "--" + output + ' ' + pipe, "pipe\\.png: it is no regular file");
+        struct stat found = {};
+        QVERIFY(::stat(qPrintable(pipe), &found) == 0 && S_ISFIFO(found.st_mode));
+        for (const char* two : {"--result %1 --screenshot %1", "--record %1 --result ./same",
+                                "--replay %1 --record ./same"})
+            check(good + QString(two).arg(file("same", "{\"do\":\"close\"}")),
+                  "--(screenshot|result|record) would replace .*same");
         check(good + "--config " + file("u.json", R"({"result": -1, "algorithmId": "a"})"),
               "u.json:1:1: nothing was saved");
         check("--editable maybe", "takes true or false, not \"maybe\"");
@@ -113,6 +127,30 @@ private slots:
         check(good + "--result none/result.json --replay " +
                   file("h.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n{\"do\":\"wait\"}\n"),
               "none/result.json: \\S");
+    }
+
+    void keepsOldFilesOnAFullDisk()
+    {
+        FullDisk disk;
+        const QString session = file("full.jsonl", "{\"do\":\"save\",\"answer\":\"Yes\"}\n"
+                                                   "{\"do\":\"wait\",\"ms\":1}\n");
+        for (const char* name : {"result.json", "screenshot.png"})
+            WorkbenchFiles::write(disk.folder(), name, "before");
+        WorkbenchFiles::write(disk.folder(), "record.jsonl", {});
+        disk.fill();
+        for (const char* name : {"result.json", "screenshot.png", "record.jsonl"}) {
+            const QString output = "--" + QString(name).section('.', 0, 0);
+            const Outcome outcome =
+                run(documents() + QStringList{"--replay", session, output, disk.path(name)});
+            const bool isSession = output == QLatin1String("--record");
+            QVERIFY2(outcome.said.contains(QRegularExpression(
+                         QString(name) + ": (No space left|File too large).*; " +
+                         (isSession ? "nothing more is recorded" : "the old file stands"))),
+                     qPrintable(output + ": " + outcome.said));
+            QCOMPARE(outcome.status, int(Unusable));
+            QCOMPARE(ExampleFiles::contentOf(disk.path(name)),
+                     QByteArray(isSession ? "" : "before"));
+        }
     }
 
     void failsAtSteps()
@@ -143,9 +181,15 @@ private slots:
               "it is disabled");
         check(R"("load","editable":true|"save")", "it is hidden");
         check(R"("press","button":"left","at":[8300,100])", "not on the picture");
+        check(R"("press","button":"left")", "\"at\" takes a position");
+        check(R"("move","at":[5])", "\"at\" takes a position");
+        check(R"("press","button":"middle","at":[5,5])", "\"button\" takes");
+        check(R"("size","window":[8193,10])", "\"window\" takes .*1 to 8192");
+        check(R"("size")", "\"window\" takes");
+        check("\"fold\"," + rules + R"("folded":true)", "\"fold\" takes true or false");
         check(R"("wait","ms":1|"save")", "a question came up.*Please confirm");
         check(R"("load","config":"none.json")", "none.json: No such file");
-        check(R"("screenshot","file":"none/step.png")", "cannot write");
+        check(R"("screenshot","file":"none/step.png")", "step.png: No such file");
         check(R"("expect","box":"Saved")", "the last box is null, not \"Saved\"");
         check("\"expect\"," + rules + "\"hint\":\"Draw\"", "the hint is \".*\", not \"Draw\"");
         check("\"expect\"," + rules + "\"entries\":2", "the number of entries is 3, not 2");
@@ -169,15 +213,23 @@ private slots:
 
     void tellsThatTheOperatorLeft()
     {
-        const QString session =
-            file("leave.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n"
-                                "{\"do\":\"expect\",\"posted\":{\"result\":-1}}\n");
-        const Outcome outcome =
-            run(documents() + QStringList{"--replay", session, "--result", "left.json"});
-        QVERIFY2(outcome.status == LeftWithoutSaving, qPrintable(outcome.said));
-        const Value left = read(path("left.json"));
-        QCOMPARE(left["result"].asInt(), -1);
-        QVERIFY(!left.isMember("channelAbilityPO"));
+        const QByteArray leave("{\"do\":\"cancel\",\"answer\":\"Yes\"}\n"
+                               "{\"do\":\"expect\",\"posted\":{\"result\":-1}}\n");
+        const QByteArray save("{\"do\":\"save\",\"answer\":\"Yes\"}\n");
+        const QByteArray load("{\"do\":\"load\"}\n");
+        const QStringList replay = documents() + QStringList{"--result", "left.json", "--replay"};
+        for (const QByteArray& steps : {leave, save + load + leave, save + leave}) {
+            const Outcome outcome = run(replay + QStringList{file("leave.jsonl", steps)});
+            QVERIFY2(outcome.status == LeftWithoutSaving, qPrintable(outcome.said));
+            const Value left = read(path("left.json"));
+            const bool isSaved = steps == save + leave;
+            QCOMPARE(left["result"].asInt(), isSaved ? 0 : -1);
+            QCOMPARE(left.isMember("channelAbilityPO"), isSaved);
+        }
+        const QString close = file("close.jsonl", "{\"do\":\"close\"}\n");
+        const Outcome again =
+            run(documents() + QStringList{"--config", path("left.json"), "--replay", close});
+        QVERIFY2(again.status == SavedOrClosed, qPrintable(again.said));
     }
 
     void worksWithoutDisplay()

@@ -316,7 +316,7 @@ private slots:
         compareReplayed(Bench::example());
     }
 
-    void refusesUnwritableFile()
+    void refusesUnwritableFiles()
     {
         m_bench.reset();
         m_bench = std::make_unique<Bench>(Bench::example());
@@ -324,6 +324,13 @@ private slots:
         QString error;
         QVERIFY(!SessionRecorder(m_bench->window(), nullptr).open(m_folder.path(), error));
         QVERIFY(error.startsWith(m_folder.path()));
+        // Of two recordings into one file the first goes on undisturbed.
+        SessionRecorder first(m_bench->window());
+        error.clear();
+        QVERIFY2(first.open(m_path, error), qPrintable(error));
+        QVERIFY(!SessionRecorder(m_bench->window(), nullptr).open(m_path, error));
+        QVERIFY2(error.startsWith(m_path + ": another recording"), qPrintable(error));
+        QVERIFY(ExampleFiles::contentOf(m_path).contains("size"));
     }
 };
 

@@ -1,0 +1,24 @@
+#include "workbench/troublelabel.h"
+
+TroubleLabel::TroubleLabel(QWidget* parent) : QLabel(parent)
+{
+    setObjectName(QStringLiteral("trouble"));
+    setTextFormat(Qt::PlainText);
+    setMinimumWidth(1);
+    QFont font = this->font();
+    font.setBold(true);
+    setFont(font);
+    hide();
+}
+
+void TroubleLabel::tell(const QString& subject, const QString& line)
+{
+    if (line.isEmpty())
+        m_lines.remove(subject);
+    else
+        m_lines.insert(subject, line);
+    const QString text = lines().join(QLatin1Char(' '));
+    setText(text);
+    setToolTip(text.toHtmlEscaped());
+    setVisible(!text.isEmpty());
+}

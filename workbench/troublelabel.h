@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLabel>
+#include <QMap>
+
+/**
+ * Says in the status bar what cannot be written, for as long as that is so. It takes no more room
+ * than there is, so that it moves nothing; the tool tip has all of it.
+ */
+class TroubleLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit TroubleLabel(QWidget* parent = nullptr);
+
+    /// @p line is what is wrong with @p subject now; empty when nothing is.
+    void tell(const QString& subject, const QString& line);
+    QStringList lines() const { return m_lines.values(); }
+
+private:
+    QMap<QString, QString> m_lines; ///< by subject
+};
