@@ -27,7 +27,6 @@ namespace
 constexpr int kRulesResult = 996;
 /// From the first change that is in no file until it is.
 constexpr int kDelay = 2000; // milliseconds
-const auto kKeptWork = QStringLiteral("kept work");
 
 bool isOneOf(const Value& step, std::initializer_list<const char*> names)
 {
@@ -169,7 +168,7 @@ void Autosave::settle()
     m_isUnsaved = false;
     m_timer.stop();
     m_file.remove();
-    m_window.tellTrouble(kKeptWork, {});
+    m_window.tellTrouble(Trouble::KeptWork, {});
 }
 
 bool Autosave::write()
@@ -179,10 +178,11 @@ bool Autosave::write()
         content += step + '\n';
     QString error;
     if (m_file.write(content, error)) {
-        m_window.tellTrouble(kKeptWork, {});
+        m_window.tellTrouble(Trouble::KeptWork, {});
         return true;
     }
-    m_window.tellTrouble(kKeptWork, tr("What you do is not kept from a crash: %1").arg(error));
+    m_window.tellTrouble(Trouble::KeptWork,
+                         tr("What you do is not kept from a crash: %1").arg(error));
     // The disk may have room again.
     m_timer.start();
     return false;

@@ -1,10 +1,9 @@
 #include "workbench/sourcebook.h"
 
 #include "host/maskedaddress.h"
+#include "workbench/sourcesfile.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -13,14 +12,6 @@ namespace
 {
 
 constexpr int kMostRecent = 10;
-// Bounds what a damaged file makes us read.
-constexpr int kMostChannels = 10000;
-
-const auto kSources = QStringLiteral("sources");
-const auto kChannel = QStringLiteral("channel");
-const auto kAddress = QStringLiteral("address");
-const auto kRecent = QStringLiteral("recent");
-const auto kRemember = QStringLiteral("rememberLogins");
 
 } // namespace
 
@@ -30,8 +21,9 @@ QString SourceBook::usualFile()
            QStringLiteral("/sources.ini");
 }
 
-QString SourceBook::absolute(const QString& source)
+QString SourceBook::absolute(const QString& given)
 {
+    const QString source = given.trimmed();
     const bool isFile = !source.isEmpty() && !source.contains(QStringLiteral("://")) &&
                         !source.startsWith(QStringLiteral("sample:"));
     return isFile ? QFileInfo(source).absoluteFilePath() : source;
@@ -45,40 +37,23 @@ bool SourceBook::holdsLogin(const QString& source)
 void SourceBook::keepIn(const QString& file)
 {
     m_file = file;
-    const Addresses kept = read();
-    const bool hasLogin = std::any_of(kept.begin(), kept.end(), &SourceBook::holdsLogin) ||
-                          std::any_of(m_recent.begin(), m_recent.end(), &SourceBook::holdsLogin);
-    if (hasLogin && !m_remembersLogins) {
-        writeAddresses(kept);
-        writeRecent();
-    }
-    overlay(kept);
+    const SourcesFile found = keptFile();
+    m_remembersLogins = found.remembersLogins;
+    m_recent = found.recent.mid(0, kMostRecent);
+    const auto holdsAny = [](const auto& sources) {
+        return std::any_of(sources.begin(), sources.end(), &SourceBook::holdsLogin);
+    };
+    if (!m_remembersLogins && (holdsAny(found.addresses) || holdsAny(found.recent)))
+        write(found);
+    overlay(found.addresses);
 }
 
 void SourceBook::setRemembersLogins(bool remembers)
 {
     m_remembersLogins = remembers;
-    writeRecent();
-}
-
-SourceBook::Addresses SourceBook::read()
-{
-    Addresses addresses;
-    QSettings settings(m_file, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    const int count = qMin(settings.beginReadArray(kSources), kMostChannels);
-    for (int i = 0; i < count; ++i) {
-        settings.setArrayIndex(i);
-        const QString channel = settings.value(kChannel).toString();
-        const QString address = settings.value(kAddress).toString();
-        if (!channel.isEmpty() && !address.isEmpty())
-            addresses.insert(channel, address);
-    }
-    settings.endArray();
-    m_remembersLogins = settings.value(kRemember).toBool();
-    m_recent = settings.value(kRecent).toStringList().mid(0, kMostRecent);
-    m_recent.removeAll({});
-    return addresses;
+    SourcesFile file = keptFile();
+    file.recent = m_recent;
+    write(file);
 }
 
 void SourceBook::overlay(const Addresses& addresses)
@@ -90,7 +65,9 @@ void SourceBook::overlay(const Addresses& addresses)
 void SourceBook::setAddresses(const Addresses& addresses)
 {
     m_addresses = addresses;
-    writeAddresses(addresses);
+    SourcesFile file = keptFile();
+    file.addresses = addresses;
+    write(file);
 }
 
 void SourceBook::addRecent(const QString& source)
@@ -100,7 +77,9 @@ void SourceBook::addRecent(const QString& source)
     m_recent.removeAll(source);
     m_recent.prepend(source);
     m_recent = m_recent.mid(0, kMostRecent);
-    writeRecent();
+    SourcesFile file = keptFile();
+    file.recent = m_recent;
+    write(file);
 }
 
 /// What the file says of @p source; empty when it may say nothing.
@@ -110,47 +89,26 @@ QString SourceBook::kept(const QString& source) const
                                                     : UICommonMdl::addressWithoutLogin(source);
 }
 
-/// Before anything is written, so that it is never readable by others for a moment.
-bool SourceBook::makePrivate() const
+SourcesFile SourceBook::keptFile() const
 {
-    constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
-    if (m_file.isEmpty() || !QDir().mkpath(QFileInfo(m_file).absolutePath()))
-        return false;
-    QFile file(m_file);
-    return file.open(QIODevice::Append) && file.setPermissions(kOwnerOnly);
+    SourcesFile file;
+    if (!m_file.isEmpty())
+        file.read(m_file);
+    return file;
 }
 
-void SourceBook::writeAddresses(const Addresses& addresses) const
+/// Writes of @p file what may be kept.
+void SourceBook::write(SourcesFile file)
 {
-    if (!makePrivate())
+    m_error.clear();
+    if (m_file.isEmpty())
         return;
-    QSettings settings(m_file, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    settings.remove(kSources);
-    settings.beginWriteArray(kSources);
-    int index = 0;
-    for (auto i = addresses.begin(); i != addresses.end(); ++i) {
-        const QString address = kept(i.value());
-        if (address.isEmpty())
-            continue;
-        settings.setArrayIndex(index++);
-        settings.setValue(kChannel, i.key());
-        settings.setValue(kAddress, address);
-    }
-    settings.endArray();
-}
-
-void SourceBook::writeRecent() const
-{
-    if (!makePrivate())
-        return;
-    QSettings settings(m_file, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    QStringList recent;
-    for (const QString& source : m_recent)
-        recent.append(kept(source));
-    recent.removeAll({});
-    recent.removeDuplicates();
-    settings.setValue(kRecent, recent);
-    settings.setValue(kRemember, m_remembersLogins);
+    file.remembersLogins = m_remembersLogins;
+    for (QString& address : file.addresses)
+        address = kept(address);
+    for (QString& source : file.recent)
+        source = kept(source);
+    file.recent.removeAll({});
+    file.recent.removeDuplicates();
+    file.write(m_file, m_error);
 }

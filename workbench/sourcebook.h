@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+struct SourcesFile;
+
 /**
  * The addresses of the channels' pictures, and the sources that were shown last. They are kept
  * from run to run once keepIn() was called, in a file that only its user can read. User names and
@@ -16,8 +18,8 @@ public:
 
     /// The file of this user's workbench.
     static QString usualFile();
-    /// @p source with the path of a file made absolute.
-    static QString absolute(const QString& source);
+    /// @p given without blanks around it, the path of a file made absolute.
+    static QString absolute(const QString& given);
     /// Whether @p source is an address that tells a user name or a password.
     static bool holdsLogin(const QString& source);
 
@@ -37,14 +39,16 @@ public:
     const QStringList& recent() const { return m_recent; }
     void addRecent(const QString& source);
 
+    /// Why the last change is not in the file, in one line; empty when it is.
+    const QString& error() const { return m_error; }
+
 private:
-    Addresses read();
     QString kept(const QString& source) const;
-    bool makePrivate() const;
-    void writeAddresses(const Addresses& addresses) const;
-    void writeRecent() const;
+    SourcesFile keptFile() const;
+    void write(SourcesFile file);
 
     QString m_file; ///< empty: nothing is kept
+    QString m_error;
     bool m_remembersLogins = false;
     Addresses m_addresses;
     QStringList m_recent;

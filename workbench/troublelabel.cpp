@@ -11,7 +11,7 @@ TroubleLabel::TroubleLabel(QWidget* parent) : QLabel(parent)
     hide();
 }
 
-void TroubleLabel::tell(const QString& subject, const QString& line)
+void TroubleLabel::tell(Trouble subject, const QString& line)
 {
     if (line.isEmpty())
         m_lines.remove(subject);

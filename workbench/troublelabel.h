@@ -3,6 +3,9 @@
 #include <QLabel>
 #include <QMap>
 
+/// What cannot be written.
+enum class Trouble { Result, Screenshot, Record, KeptWork, Sources };
+
 /**
  * Says in the status bar what cannot be written, for as long as that is so. It takes no more room
  * than there is, so that it moves nothing; the tool tip has all of it.
@@ -15,9 +18,10 @@ public:
     explicit TroubleLabel(QWidget* parent = nullptr);
 
     /// @p line is what is wrong with @p subject now; empty when nothing is.
-    void tell(const QString& subject, const QString& line);
+    void tell(Trouble subject, const QString& line);
+    bool has(Trouble subject) const { return m_lines.contains(subject); }
     QStringList lines() const { return m_lines.values(); }
 
 private:
-    QMap<QString, QString> m_lines; ///< by subject
+    QMap<Trouble, QString> m_lines;
 };

@@ -40,14 +40,15 @@ int Workbench::run()
     m_player.reset();
     // Before the troubles are read: ending it may write once more.
     m_autosave.reset();
-    const QStringList troubles = m_window->troubles();
+    const TroubleLabel& troubles = m_window->troubles();
     if (!m_replayError.isEmpty())
         complain(m_replayError);
-    for (const QString& trouble : troubles)
+    for (const QString& trouble : troubles.lines())
         complain(trouble);
     if (!m_replayError.isEmpty())
         return StepFailed;
-    if (!troubles.isEmpty())
+    if (troubles.has(Trouble::Result) || troubles.has(Trouble::Screenshot) ||
+        troubles.has(Trouble::Record))
         return Unusable;
     return m_window->wasExited() ? LeftWithoutSaving : SavedOrClosed;
 }
@@ -63,9 +64,8 @@ bool Workbench::start(QString& error)
     const WorkbenchOptions& options = m_window->options();
     if (!options.recordFile.isEmpty()) {
         auto* recorder = new SessionRecorder(*m_window, m_window.get());
-        connect(recorder, &SessionRecorder::sgnFailed, m_window.get(), [this](const QString& line) {
-            m_window->tellTrouble(QStringLiteral("record"), line);
-        });
+        connect(recorder, &SessionRecorder::sgnFailed, m_window.get(),
+                [this](const QString& line) { m_window->tellTrouble(Trouble::Record, line); });
         if (!recorder->open(options.recordFile, error))
             return false;
     }

@@ -13,7 +13,6 @@
 #include "workbench/modulehost.h"
 #include "workbench/parameterblock.h"
 #include "workbench/sourcesdialog.h"
-#include "workbench/troublelabel.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -226,6 +225,7 @@ SourceBook::Addresses WorkbenchWindow::sources() const
 void WorkbenchWindow::applySources()
 {
     KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance().setAddresses(sources());
+    tellTrouble(Trouble::Sources, m_book.error());
 }
 
 void WorkbenchWindow::loadAgain()
@@ -308,7 +308,7 @@ void WorkbenchWindow::writeResult()
     else if (!m_options.resultFile.isEmpty())
         DocumentFile::write(m_options.resultFile, m_lastResult, m_resultError);
     m_resultError = UICommonMdl::maskedAddress(m_resultError);
-    tellTrouble(QStringLiteral("result"), m_resultError);
+    tellTrouble(Trouble::Result, m_resultError);
 }
 
 QString WorkbenchWindow::resultText() const
@@ -321,14 +321,9 @@ QString WorkbenchWindow::resultText() const
                       : tr("Left without saving");
 }
 
-void WorkbenchWindow::tellTrouble(const QString& subject, const QString& line)
+void WorkbenchWindow::tellTrouble(Trouble subject, const QString& line)
 {
     m_trouble->tell(subject, UICommonMdl::maskedAddress(line));
-}
-
-QStringList WorkbenchWindow::troubles() const
-{
-    return m_trouble->lines();
 }
 
 void WorkbenchWindow::showPointer(const QMouseEvent* event)
@@ -353,7 +348,7 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
     QString error;
     if (!m_options.screenshotFile.isEmpty() && !saveScreenshot(m_options.screenshotFile, error))
-        tellTrouble(QStringLiteral("screenshot"), error);
+        tellTrouble(Trouble::Screenshot, error);
     m_host->close();
     QMainWindow::closeEvent(event);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/sourcebook.h"
+#include "workbench/troublelabel.h"
 #include "workbench/workbenchoptions.h"
 
 #include <QMainWindow>
@@ -12,7 +13,6 @@ class QLabel;
 class QMenu;
 class QMouseEvent;
 class QRtspVideoWnd;
-class TroubleLabel;
 
 /**
  * The workbench's window: a host around one rules window, with menus for the documents, a dock of
@@ -52,9 +52,9 @@ public:
     bool saveScreenshot(const QString& path, QString& error);
 
     /// Shows what is wrong with writing @p subject; an empty @p line ends that.
-    void tellTrouble(const QString& subject, const QString& line);
-    /// What is wrong now, one line for each subject.
-    QStringList troubles() const;
+    void tellTrouble(Trouble subject, const QString& line);
+    /// What is wrong now.
+    const TroubleLabel& troubles() const { return *m_trouble; }
 
 signals:
     /// options() are the new ones; the rules window does not show them yet.

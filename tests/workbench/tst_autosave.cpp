@@ -216,7 +216,8 @@ private slots:
             QString error;
             if (ending == Saved || ending == SavedToNoFile || ending == Unwritable)
                 bench.press("btnSave");
-            else if (ending == Left)
+            // What was saved, but is in no file, leaving does not take back either.
+            if (ending == Left || ending == Unwritable)
                 bench.press("btnCancel");
             else if (ending == LoadedAgain)
                 QVERIFY(bench.window().load(bench.window().options(), error));
