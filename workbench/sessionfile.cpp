@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include <cerrno>
 #include <utility>
 #ifdef Q_OS_UNIX
 #include <sys/file.h>
@@ -45,7 +46,8 @@ bool SessionFile::open(const QString& path, QString& error)
 bool SessionFile::lock()
 {
 #ifdef Q_OS_UNIX
-    return ::flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0;
+    // Some network shares know no locks; recording goes on there.
+    return ::flock(m_file.handle(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 #else
     return true;
 #endif
