@@ -11,8 +11,8 @@
 #include "host/channelsources.h"
 #include "host/cinterfacesetmanager.h"
 #include "host/nosignalsource.h"
+#include "host/picturesource.h"
 #include "host/reader.h"
-#include "host/stillpicturesource.h"
 #include "host/value.h"
 #include "plugin/cintelligentruleswidget.h"
 #include "plugin/modulelifetime.h"
@@ -354,6 +354,25 @@ Bench& bench()
     return *bench;
 }
 
+/// One picture, which is there at once.
+class OnePicture : public UICommonMdl::PictureSource
+{
+public:
+    OnePicture() : m_picture(QStringLiteral(":/skin/IntelligentRulesUI/check.png")) {}
+
+    void start() override
+    {
+        setState(UICommonMdl::PictureState::Playing);
+        announcePicture();
+    }
+    void stop() override { setState(UICommonMdl::PictureState::Ended); }
+    QImage picture() const override { return m_picture; }
+    QSize pictureSize() const override { return m_picture.size(); }
+
+private:
+    const QImage m_picture;
+};
+
 /// No input reads a file or opens a connection: one still picture stands for all sources.
 void cutSourcesOff()
 {
@@ -364,8 +383,7 @@ void cutSourcesOff()
             [](const QString& address, const UICommonMdl::StreamOptions&) {
                 std::unique_ptr<UICommonMdl::PictureSource> source;
                 if (address.startsWith(QLatin1String("sample:")))
-                    source = std::make_unique<UICommonMdl::StillPictureSource>(
-                        QStringLiteral(":/skin/IntelligentRulesUI/check.png"));
+                    source = std::make_unique<OnePicture>();
                 else
                     source = std::make_unique<UICommonMdl::NoSignalSource>(address);
                 return source;

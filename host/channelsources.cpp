@@ -3,11 +3,8 @@
 #include "host/maskedaddress.h"
 #include "host/nosignalsource.h"
 #include "host/samplecamerasource.h"
-#include "host/stillpicturesource.h"
 #include "host/streamsource.h"
 
-#include <QImageReader>
-#include <QMimeDatabase>
 #include <QUrl>
 
 #include <algorithm>
@@ -21,16 +18,6 @@ const auto kSampleCamera = QStringLiteral("sample:");
 
 const QStringList kStreamSchemes{QStringLiteral("rtsp"), QStringLiteral("rtsps")};
 
-/// The name decides where it tells: a bare stream of JPEG pictures begins like one picture.
-bool isStillPicture(const QString& path)
-{
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension);
-    if (type.name().startsWith(QStringLiteral("video/")))
-        return false;
-    return type.name().startsWith(QStringLiteral("image/")) ||
-           !QImageReader::imageFormat(path).isEmpty();
-}
-
 std::unique_ptr<PictureSource> streamSource(const QString& address, bool isFile,
                                             const StreamOptions& options)
 {
@@ -39,13 +26,6 @@ std::unique_ptr<PictureSource> streamSource(const QString& address, bool isFile,
     request.isFile = isFile;
     request.options = options;
     return std::make_unique<StreamSource>(request);
-}
-
-std::unique_ptr<PictureSource> fileSource(const QString& path)
-{
-    if (isStillPicture(path))
-        return std::make_unique<StillPictureSource>(path);
-    return streamSource(path, true, {});
 }
 
 bool isStreamAddress(const QString& address)
@@ -64,10 +44,10 @@ std::unique_ptr<PictureSource> builtInSource(const QString& address, const Strea
         return std::make_unique<SampleCameraSource>();
     const int scheme = address.indexOf(QStringLiteral("://"));
     if (scheme < 0)
-        return fileSource(address);
+        return streamSource(address, true, {});
     const QUrl url(address);
     if (url.isLocalFile())
-        return fileSource(url.toLocalFile());
+        return streamSource(url.toLocalFile(), true, {});
     if (isStreamAddress(address))
         return streamSource(address, false, options);
     return std::make_unique<NoSignalSource>(
@@ -110,9 +90,10 @@ void ChannelSources::addMaker(Maker maker)
     m_makers.push_back(std::move(maker));
 }
 
-std::unique_ptr<PictureSource> ChannelSources::makeSource(const QString& address,
+std::unique_ptr<PictureSource> ChannelSources::makeSource(const QString& given,
                                                           const StreamOptions& options) const
 {
+    const QString address = given.trimmed();
     for (auto maker = m_makers.rbegin(); maker != m_makers.rend(); ++maker) {
         if (std::unique_ptr<PictureSource> source = (*maker)(address, options))
             return source;
@@ -123,7 +104,7 @@ std::unique_ptr<PictureSource> ChannelSources::makeSource(const QString& address
 std::unique_ptr<PictureSource> ChannelSources::makeForeignSource(const QString& address,
                                                                  const StreamOptions& options) const
 {
-    if (isStreamAddress(address))
+    if (isStreamAddress(address.trimmed()))
         return makeSource(address, options);
     return std::make_unique<NoSignalSource>(
         tr("Only rtsp and rtsps addresses of a client can be played."));

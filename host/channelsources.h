@@ -19,7 +19,7 @@ class PictureSource;
 /**
  * Which address gives a channel's picture, and which source plays an address. An address is
  * "sample:" (the sample camera), the path of a picture or video file, an RTSP address, or what an
- * added maker plays.
+ * added maker plays; blanks around it do not count.
  * A channel without an address of its own has the default one, at first the sample camera.
  */
 class KQHOST_EXPORT ChannelSources : public QObject

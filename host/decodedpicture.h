@@ -6,7 +6,7 @@
 namespace UICommonMdl
 {
 
-/// A picture as a stream's decoder left it. It is made into an image only when that is asked for.
+/// A picture as a decoder left it. It is made into an image only when that is asked for.
 class DecodedPicture
 {
 public:
@@ -16,7 +16,9 @@ public:
     DecodedPicture& operator=(const DecodedPicture&) = delete;
 
     virtual QSize size() const = 0;
-    /// Of its own size; this may take a moment. Null when it cannot be converted.
+    /// The size in which it has its shape: another one when its points are not square.
+    virtual QSize shownSize() const = 0;
+    /// Of the shown size; this may take a moment. Null when it cannot be converted.
     virtual QImage image() const = 0;
 };
 

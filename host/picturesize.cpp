@@ -8,12 +8,19 @@ namespace
 {
 
 constexpr int kLargestSide = 16384;
+const QSize kLargestUnasked(3840, 2160);
 
 } // namespace
 
 bool isPlausibleSize(const QSize& size)
 {
     return !size.isEmpty() && size.width() <= kLargestSide && size.height() <= kLargestSide;
+}
+
+QSize sizeUnasked(const QSize& size)
+{
+    const bool fits = size.boundedTo(kLargestUnasked) == size;
+    return fits ? size : size.scaled(kLargestUnasked, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
 }
 
 QString implausibleSizeText(const QSize& size)

@@ -15,6 +15,11 @@ constexpr int kLately = 2 * kMillisecondsPerSecond;
 
 PictureSource::~PictureSource() = default;
 
+QSize PictureSource::shownSize() const
+{
+    return pictureSize();
+}
+
 void PictureSource::setTargetSize(const QSize&) {}
 
 QImage PictureSource::fullPicture() const

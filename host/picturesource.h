@@ -33,13 +33,15 @@ public:
     virtual QImage picture() const = 0;
     /// Size of the picture as it was decoded, empty before the first one.
     virtual QSize pictureSize() const = 0;
+    /// The size in which the picture has its shape: another one when its points are not square.
+    virtual QSize shownSize() const;
     /**
      * The size in device pixels at which the picture is shown. A source that can hands over the
      * pictures that follow in exactly this size; others leave the scaling to the surface.
      */
     virtual void setTargetSize(const QSize& size);
 
-    /// The newest picture in its decoded size; this may take a moment.
+    /// The newest picture in its shown size; this may take a moment.
     virtual QImage fullPicture() const;
     virtual PictureStatistics statistics() const;
     /// Whether start() may help a lost source.

@@ -60,6 +60,18 @@ QSize keptSize(const QSizeF& size)
     return (pixels <= kMostPixels ? size : size * std::sqrt(kMostPixels / pixels)).toSize();
 }
 
+/// Smooth scaling takes the longer the larger the picture is: one that is far too large is thinned
+/// out first, as this is done while everything waits.
+QImage scaledAtOnce(const QImage& image, const QSize& size)
+{
+    const QSize thinned = 2 * size;
+    const bool isFarTooLarge = image.size().boundedTo(thinned) == thinned;
+    const QImage from = isFarTooLarge
+                            ? image.scaled(thinned, Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                            : image;
+    return from.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 QMouseEvent movedTo(const QRect& picture, QEvent::Type type, const QMouseEvent& event)
 {
     return {type,
@@ -230,7 +242,7 @@ QImage QRtspVideoWnd::snapshot() const
 
 QSize QRtspVideoWnd::shownSize() const
 {
-    return m_still ? m_still->size() : m_source->pictureSize();
+    return m_still ? m_still->size() : m_source->shownSize();
 }
 
 QSize QRtspVideoWnd::sizeHint() const
@@ -402,7 +414,7 @@ void QRtspVideoWnd::preparePixmap(const QRect& picture)
     m_source->setTargetSize(size);
     QImage image = m_still ? *m_still : m_source->picture();
     if (!image.isNull() && image.size() != size)
-        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        image = scaledAtOnce(image, size);
     m_pixmap = QPixmap::fromImage(std::move(image));
 }
 

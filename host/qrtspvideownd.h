@@ -78,7 +78,7 @@ public:
     /// Holds the picture still; the source plays on unseen. Nothing happens without a picture.
     void setFrozen(bool frozen);
     bool isFrozen() const { return m_still.has_value(); }
-    /// The picture shown, in its decoded size and without what is drawn over it.
+    /// The picture shown, in its shown size and without what is drawn over it.
     QImage snapshot() const;
 
     QSize sizeHint() const override;
@@ -133,7 +133,7 @@ private:
     int m_sessionId = -1;
     int m_playType = -1;
     std::unique_ptr<UICommonMdl::PictureSource> m_source;
-    std::optional<QImage> m_still; ///< the picture that is held, in its decoded size
+    std::optional<QImage> m_still; ///< the picture that is held, in its shown size
     UICommonMdl::PictureStrip* m_strip;
     QPushButton* m_tryAgain; ///< shown over a lost picture
     QSize m_reportedSize;

@@ -14,7 +14,7 @@ void StreamMailbox::close()
     const Lock lock(m_mutex);
     m_wake = nullptr;
     m_news = {};
-    m_closing.notify_all();
+    m_changed.notify_all();
 }
 
 StreamNews StreamMailbox::fetch()
@@ -28,6 +28,7 @@ void StreamMailbox::setTargetSize(const QSize& size)
 {
     const Lock lock(m_mutex);
     m_targetSize = size;
+    m_changed.notify_all();
 }
 
 QString StreamMailbox::codec() const
@@ -57,13 +58,22 @@ bool StreamMailbox::isClosed() const
 bool StreamMailbox::waitUntil(Clock::time_point time)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    return !m_closing.wait_until(lock, time, [this]() { return !m_wake; });
+    return !m_changed.wait_until(lock, time, [this]() { return !m_wake; });
 }
 
 QSize StreamMailbox::targetSize() const
 {
     const Lock lock(m_mutex);
     return m_targetSize;
+}
+
+bool StreamMailbox::waitForAnotherSize(const QSize& size)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_changed.wait(lock, [this, &size]() {
+        return !m_wake || (!m_targetSize.isEmpty() && m_targetSize != size);
+    });
+    return bool(m_wake);
 }
 
 void StreamMailbox::setCodec(const QString& codec)
@@ -90,7 +100,7 @@ void StreamMailbox::postPicture(const QImage& picture,
     const Lock lock(m_mutex);
     if (!m_wake)
         return;
-    m_dropped += m_news.picture.isNull() ? 0 : 1;
+    m_dropped += m_news.picture.isNull() || m_news.decoded == decoded ? 0 : 1;
     m_news.picture = picture;
     m_news.decoded = std::move(decoded);
     wakeOnce();

@@ -40,10 +40,14 @@ public:
     bool waitUntil(Clock::time_point time);
     /// The size in which the GUI shows the picture, empty while it is not known.
     QSize targetSize() const;
+    /// Waits until the target size is known and not @p size; false as soon as the mailbox is
+    /// closed.
+    bool waitForAnotherSize(const QSize& size);
     void setCodec(const QString& codec);
     void countDropped(int pictures);
     /// The failure that follows is one that only another login ends.
     void setLoginRefused();
+    /// The same @p decoded may come again, in another size.
     void postPicture(const QImage& picture, std::shared_ptr<const DecodedPicture> decoded);
     void postFailure(const QString& reason);
 
@@ -51,8 +55,8 @@ private:
     void wakeOnce();
 
     mutable std::mutex m_mutex;
-    std::condition_variable m_closing;
-    std::function<void()> m_wake; ///< null once closed
+    std::condition_variable m_changed; ///< closed, or of another size
+    std::function<void()> m_wake;      ///< null once closed
     bool m_isAwake = false;
     StreamNews m_news;
     QSize m_targetSize;

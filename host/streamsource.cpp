@@ -3,6 +3,7 @@
 #include "host/decodedpicture.h"
 #include "host/dprintlog.h"
 #include "host/maskedaddress.h"
+#include "host/stillpicture.h"
 #include "host/streamlibrary.h"
 #include "host/streammailbox.h"
 #include "host/streamplayer.h"
@@ -20,10 +21,13 @@ constexpr int kLongestWait = 30;
 constexpr int kMillisecondsPerSecond = 1000;
 constexpr int kLogLevel = 2;
 
-void play(const StreamRequest& request, StreamMailbox& mailbox)
+/// What a file is can only be told by opening it, which may take as long as the system likes.
+QString play(const StreamRequest& request, StreamMailbox& mailbox)
 {
+    if (request.isFile && isStillPicture(request.address))
+        return showStillPicture(request.address, mailbox);
     StreamPlayer* const player = StreamLibrary::player();
-    mailbox.postFailure(player ? player->play(request, mailbox) : StreamLibrary::missingText());
+    return player ? player->play(request, mailbox) : StreamLibrary::missingText();
 }
 
 } // namespace
@@ -59,7 +63,12 @@ QImage StreamSource::picture() const
 
 QSize StreamSource::pictureSize() const
 {
-    return m_pictureSize;
+    return m_decoded ? m_decoded->size() : QSize();
+}
+
+QSize StreamSource::shownSize() const
+{
+    return m_decoded ? m_decoded->shownSize() : QSize();
 }
 
 QImage StreamSource::fullPicture() const
@@ -91,8 +100,9 @@ void StreamSource::sltConnect()
         QMetaObject::invokeMethod(this, &StreamSource::sltNews, Qt::QueuedConnection);
     });
     m_mailbox->setTargetSize(m_targetSize);
-    const bool started = StreamThreads::start(
-        [request = m_request, mailbox = m_mailbox]() { play(request, *mailbox); });
+    const bool started = StreamThreads::start([request = m_request, mailbox = m_mailbox]() {
+        mailbox->postFailure(play(request, *mailbox));
+    });
     if (!started)
         m_mailbox->postFailure(tr("There is not enough memory."));
 }
@@ -111,11 +121,14 @@ void StreamSource::sltNews()
     const StreamNews news = m_mailbox->fetch();
     if (!news.picture.isNull()) {
         m_wait = kFirstWait;
+        const bool isNew = m_decoded != news.decoded;
         m_picture = news.picture;
         m_decoded = news.decoded;
-        m_pictureSize = m_decoded->size();
         setState(PictureState::Playing);
-        announcePicture();
+        if (isNew)
+            announcePicture();
+        else
+            emit sgnPictureReady();
     }
     // Whoever heard of the picture may have stopped or deleted this source.
     if (guard && news.failure && m_mailbox)

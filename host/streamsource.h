@@ -14,10 +14,10 @@ class DecodedPicture;
 class StreamMailbox;
 
 /**
- * A live stream (RTSP, TCP or UDP) or a video file, which is played over and over at its own speed.
- * All waiting, decoding and scaling is done on threads of its own. A live stream that is lost is
- * tried again after 1, 2, 4, ... up to 30 seconds, for ever, and says when; a file is not, nor is
- * a server that refuses the login. start() tries at once.
+ * A live stream (RTSP, TCP or UDP) or a file: a still picture, or a video, which is played over and
+ * over at its own speed. All opening, waiting, decoding and scaling is done on threads of its own.
+ * A live stream that is lost is tried again after 1, 2, 4, ... up to 30 seconds, for ever, and says
+ * when; a file is not, nor is a server that refuses the login. start() tries at once.
  */
 class KQHOST_EXPORT StreamSource : public PictureSource
 {
@@ -31,6 +31,7 @@ public:
     void stop() override;
     QImage picture() const override;
     QSize pictureSize() const override;
+    QSize shownSize() const override;
     QImage fullPicture() const override;
     void setTargetSize(const QSize& size) override;
     PictureStatistics statistics() const override;
@@ -53,7 +54,6 @@ private:
     QSize m_targetSize;
     QImage m_picture;
     std::shared_ptr<const DecodedPicture> m_decoded; ///< the same picture
-    QSize m_pictureSize;
 };
 
 } // namespace UICommonMdl

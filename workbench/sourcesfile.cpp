@@ -67,8 +67,9 @@ bool SourcesFile::write(const QString& path, QString& error) const
     const QTemporaryDir folder; // which only this user can enter
     QFile draft(folder.filePath(QStringLiteral("sources.ini")));
     if (!folder.isValid() || !store(*this, draft.fileName()) || !draft.open(QIODevice::ReadOnly)) {
-        error = QCoreApplication::translate("SourcesFile", "%1 cannot be written: no room for it.")
-                    .arg(QDir::toNativeSeparators(path));
+        error =
+            QCoreApplication::translate("SourcesFile", "%1: no room for it; the old file stands")
+                .arg(path);
         return false;
     }
     QDir().mkpath(QFileInfo(path).absolutePath());

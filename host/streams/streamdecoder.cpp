@@ -26,11 +26,15 @@ constexpr int kHeavyPixels = 1920 * 1088;
 constexpr int kHeavyThreads = 4;
 constexpr int64_t kMostPixels = 16384LL * 16384;
 constexpr AVRational kMicroseconds{1, 1000000};
-const QSize kLargestUnasked(3840, 2160);
 
 QString text(const char* source)
 {
     return QCoreApplication::translate("StreamDecoder", source);
+}
+
+QString undecodableText()
+{
+    return text("What comes cannot be decoded.");
 }
 
 QString codecName(AVCodecID codec)
@@ -68,18 +72,15 @@ std::optional<PacketQueue::Clock::duration> longestWait(const StreamRequest& req
     return delayOf(request) + 2s;
 }
 
-/// Threads of one picture each would hold pictures back, so only large ones get them.
-int threadsFor(const AVCodecParameters& parameters)
+/// Threads of one picture each would hold pictures back: of a file only large ones get them, of a
+/// live stream none. There several may work on one picture, whose size is not known yet.
+void setThreads(AVCodecContext& codec, bool isFile)
 {
-    const bool isHeavy = int64_t(parameters.width) * parameters.height > kHeavyPixels;
-    return isHeavy ? qBound(1, int(std::thread::hardware_concurrency()), kHeavyThreads) : 1;
-}
-
-QSize boundedSize(const AVFrame& frame)
-{
-    const QSize size(frame.width, frame.height);
-    const bool fits = size.boundedTo(kLargestUnasked) == size;
-    return fits ? size : size.scaled(kLargestUnasked, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    const bool isHeavy = !isFile || int64_t(codec.width) * codec.height > kHeavyPixels;
+    codec.thread_count =
+        isHeavy ? qBound(1, int(std::thread::hardware_concurrency()), kHeavyThreads) : 1;
+    if (!isFile)
+        codec.thread_type = FF_THREAD_SLICE;
 }
 
 } // namespace
@@ -109,7 +110,8 @@ private:
 StreamDecoder::StreamDecoder(const StreamRequest& request, StreamMailbox& mailbox)
     : m_request(request),
       m_mailbox(mailbox),
-      m_input(request, mailbox),
+      m_watch(request.firstPictureLimit, request.silenceLimit, PacketQueue::Clock::now()),
+      m_input(request, mailbox, m_watch),
       m_queue(longestWait(request)),
       m_clock(clockFor(request)),
       m_period(0)
@@ -141,7 +143,7 @@ QString StreamDecoder::openCodec()
         return streamErrorText(AVERROR(ENOMEM));
     avcodec_parameters_to_context(m_codec.get(), &parameters);
     m_codec->pkt_timebase = stream.time_base;
-    m_codec->thread_count = threadsFor(parameters);
+    setThreads(*m_codec, m_request.isFile);
     m_codec->max_pixels = kMostPixels;
     const int opened = avcodec_open2(m_codec.get(), codec, nullptr);
     if (opened < 0)
@@ -150,7 +152,8 @@ QString StreamDecoder::openCodec()
     const double guess = m_input.picturesPerSecond();
     const double rate = guess > 0 && guess <= kHighestRate ? guess : kUsualRate;
     m_period = PlayoutClock::Duration(std::llround(1e6 / rate));
-    m_lastDecoded = PacketQueue::Clock::now();
+    // Only a file's is honoured: what is drawn over a camera's picture lies in it as it is sent.
+    m_shape = {m_request.isFile ? turnOf(stream) : QTransform(), stream.sample_aspect_ratio};
     return {};
 }
 
@@ -189,12 +192,21 @@ QString StreamDecoder::decodePackets()
     while (!m_mailbox.isClosed()) {
         const std::optional<AvPacketPointer> packet = m_queue.pop();
         if (!packet)
-            return streamErrorText(m_queue.endCode());
+            return endReason();
+        m_lastPacket = PacketQueue::Clock::now();
         QString reason = *packet ? decode(packet->get()) : startOver();
         if (!reason.isEmpty())
             return reason;
     }
     return {};
+}
+
+/// A stream may send much of which nothing can be seen.
+QString StreamDecoder::endReason() const
+{
+    const bool comes = PacketQueue::Clock::now() - m_lastPacket < m_request.silenceLimit / 2;
+    return comes && m_queue.endCode() == AVERROR(ETIMEDOUT) ? undecodableText()
+                                                            : streamErrorText(m_queue.endCode());
 }
 
 /// Damaged packets are passed over, as long as pictures come now and then.
@@ -211,9 +223,8 @@ QString StreamDecoder::decode(const AVPacket* packet)
         if (!reason.isEmpty())
             return reason;
     }
-    const auto limit = 3 * m_request.silenceLimit;
-    if (!m_request.isFile && PacketQueue::Clock::now() - m_lastDecoded > limit)
-        return text("What comes cannot be decoded.");
+    if (!m_request.isFile && PacketQueue::Clock::now() > m_watch.deadline())
+        return undecodableText();
     return {};
 }
 
@@ -239,21 +250,29 @@ QString StreamDecoder::show(AvFramePointer frame)
     ++m_decoded;
     m_due = m_clock.dueAt(mediaTime(*frame), PacketQueue::Clock::now());
     const bool goesOn = m_mailbox.waitUntil(m_due);
-    m_lastDecoded = PacketQueue::Clock::now();
+    m_watch.notePicture(PacketQueue::Clock::now());
     if (!goesOn)
         return {};
     if (isTooLate(m_due)) {
         m_mailbox.countDropped(1);
         return {};
     }
+    const PictureShape shape = shapeOf(*frame);
     const QSize target = m_mailbox.targetSize();
+    const auto decoded = std::make_shared<DecodedFrame>(std::move(frame), shape);
     const QImage picture =
-        m_scaler.convert(*frame, target.isEmpty() ? boundedSize(*frame) : target);
+        decoded->scaled(m_scaler, target.isEmpty() ? sizeUnasked(decoded->shownSize()) : target);
     if (picture.isNull())
         return text("Its pictures cannot be converted.");
     m_lastShown = PacketQueue::Clock::now();
-    m_mailbox.postPicture(picture, std::make_shared<DecodedFrame>(std::move(frame)));
+    m_mailbox.postPicture(picture, decoded);
     return {};
+}
+
+/// What the container tells of a picture's points goes before what its coding does.
+PictureShape StreamDecoder::shapeOf(const AVFrame& frame) const
+{
+    return {m_shape.turn, m_shape.points.num > 0 ? m_shape.points : frame.sample_aspect_ratio};
 }
 
 /// Where the stream tells no time, a picture follows the one before at the usual distance.

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "host/picturewatch.h"
 #include "host/playoutclock.h"
 #include "host/streams/packetqueue.h"
 #include "host/streams/picturescaler.h"
+#include "host/streams/pictureshape.h"
 #include "host/streams/streaminput.h"
 
 namespace UICommonMdl
@@ -34,24 +36,28 @@ private:
     QString decode(const AVPacket* packet);
     QString show(AvFramePointer frame);
     QString startOver();
+    QString endReason() const;
 
     void readPackets();
     int passOnPacket(); ///< below 0 when no more come
     int readOrRewind(AvPacketPointer& packet);
     PlayoutClock::Duration mediaTime(const AVFrame& frame);
+    PictureShape shapeOf(const AVFrame& frame) const;
     bool isTooLate(Time due) const;
 
     const StreamRequest m_request;
     StreamMailbox& m_mailbox;
+    PictureWatch m_watch;
     StreamInput m_input;
     PacketQueue m_queue;
     AvCodecPointer m_codec;
+    PictureShape m_shape; ///< as the container tells it
     PictureScaler m_scaler;
     PlayoutClock m_clock;
     PlayoutClock::Duration m_period; ///< from one picture to the next
     PlayoutClock::Duration m_media{};
     Time m_due;
-    Time m_lastDecoded;
+    Time m_lastPacket;
     Time m_lastShown;
     int m_decoded = 0; ///< since the stream was started over
 };

@@ -1,11 +1,15 @@
 #include "host/streams/streaminput.h"
 
 #include "host/picturesize.h"
+#include "host/picturewatch.h"
 #include "host/streammailbox.h"
 #include "host/streams/streamerrors.h"
+#include "host/streams/webserver.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <mutex>
 
@@ -17,6 +21,7 @@ namespace
 constexpr std::chrono::milliseconds kGoodbye{500};
 /// In bytes. The library would log in with the beginning of a longer one, until that is locked out.
 constexpr int kLongestLogin = 127;
+constexpr std::chrono::milliseconds kInquiry{2000};
 
 /// The libraries' own messages hold addresses with their passwords.
 void silenceLibraries()
@@ -50,9 +55,11 @@ bool isVideo(const AVStream& stream)
 
 } // namespace
 
-StreamInput::StreamInput(const StreamRequest& request, StreamMailbox& mailbox)
+StreamInput::StreamInput(const StreamRequest& request, StreamMailbox& mailbox,
+                         const PictureWatch& watch)
     : m_request(request),
       m_mailbox(mailbox),
+      m_watch(watch),
       m_address(StreamAddress::parse(request.isFile ? QString() : request.address))
 {
 }
@@ -60,7 +67,7 @@ StreamInput::StreamInput(const StreamRequest& request, StreamMailbox& mailbox)
 StreamInput::~StreamInput()
 {
     m_isClosing = true;
-    expectAnswer(kGoodbye);
+    m_until = Clock::now() + kGoodbye;
     m_format.reset();
 }
 
@@ -73,7 +80,7 @@ QString StreamInput::open()
     if (isLoginRefusal(connected))
         m_mailbox.setLoginRefused();
     if (connected < 0)
-        return streamErrorText(connected);
+        return failureText(connected);
     // Before anything is decoded: room for an absurd size is never taken.
     for (unsigned i = 0; i < m_format->nb_streams; ++i) {
         const QSize size = pictureSize(*m_format->streams[i]);
@@ -83,14 +90,38 @@ QString StreamInput::open()
     return findVideo();
 }
 
+/// What listens there may be no camera at all: then one waits for it in vain.
+QString StreamInput::failureText(int code)
+{
+    const bool isStrange = code == AVERROR_EOF || code == AVERROR_INVALIDDATA ||
+                           code == AVERROR(EIO) || code == AVERROR(ETIMEDOUT) ||
+                           code == AVERROR(ECONNRESET) || code == AVERROR(EPIPE);
+    m_until = Clock::now() + kInquiry;
+    if (!m_request.isFile && isStrange &&
+        isWebServer(m_request.address, {&StreamInput::isInterrupted, this}))
+        return QCoreApplication::translate("StreamInput",
+                                           "A web server answers there, not a camera's RTSP.");
+    return streamErrorText(code);
+}
+
+int StreamInput::openPipe()
+{
+    if (!NamedPipe::isAt(m_request.address))
+        return 0;
+    return m_pipe.open(m_request.address, [this]() { return isInterrupted(this) != 0; });
+}
+
 int StreamInput::connectToServer()
 {
     AvOptions options;
     QByteArray address = m_address.encoded().toUtf8();
     if (m_request.isFile) {
+        const int waited = openPipe();
+        if (waited < 0)
+            return waited;
         // Without it, "name:rest" would be taken for a protocol.
-        address = "file:" + m_request.address.toUtf8();
-        options.set("protocol_whitelist", "file");
+        address = m_pipe.isOpen() ? m_pipe.address() : "file:" + m_request.address.toUtf8();
+        options.set("protocol_whitelist", m_pipe.isOpen() ? "pipe" : "file");
     } else {
         setStreamOptions(options, m_request.options);
     }
@@ -100,7 +131,6 @@ int StreamInput::connectToServer()
     if (!format)
         return AVERROR(ENOMEM);
     format->interrupt_callback = {&StreamInput::isInterrupted, this};
-    expectAnswer(m_request.silenceLimit);
     m_opening = format;
     const int opened = avformat_open_input(&format, address.constData(), nullptr, options.get());
     m_opening = nullptr;
@@ -112,16 +142,14 @@ int StreamInput::connectToServer()
 
 QString StreamInput::findVideo()
 {
-    expectAnswer(m_request.silenceLimit);
-    const int found = avformat_find_stream_info(m_format.get(), nullptr);
+    const int found = needsAnalysis() ? avformat_find_stream_info(m_format.get(), nullptr) : 0;
     if (found < 0)
         return streamErrorText(explained(found));
     m_video = av_find_best_stream(m_format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
     if (m_video < 0 || (video().disposition & AV_DISPOSITION_ATTACHED_PIC))
         return streamErrorText(AVERROR_STREAM_NOT_FOUND);
-    if (Clock::now() > m_deadline && pictureSize(video()).isEmpty())
-        return streamErrorText(AVERROR(ETIMEDOUT));
-    if (!isPlausibleSize(pictureSize(video())))
+    const bool isOpen = m_request.isFile || !pictureSize(video()).isNull();
+    if (isOpen && !isPlausibleSize(pictureSize(video())))
         return implausibleSizeText(pictureSize(video()));
     for (unsigned i = 0; i < m_format->nb_streams; ++i) {
         if (int(i) != m_video)
@@ -130,13 +158,28 @@ QString StreamInput::findVideo()
     return {};
 }
 
+/// The description of a live stream names the coding. What its pictures tell besides would take
+/// some of them, which a slow camera sends in half a minute.
+bool StreamInput::needsAnalysis() const
+{
+    const auto** const begin = const_cast<const AVStream**>(m_format->streams);
+    return m_request.isFile ||
+           std::none_of(begin, begin + m_format->nb_streams, [](const AVStream* stream) {
+               return isVideo(*stream) && stream->codecpar->codec_id != AV_CODEC_ID_NONE;
+           });
+}
+
 int StreamInput::read(AVPacket& packet)
 {
-    expectAnswer(m_request.silenceLimit);
     while (!m_aborted) {
         const int result = av_read_frame(m_format.get(), &packet);
         if (result < 0)
             return explained(result);
+        // What the parser still held of a stream that stopped comes as if it had just been sent.
+        if (isOverdue()) {
+            av_packet_unref(&packet);
+            return AVERROR(ETIMEDOUT);
+        }
         if (packet.stream_index == m_video)
             return 0;
         av_packet_unref(&packet);
@@ -146,6 +189,8 @@ int StreamInput::read(AVPacket& packet)
 
 int StreamInput::rewind()
 {
+    if (m_pipe.isOpen())
+        return AVERROR_EOF;
     const AVStream& stream = video();
     const int64_t first = stream.start_time == AV_NOPTS_VALUE ? 0 : stream.start_time;
     const int result = av_seek_frame(m_format.get(), m_video, first, AVSEEK_FLAG_BACKWARD);
@@ -176,8 +221,7 @@ int StreamInput::isInterrupted(void* input)
     auto& self = *static_cast<StreamInput*>(input);
     self.m_isAstray = self.m_isAstray || self.isSentElsewhere();
     const bool given = !self.m_isClosing && (self.m_aborted || self.m_mailbox.isClosed());
-    const bool silent = !self.m_request.isFile && Clock::now() > self.m_deadline;
-    return given || silent || self.m_isAstray ? 1 : 0;
+    return given || self.isOverdue() || self.m_isAstray ? 1 : 0;
 }
 
 /// The library follows by itself, and asks before the first byte that it sends there.
@@ -189,16 +233,17 @@ bool StreamInput::isSentElsewhere() const
     return !m_address.mayPassOnTo(StreamAddress::parse(address));
 }
 
-void StreamInput::expectAnswer(Clock::duration limit)
+bool StreamInput::isOverdue() const
 {
-    m_deadline = Clock::now() + limit;
+    if (m_until)
+        return Clock::now() > *m_until;
+    return !m_request.isFile && Clock::now() > m_watch.deadline();
 }
 
 /// A call that was given up because of silence comes back with one of several codes.
 int StreamInput::explained(int code) const
 {
-    const bool silent = !m_request.isFile && Clock::now() > m_deadline;
-    return silent ? AVERROR(ETIMEDOUT) : code;
+    return isOverdue() ? AVERROR(ETIMEDOUT) : code;
 }
 
 } // namespace UICommonMdl

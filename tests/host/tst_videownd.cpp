@@ -5,7 +5,6 @@
 #include "host/qrtspvideownd.h"
 #include "host/rtspvideoparam.h"
 #include "host/samplecamerasource.h"
-#include "host/stillpicturesource.h"
 #include "tests/support/rulestest.h"
 
 #include <QApplication>
@@ -306,22 +305,24 @@ private slots:
                 qWarning("%s: %s", qPrintable(address), qPrintable(status));
             return isOpen;
         };
-        for (const char* address : {"rtsp://127.0.0.1:1/a b?x=1", "RtsPS://[::1]:1/%00"})
+        for (const char* address :
+             {"rtsp://127.0.0.1:1/a b?x=1", "RtsPS://[::1]:1/%00", " \t\nrtsp://127.0.0.1:1/ \r\n"})
             QVERIFY2(opens(QLatin1String(address)), address);
         QStringList refused{"sample:", "fake:", "", "http://127.0.0.1:1/",
                             "data://image/png;base64,AA=="};
         for (const char* scheme : {"", "file:", "file://", "concat:", "rtsp:", "rtsp:concat:"})
             refused += scheme + picture;
-        for (const char* spoilt : {"rtspx://%1", " rtsp://%1", "\nrtsp://%1", "rtsp ://%1",
-                                   "rtsp\n://%1", "rtsp://%1\r\nX: y", "rtsp://%1@b", "@rtsp://%1"})
+        for (const char* spoilt : {"rtspx://%1", "rtsp ://%1", "rtsp\n://%1", "rtsp://%1\r\nX: y",
+                                   "rtsp://%1@b", "@rtsp://%1"})
             refused += QString(spoilt).arg("127.0.0.1:1/a").replace('@', QChar(0));
         for (const QString& address : refused)
             QVERIFY2(!opens(address) && surface.window.paneRect(0).isEmpty(), qPrintable(address));
         // The operator's own address may be a file, whose content counts, not its name.
-        for (const QString& address : {picture, QUrl::fromLocalFile(picture).toString()}) {
+        for (const QString& address :
+             {picture, QUrl::fromLocalFile(picture).toString(), ' ' + picture + '\n'}) {
             sources().setAddress(kChannel, address);
             QVERIFY(surface.window.openLivePicture(kChannel));
-            QCOMPARE(surface.window.paneRect(0), QRect(80, 0, 480, 360));
+            QTRY_COMPARE_WITH_TIMEOUT(surface.window.paneRect(0), QRect(80, 0, 480, 360), kTryFor);
             QCOMPARE(surface.window.statusText(), QString());
         }
     }
@@ -392,13 +393,13 @@ private slots:
             const QTemporaryDir folder;
             const QString path = written(folder, bytes);
             for (const QString& address : {path, folder.path(), path + QLatin1Char('x')}) {
-                StillPictureSource source(address);
-                source.start();
-                QCOMPARE(source.status().state, PictureState::NoSignal);
-                const QString told = source.status().reason;
+                const auto source = sources().makeSource(address);
+                source->start();
+                QTRY_COMPARE_WITH_TIMEOUT(source->status().state, PictureState::NoSignal, kTryFor);
+                const QString told = source->status().reason;
                 QVERIFY(!told.isEmpty());
                 QVERIFY2(address != path || told.contains(QLatin1String(reason)), qPrintable(told));
-                QVERIFY(source.picture().isNull() && source.pictureSize().isEmpty());
+                QVERIFY(source->picture().isNull() && source->pictureSize().isEmpty());
             }
         };
         check("", "is not a picture");
@@ -406,6 +407,25 @@ private slots:
         check(encoded("png", {300, 300}).left(40), "is damaged");
         check(claiming(16385), "16385 x 4");
         check(claiming(0), "");
+        for (const QByteArray& unknown :
+             {QByteArray("RIFF\x1a\0\0\0WEBPVP8 ", 16), QByteArray("II*\0\x08\0\0\0", 8)})
+            check(unknown, "of a kind that is not supported");
+    }
+
+    /// The file's thread scales it, and again when another size is asked for.
+    void scalesStillPicturesElsewhere()
+    {
+        const QTemporaryDir folder;
+        const auto source = sources().makeSource(written(folder, encoded("png", {4000, 8000})));
+        source->start();
+        QVERIFY(source->picture().isNull());
+        for (const QSize& size : {QSize(1080, 2160), QSize(30, 60), QSize(7, 300)}) {
+            QTRY_COMPARE_WITH_TIMEOUT(source->picture().size(), size, kTryFor);
+            QCOMPARE(source->picture().pixelColor(3, 3), QColor(Qt::gray));
+            source->setTargetSize(size.width() > 30 ? QSize(30, 60) : QSize(7, 300));
+        }
+        QCOMPARE(source->fullPicture().size(), QSize(4000, 8000));
+        QCOMPARE(source->statistics().dropped, 0);
     }
 
     void sampleCameraIsReproducible()

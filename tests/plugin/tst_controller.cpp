@@ -5,6 +5,7 @@
 #include "host/picturesource.h"
 #include "host/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
+#include "tests/support/onepicture.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
@@ -13,7 +14,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
 
 #include <functional>
 
@@ -99,7 +99,7 @@ class TstController : public RulesTest
     {
         sources().addMaker([this](const QString& address, const auto&...) {
             m_opened.append(address);
-            return nullptr;
+            return address.startsWith("grey:") ? std::make_unique<OnePicture>(m_size) : nullptr;
         });
     }
     void prepareTest() override { showPicture({640, 360}); }
@@ -107,15 +107,12 @@ class TstController : public RulesTest
     /// Gives every channel a grey picture of that size.
     void showPicture(const QSize& size)
     {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(Qt::gray);
-        const QString file = m_folder.filePath(QString("%1.png").arg(size.width()));
-        QVERIFY(image.save(file));
-        sources().setDefaultAddress(file);
+        m_size = size;
+        sources().setDefaultAddress(QString("grey:%1").arg(size.width()));
         m_opened.clear();
     }
 
-    QTemporaryDir m_folder;
+    QSize m_size;
     QStringList m_opened; ///< addresses that surfaces asked for
 
 private slots:

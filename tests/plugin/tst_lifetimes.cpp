@@ -8,6 +8,7 @@
 #include "tests/support/boxanswerer.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/mailbox.h"
+#include "tests/support/onepicture.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/sampledocuments.h"
 
@@ -16,7 +17,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPluginLoader>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <limits>
@@ -129,15 +129,12 @@ public slots:
 private:
     void prepare() override
     {
-        QImage image(640, 360, QImage::Format_RGB32);
-        image.fill(Qt::gray);
-        QVERIFY(image.save(m_folder.filePath("grey.png")));
-        sources().setDefaultAddress(m_folder.filePath("grey.png"));
+        sources().setDefaultAddress("grey:");
         connect(qApp, &QApplication::focusChanged, this,
                 [this] { std::exchange(m_whileFocusing, [] {})(); });
-        sources().addMaker([this](const QString&, const auto&) {
+        sources().addMaker([this](const QString& address, const auto&) {
             std::exchange(m_whileMaking, [] {})();
-            return nullptr;
+            return address == "grey:" ? std::make_unique<OnePicture>(QSize(640, 360)) : nullptr;
         });
     }
 
@@ -274,7 +271,6 @@ private:
         return int(info.uordblks + info.hblkhd);
     }
 
-    QTemporaryDir m_folder;
     Server m_silent{{"--silent"}};
     QPluginLoader m_loader{RULES_BIN_DIR "/IntelligentRulesUI.so"};
     IClientUIPluginAPI* m_plugin = nullptr;

@@ -1,4 +1,6 @@
 #include "host/channelsources.h"
+#include "host/letterbox.h"
+#include "host/picturewatch.h"
 #include "host/playoutclock.h"
 #include "host/qrtspvideownd.h"
 #include "host/rtspvideoparam.h"
@@ -18,6 +20,7 @@
 #include <array>
 #include <csignal>
 #include <sys/inotify.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
@@ -159,6 +162,23 @@ private slots:
         QVERIFY(looped.dueAt(40ms, start + 90ms) == start + 120ms);
     }
 
+    void waitsAsLongAsPicturesTake()
+    {
+        const PictureWatch::Clock::time_point start{};
+        PictureWatch watch(30s, 10s, start);
+        const auto deadlineAfter = [&](PictureWatch::Clock::duration time) {
+            watch.notePicture(start + time);
+            return watch.deadline() - start;
+        };
+        QVERIFY(watch.deadline() == start + 30s);
+        QVERIFY(deadlineAfter(20s) == 50s); // no gap is known yet
+        QVERIFY(deadlineAfter(23s) == 33s);
+        QVERIFY(deadlineAfter(35s) == 71s);
+        for (int i = 0; i < 7; ++i)
+            QVERIFY(deadlineAfter(36s) == 72s);
+        QVERIFY(deadlineAfter(36s) == 46s); // the long gap is not one of the last
+    }
+
     void playsStreams_data()
     {
         QTest::addColumn<QStringList>("server");
@@ -254,12 +274,48 @@ private slots:
         Server camera(server);
         QVERIFY(camera.isRunning());
         StreamRequest asked = request(camera.address(user, path));
-        asked.silenceLimit = 2s;
+        asked.firstPictureLimit = 2s;
         StreamSource source(asked);
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
         QVERIFY2(source.status().reason.contains(reason), qPrintable(source.status().reason));
         QVERIFY(source.picture().isNull() && !source.status().lastPicture.isValid());
+    }
+
+    void takesAWebServerForNoCamera()
+    {
+        Server server({"--web"});
+        QVERIFY(server.isRunning());
+        StreamRequest asked = request(server.address());
+        asked.firstPictureLimit = 2s;
+        StreamSource source(asked);
+        source.start();
+        QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
+        QVERIFY2(source.status().reason.contains("web server"), qPrintable(source.status().reason));
+    }
+
+    /// However large they are, and although a longer time lies between them than is usual.
+    void showsAllPicturesOfASlowCamera()
+    {
+        int pictures[2] = {};
+        std::vector<std::unique_ptr<Server>> cameras;
+        std::vector<std::unique_ptr<StreamSource>> sources;
+        for (int& count : pictures) {
+            const QString height = cameras.empty() ? "120" : "1152";
+            cameras.push_back(std::make_unique<Server>(QStringList{
+                "--rate", "4/1", "--pictures", "7", "--width", "2048", "--height", height}));
+            StreamRequest asked = request(cameras.back()->address());
+            asked.silenceLimit = 100ms;
+            sources.push_back(std::make_unique<StreamSource>(asked));
+            connect(sources.back().get(), &PictureSource::sgnPictureReady, [&]() { ++count; });
+            sources.back()->start();
+        }
+        for (const auto& source : sources) {
+            QTRY_COMPARE_WITH_TIMEOUT(source->status().state, PictureState::NoSignal, kPatience);
+            QVERIFY(source->status().reason.contains("nothing comes any more"));
+        }
+        QVERIFY2(pictures[0] >= 5, qPrintable(QString::number(pictures[0])));
+        QCOMPARE(pictures[1], pictures[0]);
     }
 
     void givesUpASilentCamera()
@@ -271,8 +327,12 @@ private slots:
         StreamSource source(asked);
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::Playing, kPatience);
+        QTest::qWait(1000); // a start may take long, and is one of the last gaps
         camera.send(SIGSTOP);
+        const QDateTime stopped = QDateTime::currentDateTime();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
+        QVERIFY(stopped.msecsTo(QDateTime::currentDateTime()) < 3500);
+        QVERIFY(stopped.msecsTo(source.status().lastPicture) < 500);
         QVERIFY(source.status().reason.contains("nothing comes any more"));
         QVERIFY(!source.picture().isNull());
         camera.send(SIGCONT);
@@ -419,6 +479,90 @@ private slots:
         QTEST(source->statistics().codec, "codec");
     }
 
+    void showsPicturesInTheirShape_data()
+    {
+        QTest::addColumn<QStringList>("server");
+        QTest::addColumn<VideoFile>("video");
+        QTest::addColumn<QSize>("decoded");
+        QTest::addColumn<QSize>("shown");
+        QTest::addColumn<QList<QColor>>("bars");
+        const auto stream = [](const char* aspect, const QSize& size, const QSize& shown) {
+            const QStringList arguments{"--aspect", aspect,
+                                        "--width",  QString::number(size.width()),
+                                        "--height", QString::number(size.height())};
+            QTest::newRow(aspect) << arguments << VideoFile{} << size << shown << kColorBars;
+        };
+        const auto file = [](const char* name, const QSize& points, int turn, const QSize& decoded,
+                             const QSize& shown, const QList<QColor>& bars) {
+            QTest::newRow(name) << QStringList()
+                                << VideoFile{"libx264", {64, 48}, 10, 8, points, turn} << decoded
+                                << shown << bars;
+        };
+        stream("12/11", {352, 288}, {384, 288});
+        stream("6/11", {704, 288}, {704, 528});
+        file("wide", {2, 1}, 0, {64, 48}, {128, 48}, kFileBars);
+        file("turned", {2, 1}, 90, {48, 64}, {48, 128}, {Qt::red});
+        file("upside down", {1, 1}, 180, {64, 48}, {64, 48}, {Qt::blue, Qt::red});
+        file("turned back", {1, 1}, 270, {48, 64}, {48, 64}, {Qt::blue});
+        file("nonsense", {30000, 1}, 0, {64, 48}, {64, 48}, kFileBars);
+    }
+
+    void showsPicturesInTheirShape()
+    {
+        QFETCH(const QStringList, server);
+        QFETCH(const VideoFile, video);
+        QFETCH(const QList<QColor>, bars);
+        QFETCH(const QSize, shown);
+        Server camera(server);
+        const QString path = file("shape.mp4");
+        QVERIFY(camera.isRunning() && (!server.isEmpty() || video.write(path)));
+        auto& sources = KQGUI::KQSingleton<ChannelSources>::Instance();
+        sources.setAddress("shape", server.isEmpty() ? path : camera.address());
+        QRtspVideoWnd surface;
+        surface.resize(300, 200);
+        QSize reported;
+        surface.registerVideoSizeCallback(
+            [](int width, int height, void* user) {
+                *static_cast<QSize*>(user) = {width, height};
+            },
+            &reported);
+        QVERIFY(surface.openLivePicture("shape"));
+        QTRY_COMPARE_WITH_TIMEOUT(surface.paneRect(0), letterboxed(shown, surface.rect()),
+                                  kPatience);
+        QTEST(reported, "decoded");
+        for (const bool frozen : {false, true}) {
+            surface.setFrozen(frozen);
+            QCOMPARE(surface.paneRect(0), letterboxed(shown, surface.rect()));
+            QCOMPARE(surface.snapshot().size(), shown);
+            QCOMPARE(wrongBars(surface.snapshot(), bars), QString());
+            const QImage pane = surface.grab(surface.paneRect(0)).toImage();
+            QCOMPARE(wrongBars(pane, bars), QString());
+        }
+        surface.resetToolBar(0);
+    }
+
+    /// It may never have a writer, and its name tells nothing.
+    void waitsForANamedPipe()
+    {
+        const QString path = file("pipe");
+        QVERIFY(::mkfifo(path.toUtf8().constData(), S_IRUSR | S_IWUSR) == 0);
+        QVERIFY(VideoFile{"mjpeg"}.write(file("piped.avi")));
+        auto& sources = KQGUI::KQSingleton<ChannelSources>::Instance();
+        sources.makeSource(path)->start();
+        const auto source = sources.makeSource(path);
+        source->start();
+        QTest::qWait(100);
+        QCOMPARE(source->status().state, PictureState::Connecting);
+        QFile pipe(path);
+        QVERIFY(pipe.open(QIODevice::WriteOnly));
+        pipe.write(Files::contentOf(file("piped.avi")));
+        pipe.close();
+        QTRY_VERIFY_WITH_TIMEOUT(!source->picture().isNull(), kPatience);
+        QCOMPARE(wrongBars(source->picture(), kFileBars), QString());
+        QTRY_COMPARE_WITH_TIMEOUT(source->status().state, PictureState::NoSignal, kPatience);
+        QVERIFY2(source->status().reason.contains("ended"), qPrintable(source->status().reason));
+    }
+
     void dropsWhatNobodyTakes()
     {
         const QString path = file("dropped.avi");
@@ -543,7 +687,7 @@ private slots:
         for (const auto& [path, text, reason] : answers) {
             file(path, text);
             StreamRequest asked = request(camera.address({}, path));
-            asked.silenceLimit = 2s;
+            asked.firstPictureLimit = 2s;
             sources.push_back(std::make_unique<StreamSource>(asked));
             sources.back()->start();
         }

@@ -2,6 +2,10 @@
 
 #include "host/streams/avpointers.h"
 
+extern "C" {
+#include <libavutil/display.h>
+}
+
 using namespace UICommonMdl;
 
 namespace
@@ -54,6 +58,7 @@ AvCodecPointer openEncoder(const VideoFile& file, bool globalHeader)
     encoder->pix_fmt = formatOf(file.codec);
     encoder->time_base = {1, file.picturesPerSecond};
     encoder->framerate = {file.picturesPerSecond, 1};
+    encoder->sample_aspect_ratio = {file.points.width(), file.points.height()};
     encoder->bit_rate = 1000000;
     encoder->flags |= globalHeader ? AV_CODEC_FLAG_GLOBAL_HEADER : 0;
     AvOptions options;
@@ -88,6 +93,10 @@ bool writeAll(const VideoFile& file, AVFormatContext& output)
     avcodec_parameters_from_context(stream->codecpar, encoder.get());
     stream->time_base = encoder->time_base;
     stream->avg_frame_rate = encoder->framerate;
+    stream->sample_aspect_ratio = encoder->sample_aspect_ratio;
+    auto* const matrix = reinterpret_cast<int32_t*>(
+        av_stream_new_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, 9 * sizeof(int32_t)));
+    av_display_rotation_set(matrix, file.turn);
     if (avformat_write_header(&output, nullptr) < 0)
         return false;
     for (int i = 0; i < file.pictures; ++i) {

@@ -13,6 +13,8 @@ struct VideoFile {
     QSize size{64, 48};
     int picturesPerSecond = 25;
     int pictures = 10;
+    QSize points{1, 1}; ///< width and height of a picture point
+    int turn = 0;       ///< by which it is to be shown, in degrees clockwise
 
     bool write(const QString& path) const;
 };

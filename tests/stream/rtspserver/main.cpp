@@ -1,7 +1,7 @@
 // An RTSP server on the loopback address that serves colour bars at /bars until it is killed.
-// It prints the port that it listens on. Or it plays a camera that means harm, by sending every
-// client to another address, by refusing all, or by describing its streams as files say, and prints
-// what it is asked.
+// It can be slow, and fall silent. It prints the port that it listens on. Or it plays a camera that
+// means harm, by sending every client to another address, by refusing all, or by describing its
+// streams as files say, and prints what it is asked.
 
 #include <gst/gst.h>
 #include <gst/rtsp-server/rtsp-server.h>
@@ -17,6 +17,9 @@ struct Settings {
     gint port = 0;
     gint width = 320;
     gint height = 240;
+    gchar* rate = nullptr;
+    gchar* aspect = nullptr;
+    gint pictures = 0;
     gchar* user = nullptr;
     gchar* password = nullptr;
     gchar* codec = nullptr;
@@ -25,6 +28,7 @@ struct Settings {
     gchar* location = nullptr;
     gchar* refuse = nullptr;
     gchar* describe = nullptr;
+    gboolean web = FALSE;
     gchar* certificate = nullptr;
 };
 
@@ -34,6 +38,9 @@ bool readSettings(int argc, char** argv, Settings& settings)
         {"port", 0, 0, G_OPTION_ARG_INT, &settings.port, "0 for a free one", "N"},
         {"width", 0, 0, G_OPTION_ARG_INT, &settings.width, "Of the picture", "N"},
         {"height", 0, 0, G_OPTION_ARG_INT, &settings.height, "Of the picture", "N"},
+        {"rate", 0, 0, G_OPTION_ARG_STRING, &settings.rate, "Pictures a second", "N/N"},
+        {"aspect", 0, 0, G_OPTION_ARG_STRING, &settings.aspect, "Of a picture point", "N/N"},
+        {"pictures", 0, 0, G_OPTION_ARG_INT, &settings.pictures, "Sends no more of them", "N"},
         {"user", 0, 0, G_OPTION_ARG_STRING, &settings.user, "Asked for when given", "NAME"},
         {"password", 0, 0, G_OPTION_ARG_STRING, &settings.password, "Of the user", "TEXT"},
         {"codec", 0, 0, G_OPTION_ARG_STRING, &settings.codec, "h264 or jpeg", "NAME"},
@@ -43,6 +50,7 @@ bool readSettings(int argc, char** argv, Settings& settings)
         {"refuse", 0, 0, G_OPTION_ARG_STRING, &settings.refuse, "Answer all with it", "STATUS"},
         {"describe", 0, 0, G_OPTION_ARG_STRING, &settings.describe,
          "Answer DESCRIBE with the file there that the address names", "FOLDER"},
+        {"web", 0, 0, G_OPTION_ARG_NONE, &settings.web, "Be a web server", nullptr},
         {"certificate", 0, 0, G_OPTION_ARG_STRING, &settings.certificate, "Speak TLS", "FILE"},
         {nullptr, 0, 0, G_OPTION_ARG_NONE, nullptr, nullptr, nullptr}};
     GOptionContext* const context = g_option_context_new(nullptr);
@@ -60,16 +68,37 @@ std::string coding(const gchar* codec)
            "rtph264pay name=pay0 pt=96 config-interval=1";
 }
 
+/// Lets the media's first pictures pass; the stream does not end.
+void sendFew(GstRTSPMediaFactory*, GstRTSPMedia* media, gpointer pictures)
+{
+    const auto countDown = [](GstPad*, GstPadProbeInfo*, gpointer left) {
+        return --*static_cast<int*>(left) >= 0 ? GST_PAD_PROBE_OK : GST_PAD_PROBE_DROP;
+    };
+    GstElement* const bin = gst_rtsp_media_get_element(media);
+    GstElement* const payer = gst_bin_get_by_name(GST_BIN(bin), "pay0");
+    GstPad* const pad = gst_element_get_static_pad(payer, "sink");
+    gst_pad_add_probe(pad, GST_PAD_PROBE_TYPE_BUFFER, countDown, new int(GPOINTER_TO_INT(pictures)),
+                      [](gpointer left) { delete static_cast<int*>(left); });
+    gst_object_unref(pad);
+    gst_object_unref(payer);
+    gst_object_unref(bin);
+}
+
 GstRTSPMediaFactory* makeBars(const Settings& settings)
 {
-    const std::string pipeline = "( videotestsrc is-live=true pattern=smpte ! "
-                                 "video/x-raw,format=I420,framerate=25/1,width=" +
-                                 std::to_string(settings.width) +
-                                 ",height=" + std::to_string(settings.height) + " ! " +
-                                 coding(settings.codec) + " )";
+    const std::string pipeline =
+        "( videotestsrc is-live=true pattern=smpte ! "
+        "video/x-raw,format=I420,framerate=" +
+        std::string(settings.rate ? settings.rate : "25/1") +
+        ",pixel-aspect-ratio=" + (settings.aspect ? settings.aspect : "1/1") +
+        ",width=" + std::to_string(settings.width) + ",height=" + std::to_string(settings.height) +
+        " ! " + coding(settings.codec) + " )";
     GstRTSPMediaFactory* const factory = gst_rtsp_media_factory_new();
     gst_rtsp_media_factory_set_launch(factory, pipeline.c_str());
     gst_rtsp_media_factory_set_shared(factory, TRUE);
+    if (settings.pictures > 0)
+        g_signal_connect(factory, "media-configure", G_CALLBACK(sendFew),
+                         GINT_TO_POINTER(settings.pictures));
     if (settings.udpOnly)
         gst_rtsp_media_factory_set_protocols(factory, GST_RTSP_LOWER_TRANS_UDP);
     return factory;
@@ -163,6 +192,10 @@ std::string contentOf(const std::string& file)
 std::string answer(const Settings& settings, const std::string& request,
                    const std::string& sequence)
 {
+    // As some do, it knows no protocol but its own.
+    if (settings.web)
+        return request.find(" HTTP/") == std::string::npos ? "<html>400 Bad Request</html>\n"
+                                                           : "HTTP/1.0 200 OK\r\n\r\n";
     if (settings.location)
         return "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + settings.location +
                "\r\n\r\n";
@@ -222,7 +255,7 @@ int misbehaveAlways(Settings& settings)
 
 int portOf(Settings& settings)
 {
-    if (settings.location || settings.refuse || settings.describe)
+    if (settings.location || settings.refuse || settings.describe || settings.web)
         return misbehaveAlways(settings);
     return settings.silent ? listenOnly() : serve(settings);
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "host/picturesource.h"
+
+/// A grey picture, which is there at once.
+class OnePicture : public UICommonMdl::PictureSource
+{
+public:
+    explicit OnePicture(const QSize& size) : m_picture(size, QImage::Format_RGB32)
+    {
+        m_picture.fill(Qt::gray);
+    }
+
+    void start() override
+    {
+        setState(UICommonMdl::PictureState::Playing);
+        announcePicture();
+    }
+    void stop() override { setState(UICommonMdl::PictureState::Ended); }
+    QImage picture() const override { return m_picture; }
+    QSize pictureSize() const override { return m_picture.size(); }
+
+private:
+    QImage m_picture;
+};
