@@ -20,6 +20,7 @@
 #include "tabel/widgettabel.h"
 #include "ui_IntelligentRulesCtrl.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -71,11 +72,12 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
 
 CIntelligentRulesCtrl::~CIntelligentRulesCtrl()
 {
+    emit sgnEnding();
     if (m_playerWin) {
         m_playerWin->registerDrawCallback(nullptr, nullptr);
         m_playerWin->registerVideoSizeCallback(nullptr, nullptr);
     }
-    Focus::takeFrom(*this);
+    Focus::endIn(*this);
     unload();
 }
 
@@ -149,7 +151,6 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
     if (!leaveFocus())
         return;
     unload();
-    resetToDefaults();
     if (json.size() > kLongestBlock)
         return showHint(tr("The documents are too long."));
     const std::optional<RulesParameters> parameters = RulesParameters::parse(json, session);
@@ -168,6 +169,9 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
 
 void CIntelligentRulesCtrl::resetToDefaults()
 {
+    m_isFocusDue = false;
+    m_channelId.clear();
+    m_channelName.clear();
     m_algorithmId.clear();
     m_algorithmType = 0;
     m_algorithmCode.clear();
@@ -211,6 +215,13 @@ void CIntelligentRulesCtrl::initScenes(const RulesParameters& parameters)
     const LoadGuard guard(this);
     selectScene(m_scenes.first());
     if (guard.holds())
+        focusFirstScene();
+}
+
+void CIntelligentRulesCtrl::focusFirstScene()
+{
+    m_isFocusDue = !isVisible() && !m_scenes.isEmpty();
+    if (isVisible() && !m_scenes.isEmpty())
         m_scenes.first()->setFocus();
 }
 
@@ -275,8 +286,6 @@ void CIntelligentRulesCtrl::unload()
 {
     ++m_loadNumber;
     showHint({});
-    m_channelId.clear();
-    m_channelName.clear();
     m_drawScene = nullptr;
     if (m_playerWin && m_rtspOpened)
         m_playerWin->closeRtsp(m_sessionId, m_playType);
@@ -290,15 +299,14 @@ void CIntelligentRulesCtrl::unload()
         scene->setRuleData(nullptr);
     }
     m_form->sceneView->clearAll();
+    resetToDefaults();
     showNotices();
     repaintPicture();
 }
 
-bool CIntelligentRulesCtrl::isDrawUnfinished(const QString& channel, const QString& algorithm)
+bool CIntelligentRulesCtrl::isDrawUnfinished(const QString& channel, const QString& algorithm) const
 {
-    if (!finishEdits() || !m_drawScene)
-        return false;
-    return (algorithm == m_algorithmId || channel == m_channelId) &&
+    return m_drawScene && (algorithm == m_algorithmId || channel == m_channelId) &&
            m_drawScene->HasDrawUnfinished();
 }
 
@@ -558,6 +566,24 @@ void CIntelligentRulesCtrl::resizeEvent(QResizeEvent* event)
         return;
     m_videoRect = m_playerWin->paneRect(m_playerWin->selectedPane());
     fitCanvas();
+}
+
+void CIntelligentRulesCtrl::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_isFocusDue)
+        focusFirstScene();
+}
+
+void CIntelligentRulesCtrl::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    const QWidget* focused = QApplication::focusWidget();
+    if (!focused || !isAncestorOf(focused) || isVisible() || !window()->isVisible())
+        return;
+    // Qt leaves the focus in what it hides when it finds no other place for it.
+    if (!focusNextPrevChild(true))
+        Focus::takeFrom(*this);
 }
 
 } // namespace IntelligentRulesUI

@@ -48,11 +48,13 @@ public:
     void setData(const QString& json, int session);
     void clearData();
     /// Whether a figure is being drawn, for the channel or the algorithm named.
-    bool isDrawUnfinished(const QString& channel, const QString& algorithm);
+    bool isDrawUnfinished(const QString& channel, const QString& algorithm) const;
     void selectScene(BaseTabelScene* scene);
 
 signals:
     void sgnNotifyVideoSize(int nWidth, int nHeight);
+    /// The window is being destroyed: from now on it takes no messages.
+    void sgnEnding();
 
 public slots:
     void sltTrySelectedlScene();
@@ -67,6 +69,8 @@ public slots:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     class LoadGuard;
@@ -79,6 +83,8 @@ private:
     void resetToDefaults();
     void showParameters(const RulesParameters& parameters);
     void initScenes(const RulesParameters& parameters);
+    /// Gives the first section the focus, once the window is seen.
+    void focusFirstScene();
     bool readDocuments(const QString& templateText, const QString& configText);
     void addPanel(RuleData& sceneData, bool selectionMode);
     void openPicture(const RulesParameters& parameters);
@@ -128,7 +134,8 @@ private:
     bool m_rtspOpened = false;
     bool m_skipModifyPrompt = false;
     bool m_editable = true;
-    int m_loadNumber = 0; ///< tells loads apart where the host could act in between
+    bool m_isFocusDue = false; ///< a load's focus waits until the window is shown
+    int m_loadNumber = 0;      ///< tells loads apart where the host could act in between
 };
 
 } // namespace IntelligentRulesUI

@@ -9,6 +9,9 @@
 #include "plugin/modulelifetime.h"
 #include "plugin/pluginmessages.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 namespace IntelligentRulesUI
 {
 
@@ -20,11 +23,21 @@ CIntelligentRulesWidget::CIntelligentRulesWidget(CommonData::CInterfaceSetManage
 
 CIntelligentRulesWidget::~CIntelligentRulesWidget()
 {
+    // Without an application no window can be deleted any more; the process is about to end.
+    if (!m_ctrl || !QCoreApplication::instance())
+        return;
     // A window that stays with the host holds nothing of GDI+, which is about to end.
-    if (m_ctrl && m_ctrl->parent())
+    if (m_hadOwner)
         m_ctrl->clearData();
     else
         delete m_ctrl;
+}
+
+bool CIntelligentRulesWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_ctrl && event->type() == QEvent::ParentChange)
+        m_hadOwner = m_hadOwner || watched->parent();
+    return QObject::eventFilter(watched, event);
 }
 
 QString CIntelligentRulesWidget::widgetId() const
@@ -41,6 +54,9 @@ QWidget* CIntelligentRulesWidget::GetWidget(QWidget* parent)
 {
     if (!m_ctrl) {
         m_ctrl = new CIntelligentRulesCtrl(widgetId(), parent);
+        m_hadOwner = parent;
+        m_ctrl->installEventFilter(this);
+        connect(m_ctrl, &CIntelligentRulesCtrl::sgnEnding, this, [this] { m_ctrl.clear(); });
         m_ctrl->setInterfaceSetManager(m_manager);
     }
     return m_ctrl;

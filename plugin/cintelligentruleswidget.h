@@ -19,7 +19,7 @@ class CIntelligentRulesCtrl;
  * The host's handle of one rules window: gives out the window, takes the host's messages.
  *
  * The window belongs to the parent that the host supplies. When the handle goes, such a window
- * stays, empty; only one that never got a parent is deleted here.
+ * stays, empty; only one that never had a parent is deleted here.
  */
 class CIntelligentRulesWidget : public QObject, public KQPluginAPI::IAbstractWidget
 {
@@ -44,6 +44,9 @@ public:
     /// Handles a message of the host; false when its JSON cannot be read.
     bool OnPluginMessage(int id, const QVariant& p1, const QVariant& p2) override;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QString widgetId() const;
     bool openRules(const QVariant& p1, const QVariant& p2);
@@ -52,8 +55,9 @@ private:
     void replyUnfinishedDraw(const QString& channel, const QString& algorithm);
 
     CommonData::CInterfaceSetManager* m_manager; ///< not owned
-    QPointer<CIntelligentRulesCtrl> m_ctrl;
+    QPointer<CIntelligentRulesCtrl> m_ctrl;      ///< null from the beginning of its end
     int m_index;
+    bool m_hadOwner = false; ///< the host may own a window that it took out of its parent again
 };
 
 } // namespace IntelligentRulesUI

@@ -141,7 +141,7 @@ void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
         return;
     // Qt passes the focus on when its widget is disabled or hidden; the operator moved nothing.
     const bool isPushed = old && !(old->isEnabled() && old->isVisible());
-    if (isPushed && m_selected && isAncestorOf(old) && !isAncestorOf(now))
+    if (isPushed && m_selected && isVisible() && isAncestorOf(old) && !isAncestorOf(now))
         setFocus();
     if (isPushed || !isAncestorOf(now))
         return;

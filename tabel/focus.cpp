@@ -9,3 +9,10 @@ void Focus::takeFrom(const QWidget& widget)
     if (focused && widget.isAncestorOf(focused))
         widget.window()->setFocus();
 }
+
+void Focus::endIn(const QWidget& widget)
+{
+    QWidget* focused = QApplication::focusWidget();
+    if (focused && widget.isAncestorOf(focused))
+        focused->clearFocus();
+}

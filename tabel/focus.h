@@ -15,4 +15,8 @@ namespace Focus
  */
 void takeFrom(const QWidget& widget);
 
+/// Takes the focus of @p widget or one in it, and gives it to nobody: @p widget is being destroyed,
+/// and its window may be, too.
+void endIn(const QWidget& widget);
+
 } // namespace Focus

@@ -143,7 +143,8 @@ private slots:
 
     void refusedBlockLeavesNothing()
     {
-        QStringList refused{"", "{", "[1]", "null"};
+        const QString kCleared = "cleared";
+        QStringList refused{"", "{", "[1]", "null", kCleared};
         for (const char* member : {"algorithmId", "channalId", "channelName",
                                    "videoConfigRuleProperty", "channelAbilityPO"}) {
             Value whole = Mailbox::json(block(kChannel, config(rule("Gate"))));
@@ -154,11 +155,12 @@ private slots:
         for (const QString& json : refused) {
             desk.load(rule("Gate"), R"(, "channelSn": "SN1", "editable": false)");
             QCOMPARE(desk.panels(), QString("[RuleScene] GlobalScene"));
-            desk.load(json);
+            json == kCleared ? desk.window->clearData() : desk.load(json);
             for (const char* name : {"lblChnCode", "lblChnName"})
                 QCOMPARE(desk.find<QLabel>(name)->text(), QString());
             QCOMPARE(desk.panels(), QString());
             QVERIFY(desk.find("wgtChannelInfo")->isEnabled() && desk.pictureRect().isEmpty());
+            QVERIFY(desk.find("btnSave")->isVisible() && desk.find("btnCancel")->isVisible());
             QCOMPARE(desk.save() + desk.mailbox.takeHeads(), QStringList());
         }
     }

@@ -1,20 +1,16 @@
 #include "host/channelsources.h"
 #include "host/iabstractui.h"
-#include "host/iabstractwidget.h"
 #include "host/iclientuipluginapi.h"
 #include "host/picturesource.h"
-#include "host/qrtspvideownd.h"
 #include "tests/stream/server.h"
 #include "tests/support/boxanswerer.h"
+#include "tests/support/clientwindow.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/mailbox.h"
 #include "tests/support/onepicture.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/sampledocuments.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPluginLoader>
 
@@ -38,8 +34,6 @@ constexpr bool kIsMemoryCounted = true;
 constexpr int kLoads = 1000;
 #endif
 
-enum Message { CloseRules = 0, OpenRules = 160, QueryDraw = 222 };
-
 const QByteArray kBroken = rule("Gate", R"(, "High": 0)");
 const QByteArray kTwins = rule("A") + ", " + rule("A");
 
@@ -48,59 +42,7 @@ UICommonMdl::ChannelSources& sources()
     return KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance();
 }
 
-/// A rules window as a client has it: the plug-in's handle, and the window in one of the client's.
-struct Window {
-    explicit Window(IAbstractWidget* made) : handle(made), content(made->GetWidget(parent))
-    {
-        id = QString::fromStdString(made->GetWidgetID());
-        parent->resize(1000, 700);
-        content->resize(1000, 700);
-        parent->show();
-        QApplication::setActiveWindow(parent);
-    }
-    ~Window() { delete parent; }
-    Window(const Window&) = delete;
-    Window& operator=(const Window&) = delete;
-
-    void load(const QByteArray& channel, const QByteArray& rules, const QByteArray& more = {}) const
-    {
-        send(block("\"channalId\": \"" + channel + '"' + more, config(rules)));
-    }
-    void send(const QString& parameters) const
-    {
-        const auto to = QString(R"({"pluginWidgetID": "%1", "iSessionID": 4})").arg(id);
-        QVERIFY(handle->OnPluginMessage(OpenRules, to, parameters));
-    }
-    void clear() const { QVERIFY(handle->OnPluginMessage(CloseRules, id, {})); }
-    void query(const QString& channel) const
-    {
-        const auto asked = QString(R"({"params": {"channalId": "%1"}})").arg(channel);
-        QVERIFY(handle->OnPluginMessage(QueryDraw, id, asked));
-    }
-
-    template<class T = QAbstractButton>
-    T* find(const QString& name) const
-    {
-        return content->findChild<T*>(name);
-    }
-    void click(const QString& button) const { QTest::mouseClick(find(button), Qt::LeftButton); }
-    QRect picture() const { return find<QRtspVideoWnd>("playerWin")->paneRect(0); }
-    void press(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) const
-    {
-        QTest::mouseClick(find<QRtspVideoWnd>("playerWin"), button, {}, picture().topLeft() + at);
-    }
-    /// The channel that is loaded; empty for none.
-    QString channel() const
-    {
-        return find<QWidget>("rules") ? find<QLabel>("lblChnCode")->text() : QString();
-    }
-
-    IAbstractWidget* handle;
-    QPointer<QWidget> parent{new QWidget};
-    QPointer<QWidget> content;
-    QString id;
-};
-
+using Window = ClientWindow;
 using Happening = std::function<void()>;
 
 /// Something that a window is in the middle of when something else happens to it.
@@ -400,14 +342,25 @@ private slots:
             first.load("C1", rule("Gate"));
         }
         const QString to = QString(R"({"pluginWidgetID": "IntelligentRulesUI1"})");
-        QVERIFY(handle->OnPluginMessage(OpenRules, to, block(R"("channelId": "C1")", "{}")));
+        QVERIFY(
+            handle->OnPluginMessage(Window::OpenRules, to, block(R"("channelId": "C1")", "{}")));
         const Window again(handle);
         QCOMPARE(again.channel(), QString());
         again.load("C1", rule("Gate"));
         const QPointer<QWidget> ownerless = widget()->GetWidget(nullptr);
+        // The client's as well, though out of their parents again.
+        QWidget client;
+        QPointer<QWidget> takenOut[] = {widget()->GetWidget(&client), widget()->GetWidget(nullptr)};
+        takenOut[1]->setParent(&client);
+        for (QWidget* window : takenOut)
+            window->setParent(nullptr);
         for (int i = 0; i < 2; ++i) {
             m_plugin->UnInit();
             QVERIFY(!ownerless && !m_plugin->GetUI() && again.content);
+        }
+        for (QWidget* window : takenOut) {
+            QVERIFY(window);
+            delete window;
         }
         again.click("btnSave");
         again.press({5, 5});
