@@ -441,6 +441,13 @@ void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
     graphics.DrawString(wideText(shown), -1, &font, text, &format, &ink);
 }
 
+void DrawScene::refreshMessage()
+{
+    const DrawItem* item = selectedItem(m_currentDataId);
+    if (item && !m_message.isEmpty())
+        m_message = item->isFinished() ? getEndDrawMsg(item) : getBeginDrawMsg(item);
+}
+
 QString DrawScene::getBeginDrawMsg(const DrawItem* item) const
 {
     return item ? tr("Please draw %1!").arg(item->label()) : QString();

@@ -80,10 +80,14 @@ public:
     /// Clears the item's figure so that it is drawn again.
     void redrawItem(int id);
 
+    /// Whether a left press would go to a figure that is not finished.
+    bool isDrawing() const { return itemBeingDrawn(); }
     bool HasDrawUnfinished() const;
     void SetDrawOver(bool over);
 
     void draw(Gdiplus::Graphics* graphics);
+    /// Says the message again when the figure that it names has got another label.
+    void refreshMessage();
     /// Frees what is kept for the next draw(), which then paints everything anew.
     void dropPainting();
 

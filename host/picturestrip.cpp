@@ -12,6 +12,7 @@ namespace UICommonMdl
 namespace
 {
 
+constexpr char kDrawing[] = "drawing"; // the pane's, set by whoever draws on it
 constexpr int kMargin = 6;
 constexpr int kRestMilliseconds = 600;
 constexpr int kRefreshMilliseconds = 1000;
@@ -98,6 +99,9 @@ bool PictureStrip::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonDblClick:
         hide();
         m_rest.start();
+        break;
+    case QEvent::DynamicPropertyChange:
+        setAttribute(Qt::WA_TransparentForMouseEvents, watched->property(kDrawing).toBool());
         break;
     case QEvent::Leave:
         hide();

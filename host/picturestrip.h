@@ -16,7 +16,8 @@ struct PictureStatistics;
 /**
  * The tools over a pane's picture: freeze, snapshot, statistics. It shows itself in the picture's
  * upper right corner when the pointer rests over the pane, and gets out of the way of presses.
- * A right press on it goes on to the pane.
+ * A right press on it goes on to the pane, and while the pane's dynamic property "drawing" is true,
+ * every press does.
  */
 class PictureStrip : public QWidget
 {

@@ -30,6 +30,7 @@ struct StreamOptions;
  * take the mouse over it. It has one pane, number 0; other pane numbers name nothing.
  * Mouse and painting coordinates are logical pixels from the picture's top left corner; presses
  * and moves beside the picture are not delivered. All on the GUI thread.
+ * While its dynamic property "drawing" is true, its own tools let presses on the picture through.
  */
 class KQHOST_EXPORT QRtspVideoWnd : public QWidget
 {

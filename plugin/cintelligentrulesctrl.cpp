@@ -36,6 +36,9 @@ namespace
 {
 
 constexpr int kQuestionType = 1;
+constexpr char kPictureRectChanged[] = "sgnPictureRectChanged(int)";
+/// The surface's property that is true while presses on the picture draw.
+constexpr char kDrawing[] = "drawing";
 // In characters: dozens of times what a channel's documents have together.
 constexpr int kLongestBlock = 16 << 20;
 // Some lines of the narrow column; names from documents can be of any length.
@@ -116,8 +119,35 @@ void CIntelligentRulesCtrl::connectSurface()
     connect(m_playerWin, &QRtspVideoWnd::sgnWndClick, this, &CIntelligentRulesCtrl::OnWndClick);
     connect(m_playerWin, &QRtspVideoWnd::sgnSWDbClicked, this,
             &CIntelligentRulesCtrl::OnWndDbClick);
-    connect(m_playerWin, &QRtspVideoWnd::sgnPictureRectChanged, this,
-            [this](int pane) { OnWndDbClick(pane, 0, 0); });
+    m_playerWin->installEventFilter(this);
+    // Surfaces may tell of a new rectangle, but need not.
+    if (m_playerWin->metaObject()->indexOfSignal(kPictureRectChanged) >= 0)
+        connect(m_playerWin, SIGNAL(sgnPictureRectChanged(int)), this,
+                SLOT(sltPictureRectChanged()));
+}
+
+bool CIntelligentRulesCtrl::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Paint:
+        followPicture();
+        break;
+    case QEvent::Resize:
+    case QEvent::Show:
+        // The surface places its picture while it handles the event.
+        QMetaObject::invokeMethod(
+            this, [this] { followPicture(); }, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CIntelligentRulesCtrl::sltPictureRectChanged()
+{
+    followPicture();
+    repaintPicture();
 }
 
 void CIntelligentRulesCtrl::drawOverPicture(void* deviceContext, void* user)
@@ -355,10 +385,28 @@ void CIntelligentRulesCtrl::fitCanvas()
         m_drawScene->setCanvasSize(m_videoRect.width(), m_videoRect.height());
 }
 
+void CIntelligentRulesCtrl::followPicture()
+{
+    if (!m_playerWin)
+        return;
+    m_videoRect = m_playerWin->paneRect(m_playerWin->selectedPane());
+    if (m_drawScene && m_drawScene->canvasSize() != m_videoRect.size())
+        fitCanvas();
+}
+
 void CIntelligentRulesCtrl::repaintPicture()
 {
-    if (m_playerWin)
-        m_playerWin->update();
+    if (!m_playerWin)
+        return;
+    tellSurface();
+    m_playerWin->update();
+}
+
+void CIntelligentRulesCtrl::tellSurface()
+{
+    const bool isDrawing = m_drawScene && !m_selectionMode && m_drawScene->isDrawing();
+    if (m_playerWin->property(kDrawing).toBool() != isDrawing)
+        m_playerWin->setProperty(kDrawing, isDrawing);
 }
 
 void CIntelligentRulesCtrl::sceneChanged()
@@ -384,6 +432,7 @@ void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
 {
     if (m_selectionMode || !m_drawScene)
         return;
+    followPicture();
     const LoadGuard guard(this);
     if (event->button() == Qt::LeftButton)
         m_drawScene->addDrawPoint(DrawScene::DrawMouseLeftPress, event->pos());
@@ -402,6 +451,7 @@ void CIntelligentRulesCtrl::OnMouseMove(QMouseEvent* event)
 {
     if (m_selectionMode || !m_drawScene)
         return;
+    followPicture();
     m_drawScene->addDrawPoint(DrawScene::DrawMouseMove, event->pos());
     repaintPicture();
 }
@@ -562,10 +612,7 @@ void CIntelligentRulesCtrl::paintEvent(QPaintEvent*)
 void CIntelligentRulesCtrl::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (!m_playerWin)
-        return;
-    m_videoRect = m_playerWin->paneRect(m_playerWin->selectedPane());
-    fitCanvas();
+    followPicture();
 }
 
 void CIntelligentRulesCtrl::showEvent(QShowEvent* event)

@@ -66,7 +66,11 @@ public slots:
     void OnWndClick(int nWndNum, int nPointX, int nPointY);
     void OnWndDbClick(int nWndNum, int nPointX, int nPointY);
 
+private slots:
+    void sltPictureRectChanged();
+
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -88,7 +92,10 @@ private:
     bool readDocuments(const QString& templateText, const QString& configText);
     void addPanel(RuleData& sceneData, bool selectionMode);
     void openPicture(const RulesParameters& parameters);
+    /// Takes over where the surface has its picture now, and fits the canvas to it.
+    void followPicture();
     void fitCanvas();
+    void tellSurface();
     void repaintPicture();
     void showSelected(BaseTabelScene& panel);
     /// False when the host has loaded, cleared or deleted the window by then.

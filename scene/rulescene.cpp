@@ -79,6 +79,7 @@ void RuleScene::sltRuleNameChanged(const QString&)
     if (DrawItemButton* button = widgets().drawItems->findDataButton(entry->id()))
         button->setText(name);
     EntryButtons::labelFigures(*ruleData(), ruleData()->indexOf(entry->id()), ruleFigureItems());
+    getDrawScene()->refreshMessage();
     emit sgnRepaintCanvas();
 }
 

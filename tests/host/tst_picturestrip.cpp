@@ -39,6 +39,21 @@ private slots:
         QVERIFY(!strip()->isVisible());
     }
 
+    void letsPressesThroughWhileSomethingIsDrawn()
+    {
+        QSignalSpy presses(m_surface.get(), &QRtspVideoWnd::sgnWndClick);
+        for (const bool isDrawing : {true, false}) {
+            m_surface->setProperty("drawing", isDrawing);
+            hover();
+            QTRY_VERIFY_WITH_TIMEOUT(strip()->isVisible(), kTryFor);
+            const auto* const freeze = child<QToolButton>("freeze");
+            const QPoint at = freeze->mapTo(m_surface.get(), freeze->rect().center());
+            QTest::mouseClick(m_surface->windowHandle(), Qt::LeftButton, {}, at);
+            QCOMPARE(presses.count(), 1);
+            QCOMPARE(m_surface->isFrozen(), !isDrawing);
+        }
+    }
+
     void freezes()
     {
         child<QToolButton>("freeze")->click();

@@ -211,6 +211,8 @@ private slots:
         QVERIFY(!isUnfinished());
         desk.click("addRule");
         const BaseDraw* const drawn = desk.figure(1);
+        const auto isTold = [&desk] { return desk.picture()->property("drawing").toBool(); };
+        QVERIFY(isTold());
         desk.press({10, 10}, Qt::MiddleButton);
         QCOMPARE(drawn->pointCount(), 0);
         desk.press({300, 100});
@@ -225,12 +227,16 @@ private slots:
         desk.press({400, 100});
         desk.press({400, 200});
         desk.press({0, 0}, Qt::RightButton);
-        QVERIFY(drawn->isFinished() && isUnfinished());
+        QVERIFY(drawn->isFinished() && isUnfinished() && !isTold());
         desk.click("btnSave");
         QVERIFY(!isUnfinished());
         // What was drawn before the save does not count for a press after it.
         desk.press({10, 10});
         QVERIFY(!isUnfinished());
+        desk.click("redraw");
+        QVERIFY(isTold());
+        desk.window->clearData();
+        QVERIFY(!isTold());
     }
 
     void selectionModeOnlySelects()

@@ -144,6 +144,9 @@ private slots:
         QCOMPARE(bench.buttons(), QString("[Entrance] Rule2"));
         bench.click("redraw");
         QCOMPARE(bench.canvas().message(), QString("Please draw Entrance!"));
+        bench.enter("ruleName", "Portal");
+        QCOMPARE(bench.canvas().message(), QString("Please draw Portal!"));
+        bench.enter("ruleName", "Entrance");
         QCOMPARE(bench.canvas().getFirstDrawItem()->label(), QString("Entrance"));
         QCOMPARE(bench.figures(0), QString("region: 0..."));
         QVERIFY(bench.panel().GetDrawStatus());

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+class QLineEdit;
+
+/// A top-level window of the client: an edit of its own, and a container for rules windows.
+class ClientPlace : public QWidget
+{
+public:
+    enum Kind { Tabs, Stack, Splitter, Column, KindCount };
+
+    explicit ClientPlace(Kind kind);
+
+    QLineEdit* edit() const { return m_edit; }
+    /// The container becomes the window's parent.
+    void take(QWidget* window);
+    /// Shows page @p number, counted round, where the container shows one at a time.
+    void turn(int number);
+
+private:
+    Kind m_kind;
+    QLineEdit* m_edit;
+    QWidget* m_container;
+};
