@@ -10,6 +10,7 @@
 class SceneSection : public WidgetTabel
 {
     Q_OBJECT
+    Q_PROPERTY(bool folded READ getFold)
 
 public:
     explicit SceneSection(QWidget* parent = nullptr);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/rowcontract.h"
 #include "tabel/controltabel.h"
 
 class QCheckBox;
@@ -15,6 +16,7 @@ public:
     void init() override;
     void setValue(const QVariant& value, bool emitChange) override;
     QVariant value() const override;
+    int rowKind() const override { return RowContract::Switch; }
 
 private:
     QCheckBox* m_switch;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/rowcontract.h"
 #include "tabel/optionstabel.h"
 
 class CheckBoxWidget;
@@ -17,6 +18,7 @@ public:
     void setValue(const QVariant& value, bool emitChange) override;
     /// The stored values of the checked options; invalid when none is checked.
     QVariant value() const override;
+    int rowKind() const override { return RowContract::Choices; }
 
 private:
     void boxClicked(CheckBoxWidget* clicked);

@@ -1,6 +1,7 @@
 #include "tabel/controltabel.h"
 
 #include "Protocol/ruleprotocolitem.h"
+#include "host/rowcontract.h"
 #include "tabel/plaintext.h"
 #include "tabel/titlelabel.h"
 
@@ -21,6 +22,11 @@ void ControlTabel::setValue(const QVariant&, bool) {}
 QVariant ControlTabel::value() const
 {
     return {};
+}
+
+int ControlTabel::rowKind() const
+{
+    return RowContract::None;
 }
 
 void ControlTabel::setProtocolItem(RuleProtocolItem* item)

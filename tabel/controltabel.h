@@ -15,6 +15,8 @@ class ControlTabel : public WidgetTabel, public ControlRow
 {
     Q_OBJECT
     Q_PROPERTY(bool marked READ isMarked)
+    Q_PROPERTY(int rowKind READ rowKind CONSTANT)
+    Q_PROPERTY(QVariant rowValue READ heldValue NOTIFY sgnControlValueChange)
 
 public:
     explicit ControlTabel(QWidget* parent = nullptr);
@@ -24,6 +26,10 @@ public:
     /// Shows @p value, and announces it if @p emitChange.
     virtual void setValue(const QVariant& value, bool emitChange);
     QVariant value() const override;
+
+    /// What the row is and holds for hosts, as host/rowcontract.h has it.
+    virtual int rowKind() const;
+    virtual QVariant heldValue() const { return value(); }
 
     /// Ties the row and @p item (not owned) together and calls init().
     void setProtocolItem(RuleProtocolItem* item);

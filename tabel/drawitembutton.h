@@ -14,6 +14,7 @@ class QCheckBox;
 class DrawItemButton : public QPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(int entryId READ dataId CONSTANT)
 
 public:
     /// @p id is the figure's item id, 0 without a figure; @p dataId the entry's.

@@ -123,6 +123,11 @@ QVariant InputBoxTabel::value() const
                                                     : QVariant(text.toDouble());
 }
 
+QVariant InputBoxTabel::heldValue() const
+{
+    return m_box->lineEdit()->value();
+}
+
 void InputBoxTabel::finishEdit()
 {
     m_box->lineEdit()->finishEdit();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/rowcontract.h"
 #include "tabel/controltabel.h"
 
 class InputBoxWidget;
@@ -17,6 +18,8 @@ public:
     void setValue(const QVariant& value, bool emitChange) override;
     /// The text as the item's value type; invalid while a number's edit is empty.
     QVariant value() const override;
+    int rowKind() const override { return RowContract::Text; }
+    QVariant heldValue() const override;
     void finishEdit() override;
     /// Only the edit is disabled; the caption stays readable.
     void setControlEnable(bool enable) override;

@@ -1,5 +1,6 @@
 #include "tabel/inputboxwidget.h"
 
+#include "host/rowcontract.h"
 #include "tabel/plaintext.h"
 #include "tabel/rowedit.h"
 
@@ -18,7 +19,7 @@ InputBoxWidget::InputBoxWidget(QWidget* parent)
     : QWidget(parent), m_edit(new RowEdit(this)), m_unit(new QLabel(this))
 {
     setFixedHeight(kEditHeight);
-    m_edit->setObjectName(QStringLiteral("edit"));
+    m_edit->setObjectName(QString::fromLatin1(RowContract::kEdit));
     m_edit->setFixedHeight(kEditHeight);
     m_unit->setObjectName(QStringLiteral("unit"));
     m_unit->setTextFormat(Qt::PlainText);

@@ -1,5 +1,6 @@
 #include "tabel/inputrangeedit.h"
 
+#include "host/rowcontract.h"
 #include "tabel/optionalintvalidator.h"
 #include "tabel/rowedit.h"
 
@@ -48,8 +49,8 @@ InputRangeEdit::InputRangeEdit(QWidget* parent)
       m_dash(new QLabel(QStringLiteral("-"), this))
 {
     setFixedHeight(kHeight);
-    m_minimum->setObjectName(QStringLiteral("minimum"));
-    m_maximum->setObjectName(QStringLiteral("maximum"));
+    m_minimum->setObjectName(QString::fromLatin1(RowContract::kMinimum));
+    m_maximum->setObjectName(QString::fromLatin1(RowContract::kMaximum));
     m_dash->setAlignment(Qt::AlignCenter);
     setEmptyValidator(*m_minimum);
     setEmptyValidator(*m_maximum);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/rowcontract.h"
 #include "tabel/controltabel.h"
 
 class InputRangeEdit;
@@ -16,6 +17,7 @@ public:
     /// Takes a QSize and ignores anything else.
     void setValue(const QVariant& value, bool emitChange) override;
     QVariant value() const override;
+    int rowKind() const override { return RowContract::Range; }
     void finishEdit() override;
 
 protected:

@@ -1,6 +1,7 @@
 #include "tabel/optionbox.h"
 
 #include "Protocol/enumoption.h"
+#include "host/rowcontract.h"
 #include "tabel/plaintext.h"
 
 #include <QAbstractButton>
@@ -12,7 +13,7 @@ void OptionBox::bind(QAbstractButton& box, const EnumOption& option)
     box.setText(PlainText::button(option.text));
     box.setToolTip(
         PlainText::toolTip(option.description.isEmpty() ? option.text : option.description));
-    box.setProperty("value", option.value);
+    box.setProperty(RowContract::kOption, option.value);
 }
 
 void OptionBox::elide(const QAbstractButton& box, bool isRadio, QStyleOptionButton& option)

@@ -70,6 +70,12 @@ QVariant RadioButtonTabel::value() const
     return checked->value();
 }
 
+QVariant RadioButtonTabel::heldValue() const
+{
+    const auto* checked = static_cast<const RadioButtonWidget*>(m_group->checkedButton());
+    return checked ? checked->value() : QString();
+}
+
 void RadioButtonTabel::showValue(const QVariant& value)
 {
     QAbstractButton* checked = m_group->checkedButton();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/rowcontract.h"
 #include "tabel/optionstabel.h"
 
 class QAbstractButton;
@@ -19,6 +20,8 @@ public:
     void setValue(const QVariant& value, bool emitChange) override;
     /// The checked option's stored value, an int for int items; invalid when none is checked.
     QVariant value() const override;
+    int rowKind() const override { return RowContract::Choice; }
+    QVariant heldValue() const override;
 
 protected:
     void showValue(const QVariant& value) override;

@@ -12,6 +12,7 @@
 #include "workbench/sessionscript.h"
 #include "workbench/workbenchwindow.h"
 
+#include <QAbstractButton>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
@@ -25,8 +26,6 @@ namespace
 {
 
 constexpr int kRulesResult = 996;
-/// From the first change that is in no file until it is.
-constexpr int kDelay = 2000; // milliseconds
 
 bool isOneOf(const Value& step, std::initializer_list<const char*> names)
 {
@@ -95,16 +94,19 @@ private:
     Autosave& m_autosave;
 };
 
-Autosave::Autosave(WorkbenchWindow& window, const QString& folder)
-    : m_window(window), m_file(folder)
+Autosave::Autosave(WorkbenchWindow& window, const QString& folder, int delay)
+    : m_window(window), m_finder(window.rulesWindow()), m_file(folder)
 {
     AutosaveFile::sweep(folder);
     m_left = AutosaveFile::leftBehind(folder);
     m_timer.setSingleShot(true);
-    m_timer.setInterval(kDelay);
+    m_timer.setInterval(delay);
     connect(&m_timer, &QTimer::timeout, this, &Autosave::write);
     connect(&m_window, &WorkbenchWindow::sgnMessage, this, &Autosave::takeMessage);
     connect(&m_window, &WorkbenchWindow::sgnResultKept, this, &Autosave::takeKept);
+    // The module connected its own slot before, so that this one comes after what that did.
+    connect(m_finder.windowButton(QStringLiteral("btnSave")), &QAbstractButton::clicked, this,
+            &Autosave::keepAnswered);
     auto* const recorder = new SessionRecorder(m_window, this);
     recorder->start(std::make_unique<Log>(*this));
     begin();
@@ -125,6 +127,7 @@ Autosave::~Autosave()
 void Autosave::begin()
 {
     settle();
+    m_beforeAnswer.reset();
     m_steps.clear();
     if (m_window.options().templateFile.isEmpty())
         return;
@@ -139,11 +142,25 @@ void Autosave::append(const Value& step)
 {
     if (isOneOf(step, {"load"})) {
         begin();
-    } else if (!isAnswer(step)) {
+    } else if (isAnswer(step)) {
+        m_beforeAnswer.emplace(m_finder);
+    } else {
         m_steps.push_back(step.toCompactText().toUtf8());
         if (isEdit(step))
             changed();
+        keepSoon();
     }
+}
+
+/// A save that is refused selects and unfolds the section with the reason. That is done again;
+/// the save is not.
+void Autosave::keepAnswered()
+{
+    const auto before = std::exchange(m_beforeAnswer, std::nullopt);
+    if (!before)
+        return;
+    for (const Value& step : SectionState(m_finder).stepsFrom(*before))
+        append(step);
 }
 
 void Autosave::replaceLast(const Value& step)
@@ -158,7 +175,11 @@ void Autosave::changed()
 {
     m_isUnsaved = true;
     m_isResultOld = true;
-    if (!m_timer.isActive())
+}
+
+void Autosave::keepSoon()
+{
+    if (m_isUnsaved && !m_timer.isActive())
         m_timer.start();
 }
 

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "workbench/autosavefile.h"
+#include "workbench/panelfinder.h"
+#include "workbench/sectionstate.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
 #include <memory>
+#include <optional>
 #include <vector>
 
 struct MessageRecord;
@@ -32,8 +35,11 @@ class Autosave : public QObject
     Q_OBJECT
 
 public:
+    /// From the first change that is in no file until it is.
+    static constexpr int kDelay = 2000; // milliseconds
+
     /// @p window has its rules window already; it is not owned.
-    Autosave(WorkbenchWindow& window, const QString& folder);
+    Autosave(WorkbenchWindow& window, const QString& folder, int delay = kDelay);
     /// An orderly end: the file goes, unless the result could not be written.
     ~Autosave() override;
 
@@ -45,6 +51,8 @@ private:
     void append(const Value& step);
     void replaceLast(const Value& step);
     void changed();
+    void keepSoon();
+    void keepAnswered();
     void settle();
     bool write();
     void takeMessage(const MessageRecord& message);
@@ -58,8 +66,10 @@ private:
     void discard();
 
     WorkbenchWindow& m_window;
+    PanelFinder m_finder;
     AutosaveFile m_file;
-    std::vector<QByteArray> m_steps; ///< since the load, one line each
+    std::vector<QByteArray> m_steps;            ///< since the load, one line each
+    std::optional<SectionState> m_beforeAnswer; ///< at a press of Save that is not done yet
     QTimer m_timer;
     bool m_isUnsaved = false;
     bool m_isResultOld = true;            ///< something was changed since the last result

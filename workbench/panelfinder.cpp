@@ -1,5 +1,7 @@
 #include "workbench/panelfinder.h"
 
+#include "host/rowcontract.h"
+
 #include <QAbstractButton>
 #include <QLabel>
 #include <QVariant>
@@ -9,9 +11,11 @@
 namespace
 {
 
-constexpr char kPanelClass[] = "BaseTabelScene";
-constexpr char kRowClass[] = "ControlTabel";
-constexpr char kEntryButtonClass[] = "DrawItemButton";
+/// Whether @p widget is what only widgets with the property @p name are.
+bool has(const QWidget& widget, const char* name)
+{
+    return widget.property(name).isValid();
+}
 
 bool comesBefore(const QWidget* a, const QWidget* b)
 {
@@ -20,15 +24,38 @@ bool comesBefore(const QWidget* a, const QWidget* b)
 
 } // namespace
 
+bool PanelFinder::isPanel(const QWidget& widget)
+{
+    return has(widget, RowContract::kFolded);
+}
+
+bool PanelFinder::isRow(const QWidget& widget)
+{
+    return has(widget, RowContract::kKind);
+}
+
+bool PanelFinder::isEntryButton(const QWidget& widget)
+{
+    return has(widget, RowContract::kEntryId);
+}
+
+QList<QWidget*> PanelFinder::panels() const
+{
+    QList<QWidget*> result = m_window->findChildren<QWidget*>();
+    result.erase(std::remove_if(result.begin(), result.end(),
+                                [](const QWidget* widget) { return !isPanel(*widget); }),
+                 result.end());
+    return result;
+}
+
 QWidget* PanelFinder::panel(const QString& scene) const
 {
-    for (QWidget* widget : m_window->findChildren<QWidget*>()) {
-        const bool matches =
-            scene.isEmpty() ? widget->property("selected").toBool() : widget->objectName() == scene;
-        if (matches && widget->inherits(kPanelClass))
-            return widget;
-    }
-    return nullptr;
+    const QList<QWidget*> all = panels();
+    const auto found = std::find_if(all.begin(), all.end(), [&scene](const QWidget* panel) {
+        return scene.isEmpty() ? panel->property("selected").toBool()
+                               : panel->objectName() == scene;
+    });
+    return found == all.end() ? nullptr : *found;
 }
 
 QWidget* PanelFinder::part(QWidget* panel, const QString& name) const
@@ -51,7 +78,7 @@ QList<QAbstractButton*> PanelFinder::entryButtons(QWidget* panel, bool children)
     const QString name = children ? QStringLiteral("childDrawItems") : QStringLiteral("drawItems");
     if (const QWidget* table = part(panel, name)) {
         for (QAbstractButton* button : table->findChildren<QAbstractButton*>()) {
-            if (button->inherits(kEntryButtonClass) && !button->isHidden())
+            if (isEntryButton(*button) && !button->isHidden())
                 result.append(button);
         }
     }
@@ -74,7 +101,7 @@ QAbstractButton* PanelFinder::enableBox(QWidget* panel, const QAbstractButton& b
 QWidget* PanelFinder::row(QWidget* panel, const QString& key) const
 {
     for (QWidget* widget : panel->findChildren<QWidget*>(key)) {
-        if (widget->inherits(kRowClass))
+        if (isRow(*widget))
             return widget;
     }
     return nullptr;

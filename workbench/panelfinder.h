@@ -7,14 +7,20 @@ class QAbstractButton;
 class QWidget;
 
 /**
- * Finds the widgets of the rules window by the names and properties that they carry, without
- * knowing their classes' code. Everything is null or empty when there is no such widget.
+ * Finds the widgets of the rules window by the names and properties that they carry
+ * (host/rowcontract.h), without knowing their classes. Everything is null or empty when there is no
+ * such widget.
  */
 class PanelFinder
 {
 public:
     explicit PanelFinder(QWidget* rulesWindow) : m_window(rulesWindow) {}
 
+    static bool isPanel(const QWidget& widget);
+    static bool isRow(const QWidget& widget);
+    static bool isEntryButton(const QWidget& widget);
+
+    QList<QWidget*> panels() const;
     /// The panel of a scene, by its template's name; the selected one for an empty name.
     QWidget* panel(const QString& scene) const;
     /// A part of the panel by object name.

@@ -28,11 +28,16 @@ Value step(const char* name)
     return result;
 }
 
-Value stepIn(const QWidget& panel, const char* name)
+Value stepIn(const QString& scene, const char* name)
 {
     Value result = step(name);
-    result["scene"] = panel.objectName();
+    result["scene"] = scene;
     return result;
+}
+
+Value stepIn(const QWidget& panel, const char* name)
+{
+    return stepIn(panel.objectName(), name);
 }
 
 Value pairOf(int first, int second)
@@ -48,10 +53,10 @@ int normalized(int pixel, int extent)
     return static_cast<int>(static_cast<qint64>(pixel) * kNormalizedExtent / extent);
 }
 
-QWidget* around(const QWidget& widget, const char* className)
+QWidget* around(const QWidget& widget, bool (*isWanted)(const QWidget&))
 {
     QWidget* above = widget.parentWidget();
-    while (above && !above->inherits(className))
+    while (above && !isWanted(*above))
         above = above->isWindow() ? nullptr : above->parentWidget();
     return above;
 }
@@ -120,12 +125,12 @@ Value sourceOf(const QString& source)
 
 QWidget* panelAround(const QWidget& widget)
 {
-    return around(widget, "BaseTabelScene");
+    return around(widget, &PanelFinder::isPanel);
 }
 
 QWidget* rowAround(const QWidget& widget)
 {
-    return around(widget, "ControlTabel");
+    return around(widget, &PanelFinder::isRow);
 }
 
 Value size(const QWidget& window)
@@ -158,21 +163,21 @@ Value button(const PanelFinder& finder, const QAbstractButton& button)
         return windowButton(button);
     if (rowAround(button))
         return {};
-    if (button.inherits("DrawItemButton"))
+    if (PanelFinder::isEntryButton(button))
         return pick(finder, panel, button);
     if (button.objectName() == QLatin1String("enable"))
         return enable(finder, panel, button);
     return click(*panel, button);
 }
 
-Value select(const QWidget& panel)
+Value select(const QString& scene)
 {
-    return stepIn(panel, "select");
+    return stepIn(scene, "select");
 }
 
-Value fold(const QWidget& panel, bool folded)
+Value fold(const QString& scene, bool folded)
 {
-    Value result = stepIn(panel, "fold");
+    Value result = stepIn(scene, "fold");
     result["fold"] = folded;
     return result;
 }
@@ -188,13 +193,12 @@ Value set(const QWidget& row)
 
 Value typed(const QWidget& row, const QLineEdit& edit)
 {
-    // Only the first edit of a row can be left unfinished by a session.
     const QWidget* panel = panelAround(row);
-    if (!panel || row.findChild<QLineEdit*>() != &edit)
-        return set(row);
-    Value result = stepIn(*panel, "type");
+    Value result = panel ? stepIn(*panel, "type") : step("type");
     result["key"] = row.objectName();
     result["text"] = edit.text();
+    if (row.findChild<QLineEdit*>() != &edit)
+        result["edit"] = edit.objectName();
     return result;
 }
 

@@ -30,8 +30,8 @@ Value waitForPicture();
 /// What pressing @p button does: save, cancel, pick, enable or click; null for other buttons and
 /// for those of rows. To be asked before the press takes effect on the other widgets.
 Value button(const PanelFinder& finder, const QAbstractButton& button);
-Value select(const QWidget& panel);
-Value fold(const QWidget& panel, bool folded);
+Value select(const QString& scene);
+Value fold(const QString& scene, bool folded);
 
 /// The row as it is shown now.
 Value set(const QWidget& row);

@@ -1,5 +1,6 @@
 #include "workbench/rowhand.h"
 
+#include "host/rowcontract.h"
 #include "host/value.h"
 #include "workbench/operatorhand.h"
 
@@ -18,24 +19,16 @@ using kql::Json::ValueType;
 namespace
 {
 
-enum class Kind { Input, CheckBoxes, RadioButtons, Switch, Range, None };
+using namespace RowContract;
 
-Kind kindOf(const QWidget* row)
+int kindOf(const QWidget* row)
 {
-    if (row->inherits("InputBoxTabel"))
-        return Kind::Input;
-    if (row->inherits("CheckBoxTabel"))
-        return Kind::CheckBoxes;
-    if (row->inherits("RadioButtonTabel"))
-        return Kind::RadioButtons;
-    if (row->inherits("BoolTabel"))
-        return Kind::Switch;
-    return row->inherits("InputRangeEditTabel") ? Kind::Range : Kind::None;
+    return row->property(kKind).toInt();
 }
 
 QString storedValue(const QAbstractButton* box)
 {
-    return box->property("value").toString();
+    return box->property(kOption).toString();
 }
 
 QString textOf(const Value& value)
@@ -85,40 +78,43 @@ QString setSwitch(QWidget* row, bool on)
     return box && box->isChecked() == on ? QString() : OperatorHand::click(box);
 }
 
-// The edits limit each other: a minimum above the maximum shown has to wait for its own.
-QString setRange(QWidget* row, const Value& value)
+/// An edit that shows what it is to show is left alone: typing it again could mend it.
+QString setLimit(const QWidget* row, const char* name, const Value& value)
 {
-    const char* const names[] = {"minimum", "maximum"};
-    const auto* maximum = row->findChild<QLineEdit*>(QString::fromLatin1(names[1]));
-    const bool isLimited = maximum && !maximum->text().isEmpty() && value[0].isNumeric();
-    const bool rises = isLimited && value[0].asDouble() > maximum->text().toDouble();
-    for (const int i : {rises ? 1 : 0, rises ? 0 : 1}) {
-        auto* edit = row->findChild<QLineEdit*>(QString::fromLatin1(names[i]));
-        const QString why = OperatorHand::type(edit, textOf(value[i]), true);
-        if (!why.isEmpty())
-            return why;
-    }
-    return {};
+    auto* edit = row->findChild<QLineEdit*>(QString::fromLatin1(name));
+    const bool isThere = edit && !edit->isModified() && edit->text() == textOf(value);
+    return isThere ? QString() : OperatorHand::type(edit, textOf(value), true);
 }
 
-Value shownRange(const QWidget* row)
+// Neither limit may pass the other on the way.
+QString setRange(QWidget* row, const Value& value)
+{
+    const QSize held = row->property(kValue).toSize();
+    const bool isBelow = !value[1].isNull() && value[1].asInt() < held.width();
+    QString why = isBelow ? setLimit(row, kMinimum, value[0]) : QString();
+    if (why.isEmpty())
+        why = setLimit(row, kMaximum, value[1]);
+    return why.isEmpty() && !isBelow ? setLimit(row, kMinimum, value[0]) : why;
+}
+
+Value limit(int held)
+{
+    return held < 0 ? Value() : Value(held);
+}
+
+Value list(const QStringList& texts)
 {
     Value result(ValueType::Array);
-    for (const char* name : {"minimum", "maximum"}) {
-        const auto* edit = row->findChild<QLineEdit*>(QString::fromLatin1(name));
-        const bool isEmpty = !edit || edit->text().isEmpty();
-        result.append(isEmpty ? Value() : Value(edit->text().toInt()));
-    }
+    for (const QString& text : texts)
+        result.append(text);
     return result;
 }
 
-Value shownOptions(const QWidget* row)
+Value list(const QSize& range)
 {
     Value result(ValueType::Array);
-    for (const QAbstractButton* box : row->findChildren<QAbstractButton*>()) {
-        if (box->isChecked())
-            result.append(storedValue(box));
-    }
+    result.append(limit(range.width()));
+    result.append(limit(range.height()));
     return result;
 }
 
@@ -127,48 +123,50 @@ Value shownOptions(const QWidget* row)
 QString set(QWidget* row, const Value& value)
 {
     switch (kindOf(row)) {
-    case Kind::Input:
-        return OperatorHand::type(row->findChild<QLineEdit*>(), textOf(value), true);
-    case Kind::CheckBoxes:
+    case Text:
+        return OperatorHand::type(row->findChild<QLineEdit*>(QString::fromLatin1(kEdit)),
+                                  textOf(value), true);
+    case Choices:
         return setCheckBoxes(row, value);
-    case Kind::RadioButtons:
+    case Choice:
         return setRadioButton(row, textOf(value));
-    case Kind::Switch:
+    case Switch:
         return setSwitch(row, value.asBool());
-    case Kind::Range:
+    case Range:
         return setRange(row, value);
-    case Kind::None:
+    default:
         break;
     }
     return QCoreApplication::translate("RowHand", "it is no attribute row");
 }
 
-QString type(QWidget* row, const QString& text)
+QString type(QWidget* row, const QString& text, const QString& edit)
 {
-    return OperatorHand::type(row->findChild<QLineEdit*>(), text, false);
+    return OperatorHand::type(row->findChild<QLineEdit*>(edit), text, false);
 }
 
 Value shown(const QWidget* row)
 {
+    const QVariant held = row->property(kValue);
     switch (kindOf(row)) {
-    case Kind::Input: {
-        const auto* edit = row->findChild<QLineEdit*>();
-        return edit ? Value(edit->property("value").toString()) : Value();
+    case Text:
+        return held.toString();
+    case Choices:
+        return list(held.toStringList());
+    case Choice:
+        return held.toString().isEmpty() ? Value() : Value(held.toString());
+    case Switch:
+        return held.toBool();
+    case Range:
+        return list(held.toSize());
+    default:
+        return {};
     }
-    case Kind::CheckBoxes:
-        return shownOptions(row);
-    case Kind::RadioButtons: {
-        const Value checked = shownOptions(row);
-        return checked[0];
-    }
-    case Kind::Switch:
-        return row->findChild<QAbstractButton*>()->isChecked();
-    case Kind::Range:
-        return shownRange(row);
-    case Kind::None:
-        break;
-    }
-    return {};
+}
+
+bool isKnown(const QWidget* row)
+{
+    return kindOf(row) >= Text && kindOf(row) <= Range;
 }
 
 bool isUsable(const QWidget* row)

@@ -22,10 +22,14 @@ namespace RowHand
  */
 QString set(QWidget* row, const kql::Json::Value& value);
 
-/// Types @p text into the row's first edit and leaves the edit unfinished.
-QString type(QWidget* row, const QString& text);
+/// Types @p text into the row's edit of that object name, into its first one when that is empty,
+/// and leaves the edit unfinished.
+QString type(QWidget* row, const QString& text, const QString& edit);
 
-/// What the row shows, in the form that set() takes; a text for an input box.
+/// Whether the row is of a kind that set() and shown() know.
+bool isKnown(const QWidget* row);
+
+/// What the row holds, in the form that set() takes; a text for an input box.
 kql::Json::Value shown(const QWidget* row);
 
 /// Whether an operator could change the row: some editor of it is enabled.

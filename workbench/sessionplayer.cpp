@@ -24,11 +24,13 @@ namespace
 constexpr int kNormalizedExtent = 8192;
 constexpr int kPictureTimeout = 10000; // milliseconds
 
-// The pixel whose position in 0..8192 is again n, at the size that n was recorded at.
+// The pixel whose position in 0..8192 is again n, at the size that n was recorded at. At a smaller
+// size, the last column and row stand for what would lie behind them.
 int pixelOf(int n, int extent)
 {
     const qint64 scaled = static_cast<qint64>(n) * extent;
-    return static_cast<int>((scaled + kNormalizedExtent - 1) / kNormalizedExtent);
+    const auto pixel = static_cast<int>((scaled + kNormalizedExtent - 1) / kNormalizedExtent);
+    return n <= kNormalizedExtent ? qMin(pixel, extent - 1) : pixel;
 }
 
 } // namespace
@@ -221,7 +223,7 @@ QString SessionPlayer::doType(const Value& step)
 {
     QString why;
     QWidget* row = rowOf(step, why);
-    return row ? RowHand::type(row, step["text"].asString()) : why;
+    return row ? RowHand::type(row, step["text"].asString(), step["edit"].asString()) : why;
 }
 
 QString SessionPlayer::doFold(const Value& step)

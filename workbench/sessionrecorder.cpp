@@ -1,7 +1,9 @@
 #include "workbench/sessionrecorder.h"
 
 #include "host/qrtspvideownd.h"
+#include "host/rowcontract.h"
 #include "workbench/recordedstep.h"
+#include "workbench/rowhand.h"
 #include "workbench/sessionfile.h"
 #include "workbench/workbenchwindow.h"
 
@@ -9,16 +11,38 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QLoggingCategory>
 #include <QMessageBox>
+#include <QMetaMethod>
 #include <QMouseEvent>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTimer>
 
 namespace
 {
+
+Q_LOGGING_CATEGORY(lcRecorder, "rules.workbench.recorder", QtWarningMsg)
 
 bool isQuestion(const kql::Json::Value& step)
 {
     const QString name = step["do"].asString();
     return name == QLatin1String("save") || name == QLatin1String("cancel");
+}
+
+/// Signals that belong to properties have no common signature to be connected by.
+void connectChange(QObject& from, const QMetaProperty& property, QObject& to, const char* slot)
+{
+    const QMetaObject& meta = *to.metaObject();
+    if (property.hasNotifySignal())
+        QObject::connect(&from, property.notifySignal(), &to, meta.method(meta.indexOfMethod(slot)),
+                         Qt::UniqueConnection);
+}
+
+QMetaProperty propertyOf(const QObject& object, const char* name)
+{
+    const QMetaObject& meta = *object.metaObject();
+    return meta.property(meta.indexOfProperty(name));
 }
 
 } // namespace
@@ -66,6 +90,11 @@ void SessionRecorder::watch(QWidget* widget)
     } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
         connect(edit, &QLineEdit::textEdited, this, &SessionRecorder::sltTextEdited,
                 Qt::UniqueConnection);
+    } else if (PanelFinder::isRow(*widget)) {
+        connectChange(*widget, propertyOf(*widget, RowContract::kValue), *this, "sltRowChanged()");
+    } else if (!qobject_cast<QScrollBar*>(widget)) {
+        // What edits a value has a property for it.
+        connectChange(*widget, widget->metaObject()->userProperty(), *this, "sltOtherEdited()");
     }
 }
 
@@ -84,6 +113,8 @@ bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
 
 void SessionRecorder::see(QWidget& widget, QEvent& event)
 {
+    if (event.spontaneous())
+        recordSettled();
     switch (event.type()) {
     case QEvent::Polish:
         watch(&widget);
@@ -129,9 +160,9 @@ void SessionRecorder::seePress(QWidget& widget, const QMouseEvent& event)
     if (!panel || event.type() != QEvent::MouseButtonPress)
         return;
     if (widget.objectName() == QLatin1String("mask"))
-        record(RecordedStep::select(*panel));
+        record(RecordedStep::select(panel->objectName()));
     else if (widget.objectName() == QLatin1String("titleBar"))
-        record(RecordedStep::fold(*panel, !widget.property("bFold").toBool()));
+        record(RecordedStep::fold(panel->objectName(), !widget.property("bFold").toBool()));
 }
 
 void SessionRecorder::pressPicture(const QMouseEvent& event)
@@ -158,8 +189,10 @@ void SessionRecorder::seeMove(QWidget& widget, const QMouseEvent& event)
     if (&widget != m_window.videoSurface())
         return;
     const QRect picture = m_window.videoSurface()->paneRect(0);
-    if (picture.contains(event.pos()))
-        m_move = RecordedStep::onPicture("move", event.pos(), picture);
+    if (!picture.contains(event.pos()))
+        return;
+    recordSize();
+    m_move = RecordedStep::onPicture("move", event.pos(), picture);
 }
 
 void SessionRecorder::seeKey(QWidget& widget, const QKeyEvent& event)
@@ -168,8 +201,10 @@ void SessionRecorder::seeKey(QWidget& widget, const QKeyEvent& event)
     // Focus that Qt passes on, as its widget was disabled, has the same reason as a tabulator's.
     m_isTabbing = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
     auto* edit = qobject_cast<QLineEdit*>(&widget);
+    if (!m_edited)
+        m_changedRow.clear();
     if (edit && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter))
-        finishEdit(*edit);
+        awaitEnd(*edit, true);
 }
 
 // The tabulator reaches rows of other sections, which are then selected and unfolded.
@@ -180,9 +215,9 @@ void SessionRecorder::seeTab(QWidget& widget)
         return;
     const QWidget* titleBar = m_finder.part(panel, QStringLiteral("titleBar"));
     if (titleBar && titleBar->property("bFold").toBool())
-        record(RecordedStep::fold(*panel, false));
+        record(RecordedStep::fold(panel->objectName(), false));
     else if (!panel->property("selected").toBool())
-        record(RecordedStep::select(*panel));
+        record(RecordedStep::select(panel->objectName()));
 }
 
 void SessionRecorder::seeFocusOut(QWidget& widget, Qt::FocusReason reason)
@@ -192,7 +227,7 @@ void SessionRecorder::seeFocusOut(QWidget& widget, Qt::FocusReason reason)
         if (reason == Qt::OtherFocusReason && m_typed == edit)
             m_typed.clear();
         if (reason != Qt::PopupFocusReason)
-            finishEdit(*edit);
+            awaitEnd(*edit, false);
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
         m_isReleaseClick = m_isReleaseClick && !button->isDown();
     }
@@ -201,19 +236,61 @@ void SessionRecorder::seeFocusOut(QWidget& widget, Qt::FocusReason reason)
 void SessionRecorder::sltTextEdited()
 {
     auto* edit = qobject_cast<QLineEdit*>(sender());
-    if (edit && RecordedStep::rowAround(*edit))
-        m_edited = edit;
+    const QWidget* row = RecordedStep::rowAround(*edit);
+    if (!row || !RowHand::isKnown(row))
+        sayUnrecorded(*edit);
+    else
+        beginEdit(*edit);
 }
 
-void SessionRecorder::finishEdit(QLineEdit& edit)
+void SessionRecorder::beginEdit(QLineEdit& edit)
 {
-    const bool isUnwritten = m_edited == &edit || (m_typed == &edit && edit.isModified());
-    const QWidget* row = RecordedStep::rowAround(edit);
-    if (!isUnwritten || !row)
+    if (m_edited == &edit)
         return;
-    m_edited.clear();
+    recordEdited();
+    m_edited = &edit;
+    m_isResumed = m_typed == &edit;
     m_typed.clear();
-    record(RecordedStep::set(*row));
+}
+
+// The row hears of it only after this.
+void SessionRecorder::awaitEnd(QLineEdit& edit, bool isReturn)
+{
+    const QWidget* row = RecordedStep::rowAround(edit);
+    if (!row || !RowHand::isKnown(row))
+        return;
+    if (isReturn || (m_typed == &edit && edit.isModified()))
+        beginEdit(edit);
+    m_isEnding = m_edited == &edit;
+    QTimer::singleShot(0, this, &SessionRecorder::recordSettled);
+}
+
+void SessionRecorder::sltRowChanged()
+{
+    auto* row = qobject_cast<QWidget*>(sender());
+    if (RowHand::isKnown(row))
+        m_changedRow = row;
+    else
+        sayUnrecorded(*row);
+}
+
+void SessionRecorder::sltOtherEdited()
+{
+    const auto* control = qobject_cast<QWidget*>(sender());
+    const QWidget* focused = QApplication::focusWidget();
+    if (control == focused || control->isAncestorOf(focused))
+        sayUnrecorded(*control);
+}
+
+void SessionRecorder::sayUnrecorded(const QWidget& control)
+{
+    const QString name = control.objectName().isEmpty()
+                             ? QString::fromLatin1(control.metaObject()->className())
+                             : control.objectName();
+    const QString text =
+        tr("What was changed in \"%1\" cannot be recorded, nor restored after a crash.").arg(name);
+    qCWarning(lcRecorder).noquote() << text;
+    m_window.statusBar()->showMessage(text);
 }
 
 void SessionRecorder::sltButtonReleased()
@@ -230,7 +307,7 @@ void SessionRecorder::sltButtonClicked()
 {
     const auto* button = qobject_cast<QAbstractButton*>(sender());
     const QWidget* row = button ? RecordedStep::rowAround(*button) : nullptr;
-    if (row)
+    if (row && RowHand::isKnown(row))
         record(RecordedStep::set(*row));
 }
 
@@ -253,22 +330,53 @@ void SessionRecorder::sltLoad()
     m_pictureAwaited = false;
 }
 
+void SessionRecorder::recordSettled()
+{
+    if (m_isEnding && m_edited && !m_edited->isModified())
+        recordEdited();
+}
+
+// An edit whose text was refused left nothing to do again, unless that text is written already.
+void SessionRecorder::recordEdited()
+{
+    const QPointer<QLineEdit> edit = std::exchange(m_edited, nullptr);
+    const QWidget* row = edit ? RecordedStep::rowAround(*edit) : nullptr;
+    const bool isChanged = row && (m_isResumed || m_changedRow == row);
+    m_changedRow.clear();
+    m_isEnding = false;
+    if (row && edit->isModified()) {
+        m_typed = edit;
+        recordAfterMove(RecordedStep::typed(*row, *edit));
+    } else if (isChanged) {
+        recordAfterMove(RecordedStep::set(*row));
+    }
+}
+
 void SessionRecorder::record(const Value& step)
 {
-    if (m_size != m_window.size()) {
-        m_size = m_window.size();
-        append(RecordedStep::size(m_window));
-    }
-    const QWidget* row = m_edited ? RecordedStep::rowAround(*m_edited) : nullptr;
-    if (row)
-        append(RecordedStep::typed(*row, *m_edited));
-    if (m_edited)
-        m_typed = m_edited;
-    m_edited.clear();
+    recordEdited();
+    recordAfterMove(step);
+}
+
+void SessionRecorder::recordAfterMove(const Value& step)
+{
+    recordSize();
     if (!m_move.isNull())
         append(m_move);
     m_move = Value();
     append(step);
+}
+
+void SessionRecorder::recordSize()
+{
+    if (m_size == m_window.size())
+        return;
+    // The pointer was there at the size before.
+    if (!m_move.isNull())
+        append(m_move);
+    m_move = Value();
+    m_size = m_window.size();
+    append(RecordedStep::size(m_window));
 }
 
 void SessionRecorder::append(const Value& step)

@@ -21,8 +21,9 @@ class WorkbenchWindow;
  * Writes what the operator does in a rules window as the steps of a session, so that replaying it
  * at the same window size gives the same result. It only watches: events go on as they came.
  *
- * A button's step is written before the button acts, an attribute row's when the edit is finished
- * or the option clicked. Of pointer movements only the last one before another step counts.
+ * A button's step is written before the button acts, an attribute row's when the row has taken
+ * over what was typed or clicked. What cannot be written is said in the window's status line. Of
+ * pointer movements only the last one before another step counts.
  */
 class SessionRecorder : public QObject
 {
@@ -50,6 +51,8 @@ private slots:
     void sltButtonReleased();
     void sltButtonClicked();
     void sltTextEdited();
+    void sltRowChanged();
+    void sltOtherEdited();
     void sltLoad();
 
 private:
@@ -64,10 +67,18 @@ private:
     void seeTab(QWidget& widget);
     void seeFocusOut(QWidget& widget, Qt::FocusReason reason);
     void pressPicture(const QMouseEvent& event);
-    void finishEdit(QLineEdit& edit);
+    void beginEdit(QLineEdit& edit);
+    void awaitEnd(QLineEdit& edit, bool isReturn);
+    /// Tells the operator of an edit that no step can be made of.
+    void sayUnrecorded(const QWidget& control);
 
     /// Writes what came before and is not written yet, then @p step.
     void record(const Value& step);
+    /// Writes an edit that is finished, as the row shows it now.
+    void recordSettled();
+    void recordEdited();
+    void recordAfterMove(const Value& step);
+    void recordSize();
     void append(const Value& step);
 
     WorkbenchWindow& m_window;
@@ -78,8 +89,11 @@ private:
     Value m_move;                      ///< the pointer's last movement; null when it is written
     QSize m_size;                      ///< of the window, as written
     WorkbenchOptions m_loaded;
-    QPointer<QLineEdit> m_edited; ///< typed into, and not written yet
-    QPointer<QLineEdit> m_typed;  ///< written as unfinished
+    QPointer<QLineEdit> m_edited;   ///< typed into or ended, and not written yet
+    QPointer<QLineEdit> m_typed;    ///< written as unfinished
+    QPointer<QWidget> m_changedRow; ///< took over a value in the edit that is not written yet
+    bool m_isEnding = false;        ///< Return was pressed in m_edited, or it was left
+    bool m_isResumed = false;       ///< m_edited was written as unfinished before
     bool m_pictureAwaited = false;
     bool m_isTabbing = false;
     bool m_isReleaseClick = true; ///< a button let go now was clicked, not just left

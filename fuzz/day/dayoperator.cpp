@@ -2,6 +2,7 @@
 
 #include "draw/drawscene.h"
 #include "host/qrtspvideownd.h"
+#include "host/rowcontract.h"
 #include "scene/basetabelscene.h"
 #include "tabel/controltabel.h"
 #include "workbench/recordedstep.h"
@@ -158,7 +159,7 @@ kql::Json::Value DayOperator::click()
     QList<QAbstractButton*> buttons;
     for (QAbstractButton* button : panel->findChildren<QAbstractButton*>()) {
         const bool isNamed = m_finder.part(panel, button->objectName()) == button;
-        const bool isOther = button->inherits("DrawItemButton") ||
+        const bool isOther = PanelFinder::isEntryButton(*button) ||
                              RecordedStep::rowAround(*button) ||
                              button->objectName() == QLatin1String("enable");
         if (isNamed && !isOther && canBePressed(button))
@@ -254,18 +255,19 @@ kql::Json::Value DayOperator::type()
 
 kql::Json::Value DayOperator::valueFor(const QWidget& row)
 {
-    if (row.inherits("InputBoxTabel"))
+    const int kind = row.property(RowContract::kKind).toInt();
+    if (kind == RowContract::Text)
         return text();
     const QList<QAbstractButton*> boxes = row.findChildren<QAbstractButton*>();
-    if (row.inherits("BoolTabel"))
+    if (kind == RowContract::Switch)
         return happens(50);
-    if (row.inherits("RadioButtonTabel"))
-        return oneOf(boxes)->property("value").toString();
+    if (kind == RowContract::Choice)
+        return oneOf(boxes)->property(RowContract::kOption).toString();
     Value list(ValueType::Array);
-    if (row.inherits("CheckBoxTabel")) {
+    if (kind == RowContract::Choices) {
         for (const QAbstractButton* box : boxes) {
             if (happens(40))
-                list.append(box->property("value").toString());
+                list.append(box->property(RowContract::kOption).toString());
         }
         return list;
     }

@@ -17,6 +17,7 @@
 #include "tabel/ruleitemwidgettabel.h"
 #include "workbench/workbenchwindow.h"
 
+#include <QDebug>
 #include <QLineEdit>
 #include <QRect>
 #include <algorithm>
@@ -114,6 +115,29 @@ void requireRows(const BaseTabelScene& panel, const RuleData& data)
     }
 }
 
+QString shownText(const BaseTabelScene& panel)
+{
+    QString text;
+    QDebug out(&text);
+    const RuleData& data = *panel.ruleData();
+    const DrawScene& canvas = *data.getDrawScene();
+    DrawItem* const figure = canvas.selectedItem(canvas.currentDataId());
+    out << panel.objectName() << panel.getSelected() << panel.getFold()
+        << data.indexOf(data.getSelectedDataId()) << "figure"
+        << (figure ? canvas.getItemList(BaseDrawType::None, 0).indexOf(figure) : -1);
+    for (const char* name : {"drawItems", "childDrawItems"}) {
+        for (const DrawItemButton* button : table(panel, name).buttons())
+            out << "\n   " << button->fullText() << button->isChecked() << button->isEnabled();
+    }
+    for (const ControlTabel* row : panel.findChildren<ControlTabel*>()) {
+        out << "\n   " << row->key() << row->isHidden() << row->isMarked() << row->heldValue();
+        for (const QLineEdit* edit : row->findChildren<QLineEdit*>())
+            out << edit->text() << edit->isEnabled();
+    }
+    out << '\n';
+    return text;
+}
+
 } // namespace
 
 void DayOrder::require(const WorkbenchWindow& window)
@@ -142,6 +166,14 @@ std::string DayOrder::contents(const WorkbenchWindow& window)
     for (const BaseTabelScene* panel : panelsOf(window))
         text += SceneText::of(*panel->ruleData());
     return text;
+}
+
+std::string DayOrder::shown(const WorkbenchWindow& window)
+{
+    QString text;
+    for (const BaseTabelScene* panel : panelsOf(window))
+        text += shownText(*panel);
+    return text.toStdString();
 }
 
 bool DayOrder::isEditing(const WorkbenchWindow& window)

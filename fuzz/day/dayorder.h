@@ -18,6 +18,10 @@ void require(const WorkbenchWindow& window);
 /// All entries and figures of the window's sections, as text.
 std::string contents(const WorkbenchWindow& window);
 
+/// What the sections show of them: which is selected or folded, the current entry and figure, and
+/// all rows.
+std::string shown(const WorkbenchWindow& window);
+
 /// Whether some row holds text that is not taken over yet.
 bool isEditing(const WorkbenchWindow& window);
 

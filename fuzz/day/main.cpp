@@ -1,12 +1,45 @@
 // Plays long days on the examples and says what came of them. Exit status 1: something did not
 // hold; what it was, and how to see it again, is on the standard error stream.
+#include "fuzz/day/crashedday.h"
 #include "fuzz/day/simulatedday.h"
 #include "workbench/display.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QTemporaryDir>
 #include <QTextStream>
+
+namespace
+{
+
+struct Outcome {
+    bool held;
+    QString report;
+};
+
+Outcome play(const QCommandLineParser& options, const QString& name)
+{
+    const QString example = QDir(QStringLiteral(RULES_EXAMPLES_DIR)).filePath(name);
+    const unsigned seed = options.value(QStringLiteral("seed")).toUInt();
+    const int actions = options.value(QStringLiteral("actions")).toInt();
+    if (options.isSet(QStringLiteral("crashes"))) {
+        CrashedDay day(name, seed);
+        const bool held = day.play(options.value(QStringLiteral("crashes")).toInt());
+        return {held, day.report()};
+    }
+    if (options.isSet(QStringLiteral("until-killed"))) {
+        SimulatedDay day(example, seed, options.value(QStringLiteral("until-killed")));
+        day.playUntilKilled(actions);
+        return {false, day.report()};
+    }
+    const QTemporaryDir folder;
+    SimulatedDay day(example, seed, folder.path(), options.value(QStringLiteral("source")));
+    const bool held = day.play(actions);
+    return {held, day.report()};
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -19,8 +52,15 @@ int main(int argc, char* argv[])
                         QStringLiteral("number"), QStringLiteral("300")},
                        {QStringLiteral("seed"), QStringLiteral("of the operator's choices"),
                         QStringLiteral("number"), QStringLiteral("1")},
+                       {QStringLiteral("crashes"),
+                        QStringLiteral("instead of one long day, work that is killed that often "
+                                       "and restored, on each example"),
+                        QStringLiteral("number")},
                        {QStringLiteral("source"), QStringLiteral("picture to work on"),
                         QStringLiteral("address")}});
+    QCommandLineOption untilKilled(QStringLiteral("until-killed"), {}, QStringLiteral("folder"));
+    untilKilled.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(untilKilled);
     parser.addPositionalArgument(QStringLiteral("examples"), QStringLiteral("names; none: all"));
     parser.process(application);
 
@@ -29,11 +69,9 @@ int main(int argc, char* argv[])
     if (names.isEmpty())
         names = examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     for (const QString& name : names) {
-        SimulatedDay day(examples.filePath(name), parser.value(QStringLiteral("seed")).toUInt(),
-                         parser.value(QStringLiteral("source")));
-        const bool held = day.play(parser.value(QStringLiteral("actions")).toInt());
-        QTextStream(held ? stdout : stderr) << day.report() << '\n';
-        if (!held)
+        const Outcome outcome = play(parser, name);
+        QTextStream(outcome.held ? stdout : stderr) << outcome.report << '\n';
+        if (!outcome.held)
             return 1;
     }
     return 0;

@@ -1,5 +1,6 @@
 #include "fuzz/day/simulatedday.h"
 
+#include "fuzz/day/crashedday.h"
 #include "fuzz/day/dayorder.h"
 #include "fuzz/day/savedcheck.h"
 #include "fuzz/fault.h"
@@ -10,8 +11,12 @@
 #include "host/reader.h"
 #include "plugin/cintelligentrulesuiplugin.h"
 #include "scene/basetabelscene.h"
+#include "workbench/autosave.h"
+#include "workbench/eventwait.h"
 #include "workbench/messagerecord.h"
 #include "workbench/modulehost.h"
+#include "workbench/operatorhand.h"
+#include "workbench/restorebar.h"
 #include "workbench/sessionscript.h"
 #include "workbench/workbenchwindow.h"
 
@@ -19,6 +24,8 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QLabel>
+#include <QTextStream>
 
 using Fuzz::require;
 
@@ -28,10 +35,26 @@ namespace
 constexpr QSize kPicture(1280, 720);
 constexpr int kDrawReply = 223;
 constexpr int kResult = 996;
+constexpr int kRestoreTimeout = 60000; // milliseconds
+constexpr char kKept[] = "autosave";
+constexpr char kLook[] = "look.txt";
 
 QString line(const kql::Json::Value& step)
 {
     return step.toStyledText().simplified();
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile in(path);
+    return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+QString newestIn(const QString& folder)
+{
+    const auto files =
+        QDir(folder).entryInfoList({QStringLiteral("*.jsonl")}, QDir::Files, QDir::Time);
+    return files.isEmpty() ? QString() : files.first().filePath();
 }
 
 QStringList configurations(const QDir& folder)
@@ -65,19 +88,21 @@ bool isHarmless(const kql::Json::Value& step)
 
 } // namespace
 
-SimulatedDay::SimulatedDay(const QString& example, unsigned seed, const QString& source)
+SimulatedDay::SimulatedDay(const QString& example, unsigned seed, const QString& folder,
+                           const QString& source)
     : m_example(QDir(example).dirName()),
       m_seed(seed),
+      m_folder(folder),
       m_plugin(std::make_unique<IntelligentRulesUI::CIntelligentRulesUIPlugin>())
 {
     // Screenshots go there.
-    QDir::setCurrent(m_folder.path());
+    QDir::setCurrent(m_folder);
     QImage picture(kPicture, QImage::Format_RGB32);
     picture.fill(Qt::gray);
-    picture.save(m_folder.filePath(QStringLiteral("picture.png")));
+    picture.save(file("picture.png"));
     WorkbenchOptions options;
     options.templateFile = QDir(example).filePath(QStringLiteral("template.json"));
-    options.source = source.isEmpty() ? m_folder.filePath(QStringLiteral("picture.png")) : source;
+    options.source = source.isEmpty() ? file("picture.png") : source;
     m_window = std::make_unique<WorkbenchWindow>(options);
     m_window->setReplaying(true);
     m_window->moduleHost().use(*m_plugin);
@@ -86,7 +111,7 @@ SimulatedDay::SimulatedDay(const QString& example, unsigned seed, const QString&
     m_window->show();
     m_window->activateWindow();
     SessionScript script;
-    script.folder = m_folder.path();
+    script.folder = m_folder;
     m_player = std::make_unique<SessionPlayer>(*m_window, std::move(script));
     m_operator = std::make_unique<DayOperator>(*m_window, configurations(example), seed);
     QObject::connect(m_window.get(), &WorkbenchWindow::sgnMessage, m_player.get(),
@@ -99,7 +124,13 @@ SimulatedDay::SimulatedDay(const QString& example, unsigned seed, const QString&
 SimulatedDay::~SimulatedDay()
 {
     m_player.reset();
+    m_autosave.reset();
     m_window.reset();
+}
+
+QString SimulatedDay::file(const char* name) const
+{
+    return m_folder + QLatin1Char('/') + QLatin1String(name);
 }
 
 bool SimulatedDay::play(int actions)
@@ -118,6 +149,65 @@ bool SimulatedDay::play(int actions)
     }
     m_report = summary(timer.elapsed());
     return true;
+}
+
+void SimulatedDay::playUntilKilled(int actions)
+{
+    try {
+        m_autosave = std::make_unique<Autosave>(*m_window, file(kKept), 0);
+        restore();
+        while (m_actions < actions || !canBeKilled())
+            act();
+        leaveBehind();
+    } catch (const Fuzz::Fault& fault) {
+        m_report = this->fault(fault.what());
+        return;
+    }
+    QTextStream(stdout) << (m_wasRestored ? CrashedDay::kRestored : CrashedDay::kReady) << Qt::endl;
+    QCoreApplication::exec();
+}
+
+/// Starts anew where nothing was left.
+void SimulatedDay::restore()
+{
+    const QByteArray before = contentOf(file(kLook));
+    const QPointer<RestoreBar> bar = m_window->findChild<RestoreBar*>();
+    require(bool(bar) == !before.isEmpty(),
+            bar ? "what was done is offered again" : "what was not saved is not offered");
+    if (!bar) {
+        act(m_operator->load());
+        return;
+    }
+    m_restored = QString::fromUtf8(contentOf(newestIn(file(kKept))));
+    OperatorHand::click(bar->findChild<QWidget*>(QStringLiteral("restore")));
+    const auto isDone = [&bar] { return !bar || bar->isVisible(); };
+    require(EventWait::until(kRestoreTimeout, isDone), "a restore does not end");
+    require(!bar, bar ? bar->findChild<QLabel*>()->text().toStdString() : std::string());
+    m_wasRestored = true;
+    m_window->setReplaying(true);
+    require(look() == before.toStdString(),
+            "what was\n" + before.toStdString() + "is restored as\n" + look());
+}
+
+/// Letters of an edit in progress are not kept; nor is what a client has closed.
+bool SimulatedDay::canBeKilled() const
+{
+    return !entryCounts().empty() && !DayOrder::isEditing(*m_window);
+}
+
+void SimulatedDay::leaveBehind()
+{
+    QCoreApplication::processEvents();
+    const bool isKept = !newestIn(file(kKept)).isEmpty();
+    require(isKept || DayOrder::contents(*m_window) == m_loaded, "nothing is kept");
+    QFile out(file(kLook));
+    const std::string text = isKept ? look() : std::string();
+    require(out.open(QIODevice::WriteOnly) && out.write(text.c_str()) >= 0, "cannot write");
+}
+
+std::string SimulatedDay::look() const
+{
+    return DayOrder::contents(*m_window) + DayOrder::shown(*m_window);
 }
 
 void SimulatedDay::act()
@@ -139,7 +229,9 @@ void SimulatedDay::act(const Value& step)
     DayOrder::require(*m_window);
     if (isChecked)
         requireUnchanged(step, before);
-    if (step["do"].asString() != QLatin1String("load"))
+    if (step["do"].asString() == QLatin1String("load"))
+        m_loaded = DayOrder::contents(*m_window);
+    else
         requireRoom(counts);
     takeMessages();
 }
@@ -148,6 +240,7 @@ void SimulatedDay::remember(const Value& step)
 {
     if (step["do"].asString() == QLatin1String("load")) {
         ++m_loads;
+        m_restored.clear();
         m_sinceLoad.clear();
         Value size(kql::Json::ValueType::Object);
         size["do"] = "size";
@@ -239,7 +332,7 @@ bool SimulatedDay::canBeSaved() const
 /// The last result, loaded into the window as a configuration, shows what was there.
 void SimulatedDay::readBack()
 {
-    const QString path = m_folder.filePath(QStringLiteral("saved.json"));
+    const QString path = file("saved.json");
     Value message;
     kql::Json::Reader().parse(m_saved, message);
     QFile file(path);
@@ -271,6 +364,7 @@ QString SimulatedDay::fault(const std::string& what) const
                        .arg(m_seed)
                        .arg(m_actions)
                        .arg(QString::fromStdString(what));
+    text += m_restored;
     for (const Value& step : m_sinceLoad)
         text += line(step) + '\n';
     return text;

@@ -23,6 +23,9 @@ const char kWork[] = R"({"do":"pick","scene":"rules","entry":2}
 {"do":"set","scene":"rules","key":"ruleName","value":"<b>Gate</b> 100% & 大门"}
 {"do":"wait","picture":true}
 {"do":"click","scene":"rules","object":"redraw"}
+{"do":"fold","scene":"rules","fold":true}
+{"do":"select","scene":"global"}
+{"do":"save"}
 {"do":"press","button":"left","at":[1500,1500]}
 {"do":"press","button":"left","at":[4700,1600]}
 {"do":"double","at":[4600,5100]}

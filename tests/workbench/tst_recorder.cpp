@@ -1,4 +1,5 @@
 #include "host/reader.h"
+#include "tabel/controltabel.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
 #include "workbench/boxwatcher.h"
@@ -6,7 +7,10 @@
 #include "workbench/sessionrecorder.h"
 
 #include <QLineEdit>
+#include <QSpinBox>
+#include <QStatusBar>
 
+#include <functional>
 #include <memory>
 
 using kql::Json::Value;
@@ -61,8 +65,8 @@ public:
     QPoint at(QPoint percent)
     {
         const QRect picture = surface()->paneRect(0);
-        return picture.topLeft() +
-               QPoint(picture.width() * percent.x() / 100, picture.height() * percent.y() / 100);
+        return picture.topLeft() + QPoint((picture.width() - 1) * percent.x() / 100,
+                                          (picture.height() - 1) * percent.y() / 100);
     }
     void point(QPoint percent)
     {
@@ -161,9 +165,11 @@ private slots:
         bench.type(bench.edit("rules", "ruleSize", "maximum"), QString());
         QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Backspace);
         QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Return);
+        // Refused when it is left, so there is nothing to record.
+        bench.type(bench.edit("rules", "ruleSize", "minimum"), "2147483648");
         bench.type(bench.edit("rules", "ruleSize", "maximum"), "80");
         bench.press(bench.part("rules", "ruleTrack")->findChild<QAbstractButton*>());
-        bench.type(bench.edit("rules", "ruleDwell"), "44");
+        bench.type(bench.edit("rules", "ruleSize", "maximum"), "2");
         bench.press(bench.part("global", "mask"));
         bench.type(bench.edit("global", "globalSensitivity"), "3");
         bench.press(bench.part("global", "titleBar"));
@@ -178,7 +184,7 @@ private slots:
             R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,null]})",
             R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,80]})",
             R"({"do":"set","scene":"rules","key":"ruleTrack","value":false})",
-            R"({"do":"type","scene":"rules","key":"ruleDwell","text":"44"})",
+            R"({"do":"type","scene":"rules","key":"ruleSize","text":"2","edit":"maximum"})",
             R"({"do":"select","scene":"global"})",
             R"({"do":"type","scene":"global","key":"globalSensitivity","text":"3"})",
             R"({"do":"fold","scene":"global","fold":true})",
@@ -203,8 +209,9 @@ private slots:
         bench.draw({50, 50}, Qt::RightButton);
         bench.draw({40, 40});
         bench.draw({60, 50});
+        bench.point({100, 100});
         const QRect picture = bench.surface()->paneRect(0);
-        bench.window().resize(Bench::kSize + QSize(40, 30));
+        bench.window().resize(Bench::kSize - QSize(40, 30));
         QTRY_VERIFY_WITH_TIMEOUT(bench.surface()->paneRect(0) != picture, kTryFor);
         bench.press(bench.part("rules", "redraw"));
         bench.draw({20, 30});
@@ -225,7 +232,7 @@ private slots:
         }
         QCOMPARE(kinds.join(QLatin1Char(' ')),
                  "addRule wait move press press double press press press press "
-                 "size redraw press press press press press press set set save");
+                 "move size redraw press press press press press press set set save");
         compareReplayed(Bench::example());
     }
 
@@ -314,6 +321,30 @@ private slots:
         compareRecorded({R"({"do":"cancel","answer":"No"})", load.toCompactText(),
                          R"({"do":"cancel","answer":"Yes"})"});
         compareReplayed(Bench::example());
+    }
+
+    void saysWhatItCannotRecord()
+    {
+        QVERIFY(record(Bench::example(), nullptr));
+        ControlTabel row;
+        QSpinBox control;
+        QLineEdit edit;
+        const auto change = [this](QWidget& widget, const std::function<void()>& action) {
+            m_bench->window().statusBar()->clearMessage();
+            widget.setParent(m_bench->panel("rules"));
+            widget.setObjectName("dial");
+            widget.show();
+            widget.setFocus();
+            action();
+            return m_bench->window().statusBar()->currentMessage();
+        };
+        const QString said("What was changed in \"dial\" cannot be recorded, nor restored after a "
+                           "crash.");
+        expectWarning(QRegularExpression(said));
+        QCOMPARE(change(row, [&row] { emit row.sgnControlValueChange("dial"); }), said);
+        QCOMPARE(change(control, [&control] { QTest::keyClick(&control, Qt::Key_Up); }), said);
+        QCOMPARE(change(edit, [&edit] { QTest::keyClick(&edit, Qt::Key_A); }), said);
+        QCOMPARE(recorded(), QStringList());
     }
 
     void refusesUnwritableFiles()
