@@ -144,6 +144,8 @@ void Autosave::append(const Value& step)
         begin();
     } else if (isAnswer(step)) {
         m_beforeAnswer.emplace(m_finder);
+        if (isOneOf(step, {"save"}) && m_finder.unfinishedEdit())
+            append(RecordedStep::finish());
     } else {
         m_steps.push_back(step.toCompactText().toUtf8());
         if (isEdit(step))
@@ -152,8 +154,8 @@ void Autosave::append(const Value& step)
     }
 }
 
-/// A save that is refused selects and unfolds the section with the reason. That is done again;
-/// the save is not.
+/// A save ends the edit in progress, and one that is refused selects and unfolds the section with
+/// the reason. That is done again; the save is not.
 void Autosave::keepAnswered()
 {
     const auto before = std::exchange(m_beforeAnswer, std::nullopt);

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QLineEdit>
 #include <QVariant>
 
 #include <algorithm>
@@ -105,6 +106,14 @@ QWidget* PanelFinder::row(QWidget* panel, const QString& key) const
             return widget;
     }
     return nullptr;
+}
+
+QLineEdit* PanelFinder::unfinishedEdit() const
+{
+    const auto edits = m_window->findChildren<QLineEdit*>();
+    const auto found = std::find_if(edits.begin(), edits.end(),
+                                    [](const QLineEdit* edit) { return edit->isModified(); });
+    return found == edits.end() ? nullptr : *found;
 }
 
 QAbstractButton* PanelFinder::windowButton(const QString& name) const

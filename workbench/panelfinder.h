@@ -4,6 +4,7 @@
 #include <QString>
 
 class QAbstractButton;
+class QLineEdit;
 class QWidget;
 
 /**
@@ -34,6 +35,8 @@ public:
     /// The attribute row of the panel that edits @p key.
     QWidget* row(QWidget* panel, const QString& key) const;
     /// A button of the window itself, by object name.
+    /// The edit of a row that was typed into and is not finished.
+    QLineEdit* unfinishedEdit() const;
     QAbstractButton* windowButton(const QString& name) const;
     /// The line of notices beside the window's buttons, in full.
     QString notices() const;

@@ -202,6 +202,11 @@ Value typed(const QWidget& row, const QLineEdit& edit)
     return result;
 }
 
+Value finish()
+{
+    return step("finish");
+}
+
 Value load(const WorkbenchOptions* before, const WorkbenchOptions& now)
 {
     const auto isNew = [before, &now](auto member) {

@@ -38,6 +38,9 @@ Value set(const QWidget& row);
 /// The row with @p edit left unfinished.
 Value typed(const QWidget& row, const QLineEdit& edit);
 
+/// Leaving an edit that is written as unfinished.
+Value finish();
+
 /// Loading @p now where @p before was loaded; names what differs, and the documents always.
 /// Without @p before it names everything.
 Value load(const WorkbenchOptions* before, const WorkbenchOptions& now);

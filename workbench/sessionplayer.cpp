@@ -14,8 +14,11 @@
 #include "workbench/workbenchwindow.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QHash>
+#include <QLineEdit>
 #include <QTimer>
 
 namespace
@@ -60,6 +63,7 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
         {QStringLiteral("enable"), &SessionPlayer::doEnable},
         {QStringLiteral("set"), &SessionPlayer::doSet},
         {QStringLiteral("type"), &SessionPlayer::doType},
+        {QStringLiteral("finish"), &SessionPlayer::doFinish},
         {QStringLiteral("fold"), &SessionPlayer::doFold},
         {QStringLiteral("select"), &SessionPlayer::doSelect},
         {QStringLiteral("save"), &SessionPlayer::doSave},
@@ -224,6 +228,15 @@ QString SessionPlayer::doType(const Value& step)
     QString why;
     QWidget* row = rowOf(step, why);
     return row ? RowHand::type(row, step["text"].asString(), step["edit"].asString()) : why;
+}
+
+QString SessionPlayer::doFinish(const Value&)
+{
+    // As if something else were pressed; whether the window has the focus just then is no matter.
+    QFocusEvent leave(QEvent::FocusOut, Qt::MouseFocusReason);
+    if (QLineEdit* edit = m_finder.unfinishedEdit())
+        QApplication::sendEvent(edit, &leave);
+    return {};
 }
 
 QString SessionPlayer::doFold(const Value& step)

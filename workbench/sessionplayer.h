@@ -46,6 +46,7 @@ private:
     QString doEnable(const Value& step);
     QString doSet(const Value& step);
     QString doType(const Value& step);
+    QString doFinish(const Value& step);
     QString doFold(const Value& step);
     QString doSelect(const Value& step);
     QString doSave(const Value& step);

@@ -336,12 +336,12 @@ void SessionRecorder::recordSettled()
         recordEdited();
 }
 
-// An edit whose text was refused left nothing to do again, unless that text is written already.
+// An edit whose text was refused left nothing to do again, but to end it if it is written already.
 void SessionRecorder::recordEdited()
 {
     const QPointer<QLineEdit> edit = std::exchange(m_edited, nullptr);
     const QWidget* row = edit ? RecordedStep::rowAround(*edit) : nullptr;
-    const bool isChanged = row && (m_isResumed || m_changedRow == row);
+    const bool isChanged = row && m_changedRow == row;
     m_changedRow.clear();
     m_isEnding = false;
     if (row && edit->isModified()) {
@@ -349,6 +349,8 @@ void SessionRecorder::recordEdited()
         recordAfterMove(RecordedStep::typed(*row, *edit));
     } else if (isChanged) {
         recordAfterMove(RecordedStep::set(*row));
+    } else if (row && m_isResumed) {
+        recordAfterMove(RecordedStep::finish());
     }
 }
 

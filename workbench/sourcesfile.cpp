@@ -2,11 +2,9 @@
 
 #include "host/wholefile.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
-#include <QTemporaryDir>
 
 namespace
 {
@@ -21,23 +19,26 @@ const auto kAddress = QStringLiteral("address");
 const auto kRecent = QStringLiteral("recent");
 const auto kRemember = QStringLiteral("rememberLogins");
 
-/// False when it cannot all be written.
-bool store(const SourcesFile& content, const QString& path)
+bool isHexDigit(QChar c)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    settings.setValue(kRecent, content.recent);
-    settings.setValue(kRemember, content.remembersLogins);
-    settings.beginWriteArray(kSources, content.addresses.size());
-    int index = 0;
-    for (auto i = content.addresses.begin(); i != content.addresses.end(); ++i) {
-        settings.setArrayIndex(index++);
-        settings.setValue(kChannel, i.key());
-        settings.setValue(kAddress, i.value());
+    return QStringLiteral("0123456789abcdefABCDEF").contains(c);
+}
+
+/// As QSettings reads it: a digit after an escaped character would count as a part of it.
+QString quoted(const QString& text)
+{
+    QString result(QLatin1Char('"'));
+    bool isAfterEscape = false;
+    for (const QChar c : text) {
+        isAfterEscape = c < QLatin1Char(' ') || (isAfterEscape && isHexDigit(c));
+        if (isAfterEscape)
+            result += QStringLiteral("\\x") + QString::number(c.unicode(), 16);
+        else if (c == QLatin1Char('"') || c == QLatin1Char('\\'))
+            result += QLatin1Char('\\') + QString(c);
+        else
+            result += c;
     }
-    settings.endArray();
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+    return result + QLatin1Char('"');
 }
 
 } // namespace
@@ -61,17 +62,22 @@ void SourcesFile::read(const QString& path)
     remembersLogins = settings.value(kRemember).toBool();
 }
 
-// Written elsewhere first: on a full disk settings replace their own file by an empty one.
+// Not by QSettings, which replaces the old file by an empty one when its lock took the last room.
 bool SourcesFile::write(const QString& path, QString& error) const
 {
-    const QTemporaryDir folder; // which only this user can enter
-    QFile draft(folder.filePath(QStringLiteral("sources.ini")));
-    if (!folder.isValid() || !store(*this, draft.fileName()) || !draft.open(QIODevice::ReadOnly)) {
-        error =
-            QCoreApplication::translate("SourcesFile", "%1: no room for it; the old file stands")
-                .arg(path);
-        return false;
+    QStringList texts;
+    for (const QString& source : recent)
+        texts.append(quoted(source));
+    QString content = QStringLiteral("[General]\n%1=%2\n%3=%4\n\n[%5]\nsize=%6\n")
+                          .arg(kRecent, texts.join(QStringLiteral(", ")), kRemember,
+                               QVariant(remembersLogins).toString(), kSources,
+                               QString::number(addresses.size()));
+    int number = 0;
+    for (auto i = addresses.begin(); i != addresses.end(); ++i) {
+        const QString start = QString::number(++number) + QLatin1Char('\\');
+        content += start + kChannel + QLatin1Char('=') + quoted(i.key()) + QLatin1Char('\n') +
+                   start + kAddress + QLatin1Char('=') + quoted(i.value()) + QLatin1Char('\n');
     }
     QDir().mkpath(QFileInfo(path).absolutePath());
-    return UICommonMdl::WholeFile::write(path, draft.readAll(), error, kOwnerOnly);
+    return UICommonMdl::WholeFile::write(path, content.toUtf8(), error, kOwnerOnly);
 }
