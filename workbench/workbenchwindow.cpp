@@ -313,8 +313,9 @@ void WorkbenchWindow::writeResult()
 
 QString WorkbenchWindow::resultText() const
 {
+    // The trouble stands beside it, for longer.
     if (!m_resultError.isEmpty())
-        return m_resultError;
+        return {};
     if (!m_exited)
         return tr("Saved");
     return m_hasSaved ? tr("Left without saving what was changed since")
