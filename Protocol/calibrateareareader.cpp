@@ -69,10 +69,9 @@ void readEntry(CalibrateAreaData& data, const Value& json, int index)
     entry->setSourceIndex(index);
     const DrawItem* area = readArea(data, json, *entry);
     const Value* staffs = dataTemplate.verticalStaffItem()->path().readPath(json);
-    if (staffs && staffs->isArray()) {
+    if (staffs && staffs->isArray())
         readStaffs(data, *staffs, *entry, area);
-        readLengths(dataTemplate, *staffs, *entry);
-    }
+    readLengths(dataTemplate, staffs ? *staffs : Value(), *entry);
     data.addDataInfo(std::move(entry));
 }
 

@@ -49,7 +49,8 @@ private:
     void writeMethod(const Pass& pass) const;
     void writeStaffs(const Pass& pass) const;
     Value drawnStaffs(const Pass& pass, const Value& prototype) const;
-    Value derivedStaffs(const Pass& pass, const Value& prototype) const;
+    void deriveStaffs(const Pass& pass, const Value& prototype, Value& staffs) const;
+    bool hasStaff(const Value& staffs, int kind) const;
     bool isDrawnHere(const Pass& pass) const;
     Value staffLength(const Pass& pass, int kind, const DrawItem& staff) const;
     const JsonPath& staffsPath() const { return m_template.verticalStaffItem()->path(); }
@@ -137,8 +138,8 @@ void AreaWriter::writeStaffs(const Pass& pass) const
     const Value* first = EntryList::object(EntryList::getJsonItemList(skeleton), 0);
     const Value prototype = first ? *first : Value(kql::Json::ValueType::Object);
     Value staffs = drawnStaffs(pass, prototype);
-    if (staffs.empty() && m_template.isLaneMethod() && isDrawnHere(pass))
-        staffs = derivedStaffs(pass, prototype);
+    if (m_template.isLaneMethod())
+        deriveStaffs(pass, prototype, staffs);
     if (staffs.empty() && !skeleton)
         return;
     if (Value* target = staffsPath().create(pass.json))
@@ -161,19 +162,29 @@ Value AreaWriter::drawnStaffs(const Pass& pass, const Value& prototype) const
 }
 
 /// An area of known size needs no drawn staffs: its first two edges are its length and width.
-Value AreaWriter::derivedStaffs(const Pass& pass, const Value& prototype) const
+void AreaWriter::deriveStaffs(const Pass& pass, const Value& prototype, Value& staffs) const
 {
-    Value staffs(kql::Json::ValueType::Array);
-    const auto corners = area(pass.entry)->getPoints();
+    const DrawItem* const figure = area(pass.entry);
+    const QVector<QPoint> corners = figure ? figure->getPoints() : QVector<QPoint>();
+    const bool isNew = isDrawnHere(pass);
     for (int i = 0; i < m_kinds.size() && i + 1 < corners.size(); ++i) {
         const QVariant length = pass.entry.value(m_kinds[i].length->key());
-        if (length.isValid())
+        const bool isEntered = length.isValid() && (isNew || length != pass.lengthsAsRead[i]);
+        if (isEntered && !hasStaff(staffs, i))
             staffs.append(writeStaff(
                 prototype, m_kinds[i].type,
                 ValueConversion::numberLike(length.toDouble(), prototype[ConfigMember::kLength]),
                 {corners[i], corners[i + 1]}));
     }
-    return staffs;
+}
+
+bool AreaWriter::hasStaff(const Value& staffs, int kind) const
+{
+    for (int i = 0; i < staffs.size(); ++i) {
+        if (CalibrateStaffs::kindOf(staffs[i], m_kinds) == kind)
+            return true;
+    }
+    return false;
 }
 
 /// Whether the entry has an area that is not the one it was read with.

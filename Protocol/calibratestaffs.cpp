@@ -10,10 +10,11 @@ using kql::Json::Value;
 
 QVector<CalibrateStaffs::Kind> CalibrateStaffs::kinds(const CalibrateAreaTemplate& dataTemplate)
 {
+    const bool isDrawn = dataTemplate.isSceneMethod();
     return {{ConfigMember::kVertical, dataTemplate.verticalStaffItem(),
-             dataTemplate.verticalLengthItem()},
+             dataTemplate.verticalLengthItem(), isDrawn},
             {ConfigMember::kHorizontal, dataTemplate.horizontalStaffItem(),
-             dataTemplate.horizontalLengthItem()}};
+             dataTemplate.horizontalLengthItem(), isDrawn}};
 }
 
 int CalibrateStaffs::kindOf(const Value& staff, const QVector<Kind>& kinds)
@@ -37,6 +38,7 @@ QVector<QPoint> CalibrateStaffs::points(const Value& staff)
 
 QVariant CalibrateStaffs::shownLength(const Value& staffs, const Kind& kind)
 {
+    bool isSent = kind.isDrawn;
     bool isReadable = true;
     for (int i = 0; staffs.isArray() && i < staffs.size(); ++i) {
         const Value& length = staffs[i][ConfigMember::kLength];
@@ -44,9 +46,10 @@ QVariant CalibrateStaffs::shownLength(const Value& staffs, const Kind& kind)
             continue;
         if (length.isNumeric())
             return length.asDouble();
+        isSent = true;
         isReadable = isReadable && length.isNull();
     }
-    return isReadable ? kind.length->defaultValue() : QVariant();
+    return isSent && isReadable ? kind.length->defaultValue() : QVariant();
 }
 
 void CalibrateStaffs::takeSampleLengths(CalibrateAreaTemplate& dataTemplate, const Value& skeleton)

@@ -24,6 +24,7 @@ struct Kind {
     std::string_view type;
     const RuleProtocolItem* staff;
     const RuleProtocolItem* length;
+    bool isDrawn; ///< rather than taken from the area's edges
 };
 
 /// Vertical and horizontal.
@@ -36,7 +37,8 @@ int kindOf(const kql::Json::Value& staff, const QVector<Kind>& kinds);
 QVector<QPoint> points(const kql::Json::Value& staff);
 
 /// The length that is shown for all staffs of @p kind in @p staffs, in metres: the first one's;
-/// the default where none has a length, and invalid where what they have are no numbers.
+/// the default where none has a length or all are to be drawn still, invalid where what they have
+/// are no numbers or there is no staff to be sent.
 QVariant shownLength(const kql::Json::Value& staffs, const Kind& kind);
 
 /// Makes the lengths in @p skeleton, the list of staffs that new ones are made from, the defaults

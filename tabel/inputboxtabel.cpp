@@ -73,9 +73,8 @@ bool InputBoxTabel::isForNumbers() const
 
 void InputBoxTabel::showRefusal()
 {
-    const RuleProtocolItem* item = protocolItem();
-    const bool isRefusing = item && m_box->lineEdit()->isRefusing();
-    setRefusal(isRefusing ? NumberTip::refusal(NumberTip::of(*item)) : QString());
+    const bool isRefusing = isForNumbers() && m_box->lineEdit()->isRefusing();
+    setRefusal(isRefusing ? NumberTip::refusal(NumberTip::of(*protocolItem())) : QString());
 }
 
 QValidator* InputBoxTabel::createIntValidator() const

@@ -7,6 +7,7 @@
 #include <QDoubleValidator>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <cmath>
@@ -118,6 +119,17 @@ void RowEdit::inputMethodEvent(QInputMethodEvent* event)
         enter(committed);
     }
     QLineEdit::inputMethodEvent(event);
+}
+
+void RowEdit::dropEvent(QDropEvent* event)
+{
+    if (!isForNumbers() || event->source() == this) {
+        QLineEdit::dropEvent(event);
+        return;
+    }
+    setCursorPosition(cursorPositionAt(event->pos()));
+    enterPasted(event->mimeData()->text());
+    event->acceptProposedAction();
 }
 
 void RowEdit::enterPasted(const QString& text)

@@ -387,6 +387,19 @@ private slots:
         check(R"("Scene", "defaultHeight": 3.5)", "{}", {"3.5", ""},
               "Area1 has no horizontal length.");
         check(R"("Lane")", both, {"", ""}, "Area1 has no length. Area1 has no width.");
+
+        // Read without a staff, a lane's area shows no length that is not sent, but sends the
+        // one that is entered then.
+        const Load lane(makeTemplate(R"("calibrateArea": {"parent": "C", "method": "Lane",
+                                         "defaultWidth": 3, "defaultHeight": 9.5})",
+                                     {}, "{}"),
+                        R"({"C": [{"Area": [[1, 1], [2, 2], [3, 1]], "Method": "Lane"}]})");
+        QVERIFY(!json(lane.written())["C"][0].isMember("Staffs"));
+        QVERIFY(lane.parser.notices().contains("Area1 has no width."));
+        lane.entry().setValue("calibrateAreaHorizontal", 4.5);
+        QCOMPARE(json(lane.written())["C"][0]["Staffs"],
+                 json(R"([{"Type": "Horizontal", "Length": 4.5, "Start": [2, 2],
+                           "End": [3, 1]}])"));
     }
 
     void detectionEdits()
