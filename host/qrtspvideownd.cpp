@@ -475,6 +475,7 @@ void QRtspVideoWnd::placeTryAgain()
         return;
     const QRect words = statusRect();
     const QRect picture = paneRect(selectedPane());
+    m_tryAgain->ensurePolished();
     QRect place({}, m_tryAgain->sizeHint());
     if (picture.isEmpty())
         place.moveCenter({words.center().x(), words.bottom() + kTextMargin + place.height() / 2});
