@@ -393,6 +393,13 @@ void QRtspVideoWnd::mouseMoveEvent(QMouseEvent* event)
     emit SignalMoveEvent(&move);
 }
 
+bool QRtspVideoWnd::event(QEvent* event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange)
+        m_tryAgain->setAttribute(Qt::WA_TransparentForMouseEvents, property("drawing").toBool());
+    return QWidget::event(event);
+}
+
 void QRtspVideoWnd::paintEvent(QPaintEvent*)
 {
     {

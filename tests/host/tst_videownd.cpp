@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -285,6 +286,11 @@ private slots:
         g_fake->lose(QStringLiteral("Camera is gone"));
         for (const char* part : {"Camera is gone", "Last picture: "})
             QVERIFY2(surface.window.statusText().contains(QLatin1String(part)), part);
+        const auto* const again = surface.window.findChild<QPushButton*>("tryAgain");
+        for (const bool drawing : {true, false}) {
+            surface.window.setProperty("drawing", drawing);
+            QCOMPARE(surface.window.childAt(again->geometry().center()) == again, !drawing);
+        }
         surface.send(QEvent::MouseButtonPress, {5, 5});
         QCOMPARE(surface.log.size(), 1);
         surface.window.grab();
