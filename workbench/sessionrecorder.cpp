@@ -261,7 +261,6 @@ void SessionRecorder::awaitEnd(QLineEdit& edit, bool isReturn)
         return;
     if (isReturn || (m_typed == &edit && edit.isModified()))
         beginEdit(edit);
-    m_isEnding = m_edited == &edit;
     QTimer::singleShot(0, this, &SessionRecorder::recordSettled);
 }
 
@@ -332,7 +331,7 @@ void SessionRecorder::sltLoad()
 
 void SessionRecorder::recordSettled()
 {
-    if (m_isEnding && m_edited && !m_edited->isModified())
+    if (m_edited && !m_edited->isModified())
         recordEdited();
 }
 
@@ -343,12 +342,14 @@ void SessionRecorder::recordEdited()
     const QWidget* row = edit ? RecordedStep::rowAround(*edit) : nullptr;
     const bool isChanged = row && m_changedRow == row;
     m_changedRow.clear();
-    m_isEnding = false;
     if (row && edit->isModified()) {
         m_typed = edit;
         recordAfterMove(RecordedStep::typed(*row, *edit));
     } else if (isChanged) {
-        recordAfterMove(RecordedStep::set(*row));
+        // What was cut down to the maximum while it was typed is taken over again when it ends.
+        const Value set = RecordedStep::set(*row);
+        if (!(set == m_last))
+            recordAfterMove(set);
     } else if (row && m_isResumed) {
         recordAfterMove(RecordedStep::finish());
     }

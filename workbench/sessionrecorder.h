@@ -92,7 +92,6 @@ private:
     QPointer<QLineEdit> m_edited;   ///< typed into or ended, and not written yet
     QPointer<QLineEdit> m_typed;    ///< written as unfinished
     QPointer<QWidget> m_changedRow; ///< took over a value in the edit that is not written yet
-    bool m_isEnding = false;        ///< Return was pressed in m_edited, or it was left
     bool m_isResumed = false;       ///< m_edited was written as unfinished before
     bool m_pictureAwaited = false;
     bool m_isTabbing = false;
