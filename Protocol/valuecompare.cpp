@@ -1,6 +1,7 @@
 #include "Protocol/valuecompare.h"
 
 #include <QVariant>
+#include <cmath>
 #include <optional>
 
 namespace
@@ -27,7 +28,8 @@ std::optional<double> toNumber(const QVariant& value)
 {
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    return isNumber ? std::optional<double>(number) : std::nullopt;
+    // Qt takes "nan" and "inf" for numbers, which have no order or no end.
+    return isNumber && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
 }
 
 /// Below, at or above 0 as @p first is before, equal to or behind @p second; nothing when the

@@ -134,9 +134,9 @@ bool Value::operator==(const Value& other) const
 
 ValueType Value::type() const noexcept
 {
-    constexpr ValueType kTypes[] = {ValueType::Null,  ValueType::Bool,   ValueType::Int,
-                                    ValueType::Real,  ValueType::String, ValueType::String,
-                                    ValueType::Array, ValueType::Object};
+    constexpr ValueType kTypes[] = {ValueType::Null,   ValueType::Bool, ValueType::Int,
+                                    ValueType::Int,    ValueType::Real, ValueType::String,
+                                    ValueType::String, ValueType::Array, ValueType::Object};
     return kTypes[int(m_bytes.kind)];
 }
 
@@ -271,6 +271,8 @@ qint64 Value::asInt64() const
     switch (m_bytes.kind) {
     case Kind::Int:
         return load<qint64>();
+    case Kind::LargeInt:
+        return std::numeric_limits<qint64>::max();
     case Kind::Real:
         return truncated(load<double>());
     case Kind::Bool:
@@ -282,6 +284,8 @@ qint64 Value::asInt64() const
 
 double Value::asDouble() const
 {
+    if (m_bytes.kind == Kind::LargeInt)
+        return double(load<quint64>());
     return m_bytes.kind == Kind::Real ? load<double>() : double(asInt64());
 }
 

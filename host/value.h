@@ -37,6 +37,7 @@ public:
     Value(bool value) noexcept { store(Kind::Bool, value); }
     Value(int value) noexcept { store(Kind::Int, qint64(value)); }
     Value(qint64 value) noexcept { store(Kind::Int, value); }
+    Value(quint64 value) noexcept { store(value >> 63 ? Kind::LargeInt : Kind::Int, value); }
     Value(double value) noexcept { store(Kind::Real, value); }
     Value(const QString& text);
     Value(std::string_view utf8) { assignText(utf8); }
@@ -63,7 +64,11 @@ public:
     ValueType type() const noexcept;
     bool isNull() const noexcept { return m_bytes.kind == Kind::Null; }
     bool isBool() const noexcept { return m_bytes.kind == Kind::Bool; }
-    bool isInt() const noexcept { return m_bytes.kind == Kind::Int; }
+    /// From -2^63 to 2^64-1; larger numbers are of the kind Real.
+    bool isInt() const noexcept
+    {
+        return m_bytes.kind == Kind::Int || m_bytes.kind == Kind::LargeInt;
+    }
     /// True for the kind Real alone; isNumeric() asks for either kind of number.
     bool isDouble() const noexcept { return m_bytes.kind == Kind::Real; }
     bool isNumeric() const noexcept { return isInt() || isDouble(); }
@@ -137,7 +142,17 @@ private:
     friend class ValueWriter;
     friend struct MemberBlock;
 
-    enum class Kind : unsigned char { Null, Bool, Int, Real, ShortText, LongText, Array, Object };
+    enum class Kind : unsigned char {
+        Null,
+        Bool,
+        Int,
+        LargeInt, ///< from 2^63
+        Real,
+        ShortText,
+        LongText,
+        Array,
+        Object
+    };
     static constexpr std::size_t kShortText = 14;
     // Of an array, behind the pointer to its elements.
     static constexpr std::size_t kSizeAt = 8;

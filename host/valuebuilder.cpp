@@ -34,6 +34,10 @@ bool ValueBuilder::RawNumber(const char* text, unsigned length, bool)
     const auto [stop, error] = std::from_chars(text, end, whole);
     if (stop == end && error == std::errc())
         return add(whole);
+    quint64 large = 0;
+    const auto [largeStop, largeError] = std::from_chars(text, end, large);
+    if (largeStop == end && largeError == std::errc())
+        return add(large);
     return addReal({text, length});
 }
 

@@ -35,6 +35,9 @@ public:
         case Value::Kind::Int:
             m_writer.Int64(value.load<qint64>());
             break;
+        case Value::Kind::LargeInt:
+            m_writer.Uint64(value.load<quint64>());
+            break;
         case Value::Kind::Real:
             writeReal(value.load<double>());
             break;

@@ -129,6 +129,8 @@ private slots:
             QCOMPARE(again.toStyledString(), written);
             QCOMPARE(parsed(value.toCompactText().toUtf8()), value);
         }
+        for (const char* text : {"9223372036854775808", "18446744073709551615"})
+            QCOMPARE(parsed(text).toCompactText(), QString(text));
     }
 
     void acceptsCommentsMarkAndDepth()
