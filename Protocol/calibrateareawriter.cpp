@@ -30,7 +30,7 @@ class AreaWriter
 public:
     AreaWriter(const CalibrateAreaData& data, const WriteContext& context);
 
-    Value emptyEntry() const { return m_writer.emptyEntry(); }
+    Value prototype(const Value* skeleton) const { return m_writer.prototype(skeleton); }
     void write(const RuleDataInfo& entry, Value& json) const;
 
 private:
@@ -216,7 +216,7 @@ bool CalibrateAreaWriter::writeCalibrateAreaData(const CalibrateAreaData& data,
 {
     EntryTarget target(document, data.getTemplate()->parent());
     const AreaWriter writer(data, context);
-    const Value prototype = target.prototype() ? *target.prototype() : writer.emptyEntry();
+    const Value prototype = writer.prototype(target.prototype());
     std::vector<Value> entries;
     for (const auto& entry : data.getAllData()) {
         Value json = prototype;

@@ -75,7 +75,7 @@ bool DetectionWriter::writeDetection(const RuleData& data, const WriteContext& c
 {
     EntryTarget target(document, data.getTemplate()->parent());
     const EntryWriter writer(data, data.getTemplate()->name());
-    const Value prototype = target.prototype() ? *target.prototype() : writer.emptyEntry();
+    const Value prototype = writer.prototype(target.prototype());
     const JsonPath parent(data.getTemplate()->parent());
     const Shapes shapes(target.skeleton(), parent.probe(context.configuration));
     std::vector<Value> entries;

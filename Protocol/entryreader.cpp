@@ -39,6 +39,22 @@ QVector<QPoint> directionPoints(const Value& json)
     return points ? PointConversion::toPoints(*points) : QVector<QPoint>();
 }
 
+void readName(const Value& name, RuleDataInfo& entry)
+{
+    const std::optional<QString> text = ValueConversion::toText(name);
+    entry.setName(text.value_or(QString()));
+    if (!text && !name.isNull())
+        entry.keepNameAsRead(name);
+}
+
+void readEnabled(const Value& enabled, RuleDataInfo& entry)
+{
+    const bool isSwitch = enabled.isBool() || enabled.isNumeric();
+    entry.setEnabled(!isSwitch || enabled.asBool());
+    if (!isSwitch && !enabled.isNull())
+        entry.keepEnabledAsRead(enabled);
+}
+
 } // namespace
 
 EntryReader::EntryReader(RuleData& data, const QString& section, const EntryReader* before)
@@ -73,9 +89,8 @@ void EntryReader::read(const Value& json, RuleDataInfo& entry, const DrawItem* p
 void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawItem* parent) const
 {
     read(json, entry, parent);
-    entry.setName(json[ConfigMember::kName].asString());
-    if (const Value* enabled = json.find(ConfigMember::kEnable))
-        entry.setEnabled(enabled->asBool());
+    readName(json[ConfigMember::kName], entry);
+    readEnabled(json[ConfigMember::kEnable], entry);
 }
 
 void EntryReader::parseJsonToDataItem(const Source& source, const Value& json, RuleDataInfo& entry,
@@ -85,10 +100,23 @@ void EntryReader::parseJsonToDataItem(const Source& source, const Value& json, R
         return; // all is dropped in the end
     const RuleProtocolItem& item = *source.item;
     const Value* found = item.path().readPath(json);
-    if (!item.isFigure())
-        entry.setValue(source.key, found ? parseValue(item, *found) : QVariant());
+    if (!item.isFigure() && found)
+        readValue(source, *found, entry);
+    else if (!item.isFigure())
+        entry.setValue(source.key, QVariant());
     else if (found && found->isArray())
         addFigure(item, json, PointConversion::toPoints(*found), entry, parent);
+}
+
+void EntryReader::readValue(const Source& source, const Value& found, RuleDataInfo& entry) const
+{
+    const RuleProtocolItem& item = *source.item;
+    entry.setValue(source.key, parseValue(item, found));
+    if (ValueConversion::isReadWhole(found, item))
+        return;
+    const Value& json = ValueConversion::element(found, item);
+    if (m_data.takeRoom(json.styledLength()))
+        entry.keepAsRead(source.key, json);
 }
 
 QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& found) const

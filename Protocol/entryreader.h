@@ -47,6 +47,7 @@ private:
     void makeBlank(const RuleData& data);
     void parseJsonToDataItem(const Source& source, const kql::Json::Value& json,
                              RuleDataInfo& entry, const DrawItem* parent) const;
+    void readValue(const Source& source, const kql::Json::Value& found, RuleDataInfo& entry) const;
     QVariant parseValue(const RuleProtocolItem& item, const kql::Json::Value& found) const;
     void addFigure(const RuleProtocolItem& item, const kql::Json::Value& json,
                    const QVector<QPoint>& points, const RuleDataInfo& entry,

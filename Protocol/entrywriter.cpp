@@ -112,6 +112,20 @@ void EntryWriter::listElements()
     });
 }
 
+Value EntryWriter::prototype(const Value* skeleton) const
+{
+    if (!skeleton)
+        return emptyEntry();
+    Value entry = *skeleton;
+    ElementMaker elements;
+    for (const Target& target : m_elements) {
+        Value* field = target.item->path().probe(entry);
+        if (field && field->isArray())
+            elements.make(*field, target.item->index());
+    }
+    return entry;
+}
+
 Value EntryWriter::emptyEntry() const
 {
     Value entry(kql::Json::ValueType::Object);
@@ -131,6 +145,7 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
     ElementMaker elements;
     const Pass pass{entry, asRead, json, elements};
     makeElements(pass);
+    writeAsRead(pass);
     // The rows that the operator sees win: they go last, and what they write in whole is not
     // written before, which might leave the place in a shape that they do not fit.
     const HiddenItems hidden = Validity::hiddenItems(m_template, entry);
@@ -194,31 +209,56 @@ void EntryWriter::makeElements(const Pass& pass) const
     }
 }
 
+/// Goes before all else, so that what was edited since wins where attributes share a place.
+void EntryWriter::writeAsRead(const Pass& pass) const
+{
+    for (const Target& target : m_targets) {
+        const Value* kept = pass.entry.asRead(target.key);
+        if (!kept || target.item->isFigure())
+            continue;
+        const JsonPath& path = target.item->path();
+        Value* field = path.readPath(pass.json);
+        if (!field && path.isPlainName())
+            field = &pass.json[path.parts().front().name];
+        Value* place = field ? ValueConversion::element(*field, *target.item) : nullptr;
+        if (place)
+            *place = *kept;
+    }
+}
+
 void EntryWriter::writeItem(const Target& target, const Pass& pass) const
 {
     if (target.item->isFigure())
         writeFigure(*target.item, pass);
-    else
+    else if (!pass.entry.asRead(target.key))
         writeValueToJson(target, pass);
 }
 
 void EntryWriter::writeValueToJson(const Target& source, const Pass& pass)
 {
     const RuleProtocolItem& item = *source.item;
-    const QVariant& value = pass.entry.value(source.key);
-    const bool needsSource =
-        pass.asRead && (item.valueType() == ValueType::Float || item.index() >= 0);
-    const Value* asRead = needsSource ? item.path().probe(*pass.asRead) : nullptr;
     if (Value* target = item.path().readPath(pass.json)) {
-        ValueConversion::toJson(value, item, *target, asRead);
+        putValue(source, pass, *target);
         return;
     }
     if (!item.path().isPlainName())
         return;
     Value created;
-    ValueConversion::toJson(value, item, created, asRead);
+    putValue(source, pass, created);
     if (!created.isNull())
         pass.json[item.path().parts().front().name] = std::move(created);
+}
+
+void EntryWriter::putValue(const Target& source, const Pass& pass, Value& field)
+{
+    const RuleProtocolItem& item = *source.item;
+    const QVariant& value = pass.entry.value(source.key);
+    const bool needsSource = !value.isValid() || item.valueType() == ValueType::Float;
+    const Value* asRead = pass.asRead && needsSource ? item.path().probe(*pass.asRead) : nullptr;
+    if (!value.isValid() && pass.entry.sourceIndex() >= 0 &&
+        (!asRead || ValueConversion::element(*asRead, item).isNull()))
+        return; // not even a list is emptied for what the configuration lacks
+    ValueConversion::toJson(value, item, field, asRead);
 }
 
 void EntryWriter::writeFigure(const RuleProtocolItem& item, const Pass& pass) const

@@ -24,7 +24,10 @@ public:
     /// Writes the items of @p data's template that belong to @p section. Nothing is owned.
     EntryWriter(const RuleData& data, const QString& section);
 
-    /// An object in which every item's path exists, for skeletons without an entry.
+    /// What every entry starts as: @p skeleton with as many elements in its lists as items are
+    /// elements of them, or without one an object in which every item's path exists.
+    kql::Json::Value prototype(const kql::Json::Value* skeleton) const;
+    /// The latter.
     kql::Json::Value emptyEntry() const;
 
     /// Writes @p entry into @p json; @p asRead is the object that it was read from, if any.
@@ -49,8 +52,10 @@ private:
     void makeElements(const Pass& pass) const;
     static Place placeOf(const Target& target, const kql::Json::Value& json);
     std::set<Place> placesInSight(const Pass& pass, const HiddenItems& hidden) const;
+    void writeAsRead(const Pass& pass) const;
     void writeItem(const Target& target, const Pass& pass) const;
     static void writeValueToJson(const Target& source, const Pass& pass);
+    static void putValue(const Target& source, const Pass& pass, kql::Json::Value& field);
     void writeFigure(const RuleProtocolItem& item, const Pass& pass) const;
 
     std::vector<Target> m_targets;

@@ -58,7 +58,7 @@ bool FightCalibrateWriter::writeFightCalibrate(const FightCalibrateData& data, V
 {
     EntryTarget target(document, data.getTemplate()->parent());
     const EntryWriter writer(data, data.getTemplate()->name());
-    const Value prototype = target.prototype() ? *target.prototype() : writer.emptyEntry();
+    const Value prototype = writer.prototype(target.prototype());
     std::vector<Value> entries;
     for (const auto& entry : data.getAllData()) {
         Value json = prototype;

@@ -84,7 +84,8 @@ void LaneReader::readRule(const Value* rule, RuleDataInfo& entry, const DrawItem
     // A rule without a lane number belongs to its lane all the same.
     const LanesTemplate& dataTemplate = *m_data.lanesTemplate();
     const RuleProtocolItem* number = dataTemplate.ruleLaneNumberItem();
-    const bool hasNumber = rule && number && entry.value(number->key()).isValid();
+    const bool hasNumber =
+        rule && number && (entry.value(number->key()).isValid() || entry.asRead(number->key()));
     if (number && !hasNumber)
         entry.setValue(number->key(), entry.value(dataTemplate.numberItem()->key()));
 }

@@ -49,16 +49,18 @@ void writeLines(const LanesData& data, const EntryFigures& figures, int dataId, 
     json[ConfigMember::kRightLine] = PointConversion::toJson(points.mid(kLinePoints));
 }
 
-bool writeLaneList(const LanesData& data, Value& document)
+bool writeLaneList(const LanesData& data, const WriteContext& context, Value& document)
 {
     EntryTarget target(document, data.getTemplate()->parent());
     const EntryWriter writer(data, data.getTemplate()->name());
-    const Value prototype = target.prototype() ? *target.prototype() : writer.emptyEntry();
+    const Value prototype = writer.prototype(target.prototype());
+    const auto sources =
+        EntryList::at(context.configuration, JsonPath(data.getTemplate()->parent()));
     std::vector<Value> entries;
     for (const auto& entry : data.getAllData()) {
         Value json = prototype;
         writeLines(data, writer.figures(), entry->id(), json);
-        writer.write(*entry, nullptr, json);
+        writer.write(*entry, EntryList::object(sources, entry->sourceIndex()), json);
         entries.push_back(std::move(json));
     }
     return target.put(std::move(entries));
@@ -68,7 +70,7 @@ bool writeRules(const LanesData& data, const WriteContext& context, Value& docum
 {
     EntryTarget target(document, data.lanesTemplate()->rulesParent());
     const EntryWriter writer(data, ConfigMember::kRuleSection);
-    const Value prototype = target.prototype() ? *target.prototype() : writer.emptyEntry();
+    const Value prototype = writer.prototype(target.prototype());
     const LaneRules rules(*data.lanesTemplate(), context.configuration);
     std::vector<Value> entries;
     for (int i = 0; i < data.getDataCount(); ++i) {
@@ -88,7 +90,7 @@ bool writeRules(const LanesData& data, const WriteContext& context, Value& docum
 bool LanesWriter::writeLanes(const LanesData& data, const WriteContext& context, Value& document,
                              MissingPlace& missing)
 {
-    if (!writeLaneList(data, document))
+    if (!writeLaneList(data, context, document))
         return false;
     if (!data.lanesTemplate()->hasRuleItems())
         return true;

@@ -4,12 +4,26 @@
 
 #include <algorithm>
 
+using kql::Json::Value;
+
 namespace
 {
 
 const QVariant kNoValue;
 
 } // namespace
+
+void RuleDataInfo::setName(const QString& name)
+{
+    m_name = name;
+    forgetAt(kNameSlot);
+}
+
+void RuleDataInfo::setEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    forgetAt(kEnabledSlot);
+}
 
 void RuleDataInfo::setValue(const QString& key, const QVariant& value)
 {
@@ -37,6 +51,46 @@ const QVariant& RuleDataInfo::value(const EntryKey& key) const
 bool RuleDataInfo::hasValue(const QString& key) const
 {
     return findAt(find(key)) != nullptr;
+}
+
+void RuleDataInfo::keepAsRead(const EntryKey& key, const Value& json)
+{
+    const int slot = key.slotIn(*this);
+    keepAt(slot < 0 ? findOrAdd(key.text()) : slot, json);
+}
+
+const Value* RuleDataInfo::asRead(const QString& key) const
+{
+    return m_kept.isEmpty() ? nullptr : keptAt(find(key));
+}
+
+const Value* RuleDataInfo::asRead(const EntryKey& key) const
+{
+    return m_kept.isEmpty() ? nullptr : keptAt(key.slotIn(*this));
+}
+
+void RuleDataInfo::keepAt(int slot, const Value& json)
+{
+    forgetAt(slot);
+    m_kept.insert(static_cast<int>(keptFrom(slot) - m_kept.cbegin()), {json, slot});
+}
+
+const Value* RuleDataInfo::keptAt(int slot) const
+{
+    const auto kept = keptFrom(slot);
+    return kept != m_kept.cend() && kept->slot == slot ? &kept->json : nullptr;
+}
+
+void RuleDataInfo::forgetAt(int slot)
+{
+    if (keptAt(slot))
+        m_kept.removeAt(static_cast<int>(keptFrom(slot) - m_kept.cbegin()));
+}
+
+RuleDataInfo::Keeps::const_iterator RuleDataInfo::keptFrom(int slot) const
+{
+    return std::lower_bound(m_kept.cbegin(), m_kept.cend(), slot,
+                            [](const Kept& kept, int wanted) { return kept.slot < wanted; });
 }
 
 bool RuleDataInfo::isValid(const QString& key) const
@@ -120,6 +174,7 @@ const QVariant* RuleDataInfo::findAt(int slot) const
 
 void RuleDataInfo::setAt(int slot, const QVariant& value)
 {
+    forgetAt(slot);
     const std::optional<QVariant>& common = m_common->values[static_cast<std::size_t>(slot)];
     const bool isCommon = !value.isValid() && common && !common->isValid();
     const auto own = m_own.begin() + (ownFrom(slot) - m_own.cbegin());

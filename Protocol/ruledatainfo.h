@@ -1,10 +1,13 @@
 #pragma once
 
+#include "host/value.h"
+
 #include <QBitArray>
 #include <QExplicitlySharedDataPointer>
 #include <QMap>
 #include <QString>
 #include <QVariant>
+#include <QVector>
 #include <optional>
 #include <vector>
 
@@ -26,10 +29,10 @@ public:
     void setId(int id) { m_id = id; }
     /// Name as the device has it; empty for a new entry.
     const QString& name() const { return m_name; }
-    void setName(const QString& name) { m_name = name; }
+    void setName(const QString& name);
     /// Enabled state; in selection mode, whether the entry is selected.
     bool isEnabled() const { return m_enabled; }
-    void setEnabled(bool enabled) { m_enabled = enabled; }
+    void setEnabled(bool enabled);
     bool isSelected() const { return m_enabled; }
 
     /// Position in the configuration's list that the entry was read from; -1 for a new one.
@@ -43,6 +46,17 @@ public:
     /// As above; good until the entry changes.
     const QVariant& value(const EntryKey& key) const;
     bool hasValue(const QString& key) const;
+
+    /// Keeps what the configuration has under @p key, because the value does not say all of it.
+    /// Forgotten when another value is set.
+    void keepAsRead(const EntryKey& key, const kql::Json::Value& json);
+    void keepNameAsRead(const kql::Json::Value& json) { keepAt(kNameSlot, json); }
+    void keepEnabledAsRead(const kql::Json::Value& json) { keepAt(kEnabledSlot, json); }
+    /// What was kept of it; null when nothing was. Good until the entry changes.
+    const kql::Json::Value* asRead(const QString& key) const;
+    const kql::Json::Value* asRead(const EntryKey& key) const;
+    const kql::Json::Value* nameAsRead() const { return keptAt(kNameSlot); }
+    const kql::Json::Value* enabledAsRead() const { return keptAt(kEnabledSlot); }
 
     /// Whether the attribute applies; true for keys without a flag.
     bool isValid(const QString& key) const;
@@ -70,6 +84,14 @@ private:
         int slot;
     };
     using OwnValues = std::vector<OwnValue>;
+    struct Kept {
+        kql::Json::Value json;
+        int slot;
+    };
+    using Keeps = QVector<Kept>;
+    // What every rule has besides its attributes is kept as if it had a key.
+    static constexpr int kNameSlot = -2;
+    static constexpr int kEnabledSlot = -3;
 
     int find(const QString& key) const;
     int findOrAdd(const QString& key);
@@ -77,10 +99,15 @@ private:
     const QVariant* findAt(int slot) const;
     void setAt(int slot, const QVariant& value);
     bool isValidAt(int slot) const;
+    void keepAt(int slot, const kql::Json::Value& json);
+    const kql::Json::Value* keptAt(int slot) const;
+    void forgetAt(int slot);
+    Keeps::const_iterator keptFrom(int slot) const;
 
     QExplicitlySharedDataPointer<Common> m_common; ///< null until there is a key
     OwnValues m_own;                               ///< by slot
     QBitArray m_invalid;                           ///< by slot; what is behind its end is valid
+    Keeps m_kept;                                  ///< by slot; seldom more than none
     QString m_name;
     int m_id;
     // Share a word: there are many entries, and no document has room for 2^30 of them.

@@ -33,7 +33,7 @@ std::vector<Value> writeEntries(const RuleData& data, const WriteContext& contex
     const DataTemplate& dataTemplate = *data.getTemplate();
     const EntryTarget target(document, dataTemplate.parent());
     const EntryWriter writer(data, dataTemplate.name());
-    const Value prototype = target.prototype() ? *target.prototype() : writer.emptyEntry();
+    const Value prototype = writer.prototype(target.prototype());
     const auto sources = EntryList::at(context.configuration, JsonPath(dataTemplate.parent()));
     std::vector<Value> entries;
     entries.reserve(data.getAllData().size());
@@ -49,9 +49,11 @@ std::vector<Value> writeEntries(const RuleData& data, const WriteContext& contex
 void RulesWriter::writeRuleMembers(const RuleData& data, int position, const WriteContext& context,
                                    Value& json)
 {
-    json[ConfigMember::kName] = Value(EntryName::written(data, position));
-    const auto& entry = data.getAllData()[static_cast<std::size_t>(position)];
-    json[ConfigMember::kEnable] = Value(entry->isEnabled());
+    const RuleDataInfo& entry = *data.getAllData()[static_cast<std::size_t>(position)];
+    const Value* name = entry.nameAsRead();
+    json[ConfigMember::kName] = name ? *name : Value(EntryName::written(data, position));
+    const Value* enabled = entry.enabledAsRead();
+    json[ConfigMember::kEnable] = enabled ? *enabled : Value(entry.isEnabled());
     if (context.algorithmId == kTypedAlgorithm)
         writeAlgorithm(context.algorithmName, json);
 }

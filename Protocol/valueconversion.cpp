@@ -16,25 +16,44 @@ namespace
 
 constexpr int kEmpty = -1;
 
-bool hasElement(const Value& value, int index)
+/// Whole numbers up to this have a double of their own.
+constexpr qint64 kExactWhole = qint64(1) << 53;
+
+bool isText(const Value& value)
 {
-    return value.isArray() && index >= 0 && index < value.size();
+    return value.isString() || value.isNumeric() || value.isBool();
 }
 
-/// What an item with that index reads of @p found.
-const Value& readElement(const Value& found, int index)
+bool isTexts(const Value& value)
 {
-    return hasElement(found, index) ? found[index] : found;
+    bool all = value.isArray() && !value.empty();
+    for (int i = 0; all && i < value.size(); ++i)
+        all = isText(value[i]);
+    return all;
 }
 
 QVariant readText(const Value& value)
 {
-    if (!value.isArray())
-        return value.asString();
+    if (const std::optional<QString> text = ValueConversion::toText(value))
+        return *text;
+    if (!isTexts(value))
+        return {};
     QStringList texts;
     for (int i = 0; i < value.size(); ++i)
-        texts.append(value[i].asString());
-    return texts.isEmpty() ? QVariant() : QVariant(texts);
+        texts.append(*ValueConversion::toText(value[i]));
+    return texts;
+}
+
+/// Whether @p value is a whole number, with a fraction of 0 or without, that an int can hold.
+bool isWhole(const Value& value)
+{
+    return value.isNumeric() && value.asDouble() == value.asInt();
+}
+
+bool isExactDouble(const Value& value)
+{
+    return value.isDouble() ||
+           (value.isInt() && value.asInt64() <= kExactWhole && value.asInt64() >= -kExactWhole);
 }
 
 void writeText(const QVariant& value, Value& target)
@@ -53,7 +72,7 @@ void writeText(const QVariant& value, Value& target)
 
 int readLimit(const Value& element)
 {
-    return element.isInt() ? element.asInt() : kEmpty;
+    return element.isInt() || isWhole(element) ? element.asInt() : kEmpty;
 }
 
 QVariant readInterval(const Value& value)
@@ -99,31 +118,72 @@ void writeDouble(const QVariant& value, Value& target, const Value* asRead)
 
 Value ValueConversion::numberLike(double number, const Value& like)
 {
-    constexpr double kExactWhole = 9007199254740992.0;
-    const bool isWhole = std::abs(number) <= kExactWhole && std::trunc(number) == number;
-    return isWhole && like.isInt() ? Value(static_cast<qint64>(number)) : Value(number);
+    const bool isExact = std::abs(number) <= double(kExactWhole) && std::trunc(number) == number;
+    return isExact && like.isInt() ? Value(static_cast<qint64>(number)) : Value(number);
+}
+
+std::optional<QString> ValueConversion::toText(const Value& value)
+{
+    if (value.isString())
+        return value.asString();
+    return isText(value) ? std::optional<QString>(value.toCompactText()) : std::nullopt;
 }
 
 qint64 ValueConversion::styledLength(const Value& found, const RuleProtocolItem& item)
 {
-    return item.valueType() == ValueType::Object ? readElement(found, item.index()).styledLength()
-                                                 : 0;
+    return item.valueType() == ValueType::Object ? element(found, item).styledLength() : 0;
+}
+
+const Value& ValueConversion::element(const Value& found, const RuleProtocolItem& item)
+{
+    return found.isArray() && item.index() >= 0 ? found[item.index()] : found;
+}
+
+Value* ValueConversion::element(Value& found, const RuleProtocolItem& item)
+{
+    if (!found.isArray() || item.index() < 0)
+        return &found;
+    return item.index() < found.size() ? &found[item.index()] : nullptr;
+}
+
+bool ValueConversion::isReadWhole(const Value& found, const RuleProtocolItem& item)
+{
+    const Value& value = element(found, item);
+    if (value.isNull())
+        return true;
+    switch (item.valueType()) {
+    case ValueType::String:
+        return isText(value) || isTexts(value);
+    case ValueType::Bool:
+        return value.isBool();
+    case ValueType::Int:
+        return isWhole(value);
+    case ValueType::Float:
+        return isExactDouble(value);
+    case ValueType::ArrayInt:
+        return value.isArray() && value.size() > 1;
+    case ValueType::Object:
+    case ValueType::Point:
+    case ValueType::None:
+        break;
+    }
+    return true;
 }
 
 QVariant ValueConversion::parseJsonToValue(const Value& found, const RuleProtocolItem& item)
 {
-    const Value& value = readElement(found, item.index());
+    const Value& value = element(found, item);
     if (value.isNull())
         return {};
     switch (item.valueType()) {
     case ValueType::String:
         return readText(value);
     case ValueType::Bool:
-        return value.asBool();
+        return value.isBool() || value.isNumeric() ? QVariant(value.asBool()) : QVariant();
     case ValueType::Int:
-        return value.asInt();
+        return isWhole(value) ? QVariant(value.asInt()) : QVariant();
     case ValueType::Float:
-        return value.asDouble();
+        return value.isNumeric() ? QVariant(value.asDouble()) : QVariant();
     case ValueType::ArrayInt:
         return readInterval(value);
     case ValueType::Object:
@@ -138,7 +198,10 @@ QVariant ValueConversion::parseJsonToValue(const Value& found, const RuleProtoco
 void ValueConversion::toJson(const QVariant& value, const RuleProtocolItem& item, Value& found,
                              const Value* asRead)
 {
-    Value& target = hasElement(found, item.index()) ? found[item.index()] : found;
+    Value* const place = element(found, item);
+    if (!place)
+        return;
+    Value& target = *place;
     if (!value.isValid()) {
         if (item.valueType() == ValueType::String && target.isArray())
             target.clear();
@@ -154,7 +217,7 @@ void ValueConversion::toJson(const QVariant& value, const RuleProtocolItem& item
     case ValueType::Int:
         return writeInt(value, target);
     case ValueType::Float:
-        return writeDouble(value, target, asRead ? &readElement(*asRead, item.index()) : nullptr);
+        return writeDouble(value, target, asRead ? &element(*asRead, item) : nullptr);
     case ValueType::ArrayInt:
         return writeInterval(value, target);
     case ValueType::Object:

@@ -134,8 +134,8 @@ bool Value::operator==(const Value& other) const
 
 ValueType Value::type() const noexcept
 {
-    constexpr ValueType kTypes[] = {ValueType::Null,   ValueType::Bool, ValueType::Int,
-                                    ValueType::Int,    ValueType::Real, ValueType::String,
+    constexpr ValueType kTypes[] = {ValueType::Null,   ValueType::Bool,  ValueType::Int,
+                                    ValueType::Int,    ValueType::Real,  ValueType::String,
                                     ValueType::String, ValueType::Array, ValueType::Object};
     return kTypes[int(m_bytes.kind)];
 }

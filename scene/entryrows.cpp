@@ -1,6 +1,7 @@
 #include "scene/entryrows.h"
 
 #include "Protocol/datatemplate.h"
+#include "Protocol/misfit.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/validity.h"
@@ -17,7 +18,8 @@ namespace
 void startWithDefault(ControlTabel& row, const RuleDataInfo& entry)
 {
     const QVariant defaultValue = row.protocolItem()->defaultValue();
-    if (defaultValue.isValid() && !entry.value(row.key()).isValid() && !row.isModified())
+    const bool isEmpty = !entry.value(row.key()).isValid() && !entry.asRead(row.key());
+    if (defaultValue.isValid() && isEmpty && !row.isModified())
         row.setValue(defaultValue, false);
 }
 
@@ -27,6 +29,8 @@ void storeRow(ControlTabel& row, const QString& key, RuleDataInfo& entry)
         return;
     // The entry no longer has what was loaded: going back to it is a change, too.
     row.setModified();
+    if (entry.asRead(key))
+        row.setMark({});
     entry.setValue(key, row.value());
 }
 
@@ -107,8 +111,12 @@ void EntryRows::load(ControlItemWidgetTabel& rows, const DataTemplate& dataTempl
 {
     const LayoutHold hold(&rows);
     for (ControlTabel* row : rows.controls()) {
-        if (!entry || row->protocolItem())
-            row->loadValue(entry ? entry->value(row->key()) : QVariant());
+        if (entry && !row->protocolItem())
+            continue;
+        row->loadValue(entry ? entry->value(row->key()) : QVariant());
+        const QString misfit = entry ? Misfit::explained(*entry, row->key()) : QString();
+        if (row->isMarked() || !misfit.isEmpty())
+            row->setMark(misfit);
     }
     if (entry)
         showApplicable(rows, dataTemplate, *entry);

@@ -2,6 +2,7 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/entryname.h"
+#include "Protocol/misfit.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -63,8 +64,10 @@ void RuleScene::bindFixedRows()
 void RuleScene::loadFixedRows(const RuleDataInfo* entry)
 {
     BaseTabelScene::loadFixedRows(entry);
-    if (entry)
-        m_nameRow->loadValue(EntryName::button(*ruleData(), ruleData()->indexOf(entry->id())));
+    if (!entry)
+        return;
+    m_nameRow->loadValue(EntryName::button(*ruleData(), ruleData()->indexOf(entry->id())));
+    m_nameRow->setMark(Misfit::explainedName(*entry));
 }
 
 void RuleScene::sltRuleNameChanged(const QString&)
@@ -76,6 +79,7 @@ void RuleScene::sltRuleNameChanged(const QString&)
     if (name.isEmpty())
         return;
     entry->setName(name);
+    m_nameRow->setMark({});
     if (DrawItemButton* button = widgets().drawItems->findDataButton(entry->id()))
         button->setText(name);
     EntryButtons::labelFigures(*ruleData(), ruleData()->indexOf(entry->id()), ruleFigureItems());
@@ -129,7 +133,7 @@ void RuleScene::sltTabelDrawItemCheckBtnChanged()
 void RuleScene::nameEntry(int dataId)
 {
     RuleDataInfo* entry = ruleData()->getDataInfo(dataId);
-    if (entry && entry->name().isEmpty())
+    if (entry && entry->name().isEmpty() && !entry->nameAsRead())
         entry->setName(widgets().drawItems->findDataButton(dataId)->fullText());
 }
 

@@ -184,12 +184,14 @@ private slots:
         check("no texts", "string", -1, "[]", QVariant(), R"(["x"])", "[]");
         check("number as bool", "bool", -1, "0.5", true, "false", "true");
         check("int of ints", "int", 0, "[7, 8]", 7, "[1, 2]", "[7, 2]");
-        check("int beyond ints", "int", 2, "[7, 8]", 0, "[1, 2]", "[1, 2]");
-        check("fraction as int", "int", -1, "7.9", 7, "0", "7");
-        check("huge int", "int", -1, "1e300", 2147483647, "0", "2147483647");
+        check("int beyond ints", "int", 2, "[7, 8]", QVariant(), "[1, 2]", "[1, 2]");
+        check("whole double", "int", -1, "7.0", 7, "0", "7");
+        check("fraction as int", "int", -1, "7.9", QVariant(), "0", "0");
+        check("numbers as texts", "string", -1, "[12, 5.5, true]", Texts{"12", "5.5", "true"}, "[]",
+              R"(["12", "5.5", "true"])");
         check("null", "int", -1, "null", QVariant(), "4", "4");
         check("float kept a float", "float", -1, "7.0", 7.0, "2", "7.0");
-        check("open interval", "array int", -1, R"(["x", 7])", QSize(-1, 7), "[5, 5]", "[0, 7]");
+        check("open interval", "array int", -1, R"(["x", 7.0])", QSize(-1, 7), "[5, 5]", "[0, 7]");
         check("longer interval", "array int", -1, "[3, 9, 1]", QSize(3, 9), "[0, 0, 4]",
               "[3, 9, 4]");
         check("interval of intervals", "array int", 1, "[[1, 2], [3, 4]]", QSize(3, 4),
@@ -236,7 +238,24 @@ private slots:
             R"({"R": [{"L": ["a", "b"], "V": [7, 8], "F": 2, "S": {"T": 4}, "Name": "n", "Enable": true},
                       {"L": [], "V": [7], "Name": "m", "Enable": true}]})",
             R"({"R": [{"L": ["a", "b"], "V": [7, 8], "F": 2, "Name": "n", "Enable": true},
-                      {"Name": "m", "Enable": true}]})");
+                      {"L": [], "V": [7], "Name": "m", "Enable": true}]})");
+        const Texts kinds = {"T|string", "B|bool", "N|int", "F|float", "V|array int", "L[]|string"};
+        const QString all = rules(kinds, R"({"R": [{"T": "t", "B": true, "N": 1, "F": 1.5,
+                                                    "V": [1, 2], "L": ["Human"]}]})");
+        row("what does not fit", all, R"({"R": [{"T": {"a": 1}, "B": "true", "N": "7",
+            "F": 9007199254740993, "V": 5, "L": ["a", {}], "Name": ["n"], "Enable": "no"},
+            {"T": [], "B": 0, "N": 5000000000, "F": [], "V": [5], "L": [], "Name": "m",
+             "Enable": true}]})");
+        row("what can be converted or is missing", all, R"({"R": [{"T": 12, "N": 5.0,
+            "V": [5.0, 6], "Name": 12, "Enable": null}]})",
+            R"({"R": [{"T": "12", "B": true, "N": 5, "F": 1.5, "V": [5, 6], "L": ["Human"],
+                       "Name": "12", "Enable": true}]})");
+        row("shorter lists",
+            rules({"I[]|int|1", "S[]|string|0", "S|string|1", "O[]|object|2"},
+                  R"({"R": [{"I": [], "S": [], "O": [1]}]})"),
+            R"({"R": [{"I": [7, 8], "S": ["a", "b"], "O": [1, 2, {"x": 3}]}]})",
+            R"({"R": [{"I": [null, 8], "S": ["a", "b"], "O": [1, null, {"x": 3}],
+                       "Name": "Rule1", "Enable": true}]})");
         row("points of other kinds", rules({"P[]|point||region"}, "{}"),
             R"({"R": [{"P": [[1, 2.9], [3], 4, [5, "6"], [-7, 1e300], [8, 9, 10], [-1, 99999]]}]})",
             R"({"R": [{"P": [[1, 2], [-7, 2147483647], [-1, 99999]], "Name": "Rule1", "Enable": true}]})");
@@ -295,15 +314,17 @@ private slots:
     {
         Load load(
             rules({"A|int", "M|string", "W|string"}, R"({"R": [{"A": 0, "M": "", "Config": 1}]})"),
-            R"({"R": [{"A": 1, "M": "x", "Name": "first"}, {"A": 2}]})");
+            R"({"R": [{"A": 1, "M": "x", "Name": "first"}, {"A": 2, "M": {}}]})");
         load.scene().removeDataInfo(load.entry(0).id());
         load.entry(0).setValue("A", 5);
         load.entry(0).setValue("W", Texts{"w"});
+        QVERIFY(load.entry(0).asRead("M"));
+        load.entry(0).setValue("M", "y");
         load.addEntry().setValue("A", "not a number");
         QCOMPARE(
             json(load.written()),
             json(
-                R"({"R": [{"A": 5, "M": "", "W": ["w"], "Name": "Rule1", "Enable": true, "Config": 1},
+                R"({"R": [{"A": 5, "M": "y", "W": ["w"], "Name": "Rule1", "Enable": true, "Config": 1},
                                 {"A": 0, "M": "", "Name": "Rule2", "Enable": true, "Config": 1}]})"));
 
         Load typed(rules({"A|int"}, R"({"R": [{}]})"), R"({"R": [{}]})");

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+class RuleDataInfo;
+
+/// What a configuration has where an attribute's value belongs and no row can show. It is written
+/// back as it was read until the operator edits the row.
+namespace Misfit
+{
+
+/// Whether @p entry has such a thing under @p key. What merely is spelled in another way, such as
+/// 1 for a switch that is on, is shown, and no misfit.
+bool isUnder(const RuleDataInfo& entry, const QString& key);
+
+/// What the row of @p key says of it; empty when there is none.
+QString explained(const RuleDataInfo& entry, const QString& key);
+/// As above, of an entry's name.
+QString explainedName(const RuleDataInfo& entry);
+
+} // namespace Misfit
