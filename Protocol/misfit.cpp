@@ -1,6 +1,9 @@
 #include "Protocol/misfit.h"
 
+#include "Protocol/datatemplate.h"
+#include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
 #include "draw/shortenedtext.h"
 
 #include <QCoreApplication>
@@ -27,6 +30,24 @@ bool Misfit::isUnder(const RuleDataInfo& entry, const QString& key)
     const Value* json = entry.asRead(key);
     const bool isEmptyList = json && json->isArray() && json->empty();
     return json && !isEmptyList && !entry.value(key).isValid();
+}
+
+void Misfit::tell(RuleData& data)
+{
+    using Kind = SaveNotices::Kind;
+    for (const auto& entry : data.getAllData()) {
+        if (!entry->keepsAnything())
+            continue;
+        if (entry->nameAsRead())
+            data.saveNotices().add(Kind::NameNotShown, QStringLiteral("\"Name\""), *entry);
+        if (entry->enabledAsRead())
+            data.saveNotices().add(Kind::StateNotShown, QStringLiteral("\"Enable\""), *entry);
+        for (const auto& item : data.getTemplate()->items()) {
+            if (isUnder(*entry, item->key()))
+                data.saveNotices().add(Kind::NotShown, SaveNotices::subject(*item), *entry,
+                                       item->key());
+        }
+    }
 }
 
 QString Misfit::explained(const RuleDataInfo& entry, const QString& key)

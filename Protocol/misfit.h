@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class RuleData;
 class RuleDataInfo;
 
 /// What a configuration has where an attribute's value belongs and no row can show. It is written
@@ -12,6 +13,9 @@ namespace Misfit
 /// Whether @p entry has such a thing under @p key. What merely is spelled in another way, such as
 /// 1 for a switch that is on, is shown, and no misfit.
 bool isUnder(const RuleDataInfo& entry, const QString& key);
+
+/// Tells @p data all those of its entries.
+void tell(RuleData& data);
 
 /// What the row of @p key says of it; empty when there is none.
 QString explained(const RuleDataInfo& entry, const QString& key);

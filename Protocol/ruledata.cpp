@@ -1,6 +1,7 @@
 #include "Protocol/ruledata.h"
 
 #include "Protocol/datatemplate.h"
+#include "Protocol/entryname.h"
 #include "Protocol/rulecheck.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
@@ -31,6 +32,8 @@ void RuleData::copyFrom(const RuleData& other)
 {
     m_sceneType = other.m_sceneType;
     m_ruleFucTitle = other.m_ruleFucTitle;
+    m_saveNotices = other.m_saveNotices;
+    m_takesOneEntry = other.m_takesOneEntry;
     setTemplate(other.m_template ? other.m_template->clone() : nullptr);
     m_entries.clear();
     for (const auto& entry : other.m_entries)
@@ -38,6 +41,16 @@ void RuleData::copyFrom(const RuleData& other)
     m_places.clear();
     m_drawScene->copyItemsFrom(*other.m_drawScene);
     setSelectedDataId(other.m_selectedDataId);
+}
+
+QStringList RuleData::notices() const
+{
+    QStringList notices = m_saveNotices.sentences(*this);
+    if (m_takesOneEntry && getDataCount() > 1)
+        notices.append(tr("Only %1 is saved: the template has room for one.")
+                           .arg(EntryName::button(*this, 0)));
+    collectNotices(notices);
+    return notices;
 }
 
 void RuleData::collectNotices(QStringList&) const {}

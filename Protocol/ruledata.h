@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/ruletypes.h"
+#include "Protocol/savenotices.h"
 
 #include <QCoreApplication>
 #include <QList>
@@ -35,7 +36,13 @@ public:
 
     /// Checks whether the scene may be saved; on failure @p message says what to mend.
     virtual bool checkData(QString& message) const;
-    /// Adds what a save would leave out of the document as it is now, a sentence each.
+    /// What was found when the scene was read that a save leaves out.
+    SaveNotices& saveNotices() { return m_saveNotices; }
+    /// Whether a save writes the first entry alone.
+    void setTakesOneEntry(bool takesOne) { m_takesOneEntry = takesOne; }
+    /// What a save would leave out of the document as it is now, a sentence each.
+    QStringList notices() const;
+    /// Adds what only a scene of this kind has to say of that.
     virtual void collectNotices(QStringList& notices) const;
 
     SceneType getSceneType() const { return m_sceneType; }
@@ -104,4 +111,6 @@ private:
     int m_selectedDataId = 0;
     qint64 m_room = std::numeric_limits<qint64>::max();
     QString m_ruleFucTitle;
+    SaveNotices m_saveNotices;
+    bool m_takesOneEntry = false;
 };

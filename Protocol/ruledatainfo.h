@@ -55,6 +55,7 @@ public:
     /// What was kept of it; null when nothing was. Good until the entry changes.
     const kql::Json::Value* asRead(const QString& key) const;
     const kql::Json::Value* asRead(const EntryKey& key) const;
+    bool keepsAnything() const { return !m_kept.isEmpty(); }
     const kql::Json::Value* nameAsRead() const { return keptAt(kNameSlot); }
     const kql::Json::Value* enabledAsRead() const { return keptAt(kEnabledSlot); }
 

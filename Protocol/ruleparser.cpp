@@ -3,9 +3,13 @@
 #include "Protocol/configreader.h"
 #include "Protocol/configwriter.h"
 #include "Protocol/datatemplate.h"
+#include "Protocol/documentloss.h"
+#include "Protocol/misfit.h"
 #include "Protocol/missingplace.h"
+#include "Protocol/placecheck.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/templatereader.h"
+#include "host/dprintlog.h"
 #include "host/reader.h"
 
 #include <algorithm>
@@ -16,6 +20,8 @@ using kql::Json::Value;
 
 namespace
 {
+
+constexpr int kLogLevel = 6;
 
 template<typename Type>
 struct Spelling {
@@ -114,6 +120,7 @@ bool RuleParser::parseTemplate(const QString& text, QString& why)
     m_data.clear();
     m_templateDocument = Value();
     m_configuration = Value();
+    m_notices.clear();
     Value document;
     if (!Reader().parse(text, document)) {
         why = tr("The template is not valid JSON.");
@@ -171,15 +178,35 @@ bool RuleParser::readData(const QString& text, QString& why)
         return false;
     }
     m_configuration = std::move(document);
+    findNotices();
     return true;
+}
+
+/// A document without a skeleton is not saved at all, which Save says.
+void RuleParser::findNotices()
+{
+    Value written;
+    const Value* const skeleton = m_templateDocument.find("configTemplate");
+    if (!skeleton)
+        return;
+    for (const auto& scene : m_data) {
+        PlaceCheck::tell(*scene, *skeleton);
+        Misfit::tell(*scene);
+        scene->setTakesOneEntry(PlaceCheck::takesOneEntry(*scene, *skeleton));
+    }
+    if (!m_configuration.empty() && writeData(written))
+        m_notices = DocumentLoss(m_data, m_configuration, written).tell();
+    for (const QString& notice : notices())
+        kql::DPrintLog::instance()->Log("IntelligentRulesUI", kLogLevel, "RuleParser::readData",
+                                        "Protocol\\ruleparser", __LINE__, "%s", notice);
 }
 
 QStringList RuleParser::notices() const
 {
     QStringList notices;
     for (const auto& scene : m_data)
-        scene->collectNotices(notices);
-    return notices;
+        notices += scene->notices();
+    return notices + m_notices;
 }
 
 bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& room, QString& why) const

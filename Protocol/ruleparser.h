@@ -73,6 +73,7 @@ private:
     /// Takes the text of @p count entries off @p room.
     bool hasRoomFor(const RuleData& scene, int count, qint64& room, QString& why) const;
     bool isReadWhole(QString& why) const;
+    void findNotices();
 
     kql::Json::Value m_templateDocument;
     kql::Json::Value m_configuration; ///< as read: what no template names is kept from here
@@ -80,4 +81,5 @@ private:
     QString m_algorithmName;
     EntryLimit::Limits m_limits;
     std::vector<std::unique_ptr<RuleData>> m_data;
+    QStringList m_notices; ///< about what lies outside of all scenes
 };

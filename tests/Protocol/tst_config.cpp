@@ -310,6 +310,53 @@ private slots:
             R"({"L": [{"Number": 4}], "R": [{"N": 4, "Line": [], "Name": "Rule1", "Enable": true}]})");
     }
 
+    /// What the line beside Save tells, sentence for sentence.
+    void notices()
+    {
+        const auto row = [](const QString& templateText, const char* config,
+                            const Texts& expected) {
+            const QString told = Load(templateText, config).parser.notices().join('\n');
+            QVERIFY2(told == expected.join('\n'), qPrintable(told));
+        };
+        const QString kept = " cannot be shown; it is saved as it was read until it is edited.";
+        row(rules({"P[]|point||region", "A.B|int", "T|array||bool", "V|array int", "C|int"},
+                  R"({"R": [{"V": 5}], "Y": [1]})"),
+            R"({"R": [{"P": [[1, 1]], "A": {"B": 3}, "T": 1, "C": 5.0}], "Y": [1, 2], "Z": {"Q": 0}})",
+            {R"(P[] is not saved: the template has no place "P[]" for it.)",
+             R"(A.B is not saved: the template has no place "A.B" for it.)",
+             R"(T is not saved: it has no type that a row can have.)",
+             R"(V is not saved: the template has something else in its place "V".)",
+             R"("Y" is not saved: no attribute names it.)",
+             R"("Z" is not saved: no attribute names it.)"});
+        row(rules({"T|string", "B|bool", "P[]|point||region", "V|array int"},
+                  R"({"R": [{"T": "", "B": true, "P": [], "V": [0, 0], "X": {"Y": 1}}]})"),
+            R"({"R": [{"T": {}, "Name": "a", "Enable": 1}, 5, {"B": "true", "Name": "b"},
+                      {"T": [{}], "Name": "c"}, {"T": {}, "P": [[1, 2.5]], "V": [1, -2, 3], "Name": "d"},
+                      {"T": {}, "Name": [], "Enable": {}, "X": {"Y": 2, "Z": 3}, "B": 1, "V": [1]}]})",
+            {"What is no entry under \"R[]\" is not saved.", "T (a, c, d, …)" + kept,
+             "B (b)" + kept, "\"Name\" (Rule5)" + kept, "\"Enable\" (Rule5)" + kept,
+             "V (Rule5)" + kept, "P[] (d) is not saved as it was read.",
+             "V (d) is not saved as it was read.",
+             "\"X.Y\" (Rule5) is not saved: no attribute names it.",
+             "\"X.Z\" (Rule5) is not saved: no attribute names it."});
+        row(rules({"A|int"}, R"({"R": {"A": 1}})"),
+            R"({"R": [{"A": 2, "Name": "a"}, {"Name": "b"}]})",
+            {"Only a is saved: the template has room for one."});
+        row(makeTemplate(R"("lanes": {"parent": "L[]"})", QString(), R"({"L": [{}]})"),
+            R"({"L": [{"LeftLine": [[5, 9], [5, 0]], "RightLine": [[0, 9], [0, 0]], "Number": 2.0},
+                      {"LeftLine": [[5, 9]]}]})",
+            {R"("LeftLine" (Lanes2) is not saved as it was read.)"});
+        row(laneRules(kLaneSkeleton),
+            R"({"L": [{"Number": 1}, {"Number": 2}], "R": [7, {"N": 2, "Q": 1}, {"N": 1}, {"N": 9, "Q": 1}]})",
+            {"What is no entry under \"R[]\" is not saved.",
+             R"("Q" (Lanes2) is not saved: no attribute names it.)"});
+        row(makeTemplate(R"("fightCalibrate": {"parent": "F[]"})", {}, "{}"),
+            R"({"F": [{"CalibrateArea": {"Area": [], "Rects": [[1, 2], [3, 4]]}},
+                      {"CalibrateArea": {"Rects": [[[1, 2], [3, 4]], 5]}}]})",
+            {"Calibrate rect (Area2) is not saved as it was read."});
+        row(detection("{}"), R"({"D": [[1, 1], [2, 2]]})", {});
+    }
+
     void edits()
     {
         Load load(
@@ -477,6 +524,7 @@ private slots:
         const QString configText = config.toStyledText();
         const Load example(templateText, configText);
         QVERIFY(example.isRead && json(example.written()) == config);
+        QCOMPARE(example.parser.notices(), Texts());
         for (const auto& scene : example.parser.getAllData()) {
             QString message;
             QVERIFY2(scene->checkData(message), qPrintable(message));

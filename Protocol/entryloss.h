@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+class RuleData;
+class RuleDataInfo;
+class RuleProtocolItem;
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+/// Compares entries as they were read with what they are saved as, one after another.
+class EntryLoss
+{
+public:
+    /// Whether @p written says all that @p read does: the same, in whatever order, or a conversion
+    /// of it, or with a list around it or without.
+    static bool isKept(const kql::Json::Value& read, const kql::Json::Value& written);
+
+    /// Of the items of @p data's template that belong to @p section. Nothing is owned.
+    EntryLoss(RuleData& data, const QString& section);
+
+    /// Tells the scene what @p entry loses.
+    void compare(const RuleDataInfo& entry, const kql::Json::Value& read,
+                 const kql::Json::Value& written);
+
+private:
+    using Items = QVector<const RuleProtocolItem*>;
+
+    void compareMember(const QString& path, const kql::Json::Value& read,
+                       const kql::Json::Value& written);
+    void compareItems(const QString& path, const Items& items, const kql::Json::Value& read,
+                      const kql::Json::Value& written);
+    void tellItem(const RuleProtocolItem& item);
+    void tellMember(const QString& path);
+
+    RuleData& m_data;
+    QHash<QString, Items> m_items; ///< by path, without brackets
+    QSet<QString> m_stations;      ///< paths that those lead through
+    const RuleDataInfo* m_entry = nullptr;
+};

@@ -1,0 +1,128 @@
+#include "Protocol/placecheck.h"
+
+#include "Protocol/configmember.h"
+#include "Protocol/datatemplate.h"
+#include "Protocol/entrylist.h"
+#include "Protocol/entrywriter.h"
+#include "Protocol/lanestemplate.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "Protocol/savenotices.h"
+#include "Protocol/valueconversion.h"
+
+#include <QCoreApplication>
+
+using kql::Json::Value;
+
+namespace
+{
+
+QString noPlace(const RuleProtocolItem& item, const JsonPath& path)
+{
+    return SaveNotices::tr("%1 is not saved: the template has no place \"%2\" for it.")
+        .arg(SaveNotices::subject(item), path.text());
+}
+
+QString noType(const RuleProtocolItem& item)
+{
+    return SaveNotices::tr("%1 is not saved: it has no type that a row can have.")
+        .arg(SaveNotices::subject(item));
+}
+
+QString otherKind(const RuleProtocolItem& item)
+{
+    return SaveNotices::tr("%1 is not saved: the template has something else in its place \"%2\".")
+        .arg(SaveNotices::subject(item), item.path().text());
+}
+
+/// Whether a value of @p type is written into @p target.
+bool takes(const Value& target, ValueType type)
+{
+    switch (type) {
+    case ValueType::Bool:
+    case ValueType::Int:
+    case ValueType::Float:
+        return !target.isArray();
+    case ValueType::ArrayInt:
+        return target.isArray() || target.isNull();
+    default:
+        return true;
+    }
+}
+
+QString whyControlIsUnsaved(const RuleProtocolItem& item, const Value& prototype)
+{
+    if (item.valueType() == ValueType::None || item.valueType() == ValueType::Point)
+        return noType(item);
+    const Value* const field = item.path().probe(prototype);
+    if (!field)
+        return item.path().isPlainName() ? QString() : noPlace(item, item.path());
+    const bool endsBefore = field->isArray() && item.index() >= 0 && item.index() >= field->size();
+    if (endsBefore)
+        return noPlace(item, item.path());
+    return takes(ValueConversion::element(*field, item), item.valueType()) ? QString()
+                                                                           : otherKind(item);
+}
+
+QString whyFigureIsUnsaved(const RuleProtocolItem& item, const Value& prototype)
+{
+    if (!item.path().probe(prototype))
+        return noPlace(item, item.path());
+    const bool lacksDirection = item.drawType() == BaseDrawType::Parallelogram &&
+                                !ConfigMember::directionPath().probe(prototype);
+    return lacksDirection ? noPlace(item, ConfigMember::directionPath()) : QString();
+}
+
+/// The areas of calibrations and what is in them are written by their kind: into places that are
+/// made where nothing else is.
+QString whyBuiltInIsUnsaved(const RuleProtocolItem& item, Value prototype)
+{
+    return item.path().create(prototype) ? QString() : otherKind(item);
+}
+
+QString whyUnsaved(const RuleProtocolItem& item, bool isBuiltIn, const Value& prototype)
+{
+    if (item.facade() == FacadeType::Lane)
+        return {};
+    if (item.path().text().isEmpty())
+        return item.isFigure() || item.isControl() ? noPlace(item, item.path()) : QString();
+    if (isBuiltIn)
+        return whyBuiltInIsUnsaved(item, prototype);
+    return item.isFigure() ? whyFigureIsUnsaved(item, prototype)
+                           : whyControlIsUnsaved(item, prototype);
+}
+
+void tellSection(RuleData& data, const QString& section, const QString& parent,
+                 const Value& skeleton)
+{
+    const Value* const first = EntryList::object(EntryList::at(skeleton, JsonPath(parent)), 0);
+    const Value prototype = EntryWriter(data, section).prototype(first);
+    const bool isBuiltIn = data.getSceneType() == SceneType::CalibrateArea ||
+                           data.getSceneType() == SceneType::FightCalibrate;
+    for (const auto& item : data.getTemplate()->items()) {
+        if (item->templateName() != section)
+            continue;
+        const QString why = whyUnsaved(*item, isBuiltIn, prototype);
+        if (!why.isEmpty())
+            data.saveNotices().addUnsaved(*item, why);
+    }
+}
+
+} // namespace
+
+void PlaceCheck::tell(RuleData& data, const Value& skeleton)
+{
+    const DataTemplate& dataTemplate = *data.getTemplate();
+    tellSection(data, dataTemplate.name(), dataTemplate.parent(), skeleton);
+    const auto* const lanes = dynamic_cast<const LanesTemplate*>(&dataTemplate);
+    if (lanes && lanes->hasRuleItems())
+        tellSection(data, ConfigMember::kRuleSection, lanes->rulesParent(), skeleton);
+}
+
+bool PlaceCheck::takesOneEntry(const RuleData& data, const Value& skeleton)
+{
+    const Value* const place = JsonPath(data.getTemplate()->parent()).probe(skeleton);
+    const bool isMadeAsOne =
+        data.getSceneType() == SceneType::Global && !(place && place->isArray());
+    return (place && place->isObject()) || isMadeAsOne;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+class RuleData;
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+/// Finds the attributes of a scene that are never written, because the skeleton has no place for
+/// them that fits.
+namespace PlaceCheck
+{
+
+/// Tells them to @p data. @p skeleton is the document that its entries are written into.
+void tell(RuleData& data, const kql::Json::Value& skeleton);
+
+/// Whether the skeleton has an object in the place of the entries of @p data, so that only the
+/// first one is written.
+bool takesOneEntry(const RuleData& data, const kql::Json::Value& skeleton);
+
+} // namespace PlaceCheck

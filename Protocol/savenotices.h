@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <vector>
+
+class RuleData;
+class RuleDataInfo;
+class RuleProtocolItem;
+
+/**
+ * What a save leaves out of what one scene was read from, in sentences for the operator. What is
+ * said of an entry stands as long as the entry has the value that it was read with.
+ */
+class SaveNotices
+{
+    Q_DECLARE_TR_FUNCTIONS(SaveNotices)
+
+public:
+    /// Why something of an entry is told.
+    enum class Kind {
+        NotShown, ///< no row can show it; it is saved as it was read
+        NameNotShown,
+        StateNotShown,
+        Changed, ///< it is saved, but not as it was read
+        Unnamed, ///< no attribute names it
+    };
+
+    /// @p item has no place, and nothing else is told of it; @p sentence says why.
+    void addUnsaved(const RuleProtocolItem& item, const QString& sentence);
+    void add(const QString& sentence) { m_sentences.append(sentence); }
+    /// Tells @p subject of @p entry; @p key is that of the attribute that it belongs to, if any.
+    void add(Kind kind, const QString& subject, const RuleDataInfo& entry,
+             const QString& key = QString());
+
+    /// The caption of @p item, or its key where it has none.
+    static QString subject(const RuleProtocolItem& item);
+    QStringList sentences(const RuleData& data) const;
+
+private:
+    struct Found {
+        int dataId;
+        QVariant value; ///< under the topic's key, when it was read
+    };
+    struct Topic {
+        Kind kind;
+        QString subject;
+        QString key;
+        std::vector<Found> found;
+    };
+
+    static bool stands(const Topic& topic, const Found& found, const RuleData& data);
+    static QString sentence(const Topic& topic, const RuleData& data);
+
+    QStringList m_sentences;
+    QSet<QString> m_unsavedKeys;
+    std::vector<Topic> m_topics;
+    QHash<QString, std::size_t> m_topicOf; ///< by kind and subject
+    int m_count = 0;
+};
