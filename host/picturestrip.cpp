@@ -2,6 +2,7 @@
 
 #include "host/picturestatistics.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -111,6 +112,17 @@ bool PictureStrip::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void PictureStrip::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    QWidget* const focused = QApplication::focusWidget();
+    if (!focused || !isAncestorOf(focused) || !window()->isVisible())
+        return;
+    // Qt leaves the focus in what it hides when it finds no other place for it.
+    if (!focusNextPrevChild(true))
+        focused->clearFocus();
 }
 
 void PictureStrip::mousePressEvent(QMouseEvent* event)

@@ -89,6 +89,7 @@ private:
     QString m_report;
     bool m_isVerbose = false;
     bool m_isAnswering = false; ///< what it hears of the focus
+    bool m_isDeleting = false;
     int m_typed = 0;
     int m_loads = 0;
 };
