@@ -17,6 +17,7 @@
 #include <QClipboard>
 #include <QDoubleValidator>
 #include <QLabel>
+#include <QMimeData>
 #include <tuple>
 #include <vector>
 
@@ -227,6 +228,18 @@ private slots:
         QCOMPARE(floats.shown(edit), QStringLiteral("0!"));
         QTest::keyClicks(edit, QStringLiteral(",7"));
         QCOMPARE(floats.shown(edit), QStringLiteral("0.7"));
+
+        // An input method and a drop are no way around.
+        edit = floats.type("edit", QString());
+        QInputMethodEvent committed;
+        committed.setCommitString(QStringLiteral("3,"));
+        QApplication::sendEvent(edit, &committed);
+        QMimeData dragged;
+        dragged.setText(QStringLiteral("5 \n"));
+        const QPoint end = edit->rect().bottomRight();
+        QDropEvent dropped(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(edit, &dropped);
+        QCOMPARE(floats.shown(edit), QStringLiteral("3.5"));
 
         // Without a value to fall back to it is the minimum, else nothing.
         for (const auto& [minimum, left] :
