@@ -277,6 +277,13 @@
     </message>
 </context>
 <context>
+    <name>Misfit</name>
+    <message>
+        <source>The configuration has %1 here, which this row cannot show. It is saved as it is until the row is edited.</source>
+        <translation>Die Konfiguration hat hier %1, was diese Zeile nicht anzeigen kann. Es wird unverändert gesichert, bis die Zeile bearbeitet wird.</translation>
+    </message>
+</context>
+<context>
     <name>NumberTip</name>
     <message>
         <source>Whole numbers</source>
@@ -399,6 +406,10 @@
         <source>Lanes</source>
         <translation>Fahrspur</translation>
     </message>
+    <message>
+        <source>Only %1 is saved: the template has room for one.</source>
+        <translation>Nur %1 wird gesichert: Die Vorlage hat Platz für eines.</translation>
+    </message>
 </context>
 <context>
     <name>RuleParser</name>
@@ -456,6 +467,37 @@
     <message>
         <source>At least one Rule!</source>
         <translation>Mindestens eine Regel muss bleiben!</translation>
+    </message>
+</context>
+<context>
+    <name>SaveNotices</name>
+    <message>
+        <source>%1 is not saved as it was read.</source>
+        <translation>%1 wird nicht so gesichert, wie es gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: no attribute names it.</source>
+        <translation>%1 wird nicht gesichert: Kein Attribut nennt es.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be shown; it is saved as it was read until it is edited.</source>
+        <translation>%1 kann nicht angezeigt werden; es wird wie gelesen gesichert, bis es bearbeitet wird.</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: the template has no place &quot;%2&quot; for it.</source>
+        <translation>%1 wird nicht gesichert: In der Vorlage fehlt der Platz &quot;%2&quot; dafür.</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: it has no type that a row can have.</source>
+        <translation>%1 wird nicht gesichert: Es hat keinen Typ, den eine Zeile haben kann.</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: the template has something else in its place &quot;%2&quot;.</source>
+        <translation>%1 wird nicht gesichert: An seinem Platz &quot;%2&quot; steht in der Vorlage etwas anderes.</translation>
+    </message>
+    <message>
+        <source>What is no entry under %1 is not saved.</source>
+        <translation>Was unter %1 kein Eintrag ist, wird nicht gesichert.</translation>
     </message>
 </context>
 <context>

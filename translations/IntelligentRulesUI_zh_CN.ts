@@ -277,6 +277,13 @@
     </message>
 </context>
 <context>
+    <name>Misfit</name>
+    <message>
+        <source>The configuration has %1 here, which this row cannot show. It is saved as it is until the row is edited.</source>
+        <translation>配置中此处为 %1，本行无法显示。在编辑本行之前，将按原样保存。</translation>
+    </message>
+</context>
+<context>
     <name>NumberTip</name>
     <message>
         <source>Whole numbers</source>
@@ -399,6 +406,10 @@
         <source>Lanes</source>
         <translation>车道</translation>
     </message>
+    <message>
+        <source>Only %1 is saved: the template has room for one.</source>
+        <translation>仅保存%1：模板只能容纳一个。</translation>
+    </message>
 </context>
 <context>
     <name>RuleParser</name>
@@ -456,6 +467,37 @@
     <message>
         <source>At least one Rule!</source>
         <translation>至少保留一条规则！</translation>
+    </message>
+</context>
+<context>
+    <name>SaveNotices</name>
+    <message>
+        <source>%1 is not saved as it was read.</source>
+        <translation>%1不会按读取时的内容保存。</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: no attribute names it.</source>
+        <translation>%1不会保存：没有属性使用它。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be shown; it is saved as it was read until it is edited.</source>
+        <translation>%1无法显示；在编辑之前将按读取时的内容保存。</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: the template has no place &quot;%2&quot; for it.</source>
+        <translation>%1不会保存：模板中没有位置&quot;%2&quot;。</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: it has no type that a row can have.</source>
+        <translation>%1不会保存：其类型不能用于行。</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: the template has something else in its place &quot;%2&quot;.</source>
+        <translation>%1不会保存：模板中位置&quot;%2&quot;是其他内容。</translation>
+    </message>
+    <message>
+        <source>What is no entry under %1 is not saved.</source>
+        <translation>%1下不是条目的内容不会保存。</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "scene/rulescene.h"
+#include "tabel/controltabel.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/panelbench.h"
 #include "tests/support/rulestest.h"
@@ -200,6 +201,41 @@ private slots:
             QCOMPARE(bench.entry(0).name(), stored);
             QCOMPARE(bench.find("ruleName")->findChild<QLineEdit*>()->text(), stored);
         }
+    }
+
+    void keepsWhatItCannotShow()
+    {
+        QByteArray described = kTemplate;
+        described.insert(described.size() - 1, R"(, "configTemplate": {"Rules": [{}]})");
+        PanelBench bench(described, R"({"Rules": [{"Name": {}, "Mode": "Short", "Dwell": "x",
+                         "Alarm": "true", "Note": [[]]}, {"Name": "b"}]})",
+                         SceneType::Rules);
+        const auto expect = [&bench](const QString& marks, const QString& written) {
+            QStringList marked;
+            for (const ControlTabel* row : bench.panel().findChildren<ControlTabel*>()) {
+                if (row->isMarked() && !row->toolTip().isEmpty())
+                    marked.append(row->objectName());
+            }
+            QCOMPARE(marked.join(' '), marks);
+            kql::Json::Value config;
+            QVERIFY(bench.parser().writeData(config));
+            QCOMPARE(config["Rules"][0].toCompactText().section("\"Enable", 0, 0), written);
+        };
+        expect("ruleName dwell alarm note",
+               R"({"Dwell":"x","Alarm":"true","Note":[[]],"Mode":"Short","Name":{},)");
+        bench.pick(1);
+        expect({}, R"({"Dwell":"x","Alarm":"true","Note":[[]],"Mode":"Short","Name":{},)");
+        bench.pick(0);
+        bench.clickOption("mode", "Long"); // "dwell" applies by that, and does not start anew
+        expect("ruleName dwell alarm note",
+               R"({"Dwell":"x","Alarm":"true","Note":[[]],"Mode":"Long","Name":{},)");
+        QVERIFY(bench.parser().notices().join(' ').contains("Note (Rule1) cannot be shown"));
+        bench.enter("dwell", "5");
+        QTest::keyClick(bench.find("switch"), Qt::Key_Space);
+        bench.enter("note", "n");
+        bench.enter("ruleName", "name");
+        expect({}, R"({"Mode":"Long","Dwell":5,"Alarm":true,"Note":"n","Name":"name",)");
+        QVERIFY(!bench.parser().notices().join(' ').contains("cannot be shown"));
     }
 
     void dependentRowsFollowTheirControllers()
