@@ -237,6 +237,8 @@ private slots:
         QMimeData dragged;
         dragged.setText(QStringLiteral("5 \n"));
         const QPoint end = edit->rect().bottomRight();
+        QDragEnterEvent entered(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(edit, &entered);
         QDropEvent dropped(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(edit, &dropped);
         QCOMPARE(floats.shown(edit), QStringLiteral("3.5"));
