@@ -43,6 +43,8 @@ constexpr char kDrawing[] = "drawing";
 constexpr int kLongestBlock = 16 << 20;
 // Some lines of the narrow column; names from documents can be of any length.
 constexpr int kLongestHint = 300;
+// Of the button bar left of Save, in pixels.
+constexpr int kEmptyWidth = 804;
 
 } // namespace
 
@@ -599,6 +601,11 @@ void CIntelligentRulesCtrl::showNotices()
     const QStringList notices = m_parser ? m_parser->notices() : QStringList();
     m_form->lblNotices->setTitle(notices.join(QLatin1Char(' ')));
     m_form->lblNotices->setVisible(!notices.isEmpty());
+    // The notices have the room that is empty otherwise.
+    const int emptyWidth = notices.isEmpty() ? kEmptyWidth : 0;
+    m_form->horizontalSpacer->changeSize(emptyWidth, m_form->horizontalSpacer->sizeHint().height(),
+                                         QSizePolicy::Expanding);
+    m_form->horizontalLayout_2->invalidate();
 }
 
 void CIntelligentRulesCtrl::paintEvent(QPaintEvent*)

@@ -5,6 +5,7 @@
 #include "host/picturesource.h"
 #include "host/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
+#include "tabel/titlelabel.h"
 #include "tests/support/onepicture.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/ruleswindow.h"
@@ -374,6 +375,24 @@ private slots:
         };
         check("");
         check("Global.Level.R[]");
+    }
+
+    /// However much there is to tell, Save stays where it is.
+    void noticesFitBesideSave()
+    {
+        Desk desk;
+        desk.load(rule("Gate"));
+        const QSize size = desk.window->size();
+        const QRect save = desk.find("btnSave")->geometry();
+        QVERIFY(!desk.find("lblNotices")->isVisible());
+        desk.load(rule(QByteArray(400, 'g'), R"(, "Low": "few", "High": [1])"));
+        QCoreApplication::processEvents();
+        QVERIFY(desk.find<TitleLabel>("lblNotices")->isElided());
+        QVERIFY(desk.find("lblNotices")->width() > size.width() / 2);
+        QCOMPARE(desk.window->size(), size);
+        QCOMPARE(desk.find("btnSave")->geometry(), save);
+        desk.window->clearData();
+        QVERIFY(!desk.find("lblNotices")->isVisible());
     }
 
     /// What the window cannot show whole it does not save either.
