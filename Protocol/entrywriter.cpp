@@ -58,6 +58,12 @@ Turn turnOf(const RuleProtocolItem& item, const QSet<const RuleProtocolItem*>& h
     return item.isFigure() || item.isControl() ? Turn::Shown : Turn::WithoutRow;
 }
 
+/// Picking a rule starts the figure that it lacks, which is no edit yet.
+bool isMerelyStarted(const DrawItem& figure)
+{
+    return !figure.isFinished() && figure.getPoints().isEmpty();
+}
+
 void writePointToJson(const QVector<QPoint>& points, const JsonPath& path, Value& json)
 {
     if (Value* target = path.readPath(json))
@@ -175,8 +181,9 @@ std::set<EntryWriter::Place> EntryWriter::placesInSight(const Pass& pass,
 {
     std::set<Place> places;
     for (const Target& target : m_targets) {
-        const bool hasValue = target.sharedField >= 0 && target.item->isControl() &&
-                              pass.entry.value(target.key).isValid();
+        const bool isRow = target.sharedField >= 0 && target.item->isControl();
+        const bool hasValue =
+            isRow && (pass.entry.value(target.key).isValid() || pass.entry.asRead(target.key));
         if (hasValue && turnOf(*target.item, hidden) == Turn::Shown)
             places.insert(placeOf(target, pass.json));
     }
@@ -264,7 +271,7 @@ void EntryWriter::putValue(const Target& source, const Pass& pass, Value& field)
 void EntryWriter::writeFigure(const RuleProtocolItem& item, const Pass& pass) const
 {
     const DrawItem* drawItem = m_figures.first(pass.entry.id(), item);
-    if (!drawItem)
+    if (!drawItem || isMerelyStarted(*drawItem))
         return;
     writePointToJson(drawItem->getPoints(), item.path(), pass.json);
     if (drawItem->drawType() == BaseDrawType::Parallelogram)

@@ -82,10 +82,12 @@ QString whyBuiltInIsUnsaved(const RuleProtocolItem& item, Value prototype)
 
 QString whyUnsaved(const RuleProtocolItem& item, bool isBuiltIn, const Value& prototype)
 {
-    if (item.facade() == FacadeType::Lane)
+    // Without a row nobody can set what is lost; what the document has there is told by itself.
+    const bool isEdited = item.isFigure() || item.isControl();
+    if (!isEdited || item.facade() == FacadeType::Lane)
         return {};
     if (item.path().text().isEmpty())
-        return item.isFigure() || item.isControl() ? noPlace(item, item.path()) : QString();
+        return noPlace(item, item.path());
     if (isBuiltIn)
         return whyBuiltInIsUnsaved(item, prototype);
     return item.isFigure() ? whyFigureIsUnsaved(item, prototype)
