@@ -34,7 +34,7 @@ ClientPlace::ClientPlace(Kind kind)
     auto* const all = new QVBoxLayout(this);
     all->addWidget(m_edit);
     all->addWidget(m_container);
-    take(new QWidget); // a page without anything
+    take(new QWidget);
 }
 
 void ClientPlace::take(QWidget* window)
@@ -49,10 +49,19 @@ void ClientPlace::take(QWidget* window)
         m_container->layout()->addWidget(window);
 }
 
+void ClientPlace::turnColumn(int number)
+{
+    const QLayout& pages = *m_container->layout();
+    for (int i = 0; i < pages.count(); ++i)
+        pages.itemAt(i)->widget()->setVisible(i == number % pages.count());
+}
+
 void ClientPlace::turn(int number)
 {
     if (auto* const tabs = qobject_cast<QTabWidget*>(m_container))
         tabs->setCurrentIndex(number % qMax(1, tabs->count()));
     else if (auto* const stack = qobject_cast<QStackedWidget*>(m_container))
         stack->setCurrentIndex(number % qMax(1, stack->count()));
+    else if (m_kind == Column)
+        turnColumn(number);
 }

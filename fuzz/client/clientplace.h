@@ -4,7 +4,8 @@
 
 class QLineEdit;
 
-/// A top-level window of the client: an edit of its own, and a container for rules windows.
+/// A top-level window of the client: an edit of its own, and a container whose first page is empty
+/// and whose others are rules windows.
 class ClientPlace : public QWidget
 {
 public:
@@ -15,10 +16,12 @@ public:
     QLineEdit* edit() const { return m_edit; }
     /// The container becomes the window's parent.
     void take(QWidget* window);
-    /// Shows page @p number, counted round, where the container shows one at a time.
+    /// Shows page @p number, counted round, and no other; splitters show all.
     void turn(int number);
 
 private:
+    void turnColumn(int number);
+
     Kind m_kind;
     QLineEdit* m_edit;
     QWidget* m_container;

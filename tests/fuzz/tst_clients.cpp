@@ -1,3 +1,4 @@
+#include "fuzz/client/clientplace.h"
 #include "host/iabstractui.h"
 #include "host/iclientuipluginapi.h"
 #include "tests/support/clientwindow.h"
@@ -6,11 +7,6 @@
 
 #include <QLineEdit>
 #include <QPluginLoader>
-#include <QStackedWidget>
-#include <QTabWidget>
-#include <QVBoxLayout>
-
-#include <functional>
 
 using namespace SampleDocuments;
 using KQPluginAPI::IClientUIPluginAPI;
@@ -18,57 +14,20 @@ using KQPluginAPI::IClientUIPluginAPI;
 namespace
 {
 
-/// A client's window: an edit of its own above pages, of which one is shown. The first is plain.
-struct Client {
-    Client(const QByteArray& kind, const QList<QWidget*>& windows) : pages({new QWidget})
-    {
-        pages += windows;
-        auto* const all = new QVBoxLayout(&top);
-        all->addWidget(own);
-        if (kind == "tabs") {
-            auto* const tabs = new QTabWidget;
-            for (QWidget* page : qAsConst(pages))
-                tabs->addTab(page, "page");
-            all->addWidget(tabs);
-            turn = [tabs](int shown) { tabs->setCurrentIndex(shown); };
-        } else if (kind == "stack") {
-            auto* const stack = new QStackedWidget;
-            for (QWidget* page : qAsConst(pages))
-                stack->addWidget(page);
-            all->addWidget(stack);
-            turn = [stack](int shown) { stack->setCurrentIndex(shown); };
-        } else {
-            for (QWidget* page : qAsConst(pages))
-                all->addWidget(page);
-            turn = [this](int shown) {
-                for (QWidget* page : qAsConst(pages))
-                    page->setVisible(page == pages[shown]);
-            };
-        }
-        turn(0);
-        top.show();
-        QApplication::setActiveWindow(&top);
-        own->setFocus();
-    }
-    /// Types wherever the focus is.
-    void type(const QString& text)
-    {
-        for (const QChar key : text)
-            QTest::keyClick(top.windowHandle(), key.toLatin1());
-    }
-    /// What of @p text arrives in the client's own edit.
-    QString arriving(const QString& text)
-    {
-        own->clear();
-        type(text);
-        return own->text();
-    }
+/// Types wherever the focus is.
+void type(const ClientPlace& place, const QString& text)
+{
+    for (const QChar key : text)
+        QTest::keyClick(place.windowHandle(), key.toLatin1());
+}
 
-    QWidget top;
-    QLineEdit* own = new QLineEdit;
-    QList<QWidget*> pages;
-    std::function<void(int)> turn;
-};
+/// What of @p text arrives in the client's own edit.
+QString arriving(const ClientPlace& place, const QString& text)
+{
+    place.edit()->clear();
+    type(place, text);
+    return place.edit()->text();
+}
 
 QLineEdit* editOf(const ClientWindow& window, const char* row)
 {
@@ -101,48 +60,55 @@ class TstClients : public RulesTest
 private slots:
     void hiddenWindowsLeaveTheKeyboardAlone_data()
     {
-        QTest::addColumn<QByteArray>("kind");
-        for (const char* kind : {"tabs", "stack", "hidden"})
-            QTest::newRow(kind) << QByteArray(kind);
+        QTest::addColumn<int>("kind");
+        QTest::newRow("tabs") << int(ClientPlace::Tabs);
+        QTest::newRow("stack") << int(ClientPlace::Stack);
+        QTest::newRow("hidden") << int(ClientPlace::Column);
     }
 
     void hiddenWindowsLeaveTheKeyboardAlone()
     {
-        QFETCH(const QByteArray, kind);
+        QFETCH(const int, kind);
         const ClientWindow first(widget());
         const ClientWindow second(widget());
-        Client client(kind, {first.parent, second.parent});
+        ClientPlace client{ClientPlace::Kind(kind)};
+        client.take(first.parent);
+        client.take(second.parent);
+        client.turn(0);
+        client.show();
+        QApplication::setActiveWindow(&client);
+        client.edit()->setFocus();
         first.load("C1", rule("Gate"));
-        QCOMPARE(client.arriving("abc"), QString("abc"));
+        QCOMPARE(arriving(client, "abc"), QString("abc"));
         second.load("C2", rule("Gate"));
-        QCOMPARE(client.arriving("abc"), QString("abc"));
+        QCOMPARE(arriving(client, "abc"), QString("abc"));
         // What a load gives comes when the window is seen, and once.
         client.turn(2);
         QVERIFY(hasFocus(second));
-        client.own->setFocus();
+        client.edit()->setFocus();
         client.turn(1);
         QVERIFY(hasFocus(first));
-        client.own->setFocus();
+        client.edit()->setFocus();
         client.turn(2);
-        QCOMPARE(client.arriving("abc"), QString("abc"));
+        QCOMPARE(arriving(client, "abc"), QString("abc"));
         // Left while it is worked in, with and without another place for the focus.
         for (const bool isLonely : {false, true}) {
             client.turn(2);
             editOf(second, "high")->setFocus();
-            client.own->setEnabled(!isLonely);
+            client.edit()->setEnabled(!isLonely);
             client.turn(0);
             QVERIFY(!hasFocus(second));
-            client.type("3");
+            type(client, "3");
             QCOMPARE(editOf(second, "high")->text(), QString("6"));
-            client.own->setEnabled(true);
-            client.own->setFocus();
-            QCOMPARE(client.arriving("abc"), QString("abc"));
+            client.edit()->setEnabled(true);
+            client.edit()->setFocus();
+            QCOMPARE(arriving(client, "abc"), QString("abc"));
         }
         first.load("C3", rule("Gate"));
         first.clear();
         second.load("C4", rule("Gate"), R"(, "editable": false)");
         client.turn(1);
-        QCOMPARE(client.arriving("abc"), QString("abc"));
+        QCOMPARE(arriving(client, "abc"), QString("abc"));
     }
 
     void queryChangesNothing()
