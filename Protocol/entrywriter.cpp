@@ -58,12 +58,6 @@ Turn turnOf(const RuleProtocolItem& item, const QSet<const RuleProtocolItem*>& h
     return item.isFigure() || item.isControl() ? Turn::Shown : Turn::WithoutRow;
 }
 
-/// Picking a rule starts the figure that it lacks, which is no edit yet.
-bool isMerelyStarted(const DrawItem& figure)
-{
-    return !figure.isFinished() && figure.getPoints().isEmpty();
-}
-
 void writePointToJson(const QVector<QPoint>& points, const JsonPath& path, Value& json)
 {
     if (Value* target = path.readPath(json))
@@ -271,7 +265,7 @@ void EntryWriter::putValue(const Target& source, const Pass& pass, Value& field)
 void EntryWriter::writeFigure(const RuleProtocolItem& item, const Pass& pass) const
 {
     const DrawItem* drawItem = m_figures.first(pass.entry.id(), item);
-    if (!drawItem || isMerelyStarted(*drawItem))
+    if (!drawItem)
         return;
     writePointToJson(drawItem->getPoints(), item.path(), pass.json);
     if (drawItem->drawType() == BaseDrawType::Parallelogram)

@@ -2,6 +2,7 @@
 // document was saved as something else than it should be; both are on the standard error stream.
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleparser.h"
+#include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "fuzz/pairs/expecteddocument.h"
 #include "fuzz/pairs/pairmaker.h"
@@ -40,6 +41,18 @@ public:
     {
         for (BaseTabelScene* panel : qAsConst(m_panels))
             panel->setRuleData(nullptr);
+    }
+
+    /// Takes back the figures that picking started: without points they would be saved as none.
+    void dropStarted()
+    {
+        for (BaseTabelScene* panel : qAsConst(m_panels)) {
+            DrawScene& canvas = *panel->ruleData()->getDrawScene();
+            for (const DrawItem* figure : canvas.getItemList(BaseDrawType::None, -1)) {
+                if (!figure->isFinished() && figure->getPoints().isEmpty())
+                    canvas.removeItem(figure->itemId());
+            }
+        }
     }
 
     void pickAll()
@@ -88,6 +101,7 @@ QString complaint(const PairMaker& pair, bool conforming)
     {
         Panels panels(parser);
         panels.pickAll();
+        panels.dropStarted();
         if (!parser.writeData(written))
             return QStringLiteral("not written");
     }
