@@ -1,6 +1,7 @@
 #include "Protocol/calibrateareadata.h"
 
 #include "Protocol/calibrateareatemplate.h"
+#include "Protocol/misfit.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
@@ -33,7 +34,7 @@ void CalibrateAreaData::collectNotices(QStringList& notices) const
     for (const auto& entry : getAllData()) {
         const QString name = getRuleFucTitle() + QString::number(++number);
         for (const auto& [key, notice] : lengths) {
-            if (!entry->value(key).isValid())
+            if (!entry->value(key).isValid() && !Misfit::isUnder(*entry, key))
                 notices.append(notice.arg(name));
         }
     }

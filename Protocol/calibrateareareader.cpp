@@ -4,6 +4,7 @@
 #include "Protocol/calibrateareatemplate.h"
 #include "Protocol/calibratestaffs.h"
 #include "Protocol/configmember.h"
+#include "Protocol/entrykey.h"
 #include "Protocol/entrylist.h"
 #include "Protocol/figurereader.h"
 #include "Protocol/jsonpath.h"
@@ -58,8 +59,14 @@ void readLengths(const CalibrateAreaTemplate& dataTemplate, const Value& staffs,
                  RuleDataInfo& entry)
 {
     const auto kinds = CalibrateStaffs::kinds(dataTemplate);
-    for (const CalibrateStaffs::Kind& kind : kinds)
-        entry.setValue(kind.length->key(), CalibrateStaffs::shownLength(staffs, kind));
+    for (const CalibrateStaffs::Kind& kind : kinds) {
+        const EntryKey key(kind.length->key());
+        const QVariant shown = CalibrateStaffs::shownLength(staffs, kind);
+        entry.setValue(key, shown);
+        const Value* unreadable = CalibrateStaffs::unreadableLength(staffs, kind);
+        if (unreadable && !shown.isValid())
+            entry.keepAsRead(key, *unreadable);
+    }
 }
 
 void readEntry(CalibrateAreaData& data, const Value& json, int index)

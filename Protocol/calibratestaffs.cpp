@@ -52,6 +52,17 @@ QVariant CalibrateStaffs::shownLength(const Value& staffs, const Kind& kind)
     return isSent && isReadable ? kind.length->defaultValue() : QVariant();
 }
 
+const Value* CalibrateStaffs::unreadableLength(const Value& staffs, const Kind& kind)
+{
+    for (int i = 0; staffs.isArray() && i < staffs.size(); ++i) {
+        const Value& length = staffs[i][ConfigMember::kLength];
+        const bool isReadable = length.isNull() || length.isNumeric();
+        if (staffs[i][ConfigMember::kType].asView() == kind.type && !isReadable)
+            return &length;
+    }
+    return nullptr;
+}
+
 void CalibrateStaffs::takeSampleLengths(CalibrateAreaTemplate& dataTemplate, const Value& skeleton)
 {
     for (const Kind& kind : kinds(dataTemplate)) {

@@ -41,6 +41,9 @@ QVector<QPoint> points(const kql::Json::Value& staff);
 /// are no numbers or there is no staff to be sent.
 QVariant shownLength(const kql::Json::Value& staffs, const Kind& kind);
 
+/// The first length of @p kind in @p staffs that is there and no number; null when there is none.
+const kql::Json::Value* unreadableLength(const kql::Json::Value& staffs, const Kind& kind);
+
 /// Makes the lengths in @p skeleton, the list of staffs that new ones are made from, the defaults
 /// of the types that have none: that of a staff of the type, else that of the first staff.
 void takeSampleLengths(CalibrateAreaTemplate& dataTemplate, const kql::Json::Value& skeleton);

@@ -117,12 +117,14 @@ bool PictureStrip::eventFilter(QObject* watched, QEvent* event)
 void PictureStrip::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    QWidget* const focused = QApplication::focusWidget();
-    if (!focused || !isAncestorOf(focused) || !window()->isVisible())
-        return;
-    // Qt leaves the focus in what it hides when it finds no other place for it.
-    if (!focusNextPrevChild(true))
-        focused->clearFocus();
+    // Qt leaves the focus in what it hides when it finds no other place for it. It is still hiding
+    // now, and who hears of the focus may delete the strip.
+    const auto leave = [this] {
+        QWidget* const focused = QApplication::focusWidget();
+        if (focused && isAncestorOf(focused) && !isVisible() && window()->isVisible())
+            focused->clearFocus();
+    };
+    QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
 }
 
 void PictureStrip::mousePressEvent(QMouseEvent* event)

@@ -306,7 +306,9 @@ void QRtspVideoWnd::sltPictureReady()
 
 void QRtspVideoWnd::sltStateChanged()
 {
-    placeTryAgain();
+    // Not at once: the source is in the middle of something, and hiding a button moves the focus,
+    // of which who hears may delete both.
+    QMetaObject::invokeMethod(this, &QRtspVideoWnd::updateTryAgain, Qt::QueuedConnection);
     update();
 }
 
@@ -347,7 +349,10 @@ void QRtspVideoWnd::followPictureRect()
     if (picture == m_rect)
         return;
     m_rect = picture;
-    m_strip->setPictureRect(picture);
+    const QPointer<QRtspVideoWnd> guard(this);
+    m_strip->setPictureRect(picture); // which may take the focus from it
+    if (!guard)
+        return;
     placeTryAgain();
     update();
     emit sgnPictureRectChanged(selectedPane());
@@ -474,10 +479,20 @@ void QRtspVideoWnd::paintStatus(QPainter& painter)
     painter.drawText(place, kStatusFlags, text);
 }
 
+void QRtspVideoWnd::updateTryAgain()
+{
+    const QPointer<QRtspVideoWnd> guard(this);
+    if (!isLost() && m_tryAgain->hasFocus())
+        window()->setFocus(); // Qt would do it in the middle of hiding
+    if (!guard)
+        return;
+    m_tryAgain->setVisible(isLost());
+    placeTryAgain();
+}
+
 /// Under the words of an empty pane, else above the strip's right end.
 void QRtspVideoWnd::placeTryAgain()
 {
-    m_tryAgain->setVisible(isLost());
     if (!isLost())
         return;
     const QRect words = statusRect();

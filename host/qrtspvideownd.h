@@ -114,6 +114,7 @@ private:
     void followPictureRect();
     bool isLost() const;
     QRect statusRect() const;
+    void updateTryAgain();
     void placeTryAgain();
     bool deliverPress(QMouseEvent* event);
 

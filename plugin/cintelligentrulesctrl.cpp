@@ -17,6 +17,7 @@
 #include "scene/basetabelscene.h"
 #include "scene/scenefactory.h"
 #include "tabel/focus.h"
+#include "tabel/plaintext.h"
 #include "tabel/widgettabel.h"
 #include "ui_IntelligentRulesCtrl.h"
 
@@ -600,6 +601,7 @@ void CIntelligentRulesCtrl::showNotices()
 {
     const QStringList notices = m_parser ? m_parser->notices() : QStringList();
     m_form->lblNotices->setTitle(notices.join(QLatin1Char(' ')));
+    m_form->lblNotices->setToolTip(PlainText::toolTip(notices.join(QLatin1Char('\n'))));
     m_form->lblNotices->setVisible(!notices.isEmpty());
     // The notices have the room that is empty otherwise.
     const int emptyWidth = notices.isEmpty() ? kEmptyWidth : 0;
@@ -632,12 +634,13 @@ void CIntelligentRulesCtrl::showEvent(QShowEvent* event)
 void CIntelligentRulesCtrl::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    const QWidget* focused = QApplication::focusWidget();
-    if (!focused || !isAncestorOf(focused) || isVisible() || !window()->isVisible())
-        return;
-    // Qt leaves the focus in what it hides when it finds no other place for it.
-    if (!focusNextPrevChild(true))
-        Focus::takeFrom(*this);
+    // Qt leaves the focus in what it hides when it finds no other place for it. It is still hiding
+    // now, and who hears of the focus may delete the window.
+    const auto leave = [this] {
+        if (!isVisible() && window()->isVisible())
+            Focus::takeFrom(*this);
+    };
+    QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
 }
 
 } // namespace IntelligentRulesUI

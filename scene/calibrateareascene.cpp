@@ -1,6 +1,7 @@
 #include "scene/calibrateareascene.h"
 
 #include "Protocol/calibrateareatemplate.h"
+#include "Protocol/misfit.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "draw/drawscene.h"
@@ -70,7 +71,9 @@ void CalibrateAreaScene::markWithoutLength(ControlTabel& row)
 {
     const RuleDataInfo* entry = ruleData()->selectedDataInfo();
     const bool lacksLength = entry && !entry->value(row.key()).isValid();
-    row.setMark(lacksLength ? tr("The area has no length here.") : QString());
+    const QString misfit = entry ? Misfit::explained(*entry, row.key()) : QString();
+    const QString missing = lacksLength ? tr("The area has no length here.") : QString();
+    row.setMark(misfit.isEmpty() ? missing : misfit);
 }
 
 void CalibrateAreaScene::updateLengthRow(InputBoxTabel* row, BaseDrawType rulerType)

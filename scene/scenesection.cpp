@@ -20,7 +20,8 @@ constexpr int kTitleGap = 5;
 
 } // namespace
 
-SceneSection::SceneSection(QWidget* parent) : WidgetTabel(parent), m_widgets(this)
+SceneSection::SceneSection(QWidget* parent)
+    : WidgetTabel(parent), m_widgets(this), m_focused(QApplication::focusWidget())
 {
     setProperty("selected", false);
     m_widgets.titleBar->installEventFilter(this);
@@ -137,11 +138,14 @@ void SceneSection::mousePressEvent(QMouseEvent* event)
 
 void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
 {
+    // Who heard of it before may have deleted the widget that lost the focus.
+    const QWidget* const left = m_focused == old ? m_focused.data() : nullptr;
+    m_focused = now;
     if (!now || now == this)
         return;
     // Qt passes the focus on when its widget is disabled or hidden; the operator moved nothing.
-    const bool isPushed = old && !(old->isEnabled() && old->isVisible());
-    if (isPushed && m_selected && isVisible() && isAncestorOf(old) && !isAncestorOf(now))
+    const bool isPushed = left && !(left->isEnabled() && left->isVisible());
+    if (isPushed && m_selected && isVisible() && isAncestorOf(left) && !isAncestorOf(now))
         setFocus();
     if (isPushed || !isAncestorOf(now))
         return;

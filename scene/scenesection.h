@@ -3,6 +3,8 @@
 #include "scene/scenewidgets.h"
 #include "tabel/widgettabel.h"
 
+#include <QPointer>
+
 /**
  * A section of the side panel as a widget: it folds by its title bar, and is covered by a mask
  * until it is selected. It knows nothing of what it shows.
@@ -58,6 +60,7 @@ private:
     bool dropFocus();
 
     SceneWidgets m_widgets;
+    QPointer<const QWidget> m_focused; ///< of the whole process; null once it was deleted
     bool m_folded = false;
     bool m_selected = false;
     bool m_selectMode = false;

@@ -23,12 +23,13 @@ TitleLabel::TitleLabel(QWidget* parent) : QLabel(parent)
 void TitleLabel::setTitle(const QString& text)
 {
     setText(PlainText::line(text));
+    m_isCut = this->text() != text;
     setToolTip(PlainText::toolTip(text));
 }
 
 bool TitleLabel::isElided() const
 {
-    return fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+    return m_isCut || fontMetrics().horizontalAdvance(text()) > contentsRect().width();
 }
 
 QSize TitleLabel::sizeHint() const

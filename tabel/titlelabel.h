@@ -19,4 +19,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool m_isCut = false; ///< there is more in the tool tip, however wide the label is
 };

@@ -456,6 +456,14 @@ private slots:
               "Area1 has no horizontal length.");
         check(R"("Lane")", both, {"", ""}, "Area1 has no length. Area1 has no width.");
 
+        const Load unreadable(
+            makeTemplate(R"("calibrateArea": {"parent": "C[]", "method": "Scene"})", {}, "{}"),
+            R"({"C": [{"Staffs": [{"Type": "Vertical", "Length": "2.5 m"}]}]})");
+        const QString told = unreadable.parser.notices().join(' ');
+        QVERIFY2(told.startsWith("vertical (Area1) cannot be shown") &&
+                     !told.contains("no vertical length"),
+                 qPrintable(told));
+
         // Read without a staff, a lane's area shows no length that is not sent, but sends the
         // one that is entered then.
         const Load lane(makeTemplate(R"("calibrateArea": {"parent": "C", "method": "Lane",

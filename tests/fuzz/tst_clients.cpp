@@ -97,6 +97,7 @@ private slots:
             editOf(second, "high")->setFocus();
             client.edit()->setEnabled(!isLonely);
             client.turn(0);
+            QCoreApplication::processEvents();
             QVERIFY(!hasFocus(second));
             type(client, "3");
             QCOMPARE(editOf(second, "high")->text(), QString("6"));

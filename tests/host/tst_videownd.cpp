@@ -287,6 +287,7 @@ private slots:
         for (const char* part : {"Camera is gone", "Last picture: "})
             QVERIFY2(surface.window.statusText().contains(QLatin1String(part)), part);
         const auto* const again = surface.window.findChild<QPushButton*>("tryAgain");
+        QCoreApplication::processEvents();
         for (const bool drawing : {true, false}) {
             surface.window.setProperty("drawing", drawing);
             QCOMPARE(surface.window.childAt(again->geometry().center()) == again, !drawing);

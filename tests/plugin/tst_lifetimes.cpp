@@ -163,6 +163,10 @@ private:
             window.load("C1", rule("Gate"), R"(, "editable": false)");
         };
         const auto adds = [](const Window& window) { window.click("addRule"); };
+        const auto turnsPage = [](const Window& window) {
+            window.parent->hide();
+            QCoreApplication::processEvents();
+        };
         const auto picksOther = [](const Window& window) {
             QVERIFY(
                 QMetaObject::invokeMethod(window.find<QWidget>("global"), "sgnTrySelectedlScene"));
@@ -186,6 +190,7 @@ private:
                 {"focus leaves a row that goes", movesFocus("high", loadsLocked)},
                 {"focus leaves a button that hides", movesFocus("btnSave", loadsLocked)},
                 {"focus leaves a button that is disabled", movesFocus("addRule", adds)},
+                {"focus leaves a page that is turned", movesFocus("high", turnsPage)},
                 {"focus leaves a section for another one", movesFocus("high", picksOther)}};
     }
 
@@ -277,6 +282,18 @@ private slots:
         }
         if (window.parent)
             QVERIFY(!window.parent->grab().isNull());
+    }
+
+    void losesTheClientsWidgets()
+    {
+        const Window window(widget());
+        window.load("C1", rule("Gate"));
+        auto* const edit = new QLineEdit(window.parent);
+        edit->show();
+        edit->setFocus();
+        m_whileFocusing = [edit] { delete edit; };
+        window.find<QWidget>("high")->setFocus();
+        QVERIFY(window.content->isAncestorOf(QApplication::focusWidget()));
     }
 
     void keepsWindowsApart()
