@@ -18,26 +18,6 @@ namespace
 
 constexpr int kNoIndex = -1;
 
-bool areKept(const Value& read, const Value& written)
-{
-    const int count = std::max(read.size(), written.size());
-    for (int i = 0; i < count; ++i) {
-        const bool isAdded = i >= read.size() && !written[i].isNull();
-        if (isAdded || !EntryLoss::isKept(read[i], written[i]))
-            return false;
-    }
-    return true;
-}
-
-bool membersAreKept(const Value& read, const Value& written)
-{
-    for (int i = 0; i < read.size(); ++i) {
-        if (!EntryLoss::isKept(read.memberValue(i), written[read.memberName(i)]))
-            return false;
-    }
-    return true;
-}
-
 bool isKeptAlone(const Value& read, const Value& written)
 {
     if (read.isNumeric() && written.isNumeric())
@@ -48,6 +28,49 @@ bool isKeptAlone(const Value& read, const Value& written)
     if (!read.isString() && written.isString())
         return ValueConversion::toText(read) == written.asString();
     return read == written;
+}
+
+/// A list may be added or missing around the whole, but in no list: to look for one on each level
+/// would take as many ways as there are levels of both.
+enum class Around { List, Nothing };
+
+bool isKept(const Value& read, const Value& written, Around around);
+
+bool elementsAreKept(const Value& read, const Value& written)
+{
+    for (int i = read.size(); i < written.size(); ++i) {
+        if (!written[i].isNull())
+            return false;
+    }
+    for (int i = 0; i < read.size(); ++i) {
+        if (!isKept(read[i], written[i], Around::Nothing))
+            return false;
+    }
+    return true;
+}
+
+bool membersAreKept(const Value& read, const Value& written, Around around)
+{
+    for (int i = 0; i < read.size(); ++i) {
+        if (!isKept(read.memberValue(i), written[read.memberName(i)], around))
+            return false;
+    }
+    return true;
+}
+
+bool isKept(const Value& read, const Value& written, Around around)
+{
+    if (read.isNull())
+        return true;
+    if (read.isObject() && written.isObject())
+        return membersAreKept(read, written, around);
+    if (read.isArray() && written.isArray() && elementsAreKept(read, written))
+        return true;
+    if (around == Around::List && written.isArray() && written.size() == 1)
+        return isKept(read, written[0], Around::Nothing);
+    if (around == Around::List && read.isArray() && read.size() == 1)
+        return isKept(read[0], written, Around::Nothing);
+    return isKeptAlone(read, written);
 }
 
 /// Lines of a lane that were drawn right to left change their sides when they are saved.
@@ -91,17 +114,7 @@ const RuleProtocolItem* itemAt(const QVector<const RuleProtocolItem*>& items, in
 
 bool EntryLoss::isKept(const Value& read, const Value& written)
 {
-    if (read.isNull())
-        return true;
-    if (read.isObject() && written.isObject())
-        return membersAreKept(read, written);
-    if (read.isArray() && written.isArray() && areKept(read, written))
-        return true;
-    if (written.isArray() && written.size() == 1)
-        return isKept(read, written[0]);
-    if (read.isArray() && read.size() == 1)
-        return isKept(read[0], written);
-    return isKeptAlone(read, written);
+    return ::isKept(read, written, Around::List);
 }
 
 EntryLoss::EntryLoss(RuleData& data, const QString& section) : m_data(data)
@@ -140,12 +153,10 @@ void EntryLoss::compare(const RuleDataInfo& entry, const Value& read, const Valu
 
 void EntryLoss::compareMember(const QString& path, const Value& read, const Value& written)
 {
-    if (isKept(read, written))
-        return;
     const auto items = m_items.constFind(path);
-    if (items != m_items.constEnd())
-        return compareItems(path, *items, read, written);
     const bool leadsOn = m_stations.contains(path);
+    if (items != m_items.constEnd())
+        return isKept(read, written) ? void() : compareItems(path, *items, read, written);
     if (read.isObject() && (written.isObject() || leadsOn)) {
         for (int i = 0; i < read.size(); ++i) {
             const std::string_view name = read.memberName(i);
@@ -153,6 +164,8 @@ void EntryLoss::compareMember(const QString& path, const Value& read, const Valu
         }
         return;
     }
+    if (isKept(read, written))
+        return;
     // Attributes lie in the first element of such a list; the others are nobody's.
     if (!read.isArray() || !leadsOn || !read[0].isObject())
         return tellMember(path);

@@ -355,6 +355,11 @@ private slots:
                       {"CalibrateArea": {"Rects": [[[1, 2], [3, 4]], 5]}}]})",
             {"Calibrate rect (Area2) is not saved as it was read."});
         row(detection("{}"), R"({"D": [[1, 1], [2, 2]]})", {});
+        const auto nested = [](const char* value) {
+            return QString(R"({"X": %1%2%3})").arg(QString(400, '['), value, QString(400, ']'));
+        };
+        row(rules({"A|int"}, nested("1")), qPrintable(nested("2")),
+            {R"("X" is not saved: no attribute names it.)"});
     }
 
     void edits()
