@@ -48,16 +48,6 @@ QString fieldOf(const RuleProtocolItem& item)
     return path.endsWith(QLatin1String("[]")) ? path.chopped(2) : path;
 }
 
-/// In which order the items of an entry are written.
-enum class Turn { Hidden, WithoutRow, Shown };
-
-Turn turnOf(const RuleProtocolItem& item, const QSet<const RuleProtocolItem*>& hidden)
-{
-    if (hidden.contains(&item))
-        return Turn::Hidden;
-    return item.isFigure() || item.isControl() ? Turn::Shown : Turn::WithoutRow;
-}
-
 void writePointToJson(const QVector<QPoint>& points, const JsonPath& path, Value& json)
 {
     if (Value* target = path.readPath(json))
@@ -145,43 +135,78 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
     ElementMaker elements;
     const Pass pass{entry, asRead, json, elements};
     makeElements(pass);
-    writeAsRead(pass);
-    // The rows that the operator sees win: they go last, and what they write in whole is not
-    // written before, which might leave the place in a shape that they do not fit.
-    const HiddenItems hidden = Validity::hiddenItems(m_template, entry);
-    const std::set<Place> inSight = placesInSight(pass, hidden);
-    for (const Turn turn : {Turn::Hidden, Turn::WithoutRow, Turn::Shown}) {
-        for (const Target& target : m_targets) {
-            if (turnOf(*target.item, hidden) != turn)
-                continue;
-            const bool mayYield = turn != Turn::Shown && target.sharedField >= 0;
-            if (!mayYield || inSight.count(placeOf(target, json)) == 0)
-                writeItem(target, pass);
-        }
+    const std::vector<Step> steps = listSteps(pass);
+    const Weights heaviest = heaviestOf(steps, pass);
+    for (const Step& step : steps) {
+        if (!yields(step, heaviest))
+            writeItem(*step.target, pass);
     }
+}
+
+/// What counts most goes last.
+std::vector<EntryWriter::Step> EntryWriter::listSteps(const Pass& pass) const
+{
+    const auto hidden = Validity::hiddenItems(m_template, pass.entry);
+    std::vector<Step> steps;
+    steps.reserve(m_targets.size());
+    for (const Target& target : m_targets) {
+        const bool isHidden = hidden.contains(target.item);
+        steps.push_back({&target, weigh(target, isHidden, pass), placeOf(target, pass.json)});
+    }
+    std::stable_sort(steps.begin(), steps.end(),
+                     [](const Step& a, const Step& b) { return a.weight < b.weight; });
+    return steps;
+}
+
+EntryWriter::Weight EntryWriter::weigh(const Target& target, bool isHidden, const Pass& pass)
+{
+    const RuleProtocolItem& item = *target.item;
+    const bool isShared = target.sharedField >= 0;
+    const bool isKept = pass.entry.asRead(target.key) && !item.isFigure();
+    if (isKept && !isShared)
+        return {Sight::NoOthers, State::Kept};
+    const bool isSeen = item.isFigure() || item.isControl();
+    const auto sight = isHidden ? Sight::Hidden : isSeen ? Sight::Shown : Sight::WithoutRow;
+    if (isKept)
+        return {sight, State::Kept};
+    const Value* found = isShared && pass.asRead ? item.path().probe(*pass.asRead) : nullptr;
+    if (!found || item.isFigure())
+        return {sight, State::Entered};
+    const QVariant& value = pass.entry.value(target.key);
+    const QVariant read = ValueConversion::parseJsonToValue(*found, item);
+    const bool isSame = value.isValid() == read.isValid() && value == read;
+    return {sight, isSame ? State::Converted : State::Entered};
 }
 
 EntryWriter::Place EntryWriter::placeOf(const Target& target, const Value& json)
 {
-    const Value* field = target.item->path().probe(json);
+    const Value* field = target.sharedField < 0 ? nullptr : target.item->path().probe(json);
     const int index = target.item->index();
     const bool isElement = field && field->isArray() && index >= 0 && index < field->size();
     return {target.sharedField, isElement ? index : -1};
 }
 
-/// The shared places that a row which the operator sees has a value for.
-std::set<EntryWriter::Place> EntryWriter::placesInSight(const Pass& pass,
-                                                        const HiddenItems& hidden) const
+/// Of what there is to write into each shared place.
+EntryWriter::Weights EntryWriter::heaviestOf(const std::vector<Step>& steps, const Pass& pass)
 {
-    std::set<Place> places;
-    for (const Target& target : m_targets) {
-        const bool isRow = target.sharedField >= 0 && target.item->isControl();
-        const bool hasValue =
-            isRow && (pass.entry.value(target.key).isValid() || pass.entry.asRead(target.key));
-        if (hasValue && turnOf(*target.item, hidden) == Turn::Shown)
-            places.insert(placeOf(target, pass.json));
+    Weights heaviest;
+    for (const Step& step : steps) {
+        const Target& target = *step.target;
+        const bool isValue = target.sharedField >= 0 && !target.item->isFigure();
+        if (isValue && (step.isKept() || pass.entry.value(target.key).isValid()))
+            heaviest[step.place] = step.weight;
     }
-    return places;
+    return heaviest;
+}
+
+/// What would be overwritten is not written before, which might leave the place in a shape that
+/// what counts more does not fit; but what is merely converted goes over what was kept of it.
+bool EntryWriter::yields(const Step& step, const Weights& heaviest)
+{
+    const auto found = heaviest.find(step.place);
+    return step.target->sharedField >= 0 && found != heaviest.end() &&
+           step.weight < found->second &&
+           (!step.isKept() || found->second.second == State::Entered);
 }
 
 /// A skeleton may have null where devices have a list. Elements that this one's list lacks are
@@ -210,28 +235,24 @@ void EntryWriter::makeElements(const Pass& pass) const
     }
 }
 
-/// Goes before all else, so that what was edited since wins where attributes share a place.
-void EntryWriter::writeAsRead(const Pass& pass) const
+void EntryWriter::writeAsRead(const Target& target, const Value& kept, const Pass& pass)
 {
-    for (const Target& target : m_targets) {
-        const Value* kept = pass.entry.asRead(target.key);
-        if (!kept || target.item->isFigure())
-            continue;
-        const JsonPath& path = target.item->path();
-        Value* field = path.readPath(pass.json);
-        if (!field && path.isPlainName())
-            field = &pass.json[path.parts().front().name];
-        Value* place = field ? ValueConversion::element(*field, *target.item) : nullptr;
-        if (place)
-            *place = *kept;
-    }
+    const JsonPath& path = target.item->path();
+    Value* field = path.readPath(pass.json);
+    if (!field && path.isPlainName())
+        field = &pass.json[path.parts().front().name];
+    Value* place = field ? ValueConversion::element(*field, *target.item) : nullptr;
+    if (place)
+        *place = kept;
 }
 
 void EntryWriter::writeItem(const Target& target, const Pass& pass) const
 {
     if (target.item->isFigure())
         writeFigure(*target.item, pass);
-    else if (!pass.entry.asRead(target.key))
+    else if (const Value* kept = pass.entry.asRead(target.key))
+        writeAsRead(target, *kept, pass);
+    else
         writeValueToJson(target, pass);
 }
 

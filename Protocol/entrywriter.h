@@ -4,9 +4,8 @@
 #include "Protocol/entrykey.h"
 #include "host/value.h"
 
-#include <QSet>
 #include <QString>
-#include <set>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -45,14 +44,30 @@ private:
     struct Pass;
     /// A shared field, and which element of it; -1 for the field itself.
     using Place = std::pair<int, int>;
-    using HiddenItems = QSet<const RuleProtocolItem*>;
+    /// The later, the more it counts; the rows that the operator sees go last.
+    enum class Sight { NoOthers, Hidden, WithoutRow, Shown };
+    /// Likewise: what was read and converted, what was read and kept, what was entered since.
+    enum class State { Converted, Kept, Entered };
+    using Weight = std::pair<Sight, State>;
+    using Weights = std::map<Place, Weight>;
+    /// What one target has to write, and how much it counts among those of its place.
+    struct Step {
+        const Target* target;
+        Weight weight;
+        Place place;
+
+        bool isKept() const { return weight.second == State::Kept; }
+    };
 
     void markSharedFields();
     void listElements();
     void makeElements(const Pass& pass) const;
     static Place placeOf(const Target& target, const kql::Json::Value& json);
-    std::set<Place> placesInSight(const Pass& pass, const HiddenItems& hidden) const;
-    void writeAsRead(const Pass& pass) const;
+    std::vector<Step> listSteps(const Pass& pass) const;
+    static Weight weigh(const Target& target, bool isHidden, const Pass& pass);
+    static Weights heaviestOf(const std::vector<Step>& steps, const Pass& pass);
+    static bool yields(const Step& step, const Weights& heaviest);
+    static void writeAsRead(const Target& target, const kql::Json::Value& kept, const Pass& pass);
     void writeItem(const Target& target, const Pass& pass) const;
     static void writeValueToJson(const Target& source, const Pass& pass);
     static void putValue(const Target& source, const Pass& pass, kql::Json::Value& field);

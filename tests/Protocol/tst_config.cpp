@@ -429,6 +429,49 @@ private slots:
         check(intAtV, intAtV, "5", 8, "7", ""); // applies, but has no row
     }
 
+    /// Of two attributes in one place, keyed 0 and 1 and given as "type|index|facade|mode", of
+    /// which the row of the mode "a" shows: what is saved when the first one is set.
+    void editsWin()
+    {
+        const auto check = [](const Texts& attributes, const char* place, const char* found,
+                              const QVariant& value, const char* expected) {
+            Texts controls{R"({"key": "mode", "protocol": {"name": "M", "type": "string"}})"};
+            Texts items{R"("mode": {"facade": "radioButton", "enum": ["a", "b"]})"};
+            for (const QString& attribute : attributes) {
+                const Texts parts = attribute.split('|');
+                const QString key = QString::number(controls.size() - 1);
+                const QString valid = R"(, "valid": {"controlKey": "mode", "enumValue": "%1"})";
+                controls += QString(R"({"key": "%1", "protocol": {"name": "V", "type": "%2",
+                                        "index": %3}%4})")
+                                .arg(key, parts[0], parts[1],
+                                     parts[3].isEmpty() ? QString() : valid.arg(parts[3]));
+                items += QString(R"("%1": {"facade": "%2"})").arg(key, parts[2]);
+            }
+            const QString section =
+                R"("ruleDescription": {"rules": {"parent": "R", "controls": [%1]}})";
+            const Load load(makeTemplate(section.arg(controls.join(',')), items.join(','),
+                                         QString(R"({"R": {"M": "", "V": %1}})").arg(place)),
+                            QString(R"({"R": {"M": "a", "V": %1}})").arg(found));
+            if (value.isValid())
+                load.entry().setValue("0", value);
+            const QString saved = text(json(load.written())["R"]["V"]);
+            QVERIFY2(saved == text(json(expected)),
+                     qPrintable(attributes.join(' ') + ' ' + found + ": " + saved));
+        };
+        const char* const number = "int|-1|inputBoxNumber|a";
+        const char* const range = "array int|-1|numericalInterval|a";
+        check({number, "int|-1|inputBoxNumber|b"}, "0", "[1, 2]", 7, "7");
+        check({range, "array int|-1|numericalInterval|b"}, "[0, 0]", "5", QSize(3, 4), "[3, 4]");
+        check({range, "bool|-1||"}, "[0, 0]", "5", QSize(3, 4), "[3, 4]");
+        check({range, "bool|-1||"}, "[0, 0]", R"("x")", QSize(3, 4), "[3, 4]");
+        check({number, "bool|-1||"}, "0", "[1]", 7, "7");
+        check({range, "int|-1|inputBoxNumber|b"}, "[0, 0]", "[1, 2, 3]", QVariant(), "[1, 2, 3]");
+        const char* const words = "string|-1|inputBoxNumber|";
+        check({number, words}, "0", R"("abc")", 7, "7");
+        check({number, words}, "0", "5.5", QVariant(), "5.5");
+        check({number, words}, "0", "5", QVariant(), R"("5")");
+    }
+
     void calibrationLengths()
     {
         // What the template and the skeleton's staffs say, what a new area shows, what is sent
