@@ -126,7 +126,7 @@ void DocumentLoss::compare(const Value& read, const Value& written, const QStrin
             compare(read[i], written[i], path);
         return;
     }
-    if (!EntryLoss::isKept(read, written))
+    if (!EntryLoss::isSame(read, written))
         m_sentences.append(
             SaveNotices::tr("%1 is not saved: no attribute names it.").arg(quoted(path)));
 }

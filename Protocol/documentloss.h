@@ -17,7 +17,7 @@ class Value;
 /**
  * Finds what a save changes or drops of a configuration, by comparing the two: so nothing is
  * overlooked, and a document that is saved as it was read has nothing to tell. What is added, and
- * a number that is written as a text or without its fraction of 0, is no loss.
+ * what attributes convert, is no loss.
  */
 class DocumentLoss
 {

@@ -18,58 +18,54 @@ namespace
 
 constexpr int kNoIndex = -1;
 
+using Comparison = bool (*)(const Value& read, const Value& written);
+
+bool areKept(const Value& read, const Value& written, Comparison isKept)
+{
+    const int count = std::max(read.size(), written.size());
+    for (int i = 0; i < count; ++i) {
+        const bool isAdded = i >= read.size() && !written[i].isNull();
+        if (isAdded || !isKept(read[i], written[i]))
+            return false;
+    }
+    return true;
+}
+
+bool membersAreKept(const Value& read, const Value& written, Comparison isKept)
+{
+    for (int i = 0; i < read.size(); ++i) {
+        if (!isKept(read.memberValue(i), written[read.memberName(i)]))
+            return false;
+    }
+    return true;
+}
+
+bool isSameAlone(const Value& read, const Value& written)
+{
+    const bool isByValue =
+        read.isNumeric() && written.isNumeric() && !(read.isInt() && written.isInt());
+    return isByValue ? read.asDouble() == written.asDouble() : read == written;
+}
+
 bool isKeptAlone(const Value& read, const Value& written)
 {
-    if (read.isNumeric() && written.isNumeric())
-        return read.isInt() && written.isInt() ? read == written
-                                               : read.asDouble() == written.asDouble();
     if (read.isNumeric() && written.isBool())
         return read.asBool() == written.asBool();
     if (!read.isString() && written.isString())
         return ValueConversion::toText(read) == written.asString();
-    return read == written;
+    return isSameAlone(read, written);
 }
 
-/// A list may be added or missing around the whole, but in no list: to look for one on each level
-/// would take as many ways as there are levels of both.
-enum class Around { List, Nothing };
-
-bool isKept(const Value& read, const Value& written, Around around);
-
-bool elementsAreKept(const Value& read, const Value& written)
-{
-    for (int i = read.size(); i < written.size(); ++i) {
-        if (!written[i].isNull())
-            return false;
-    }
-    for (int i = 0; i < read.size(); ++i) {
-        if (!isKept(read[i], written[i], Around::Nothing))
-            return false;
-    }
-    return true;
-}
-
-bool membersAreKept(const Value& read, const Value& written, Around around)
-{
-    for (int i = 0; i < read.size(); ++i) {
-        if (!isKept(read.memberValue(i), written[read.memberName(i)], around))
-            return false;
-    }
-    return true;
-}
-
-bool isKept(const Value& read, const Value& written, Around around)
+/// As isKept(), with no list added or missing: to look for one on each level would take as many
+/// ways as there are levels of both.
+bool isKeptAsItIs(const Value& read, const Value& written)
 {
     if (read.isNull())
         return true;
     if (read.isObject() && written.isObject())
-        return membersAreKept(read, written, around);
-    if (read.isArray() && written.isArray() && elementsAreKept(read, written))
-        return true;
-    if (around == Around::List && written.isArray() && written.size() == 1)
-        return isKept(read, written[0], Around::Nothing);
-    if (around == Around::List && read.isArray() && read.size() == 1)
-        return isKept(read[0], written, Around::Nothing);
+        return membersAreKept(read, written, &isKeptAsItIs);
+    if (read.isArray() && written.isArray())
+        return areKept(read, written, &isKeptAsItIs);
     return isKeptAlone(read, written);
 }
 
@@ -88,6 +84,12 @@ bool isFixed(const QString& path)
                                      QStringLiteral("Config.Type"), QStringLiteral("LeftLine"),
                                      QStringLiteral("RightLine"),   QStringLiteral("Method")};
     return fixed.contains(path);
+}
+
+/// Those of them that are converted as attributes are.
+bool isConverted(const QString& path)
+{
+    return path == QLatin1String("Name") || path == QLatin1String("Enable");
 }
 
 QString withoutBrackets(const JsonPath& path)
@@ -112,9 +114,26 @@ const RuleProtocolItem* itemAt(const QVector<const RuleProtocolItem*>& items, in
 
 } // namespace
 
+bool EntryLoss::isSame(const Value& read, const Value& written)
+{
+    if (read.isNull())
+        return true;
+    if (read.isObject() && written.isObject())
+        return membersAreKept(read, written, &isSame);
+    if (read.isArray() && written.isArray())
+        return areKept(read, written, &isSame);
+    return isSameAlone(read, written);
+}
+
 bool EntryLoss::isKept(const Value& read, const Value& written)
 {
-    return ::isKept(read, written, Around::List);
+    if (read.isObject() && written.isObject())
+        return membersAreKept(read, written, &isKept);
+    if (isKeptAsItIs(read, written))
+        return true;
+    if (written.isArray() && written.size() == 1)
+        return isKeptAsItIs(read, written[0]);
+    return read.isArray() && read.size() == 1 && isKeptAsItIs(read[0], written);
 }
 
 EntryLoss::EntryLoss(RuleData& data, const QString& section) : m_data(data)
@@ -136,11 +155,11 @@ EntryLoss::EntryLoss(RuleData& data, const QString& section) : m_data(data)
 void EntryLoss::compare(const RuleDataInfo& entry, const Value& read, const Value& written)
 {
     m_entry = &entry;
-    if (isKept(read, written))
+    if (isSame(read, written))
         return;
     if (!read.isObject()) {
         const auto figures = m_data.getTemplate()->figureItems();
-        return figures.isEmpty() ? void() : tellItem(*figures.first());
+        return figures.isEmpty() || isKept(read, written) ? void() : tellItem(*figures.first());
     }
     const bool mayDiffer = areSwapped(read, written);
     for (int i = 0; i < read.size(); ++i) {
@@ -153,10 +172,12 @@ void EntryLoss::compare(const RuleDataInfo& entry, const Value& read, const Valu
 
 void EntryLoss::compareMember(const QString& path, const Value& read, const Value& written)
 {
+    if (isSame(read, written) || (isConverted(path) && isKept(read, written)))
+        return;
     const auto items = m_items.constFind(path);
-    const bool leadsOn = m_stations.contains(path);
     if (items != m_items.constEnd())
-        return isKept(read, written) ? void() : compareItems(path, *items, read, written);
+        return compareItems(path, *items, read, written);
+    const bool leadsOn = m_stations.contains(path);
     if (read.isObject() && (written.isObject() || leadsOn)) {
         for (int i = 0; i < read.size(); ++i) {
             const std::string_view name = read.memberName(i);
@@ -164,14 +185,12 @@ void EntryLoss::compareMember(const QString& path, const Value& read, const Valu
         }
         return;
     }
-    if (isKept(read, written))
-        return;
     // Attributes lie in the first element of such a list; the others are nobody's.
     if (!read.isArray() || !leadsOn || !read[0].isObject())
         return tellMember(path);
     compareMember(path, read[0], written[0]);
     for (int i = 1; i < read.size(); ++i) {
-        if (!isKept(read[i], written[i]))
+        if (!isSame(read[i], written[i]))
             return tellMember(path);
     }
 }
@@ -180,15 +199,17 @@ void EntryLoss::compareItems(const QString& path, const Items& items, const Valu
                              const Value& written)
 {
     const RuleProtocolItem* whole = itemAt(items, kNoIndex);
-    if (!read.isArray() || !written.isArray() || (whole && whole->isFigure()))
+    const bool isList = read.isArray() && written.isArray();
+    if ((whole || !isList) && isKept(read, written))
+        return;
+    if (!isList || (whole && whole->isFigure()))
         return tellItem(whole ? *whole : *items.first());
     for (int i = 0; i < read.size(); ++i) {
-        if (isKept(read[i], written[i]))
+        const RuleProtocolItem* element = itemAt(items, i);
+        const RuleProtocolItem* item = element ? element : whole;
+        if (item ? isKept(read[i], written[i]) : isSame(read[i], written[i]))
             continue;
-        const RuleProtocolItem* item = itemAt(items, i);
-        if (!item && !whole)
-            return tellMember(path);
-        tellItem(item ? *item : *whole);
+        item ? tellItem(*item) : tellMember(QStringLiteral("%1[%2]").arg(path).arg(i));
     }
 }
 

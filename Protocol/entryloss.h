@@ -20,8 +20,10 @@ class Value;
 class EntryLoss
 {
 public:
-    /// Whether @p written says all that @p read does: the same, in whatever order, or a conversion
-    /// of it, or with a list around it or without.
+    /// Whether @p written has all that @p read has, in whatever order, and numbers by value.
+    static bool isSame(const kql::Json::Value& read, const kql::Json::Value& written);
+    /// The same of what attributes convert: a conversion says as much, and so does what has a list
+    /// around it or none.
     static bool isKept(const kql::Json::Value& read, const kql::Json::Value& written);
 
     /// Of the items of @p data's template that belong to @p section. Nothing is owned.

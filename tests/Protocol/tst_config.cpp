@@ -339,6 +339,16 @@ private slots:
              "V (d) is not saved as it was read.",
              "\"X.Y\" (Rule5) is not saved: no attribute names it.",
              "\"X.Z\" (Rule5) is not saved: no attribute names it."});
+        row(rules(
+                {"V|int|0", "V[]|int|2"},
+                R"({"R": [{"V": [1, 2, 3], "X": true}], "Y": {"mode": true, "T": "7", "L": [5]}})"),
+            R"({"R": [{"V": [4, 5, 6], "X": 7, "Name": 1, "Enable": 1}],
+                "Y": {"mode": 7, "T": 7, "L": 5}})",
+            {"\"V[1]\" (1) is not saved: no attribute names it.",
+             "\"X\" (1) is not saved: no attribute names it.",
+             "\"Y.mode\" is not saved: no attribute names it.",
+             "\"Y.T\" is not saved: no attribute names it.",
+             "\"Y.L\" is not saved: no attribute names it."});
         row(rules({"A|int"}, R"({"R": {"A": 1}})"),
             R"({"R": [{"A": 2, "Name": "a"}, {"Name": "b"}]})",
             {"Only a is saved: the template has room for one."});
