@@ -48,6 +48,12 @@ QString fieldOf(const RuleProtocolItem& item)
     return path.endsWith(QLatin1String("[]")) ? path.chopped(2) : path;
 }
 
+/// Unlike QVariant's own comparison this one tells 0 and an empty text from no value.
+bool areSame(const QVariant& one, const QVariant& other)
+{
+    return one.isValid() == other.isValid() && one == other;
+}
+
 void writePointToJson(const QVector<QPoint>& points, const JsonPath& path, Value& json)
 {
     if (Value* target = path.readPath(json))
@@ -69,7 +75,7 @@ EntryWriter::EntryWriter(const RuleData& data, const QString& section)
 {
     for (const auto& item : m_template.items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
-            m_targets.push_back({item.get(), EntryKey(item->key()), -1});
+            m_targets.push_back({item.get(), EntryKey(item->key()), -1, false});
     }
     markSharedFields();
     listElements();
@@ -93,8 +99,19 @@ void EntryWriter::markSharedFields()
 
 void EntryWriter::listElements()
 {
+    QMap<int, int> firstElements;
+    const auto isElement = [](const Target& target) {
+        return !target.item->isFigure() && target.item->index() >= 0;
+    };
     for (const Target& target : m_targets) {
-        if (!target.item->isFigure() && target.item->index() >= 0)
+        const int index = target.item->index();
+        if (isElement(target) && index < firstElements.value(target.sharedField, index + 1))
+            firstElements.insert(target.sharedField, index);
+    }
+    for (Target& target : m_targets) {
+        target.isFurtherElement = isElement(target) && target.sharedField >= 0 &&
+                                  target.item->index() > firstElements[target.sharedField];
+        if (isElement(target))
             m_elements.push_back(target);
     }
     std::stable_sort(m_elements.begin(), m_elements.end(), [](const Target& a, const Target& b) {
@@ -150,12 +167,27 @@ std::vector<EntryWriter::Step> EntryWriter::listSteps(const Pass& pass) const
     std::vector<Step> steps;
     steps.reserve(m_targets.size());
     for (const Target& target : m_targets) {
+        if (hasNoRoom(target, pass.json))
+            continue;
         const bool isHidden = hidden.contains(target.item);
         steps.push_back({&target, weigh(target, isHidden, pass), placeOf(target, pass.json)});
     }
     std::stable_sort(steps.begin(), steps.end(),
                      [](const Step& a, const Step& b) { return a.weight < b.weight; });
     return steps;
+}
+
+bool EntryWriter::hasNoRoom(const RuleProtocolItem& item, const Value& entry) const
+{
+    return std::any_of(m_targets.begin(), m_targets.end(), [&](const Target& target) {
+        return target.item == &item && hasNoRoom(target, entry);
+    });
+}
+
+bool EntryWriter::hasNoRoom(const Target& target, const Value& entry)
+{
+    const Value* field = target.isFurtherElement ? target.item->path().probe(entry) : nullptr;
+    return field && !field->isArray() && !field->isNull();
 }
 
 EntryWriter::Weight EntryWriter::weigh(const Target& target, bool isHidden, const Pass& pass)
@@ -174,8 +206,7 @@ EntryWriter::Weight EntryWriter::weigh(const Target& target, bool isHidden, cons
         return {sight, State::Entered};
     const QVariant& value = pass.entry.value(target.key);
     const QVariant read = ValueConversion::parseJsonToValue(*found, item);
-    const bool isSame = value.isValid() == read.isValid() && value == read;
-    return {sight, isSame ? State::Converted : State::Entered};
+    return {sight, areSame(value, read) ? State::Converted : State::Entered};
 }
 
 EntryWriter::Place EntryWriter::placeOf(const Target& target, const Value& json)
@@ -209,28 +240,29 @@ bool EntryWriter::yields(const Step& step, const Weights& heaviest)
            (!step.isKept() || found->second.second == State::Entered);
 }
 
-/// A skeleton may have null where devices have a list. Elements that this one's list lacks are
-/// made when they are other than what is read without them.
+/// A skeleton may have null where devices have a list. Elements of it are made where one was read,
+/// and when they are other than what is read without them.
 void EntryWriter::makeElements(const Pass& pass) const
 {
-    const auto listOf = [&pass](const Target& target) {
+    const auto foundFor = [&pass](const Target& target) -> const Value& {
+        static const Value nothing;
         const Value* found = pass.asRead ? target.item->path().probe(*pass.asRead) : nullptr;
-        return found && found->isArray() ? found : nullptr;
+        return found ? *found : nothing;
     };
     std::vector<Target> missing;
     std::copy_if(m_elements.begin(), m_elements.end(), std::back_inserter(missing),
                  [&](const Target& target) {
                      const Value* field = target.item->path().probe(pass.json);
-                     return field && field->isNull() && listOf(target);
+                     return field && field->isNull();
                  });
     for (const Target& target : missing) {
         const RuleProtocolItem& item = *target.item;
-        const Value& list = *listOf(target);
+        const Value& found = foundFor(target);
         Value& field = *item.path().readPath(pass.json);
-        if (field.isNull())
+        if (field.isNull() && found.isArray())
             field = Value(kql::Json::ValueType::Array);
-        if (item.index() < list.size() ||
-            pass.entry.value(target.key) != ValueConversion::parseJsonToValue(list, item))
+        if ((found.isArray() && item.index() < found.size()) ||
+            !areSame(pass.entry.value(target.key), ValueConversion::parseJsonToValue(found, item)))
             pass.elements.make(field, item.index());
     }
 }

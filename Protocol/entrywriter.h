@@ -33,6 +33,9 @@ public:
     void write(const RuleDataInfo& entry, const kql::Json::Value* asRead,
                kql::Json::Value& json) const;
 
+    /// Whether @p item's value is one of several for a place that has but one in @p entry.
+    bool hasNoRoom(const RuleProtocolItem& item, const kql::Json::Value& entry) const;
+
     const EntryFigures& figures() const { return m_figures; }
 
 private:
@@ -40,6 +43,7 @@ private:
         const RuleProtocolItem* item;
         EntryKey key;
         int sharedField; ///< that other items write to, too, however it is spelled; -1 for none
+        bool isFurtherElement; ///< of a field that others write an earlier element of
     };
     struct Pass;
     /// A shared field, and which element of it; -1 for the field itself.
@@ -62,6 +66,7 @@ private:
     void markSharedFields();
     void listElements();
     void makeElements(const Pass& pass) const;
+    static bool hasNoRoom(const Target& target, const kql::Json::Value& entry);
     static Place placeOf(const Target& target, const kql::Json::Value& json);
     std::vector<Step> listSteps(const Pass& pass) const;
     static Weight weigh(const Target& target, bool isHidden, const Pass& pass);

@@ -98,13 +98,16 @@ void tellSection(RuleData& data, const QString& section, const QString& parent,
                  const Value& skeleton)
 {
     const Value* const first = EntryList::object(EntryList::at(skeleton, JsonPath(parent)), 0);
-    const Value prototype = EntryWriter(data, section).prototype(first);
+    const EntryWriter writer(data, section);
+    const Value prototype = writer.prototype(first);
     const bool isBuiltIn = data.getSceneType() == SceneType::CalibrateArea ||
                            data.getSceneType() == SceneType::FightCalibrate;
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() != section)
             continue;
-        const QString why = whyUnsaved(*item, isBuiltIn, prototype);
+        QString why = whyUnsaved(*item, isBuiltIn, prototype);
+        if (why.isEmpty() && item->isControl() && writer.hasNoRoom(*item, prototype))
+            why = otherKind(*item);
         if (!why.isEmpty())
             data.saveNotices().addUnsaved(*item, why);
     }

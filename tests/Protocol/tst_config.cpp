@@ -389,6 +389,26 @@ private slots:
                 R"({"R": [{"A": 5, "M": "y", "W": ["w"], "Name": "Rule1", "Enable": true, "Config": 1},
                                 {"A": 0, "M": "", "Name": "Rule2", "Enable": true, "Config": 1}]})"));
 
+        const auto addTwo = [](const char* place) {
+            const Load made(
+                rules({"V|string|0", "V[]|string|1"}, QString(R"({"R": [{"V": %1}]})").arg(place)),
+                R"({"R": [{"V": "a"}, {"V": ["a", {"b": 1}]}, {}]})");
+            for (RuleDataInfo* entry : {&made.entry(2), &made.addEntry()}) {
+                entry->setValue("V", "aa");
+                entry->setValue("V[]", "bb");
+            }
+            QString saved;
+            for (int i = 0; i < 4; ++i)
+                saved += text(json(made.written())["R"][i]["V"]);
+            return saved + made.parser.notices().join(' ');
+        };
+        QCOMPARE(addTwo("null"),
+                 R"("a"[ "a", { "b": 1 } ][ "aa", "bb" ][ "aa", "bb" ]V[] (Rule2) )" +
+                     QString("cannot be shown; it is saved as it was read until it is edited."));
+        QCOMPARE(addTwo(R"("")"), R"("a""a""aa""aa"V[] is not saved: the template has )" +
+                                      QString(R"(something else in its place "V[]". )") +
+                                      "V (Rule2) is not saved as it was read.");
+
         Load typed(rules({"A|int"}, R"({"R": [{}]})"), R"({"R": [{}]})");
         typed.parser.setAlgorithmInfo(2, "code");
         QVERIFY(!json(typed.written())["R"][0].isMember("Config"));
