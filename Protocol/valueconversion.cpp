@@ -70,14 +70,21 @@ void writeText(const QVariant& value, Value& target)
         target.append(Value(text));
 }
 
+/// Whether @p value has limits at all, and none that an int cannot hold.
+bool isInterval(const Value& value)
+{
+    const auto fits = [&value](int i) { return !value[i].isInt() || isWhole(value[i]); };
+    return value.isArray() && value.size() > 1 && fits(0) && fits(1);
+}
+
 int readLimit(const Value& element)
 {
-    return element.isInt() || isWhole(element) ? element.asInt() : kEmpty;
+    return isWhole(element) ? element.asInt() : kEmpty;
 }
 
 QVariant readInterval(const Value& value)
 {
-    if (value.size() < 2 || !value.isArray())
+    if (!isInterval(value))
         return {};
     return QSize(readLimit(value[0]), readLimit(value[1]));
 }
@@ -161,7 +168,7 @@ bool ValueConversion::isReadWhole(const Value& found, const RuleProtocolItem& it
     case ValueType::Float:
         return isExactDouble(value);
     case ValueType::ArrayInt:
-        return value.isArray() && value.size() > 1;
+        return isInterval(value);
     case ValueType::Object:
     case ValueType::Point:
     case ValueType::None:

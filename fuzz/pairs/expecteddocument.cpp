@@ -51,14 +51,14 @@ Value textsFor(const Value& found, const Value& target)
 
 Value intervalFor(const Value& found, const Value& target)
 {
-    if (!found.isArray() || found.size() < 2)
+    const auto isTooLong = [](const Value& limit) { return limit.isInt() && !isWholeInt(limit); };
+    if (!found.isArray() || found.size() < 2 || isTooLong(found[0]) || isTooLong(found[1]))
         return found;
     if (!target.isArray() && !target.isNull())
         return target;
     Value written = target;
     for (int i = 0; i < 2; ++i) {
-        const bool isLimit = found[i].isInt() || isWholeInt(found[i]);
-        written[i] = Value(isLimit ? std::max(0, found[i].asInt()) : 0);
+        written[i] = Value(isWholeInt(found[i]) ? std::max(0, found[i].asInt()) : 0);
     }
     return written;
 }

@@ -245,7 +245,8 @@ private slots:
         row("what does not fit", all, R"({"R": [{"T": {"a": 1}, "B": "true", "N": "7",
             "F": 9007199254740993, "V": 5, "L": ["a", {}], "Name": ["n"], "Enable": "no"},
             {"T": [], "B": 0, "N": 5000000000, "F": [], "V": [5], "L": [], "Name": "m",
-             "Enable": true}]})");
+             "Enable": true}, {"T": "", "B": true, "N": 1, "F": 1.5, "V": [0, 5000000000, 7],
+             "L": [], "Name": "l", "Enable": true}]})");
         row("what can be converted or is missing", all, R"({"R": [{"T": 12, "N": 5.0,
             "V": [5.0, 6], "Name": 12, "Enable": null}]})",
             R"({"R": [{"T": "12", "B": true, "N": 5, "F": 1.5, "V": [5, 6], "L": ["Human"],
