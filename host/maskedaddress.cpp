@@ -10,7 +10,6 @@ namespace
 {
 
 const auto kMask = QStringLiteral("***");
-const auto kLoginNames = QStringLiteral("user|usr|login|pass|pwd");
 
 int queryBegin(const QString& place)
 {
@@ -24,11 +23,19 @@ QString withoutQuery(const QString& place)
     return query < 0 ? place : place.left(query + 1) + kMask;
 }
 
-/// "user=admin": the name with its sign, and what follows.
-QRegularExpression namedSecret(const QString& names)
+/// In "user=admin", ";user:admin" and "u=admin": the name with its sign, and what follows. Nobody
+/// encodes the letters of a name but to hide it.
+const QRegularExpression& namedSecret()
 {
-    return QRegularExpression(QStringLiteral("((?:%1)[A-Za-z0-9_]*(?:=|%3d))[^&]+").arg(names),
-                              QRegularExpression::CaseInsensitiveOption);
+    static const auto names =
+        QStringLiteral("(?:user|usr|login|pass|pwd|pw|psw|psk|auth|token|secret|key|sign)"
+                       "[A-Za-z0-9_]*");
+    static const QRegularExpression secret(
+        QStringLiteral("((?:%1|(?<=[/?&;])[up]|%[4-7][0-9a-f][\\w%]{0,40}?)(?:=|%3d)|"
+                       "(?:(?<=[?&;])|(?<=[^/:]/))%1:)[^&]+")
+            .arg(names),
+        QRegularExpression::CaseInsensitiveOption);
+    return secret;
 }
 
 /// Behind a scheme or a login: the server, whose port has to be one, and a path.
@@ -51,6 +58,10 @@ QString maskedRest(const QString& rest)
     // A password may look like a server with a query: what is the server is not certain then.
     if (query >= 0 && place.lastIndexOf(QLatin1Char('@')) > query)
         return kMask;
+    static const QRegularExpression encodedLogin(QStringLiteral("^[^/?#]*%(?:3a|40)"),
+                                                 QRegularExpression::CaseInsensitiveOption);
+    if (place.contains(encodedLogin))
+        return kMask;
     const int at = place.lastIndexOf(QLatin1Char('@'));
     const QString shown = withoutFalsePort(withoutQuery(place.mid(at + 1)));
     return end >= 0 || at >= 0 ? kMask + QLatin1Char('@') + shown : shown;
@@ -60,19 +71,26 @@ QString maskedRest(const QString& rest)
 
 QString maskedAddress(const QString& address)
 {
-    static const QRegularExpression secret = namedSecret(kLoginNames);
-    // "C:/a@b.png" is a path.
+    // "C:/a@b.png" is a path; in "here: /a@b.png" stands one. A login may lack its name.
     static const QRegularExpression login(
-        QStringLiteral("(?<!\\w)(?![A-Za-z]:[/\\\\])[^\\s\"'/\\\\:=]+:(?!\\s).*@"),
-        QRegularExpression::DotMatchesEverythingOption);
+        QStringLiteral("(?:(?<!\\w)(?![A-Za-z]:[/\\\\])[^\\s\"'/\\\\:=]+?|(?<![^\\s=/]))"
+                       "(?::|%3a)(?:(?!\\s).*|\\s+[^\\s/\\\\]*)(?:@|%40)"),
+        QRegularExpression::DotMatchesEverythingOption | QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression scheme(
         QStringLiteral("(?<![\\w:.+-])[A-Za-z][A-Za-z0-9+.-]+:/+|://"));
+    // No question: those end there.
+    static const QRegularExpression query(QStringLiteral("(?<=\\S)\\?(?=\\S)"));
     QString text = address;
-    text.replace(secret, QStringLiteral("\\1") + kMask);
+    text.replace(namedSecret(), QStringLiteral("\\1") + kMask);
     const auto begin = scheme.match(text);
     const auto bare = login.match(text);
-    if (bare.hasMatch() && (!begin.hasMatch() || bare.capturedStart() < begin.capturedStart()))
-        return text.left(bare.capturedStart()) + kMask + QLatin1Char('@') +
+    const int server = begin.hasMatch() ? begin.capturedStart() : text.size();
+    const int name = bare.hasMatch() ? bare.capturedStart() : text.size();
+    const int asked = text.indexOf(query);
+    if (asked >= 0 && asked < qMin(server, name))
+        return withoutQuery(text);
+    if (name < server)
+        return text.left(name) + kMask + QLatin1Char('@') +
                withoutQuery(text.mid(bare.capturedEnd()));
     const int end = begin.capturedEnd();
     return begin.hasMatch() ? text.left(end) + maskedRest(text.mid(end)) : text;
@@ -80,17 +98,15 @@ QString maskedAddress(const QString& address)
 
 QString addressWithoutLogin(const QString& address)
 {
-    static const QRegularExpression secret =
-        namedSecret(kLoginNames + QStringLiteral("|auth|token|secret|key|sign"));
     StreamAddress parts = StreamAddress::parse(address);
     if (parts.scheme.isEmpty())
         return maskedAddress(address) == address ? address : QString();
-    parts.login.clear();
-    parts.path.replace(secret, QStringLiteral("\\1"));
-    parts.path = parts.path.section(QLatin1Char('#'), 0, 0);
-    const QString kept = parts.scheme + parts.server + parts.path;
-    const QString place = kept.section(QLatin1Char('?'), 0, 0);
-    return maskedAddress(place) == place ? kept : QString();
+    parts.path.replace(namedSecret(), QStringLiteral("\\1"));
+    // What is the server is not certain then.
+    if (parts.path.contains(QLatin1Char('@')))
+        return {};
+    const QString kept = parts.scheme + parts.server + parts.path.left(queryBegin(parts.path));
+    return maskedAddress(kept) == kept ? kept : QString();
 }
 
 } // namespace UICommonMdl

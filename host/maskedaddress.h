@@ -9,15 +9,15 @@ namespace UICommonMdl
 
 /**
  * @p address, or a text that holds one, as it may be shown and logged. "***" stands for user name
- * and password, whatever they are given as: what is before the last "@", what follows "?" or "#",
- * what follows "user=" and "password=" or their likes, and what follows a ":" where a port should
- * be. A local path comes back unchanged unless it looks like "name:password@host".
+ * and password, whatever they are given as: what is before the last "@", what follows "?", and "#"
+ * behind a scheme, what follows "user=" and "password=" or their likes, and what follows a ":"
+ * where a port should be. A local path comes back unchanged unless it looks like one of these.
  */
 KQHOST_EXPORT QString maskedAddress(const QString& address);
 
 /**
- * @p address without user name and password, as it may be kept; what else it asks for stays. Empty
- * when they cannot be told from the rest.
+ * @p address without all that maskedAddress() hides, as it may be kept. Empty when that cannot be
+ * told from the rest.
  */
 KQHOST_EXPORT QString addressWithoutLogin(const QString& address);
 
