@@ -170,6 +170,7 @@ void WorkbenchWindow::keepSources(const QString& file)
 {
     m_book.keepIn(file);
     m_book.overlay(m_options.channelSources);
+    tellTrouble(Trouble::Sources, m_book.error());
 }
 
 void WorkbenchWindow::editSources()
