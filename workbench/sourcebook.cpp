@@ -38,6 +38,7 @@ void SourceBook::keepIn(const QString& file)
 {
     m_file = file;
     const SourcesFile found = keptFile();
+    m_error = m_damage;
     m_remembersLogins = found.remembersLogins;
     m_recent = found.recent.mid(0, kMostRecent);
     const auto holdsAny = [](const auto& sources) {
@@ -89,19 +90,21 @@ QString SourceBook::kept(const QString& source) const
                                                     : UICommonMdl::addressWithoutLogin(source);
 }
 
-SourcesFile SourceBook::keptFile() const
+SourcesFile SourceBook::keptFile()
 {
     SourcesFile file;
     if (!m_file.isEmpty())
         file.read(m_file);
+    if (!file.damage.isEmpty())
+        m_damage = file.damage;
     return file;
 }
 
 /// Writes of @p file what may be kept.
 void SourceBook::write(SourcesFile file)
 {
-    m_error.clear();
-    if (m_file.isEmpty())
+    m_error = m_damage;
+    if (m_file.isEmpty() || !m_damage.isEmpty())
         return;
     file.remembersLogins = m_remembersLogins;
     for (QString& address : file.addresses)

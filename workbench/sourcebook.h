@@ -44,11 +44,12 @@ public:
 
 private:
     QString kept(const QString& source) const;
-    SourcesFile keptFile() const;
+    SourcesFile keptFile();
     void write(SourcesFile file);
 
     QString m_file; ///< empty: nothing is kept
     QString m_error;
+    QString m_damage; ///< why the file is not written over
     bool m_remembersLogins = false;
     Addresses m_addresses;
     QStringList m_recent;

@@ -2,6 +2,7 @@
 
 #include "host/wholefile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -24,10 +25,13 @@ bool isHexDigit(QChar c)
     return QStringLiteral("0123456789abcdefABCDEF").contains(c);
 }
 
-/// As QSettings reads it: a digit after an escaped character would count as a part of it.
+/// As QSettings reads it: a digit after an escaped character would count as a part of it, and "@"
+/// begins what is no text.
 QString quoted(const QString& text)
 {
     QString result(QLatin1Char('"'));
+    if (text.startsWith(QLatin1Char('@')))
+        result += QLatin1Char('@');
     bool isAfterEscape = false;
     for (const QChar c : text) {
         isAfterEscape = c < QLatin1Char(' ') || (isAfterEscape && isHexDigit(c));
@@ -39,6 +43,14 @@ QString quoted(const QString& text)
             result += c;
     }
     return result + QLatin1Char('"');
+}
+
+QString damageText(const QString& path)
+{
+    return QCoreApplication::translate("SourcesFile",
+                                       "%1: cannot be read as a whole; it has to be mended or "
+                                       "removed before sources are kept again")
+        .arg(path);
 }
 
 } // namespace
@@ -60,6 +72,7 @@ void SourcesFile::read(const QString& path)
     recent = settings.value(kRecent).toStringList();
     recent.removeAll({});
     remembersLogins = settings.value(kRemember).toBool();
+    damage = settings.status() == QSettings::NoError ? QString() : damageText(path);
 }
 
 // Not by QSettings, which replaces the old file by an empty one when its lock took the last room.
@@ -68,10 +81,10 @@ bool SourcesFile::write(const QString& path, QString& error) const
     QStringList texts;
     for (const QString& source : recent)
         texts.append(quoted(source));
-    QString content = QStringLiteral("[General]\n%1=%2\n%3=%4\n\n[%5]\nsize=%6\n")
-                          .arg(kRecent, texts.join(QStringLiteral(", ")), kRemember,
-                               QVariant(remembersLogins).toString(), kSources,
-                               QString::number(addresses.size()));
+    QString content =
+        QStringLiteral("[General]\n%1=%2\n%3=%4\n\n[%5]\nsize=%6\n")
+            .arg(kRecent, texts.join(QStringLiteral(", ")), kRemember,
+                 QVariant(remembersLogins).toString(), kSources, QString::number(addresses.size()));
     int number = 0;
     for (auto i = addresses.begin(); i != addresses.end(); ++i) {
         const QString start = QString::number(++number) + QLatin1Char('\\');

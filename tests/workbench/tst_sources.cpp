@@ -100,7 +100,8 @@ private slots:
     void keepsWhatOnlyTheUserReads()
     {
         const QString file = m_folder.filePath("new/sources.ini");
-        const SourceBook::Addresses addresses{{"1", kSecret}, {"a/b=\"%", "C:\\fü, x@y.mp4"}};
+        const SourceBook::Addresses addresses{
+            {"1", kSecret}, {"a/b=\"%", "C:\\fü, x@y.mp4"}, {"@ByteArray(a)", "@@Invalid()"}};
         {
             SourceBook book;
             book.addRecent("unkept");
@@ -193,6 +194,12 @@ private slots:
             SourceBook book;
             book.keepIn(WorkbenchFiles::write(m_folder, "damaged.ini", content));
             QVERIFY(book.addresses().size() <= 1 && !book.addresses().contains("1"));
+            // Nothing is put over what may be mended.
+            const bool isWhole = *content != '\xff';
+            QCOMPARE(book.error().contains("damaged.ini"), !isWhole);
+            book.addRecent("one.mp4");
+            QCOMPARE(book.error().contains("damaged.ini"), !isWhole);
+            QCOMPARE(contentOf(m_folder.filePath("damaged.ini")) != content, isWhole);
         }
     }
 
