@@ -98,7 +98,7 @@ QString StreamInput::failureText(int code)
                            code == AVERROR(ECONNRESET) || code == AVERROR(EPIPE);
     m_until = Clock::now() + kInquiry;
     if (!m_request.isFile && isStrange &&
-        isWebServer(m_request.address, {&StreamInput::isInterrupted, this}))
+        isWebServer(m_address.scheme + m_address.server, {&StreamInput::isInterrupted, this}))
         return QCoreApplication::translate("StreamInput",
                                            "A web server answers there, not a camera's RTSP.");
     return streamErrorText(code);

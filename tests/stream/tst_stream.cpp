@@ -286,12 +286,14 @@ private slots:
     {
         Server server({"--web"});
         QVERIFY(server.isRunning());
-        StreamRequest asked = request(server.address());
-        asked.firstPictureLimit = 2s;
-        StreamSource source(asked);
-        source.start();
-        QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
-        QVERIFY2(source.status().reason.contains("web server"), qPrintable(source.status().reason));
+        for (const char* login : {"", "u:/#?p@", "u:?x@"}) {
+            StreamRequest asked = request(server.address().replace("://", "://" + QString(login)));
+            asked.firstPictureLimit = 2s;
+            StreamSource source(asked);
+            source.start();
+            QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
+            QVERIFY2(source.status().reason.contains("web server"), login);
+        }
     }
 
     /// However large they are, and although a longer time lies between them than is usual.
