@@ -91,6 +91,11 @@ bool SourcesFile::write(const QString& path, QString& error) const
         content += start + kChannel + QLatin1Char('=') + quoted(i.key()) + QLatin1Char('\n') +
                    start + kAddress + QLatin1Char('=') + quoted(i.value()) + QLatin1Char('\n');
     }
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    return UICommonMdl::WholeFile::write(path, content.toUtf8(), error, kOwnerOnly);
+    const QFileInfo old(path);
+    QDir().mkpath(old.absolutePath());
+    QByteArray bytes = content.toUtf8();
+    // By size and time QSettings tells whether to read it anew, and two may be written at one time.
+    if (old.size() == bytes.size())
+        bytes += '\n';
+    return UICommonMdl::WholeFile::write(path, bytes, error, kOwnerOnly);
 }
