@@ -33,7 +33,7 @@ int pixelOf(int n, int extent)
 {
     const qint64 scaled = static_cast<qint64>(n) * extent;
     const auto pixel = static_cast<int>((scaled + kNormalizedExtent - 1) / kNormalizedExtent);
-    return n <= kNormalizedExtent ? qMin(pixel, extent - 1) : pixel;
+    return qMin(pixel, extent - 1);
 }
 
 } // namespace
@@ -129,9 +129,12 @@ QString SessionPlayer::doSize(const Value& step)
 
 bool SessionPlayer::picturePosition(const Value& at, QPoint& position) const
 {
+    const QPoint normalized(at[0].asInt(), at[1].asInt());
+    if (!QRect(QPoint(0, 0), QPoint(kNormalizedExtent, kNormalizedExtent)).contains(normalized))
+        return false;
     const QRect picture = m_window.videoSurface()->paneRect(0);
-    const QPoint inPicture(pixelOf(at[0].asInt(), picture.width()),
-                           pixelOf(at[1].asInt(), picture.height()));
+    const QPoint inPicture(pixelOf(normalized.x(), picture.width()),
+                           pixelOf(normalized.y(), picture.height()));
     position = picture.topLeft() + inPicture;
     return picture.contains(position);
 }

@@ -3,6 +3,10 @@
 #include "host/value.h"
 
 #include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
 
 namespace StepCheck
 {
@@ -14,6 +18,7 @@ namespace
 
 /// A window of more would take gigabytes.
 constexpr int kMaxExtent = 8192; // pixels
+constexpr int kMaxWait = 600000; // milliseconds
 
 struct Member {
     const char* step;
@@ -53,6 +58,24 @@ bool isText(const Value& value)
     return value.isString();
 }
 
+bool isTimeOrPicture(const Value& step)
+{
+    const Value& time = step["ms"];
+    return step["picture"] == Value(true) ||
+           (time.isInt() && time.asInt() >= 0 && time.asInt() <= kMaxWait);
+}
+
+/// An empty text is contained in every line.
+bool isNotice(const Value& value)
+{
+    return value.isNull() || (value.isString() && !value.asString().isEmpty());
+}
+
+bool isMessage(const Value& value)
+{
+    return value.isNull() || value.isObject();
+}
+
 constexpr char kPosition[] = "a position, [x, y]";
 constexpr char kSwitch[] = "true or false";
 constexpr char kText[] = "a text";
@@ -67,7 +90,43 @@ const Member kMembers[] = {
     {"fold", "fold", isSwitch, kSwitch},
     {"type", "text", isText, kText},
     {"screenshot", "file", isText, kText},
+    {"expect", "posted", isMessage, "members, or null"},
+    {"expect", "notice", isNotice, "a text that is not empty, or null"},
 };
+
+const QLatin1String kExpected[] = {QLatin1String("box"),     QLatin1String("posted"),
+                                   QLatin1String("hint"),    QLatin1String("entries"),
+                                   QLatin1String("current"), QLatin1String("notice"),
+                                   QLatin1String("row")};
+const QLatin1String kOfRow[] = {QLatin1String("value"), QLatin1String("visible"),
+                                QLatin1String("enabled"), QLatin1String("marked")};
+
+template<int size>
+bool contains(const QLatin1String (&names)[size], const QString& name)
+{
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("StepCheck", text);
+}
+
+/// What is compared with nothing would hold always.
+QString expectationFault(const Value& step)
+{
+    QStringList names = step.memberNames();
+    names.removeAll(QStringLiteral("do"));
+    names.removeAll(QStringLiteral("scene"));
+    for (const QString& name : qAsConst(names)) {
+        const bool isOfRow = contains(kOfRow, name);
+        if (!isOfRow && !contains(kExpected, name))
+            return say("there is no expectation \"%1\"").arg(name);
+        if (isOfRow && !step.isMember("row"))
+            return say("\"%1\" is expected of a \"row\" only").arg(name);
+    }
+    return names.isEmpty() ? say("there is nothing to expect") : QString();
+}
 
 } // namespace
 
@@ -76,13 +135,13 @@ QString fault(const Value& step)
     const QString name = step["do"].asString();
     for (const Member& member : kMembers) {
         if (name == QLatin1String(member.step) && !member.isRight(step[member.name]))
-            return QCoreApplication::translate("StepCheck", "\"%1\" takes %2")
-                .arg(QString::fromLatin1(member.name),
-                     QCoreApplication::translate("StepCheck", member.takes));
+            return say("\"%1\" takes %2").arg(QString::fromLatin1(member.name), say(member.takes));
     }
     if (name == QLatin1String("set") && !step.isMember("value"))
-        return QCoreApplication::translate("StepCheck", "there is no \"value\" to set");
-    return {};
+        return say("there is no \"value\" to set");
+    if (name == QLatin1String("wait") && !isTimeOrPicture(step))
+        return say("\"wait\" takes \"picture\": true, or \"ms\" of 0 to 600000");
+    return name == QLatin1String("expect") ? expectationFault(step) : QString();
 }
 
 } // namespace StepCheck

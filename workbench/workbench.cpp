@@ -37,6 +37,9 @@ int Workbench::run()
         return Unusable;
     }
     QApplication::exec();
+    if (m_player && !m_isReplayOver)
+        m_replayError = m_window->options().replayFile + QStringLiteral(": ") +
+                        tr("the window was closed before the session's end");
     m_player.reset();
     // Before the troubles are read: ending it may write once more.
     m_autosave.reset();
@@ -95,6 +98,7 @@ bool Workbench::replay(const QString& path, QString& error)
 
 void Workbench::finishReplay(const QString& error)
 {
+    m_isReplayOver = true;
     const WorkbenchOptions& options = m_window->options();
     m_replayError = error.isEmpty() ? QString() : options.replayFile + QStringLiteral(": ") + error;
     m_window->close();

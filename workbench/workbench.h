@@ -33,5 +33,6 @@ private:
     std::unique_ptr<WorkbenchWindow> m_window;
     std::unique_ptr<SessionPlayer> m_player;
     std::unique_ptr<Autosave> m_autosave; ///< null while a session is replayed
+    bool m_isReplayOver = false;
     QString m_replayError;
 };

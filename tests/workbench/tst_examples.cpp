@@ -181,6 +181,7 @@ private slots:
               "it is disabled");
         check(R"("load","editable":true|"save")", "it is hidden");
         check(R"("press","button":"left","at":[8300,100])", "not on the picture");
+        check(R"("press","at":[-10,-10])", "not on the picture");
         check(R"("press","button":"left")", "\"at\" takes a position");
         check(R"("move","at":[5])", "\"at\" takes a position");
         check(R"("press","button":"middle","at":[5,5])", "\"button\" takes");
@@ -188,6 +189,8 @@ private slots:
         check(R"("size")", "\"window\" takes");
         check("\"fold\"," + rules + R"("folded":true)", "\"fold\" takes true or false");
         check(R"("wait","ms":1|"save")", "a question came up.*Please confirm");
+        for (const char* wait : {"", ",\"ms\":-5", ",\"ms\":600001", ",\"picture\":\"yes\""})
+            check("\"wait\"" + QByteArray(wait), "takes .*\"ms\" of 0 to 600000");
         check(R"("load","config":"none.json")", "none.json: No such file");
         check(R"("screenshot","file":"none/step.png")", "step.png: No such file");
         check(R"("expect","box":"Saved")", "the last box is null, not \"Saved\"");
@@ -198,6 +201,13 @@ private slots:
         check(R"("expect","row":"ruleDwell","visible":false)", "visibility is true, not false");
         check(R"("expect","row":"ruleDwell","enabled":false)", "enabled state is true, not false");
         check(R"("expect","row":"ruleDwell","marked":true)", "mark is false, not true");
+        check(R"("expect","notice":null|"expect","notice":"")", "\"notice\" takes a text .*null");
+        check(R"("expect","posted":"all")", "\"posted\" takes members, or null");
+        check(R"("expect","scene":"rules")", "there is nothing to expect");
+        check(R"("expect","entrys":3)", "there is no expectation \"entrys\"");
+        for (const char* member : {"value", "visible", "enabled", "marked"})
+            check("\"expect\",\"current\":1,\"" + QByteArray(member) + "\":true",
+                  "of a \"row\" only");
         check(R"("expect","notice":"lost")", "the notices are \"\", not \"lost\"");
         check(R"("query"|"expect","posted":{"unFinishedDraw":true})", "Draw is false, not true");
         check(R"("query"|"expect","posted":null)", "a message was posted");

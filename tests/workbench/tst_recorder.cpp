@@ -5,10 +5,12 @@
 #include "workbench/boxwatcher.h"
 #include "workbench/messagerecord.h"
 #include "workbench/sessionrecorder.h"
+#include "workbench/workbench.h"
 
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -345,6 +347,16 @@ private slots:
         QCOMPARE(change(control, [&control] { QTest::keyClick(&control, Qt::Key_Up); }), said);
         QCOMPARE(change(edit, [&edit] { QTest::keyClick(&edit, Qt::Key_A); }), said);
         QCOMPARE(recorded(), QStringList());
+    }
+
+    void tellsThatAReplayWasCut()
+    {
+        m_bench.reset();
+        WorkbenchOptions options = Bench::example();
+        options.replayFile =
+            WorkbenchFiles::write(m_folder, "cut.jsonl", "{\"do\":\"wait\",\"ms\":60000}\n");
+        QTimer::singleShot(1000, qApp, &QApplication::closeAllWindows);
+        QCOMPARE(Workbench(options).run(), int(Workbench::StepFailed));
     }
 
     void refusesUnwritableFiles()
