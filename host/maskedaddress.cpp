@@ -73,7 +73,7 @@ QString maskedAddress(const QString& address)
 {
     // "C:/a@b.png" is a path; in "here: /a@b.png" stands one. A login may lack its name.
     static const QRegularExpression login(
-        QStringLiteral("(?:(?<!\\w)(?![A-Za-z]:[/\\\\])[^\\s\"'/\\\\:=]+?|(?<![^\\s=/]))"
+        QStringLiteral("(?:(?<!\\w)(?![A-Za-z]:[/\\\\])[^\\s\"'/\\\\:=]{1,1000}?|(?<![^\\s=/]))"
                        "(?::|%3a)(?:(?!\\s).*|\\s+[^\\s/\\\\]*)(?:@|%40)"),
         QRegularExpression::DotMatchesEverythingOption | QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression scheme(
