@@ -2,6 +2,7 @@
 
 #include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
+#include "Protocol/misfit.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -161,12 +162,31 @@ void EntryLoss::compare(const RuleDataInfo& entry, const Value& read, const Valu
         const auto figures = m_data.getTemplate()->figureItems();
         return figures.isEmpty() || isKept(read, written) ? void() : tellItem(*figures.first());
     }
+    tellMisfits(read, written);
     const bool mayDiffer = areSwapped(read, written);
     for (int i = 0; i < read.size(); ++i) {
         const std::string_view name = read.memberName(i);
         const bool isLine = name == ConfigMember::kLeftLine || name == ConfigMember::kRightLine;
         if (!isLine || !mayDiffer)
             compareMember(joined({}, name), read.memberValue(i), written[name]);
+    }
+}
+
+/// What was kept to be saved as it was read, and is not.
+void EntryLoss::tellMisfits(const Value& read, const Value& written)
+{
+    if (!m_entry->keepsAnything())
+        return;
+    for (const Items& items : qAsConst(m_items)) {
+        for (const RuleProtocolItem* item : items) {
+            if (!Misfit::isUnder(*m_entry, item->key()))
+                continue;
+            const Value* const before = item->path().probe(read);
+            const Value* const after = item->path().probe(written);
+            if (before && !(after && isSame(ValueConversion::element(*before, *item),
+                                            ValueConversion::element(*after, *item))))
+                tellItem(*item);
+        }
     }
 }
 

@@ -36,6 +36,7 @@ public:
 private:
     using Items = QVector<const RuleProtocolItem*>;
 
+    void tellMisfits(const kql::Json::Value& read, const kql::Json::Value& written);
     void compareMember(const QString& path, const kql::Json::Value& read,
                        const kql::Json::Value& written);
     void compareItems(const QString& path, const Items& items, const kql::Json::Value& read,

@@ -15,12 +15,25 @@ namespace
 
 constexpr int kLongestShown = 40;
 
+QString shown(const Value& json)
+{
+    return ShortenedText::line(json.toCompactText(), kLongestShown);
+}
+
 QString explain(const Value& json)
 {
     return QCoreApplication::translate(
                "Misfit", "The configuration has %1 here, which this row cannot show. It is saved "
                          "as it is until the row is edited.")
-        .arg(ShortenedText::line(json.toCompactText(), kLongestShown));
+        .arg(shown(json));
+}
+
+QString explainLoss(const Value& json)
+{
+    return QCoreApplication::translate(
+               "Misfit", "The configuration has %1 here, which this row cannot show. It is not "
+                         "saved as it is.")
+        .arg(shown(json));
 }
 
 } // namespace
@@ -50,9 +63,12 @@ void Misfit::tell(RuleData& data)
     }
 }
 
-QString Misfit::explained(const RuleDataInfo& entry, const QString& key)
+QString Misfit::explained(const RuleData& data, const RuleDataInfo& entry, const QString& key)
 {
-    return isUnder(entry, key) ? explain(*entry.asRead(key)) : QString();
+    if (!isUnder(entry, key))
+        return {};
+    const Value& json = *entry.asRead(key);
+    return data.saveNotices().isUnsaved(entry, key) ? explainLoss(json) : explain(json);
 }
 
 QString Misfit::explainedName(const RuleDataInfo& entry)

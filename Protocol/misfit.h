@@ -6,7 +6,7 @@ class RuleData;
 class RuleDataInfo;
 
 /// What a configuration has where an attribute's value belongs and no row can show. It is written
-/// back as it was read until the operator edits the row.
+/// back as it was read until the operator edits the row, if it has a place.
 namespace Misfit
 {
 
@@ -17,8 +17,8 @@ bool isUnder(const RuleDataInfo& entry, const QString& key);
 /// Tells @p data all those of its entries.
 void tell(RuleData& data);
 
-/// What the row of @p key says of it; empty when there is none.
-QString explained(const RuleDataInfo& entry, const QString& key);
+/// What the row of @p key says of it, for an entry of @p data; empty when there is none.
+QString explained(const RuleData& data, const RuleDataInfo& entry, const QString& key);
 /// As above, of an entry's name.
 QString explainedName(const RuleDataInfo& entry);
 

@@ -38,6 +38,7 @@ public:
     virtual bool checkData(QString& message) const;
     /// What was found when the scene was read that a save leaves out.
     SaveNotices& saveNotices() { return m_saveNotices; }
+    const SaveNotices& saveNotices() const { return m_saveNotices; }
     /// Whether a save writes the first entry alone.
     void setTakesOneEntry(bool takesOne) { m_takesOneEntry = takesOne; }
     /// What a save would leave out of the document as it is now, a sentence each.

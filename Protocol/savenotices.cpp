@@ -30,6 +30,8 @@ void SaveNotices::add(Kind kind, const QString& subject, const RuleDataInfo& ent
 {
     if (m_count >= kMostFound || (!key.isEmpty() && m_unsavedKeys.contains(key)))
         return;
+    if (kind == Kind::Changed)
+        m_changed.insert({entry.id(), key});
     const QString name = QString::number(static_cast<int>(kind)) + subject;
     auto topic = m_topicOf.constFind(name);
     if (topic == m_topicOf.constEnd()) {
@@ -43,6 +45,11 @@ void SaveNotices::add(Kind kind, const QString& subject, const RuleDataInfo& ent
         return;
     found.push_back({entry.id(), entry.value(key)});
     ++m_count;
+}
+
+bool SaveNotices::isUnsaved(const RuleDataInfo& entry, const QString& key) const
+{
+    return m_unsavedKeys.contains(key) || m_changed.contains({entry.id(), key});
 }
 
 QString SaveNotices::subject(const RuleProtocolItem& item)
@@ -68,7 +75,8 @@ bool SaveNotices::stands(const Topic& topic, const Found& found, const RuleData&
         return false;
     switch (topic.kind) {
     case Kind::NotShown:
-        return Misfit::isUnder(*entry, topic.key);
+        return Misfit::isUnder(*entry, topic.key) &&
+               !data.saveNotices().isUnsaved(*entry, topic.key);
     case Kind::NameNotShown:
         return entry->nameAsRead();
     case Kind::StateNotShown:

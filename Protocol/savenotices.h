@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QPair>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -37,6 +38,9 @@ public:
     void add(Kind kind, const QString& subject, const RuleDataInfo& entry,
              const QString& key = QString());
 
+    /// Whether it was told that what @p entry was read with under @p key is not saved.
+    bool isUnsaved(const RuleDataInfo& entry, const QString& key) const;
+
     /// The caption of @p item, or its key where it has none.
     static QString subject(const RuleProtocolItem& item);
     QStringList sentences(const RuleData& data) const;
@@ -58,6 +62,7 @@ private:
 
     QStringList m_sentences;
     QSet<QString> m_unsavedKeys;
+    QSet<QPair<int, QString>> m_changed; ///< by entry and key
     std::vector<Topic> m_topics;
     QHash<QString, std::size_t> m_topicOf; ///< by kind and subject
     int m_count = 0;

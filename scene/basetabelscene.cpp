@@ -193,7 +193,7 @@ void BaseTabelScene::showEntry(int dataId)
 void BaseTabelScene::loadEntry()
 {
     const RuleDataInfo* entry = m_data->selectedDataInfo();
-    EntryRows::load(*widgets().controls, *m_data->getTemplate(), entry);
+    EntryRows::load(*widgets().controls, *m_data, entry);
     loadFixedRows(entry);
 }
 

@@ -2,6 +2,7 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/misfit.h"
+#include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/validity.h"
@@ -106,20 +107,19 @@ private:
 
 } // namespace
 
-void EntryRows::load(ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,
-                     const RuleDataInfo* entry)
+void EntryRows::load(ControlItemWidgetTabel& rows, const RuleData& data, const RuleDataInfo* entry)
 {
     const LayoutHold hold(&rows);
     for (ControlTabel* row : rows.controls()) {
         if (entry && !row->protocolItem())
             continue;
         row->loadValue(entry ? entry->value(row->key()) : QVariant());
-        const QString misfit = entry ? Misfit::explained(*entry, row->key()) : QString();
+        const QString misfit = entry ? Misfit::explained(data, *entry, row->key()) : QString();
         if (row->isMarked() || !misfit.isEmpty())
             row->setMark(misfit);
     }
     if (entry)
-        showApplicable(rows, dataTemplate, *entry);
+        showApplicable(rows, *data.getTemplate(), *entry);
 }
 
 void EntryRows::showApplicable(ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,

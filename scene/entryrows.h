@@ -4,6 +4,7 @@ class ControlItemWidgetTabel;
 class ControlTabel;
 class DataTemplate;
 class QString;
+class RuleData;
 class RuleDataInfo;
 class RuleProtocolItem;
 
@@ -11,10 +12,9 @@ class RuleProtocolItem;
 namespace EntryRows
 {
 
-/// Shows @p entry in the rows; without one they show nothing. Announces and changes nothing. Rows
-/// without an attribute are left to whoever made them.
-void load(ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,
-          const RuleDataInfo* entry);
+/// Shows @p entry of @p data in the rows; without one they show nothing. Announces and changes
+/// nothing. Rows without an attribute are left to whoever made them.
+void load(ControlItemWidgetTabel& rows, const RuleData& data, const RuleDataInfo* entry);
 
 /// Shows the rows that apply to @p entry and hides the others.
 void showApplicable(ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,

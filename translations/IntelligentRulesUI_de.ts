@@ -282,6 +282,10 @@
         <source>The configuration has %1 here, which this row cannot show. It is saved as it is until the row is edited.</source>
         <translation>Die Konfiguration hat hier %1, was diese Zeile nicht anzeigen kann. Es wird unverändert gesichert, bis die Zeile bearbeitet wird.</translation>
     </message>
+    <message>
+        <source>The configuration has %1 here, which this row cannot show. It is not saved as it is.</source>
+        <translation>Die Konfiguration hat hier %1, was diese Zeile nicht anzeigen kann. Es wird nicht so gesichert, wie es ist.</translation>
+    </message>
 </context>
 <context>
     <name>NumberTip</name>

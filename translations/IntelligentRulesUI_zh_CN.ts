@@ -282,6 +282,10 @@
         <source>The configuration has %1 here, which this row cannot show. It is saved as it is until the row is edited.</source>
         <translation>配置中此处为 %1，本行无法显示。在编辑本行之前，将按原样保存。</translation>
     </message>
+    <message>
+        <source>The configuration has %1 here, which this row cannot show. It is not saved as it is.</source>
+        <translation>配置中此处为 %1，本行无法显示。它不会按原样保存。</translation>
+    </message>
 </context>
 <context>
     <name>NumberTip</name>

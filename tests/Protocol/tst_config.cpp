@@ -1,5 +1,6 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/figuremaker.h"
+#include "Protocol/misfit.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
@@ -350,6 +351,16 @@ private slots:
              "\"Y.mode\" is not saved: no attribute names it.",
              "\"Y.T\" is not saved: no attribute names it.",
              "\"Y.L\" is not saved: no attribute names it."});
+        row(rules({"A.B|int|-1|none", "C|int"}, R"({"R": [{"C": 1}]})"),
+            R"({"R": [{"A": {"B": "x"}, "C": "y", "Name": "a"}]})",
+            {"C (a)" + kept, "A.B (a) is not saved as it was read."});
+        const Load lost(rules({"A.B|int", "C|int"}, R"({"R": [{"C": 1}]})"),
+                        R"({"R": [{"A": {"B": "x"}, "C": "y"}]})");
+        for (const bool isLost : {true, false}) {
+            const QString said =
+                Misfit::explained(lost.scene(), lost.entry(), isLost ? "A.B" : "C");
+            QVERIFY2(said.contains("is not saved") == isLost && !said.isEmpty(), qPrintable(said));
+        }
         row(rules({"A|int"}, R"({"R": {"A": 1}})"),
             R"({"R": [{"A": 2, "Name": "a"}, {"Name": "b"}]})",
             {"Only a is saved: the template has room for one."});

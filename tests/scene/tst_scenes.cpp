@@ -284,7 +284,9 @@ private slots:
     {
         // Each attribute applies while the one before has its default.
         const int count = 10000;
-        DataTemplate links;
+        RuleData chain;
+        chain.setTemplate(std::make_unique<DataTemplate>());
+        DataTemplate& links = *chain.getTemplate();
         ControlItemWidgetTabel rows;
         for (int i = 0; i < count; ++i) {
             auto item = std::make_unique<RuleProtocolItem>();
@@ -297,7 +299,7 @@ private slots:
         }
         QCoreApplication::sendPostedEvents(); // a widget looks for its own when it goes
         RuleDataInfo entry;
-        EntryRows::load(rows, links, &entry);
+        EntryRows::load(rows, chain, &entry);
         entry.setValue(QString("0"), true);
         EntryRows::updateDependents(rows, links, QString("0"), entry);
         QCOMPARE(entry.value(QString::number(count - 1)), QVariant(true));
