@@ -12,14 +12,15 @@ QString translated(const char* source)
     return QCoreApplication::translate("CommandLine", source);
 }
 
-struct FileOption {
+struct TextOption {
     const char* name;
     const char* description;
     QString WorkbenchOptions::*target;
     const char* valueName;
+    bool isFile = true;
 };
 
-const FileOption kTextOptions[] = {
+const TextOption kTextOptions[] = {
     {"template", "Template document to load.", &WorkbenchOptions::templateFile, "F"},
     {"config", "Configuration document to load, or a result with one; none is an empty one.",
      &WorkbenchOptions::configFile, "F"},
@@ -28,10 +29,10 @@ const FileOption kTextOptions[] = {
      "address, a video, a still picture.",
      &WorkbenchOptions::source, "ADDRESS-OR-FILE"},
     {"picture", "The same as --source.", &WorkbenchOptions::source, "F"},
-    {"channel", "Channel id.", &WorkbenchOptions::channelId, "ID"},
-    {"name", "Channel name.", &WorkbenchOptions::channelName, "TEXT"},
-    {"algorithm", "Algorithm id.", &WorkbenchOptions::algorithmId, "ID"},
-    {"code", "Algorithm code.", &WorkbenchOptions::algorithmCode, "TEXT"},
+    {"channel", "Channel id.", &WorkbenchOptions::channelId, "ID", false},
+    {"name", "Channel name.", &WorkbenchOptions::channelName, "TEXT", false},
+    {"algorithm", "Algorithm id.", &WorkbenchOptions::algorithmId, "ID", false},
+    {"code", "Algorithm code.", &WorkbenchOptions::algorithmCode, "TEXT", false},
     {"plugin", "Plug-in to load in place of the one beside the program.",
      &WorkbenchOptions::pluginFile, "FILE"},
     {"result", "Write the object of the last result message here; leaving keeps what was saved.",
@@ -51,11 +52,11 @@ constexpr char kSelectionMode[] = "selection-mode";
 
 CommandLine::CommandLine()
 {
-    m_parser.setApplicationDescription(
-        translated("Stand-alone host of the rules window.\n"
-                   "Exit status: 0 saved or closed, 1 left without saving what was changed since, "
-                   "2 unusable arguments or files, 3 a step of a replayed session failed."));
-    for (const FileOption& option : kTextOptions)
+    m_parser.setApplicationDescription(translated(
+        "Stand-alone host of the rules window.\n"
+        "Exit status: 0 saved or closed, 1 left without saving what was changed since, "
+        "2 unusable arguments or files, 3 a replayed session failed, or did not come to its end."));
+    for (const TextOption& option : kTextOptions)
         m_parser.addOption({QString::fromLatin1(option.name), translated(option.description),
                             QString::fromLatin1(option.valueName)});
     m_parser.addOption({QString::fromLatin1(kChannelSource),
@@ -97,10 +98,16 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
 
 bool CommandLine::readOptions()
 {
-    for (const FileOption& option : kTextOptions) {
+    for (const TextOption& option : kTextOptions) {
         const QString name = QString::fromLatin1(option.name);
-        if (m_parser.isSet(name))
-            m_options.*option.target = m_parser.value(name);
+        if (!m_parser.isSet(name))
+            continue;
+        m_options.*option.target = m_parser.value(name);
+        // A script's variable that is not set would be no file, and so none that is missed.
+        if (option.isFile && m_parser.values(name).contains(QString())) {
+            m_text = translated("--%1 takes the name of a file").arg(name);
+            return false;
+        }
     }
     m_options.selectionMode = m_parser.isSet(QString::fromLatin1(kSelectionMode));
     return readChannelSources() &&

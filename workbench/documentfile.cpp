@@ -6,17 +6,37 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 namespace DocumentFile
 {
 
+namespace
+{
+
+/// What is longer is no document.
+constexpr qint64 kLongest = qint64(128) << 20; // bytes
+
+bool isDevice(const QString& path)
+{
+#ifdef Q_OS_UNIX
+    struct stat found = {};
+    return ::stat(QFile::encodeName(path).constData(), &found) == 0 && S_ISCHR(found.st_mode);
+#else
+    Q_UNUSED(path)
+    return false;
+#endif
+}
+
+} // namespace
+
 bool read(const QString& path, kql::Json::Value& document, QString& error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    QByteArray bytes;
+    if (!readBytes(path, bytes, error))
         return false;
-    }
-    const QByteArray bytes = file.readAll();
     kql::Json::Reader reader;
     if (reader.parse(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
                      document))
@@ -24,6 +44,21 @@ bool read(const QString& path, kql::Json::Value& document, QString& error)
     error = QStringLiteral("%1:%2:%3: %4")
                 .arg(path, QString::number(reader.errorLine()),
                      QString::number(reader.errorColumn()), reader.errorText());
+    return false;
+}
+
+bool readBytes(const QString& path, QByteArray& bytes, QString& error)
+{
+    if (isDevice(path)) {
+        error = QCoreApplication::translate("DocumentFile", "%1: it is no file").arg(path);
+        return false;
+    }
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.read(kLongest + 1);
+    if (file.error() == QFileDevice::NoError)
+        return true;
+    error = QStringLiteral("%1: %2").arg(path, file.errorString());
     return false;
 }
 

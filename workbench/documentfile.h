@@ -12,6 +12,10 @@ namespace DocumentFile
 /// and column, and why.
 bool read(const QString& path, kql::Json::Value& document, QString& error);
 
+/// All of @p path, which may be a pipe but no other device, as one of those may have no end; false
+/// with one line in @p error.
+bool readBytes(const QString& path, QByteArray& bytes, QString& error);
+
 /// Replaces @p path by @p text in one step, so that a failure leaves the old file; false with one
 /// line in @p error.
 bool write(const QString& path, const QString& text, QString& error);

@@ -5,6 +5,9 @@
 #include <QApplication>
 #include <QTextStream>
 
+#include <cerrno>
+#include <cstdio>
+
 namespace
 {
 
@@ -36,8 +39,11 @@ int main(int argc, char* argv[])
     const CommandLine::Outcome outcome = commandLine.parse(argumentsOf(argc, argv));
     if (outcome == CommandLine::Outcome::ShowText) {
         const QCoreApplication application(argc, argv);
-        QTextStream(stdout) << commandLine.text();
-        return Workbench::SavedOrClosed;
+        QTextStream out(stdout);
+        out << commandLine.text();
+        out.flush();
+        const bool isShown = std::fflush(stdout) == 0 && out.status() == QTextStream::Ok;
+        return isShown ? Workbench::SavedOrClosed : refuse(qt_error_string(errno));
     }
     if (outcome == CommandLine::Outcome::Unusable)
         return refuse(commandLine.text());

@@ -1,18 +1,19 @@
 #include "workbench/sessionscript.h"
 
 #include "host/reader.h"
+#include "workbench/documentfile.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
 bool SessionScript::read(const QString& path, QString& error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    QByteArray session;
+    if (!DocumentFile::readBytes(path, session, error))
         return false;
-    }
+    QBuffer file(&session);
+    file.open(QIODevice::ReadOnly);
     folder = QFileInfo(path).absolutePath();
     for (int line = 1; !file.atEnd(); ++line) {
         const QByteArray bytes = file.readLine().trimmed();
@@ -33,5 +34,8 @@ bool SessionScript::read(const QString& path, QString& error)
         }
         steps.push_back(std::move(step));
     }
-    return true;
+    if (steps.empty())
+        error =
+            QCoreApplication::translate("SessionScript", "%1: there is no step in it").arg(path);
+    return !steps.empty();
 }

@@ -40,6 +40,8 @@ int Workbench::run()
     if (m_player && !m_isReplayOver)
         m_replayError = m_window->options().replayFile + QStringLiteral(": ") +
                         tr("the window was closed before the session's end");
+    if (m_player)
+        tellMissingResult();
     m_player.reset();
     // Before the troubles are read: ending it may write once more.
     m_autosave.reset();
@@ -54,6 +56,14 @@ int Workbench::run()
         troubles.has(Trouble::Record))
         return Unusable;
     return m_window->wasExited() ? LeftWithoutSaving : SavedOrClosed;
+}
+
+/// An older file in its place would stand for this session's result.
+void Workbench::tellMissingResult()
+{
+    const QString& file = m_window->options().resultFile;
+    if (!file.isEmpty() && !m_window->hasResult())
+        m_window->tellTrouble(Trouble::Result, tr("%1: nothing was saved").arg(file));
 }
 
 bool Workbench::start(QString& error)

@@ -28,6 +28,7 @@ private:
     bool start(QString& error);
     bool replay(const QString& path, QString& error);
     void keepWork();
+    void tellMissingResult();
     void finishReplay(const QString& error);
 
     std::unique_ptr<WorkbenchWindow> m_window;

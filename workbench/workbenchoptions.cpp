@@ -19,12 +19,20 @@ QString placeOf(const QString& path)
 
 } // namespace
 
-QString WorkbenchOptions::replacedDocument() const
+QStringList WorkbenchOptions::inputs() const
 {
-    const QString result = QFileInfo(resultFile).canonicalFilePath();
-    for (const QString& document : {templateFile, configFile}) {
-        if (!result.isEmpty() && result == QFileInfo(document).canonicalFilePath())
-            return document;
+    QStringList files{templateFile, configFile, replayFile, source, pluginFile};
+    files += channelSources.values();
+    files.removeAll(QString());
+    return files;
+}
+
+QString WorkbenchOptions::replacedInput(const QString& output) const
+{
+    const QString replaced = QFileInfo(output).canonicalFilePath();
+    for (const QString& input : inputs()) {
+        if (!replaced.isEmpty() && replaced == QFileInfo(input).canonicalFilePath())
+            return input;
     }
     return {};
 }
@@ -36,8 +44,8 @@ QString WorkbenchOptions::outputFault() const
         const QString& path;
     } outputs[] = {{"result", resultFile}, {"screenshot", screenshotFile}, {"record", recordFile}};
     QStringList used;
-    for (const QString& path : {templateFile, configFile, replayFile, source, pluginFile})
-        used.append(path.isEmpty() ? QString() : placeOf(path));
+    for (const QString& path : inputs())
+        used.append(placeOf(path));
     for (const auto& output : outputs) {
         if (output.path.isEmpty())
             continue;

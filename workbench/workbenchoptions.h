@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QMap>
-#include <QString>
+#include <QStringList>
 #include <optional>
 
 /// What the workbench was asked to do: documents to load, the parameter block, session files.
@@ -24,8 +24,10 @@ struct WorkbenchOptions {
     QString replayFile;
     QString recordFile;
 
-    /// The document to load that writing the result would replace; empty when there is none.
-    QString replacedDocument() const;
+    /// The files that are read: documents, session, pictures, plug-in; addresses are among them.
+    QStringList inputs() const;
+    /// Which of inputs() writing @p output would replace; empty when there is none.
+    QString replacedInput(const QString& output) const;
     /// The line that says which output cannot be where it should: its place is no regular file, or
     /// that of another file of this run. Empty when there is none.
     QString outputFault() const;

@@ -303,9 +303,9 @@ void WorkbenchWindow::takeResult(const QString& result)
 void WorkbenchWindow::writeResult()
 {
     m_resultError.clear();
-    const QString replaced = m_options.replacedDocument();
+    const QString replaced = m_options.replacedInput(m_options.resultFile);
     if (!replaced.isEmpty())
-        m_resultError = tr("The result would replace a document that is loaded: %1").arg(replaced);
+        m_resultError = tr("The result would replace a file that is used: %1").arg(replaced);
     else if (!m_options.resultFile.isEmpty())
         DocumentFile::write(m_options.resultFile, m_lastResult, m_resultError);
     m_resultError = UICommonMdl::maskedAddress(m_resultError);
@@ -343,7 +343,11 @@ void WorkbenchWindow::showPointer(const QMouseEvent* event)
 
 bool WorkbenchWindow::saveScreenshot(const QString& path, QString& error)
 {
-    return UICommonMdl::savePicture(grab().toImage(), path, error);
+    const QString replaced = m_options.replacedInput(path);
+    if (replaced.isEmpty())
+        return UICommonMdl::savePicture(grab().toImage(), path, error);
+    error = tr("The screenshot would replace a file that is used: %1").arg(replaced);
+    return false;
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)

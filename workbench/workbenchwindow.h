@@ -46,6 +46,8 @@ public:
     bool wasExited() const { return m_exited; }
     /// What went wrong with writing the result file; empty when nothing did.
     const QString& resultError() const { return m_resultError; }
+    /// Whether the rules window has sent a result, of saving or of leaving.
+    bool hasResult() const { return !m_lastResult.isEmpty(); }
     /// Whether a save of the documents that are loaded is in no file although it should be.
     bool hasUnwrittenSave() const { return m_hasSaved && !m_resultError.isEmpty(); }
     /// False with one line in @p error.

@@ -82,6 +82,13 @@ private slots:
             run(documents() + QStringList{"--replay", open, "--result", opened});
         QVERIFY2(outcome.said.contains("would replace"), qPrintable(outcome.said));
         QCOMPARE(read(opened), read(kPerimeter + "config.json"));
+        const QString picture = path("opened.png");
+        QVERIFY(QFile::rename(opened, picture));
+        const QString close = file("png.jsonl", "{\"do\":\"load\",\"config\":\"opened.png\"}\n");
+        const Outcome shown =
+            run(documents() + QStringList{"--replay", close, "--screenshot", picture});
+        QVERIFY2(shown.said.contains("would replace"), qPrintable(shown.said));
+        QCOMPARE(read(picture), read(kPerimeter + "config.json"));
     }
 
     void refusesArguments()
@@ -125,8 +132,28 @@ private slots:
         check(good + "--replay " + file("f.jsonl", "{\"to\":1}"), "f.jsonl:1:1: .*\"do\"");
         check(good + "--plugin " + file("g.so", "text"), "g.so");
         check(good + "--result none/result.json --replay " +
-                  file("h.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n{\"do\":\"wait\"}\n"),
+                  file("h.jsonl", "{\"do\":\"cancel\",\"answer\":\"Yes\"}\n"),
               "none/result.json: \\S");
+        // A variable that is not set.
+        for (const char* name : {"template", "config", "source", "picture", "plugin", "result",
+                                 "screenshot", "replay", "record"})
+            check(QString("--replay none --") + name + '=', "takes the name of a file");
+        for (const QString& empty : {file("empty.jsonl", "\n"), QString("/dev/null")})
+            check(good + "--replay " + empty,
+                  "(empty.jsonl: there is no step|null: it is no file)");
+        for (const char* endless : {"template", "config", "replay"})
+            check(good + "--" + endless + " /dev/full", "/dev/full: it is no file");
+        const QString picture = file("p.png", "");
+        check(good + "--channel-source 2=" + picture + " --screenshot " + picture,
+              "--screenshot would replace .*p\\.png");
+        check(good + "--result " + path("none.json") + " --replay " +
+                  file("refused.jsonl", "{\"do\":\"close\"}\n"),
+              "none.json: nothing was saved");
+        QProcess help;
+        help.setStandardOutputFile("/dev/full");
+        help.start(programs + "/rules-workbench", {"--help"});
+        QVERIFY(help.waitForFinished());
+        QCOMPARE(help.exitCode(), int(Unusable));
     }
 
     void keepsOldFilesOnAFullDisk()
