@@ -16,8 +16,13 @@ namespace DocumentFile
 namespace
 {
 
-/// What is longer is no document.
+/// What is longer is no document; a part of a session would be another one.
 constexpr qint64 kLongest = qint64(128) << 20; // bytes
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("DocumentFile", text);
+}
 
 bool isDevice(const QString& path)
 {
@@ -50,15 +55,18 @@ bool read(const QString& path, kql::Json::Value& document, QString& error)
 bool readBytes(const QString& path, QByteArray& bytes, QString& error)
 {
     if (isDevice(path)) {
-        error = QCoreApplication::translate("DocumentFile", "%1: it is no file").arg(path);
+        error = say("%1: it is no file").arg(path);
         return false;
     }
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         bytes = file.read(kLongest + 1);
-    if (file.error() == QFileDevice::NoError)
+    if (file.error() != QFileDevice::NoError)
+        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    else if (bytes.size() > kLongest)
+        error = say("%1: it is longer than 128 MB").arg(path);
+    else
         return true;
-    error = QStringLiteral("%1: %2").arg(path, file.errorString());
     return false;
 }
 
