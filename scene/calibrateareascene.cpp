@@ -71,7 +71,7 @@ void CalibrateAreaScene::markWithoutLength(ControlTabel& row)
 {
     const RuleDataInfo* entry = ruleData()->selectedDataInfo();
     const bool lacksLength = entry && !entry->value(row.key()).isValid();
-    const QString misfit = entry ? Misfit::explained(*entry, row.key()) : QString();
+    const QString misfit = entry ? Misfit::explained(*ruleData(), *entry, row.key()) : QString();
     const QString missing = lacksLength ? tr("The area has no length here.") : QString();
     row.setMark(misfit.isEmpty() ? missing : misfit);
 }

@@ -36,7 +36,9 @@ int Workbench::run()
         complain(UICommonMdl::maskedAddress(error));
         return Unusable;
     }
-    QApplication::exec();
+    // It may have been closed by now, and would not end the loop any more.
+    if (m_window->isVisible())
+        QApplication::exec();
     if (m_player && !m_isReplayOver)
         m_replayError = m_window->options().replayFile + QStringLiteral(": ") +
                         tr("the window was closed before the session's end");

@@ -381,13 +381,14 @@ private slots:
             param.rtspUrl = camera.address("viewer:s3cr3t@");
             QVERIFY(camera.isRunning() && surface.openByRtsp(param) && again->isHidden());
             QTRY_VERIFY_WITH_TIMEOUT(surface.statusText().contains("only when you ask"), kPatience);
-            QVERIFY(!again->isHidden() && surface.rect().contains(again->geometry()));
+            QTRY_VERIFY(!again->isHidden());
+            QVERIFY(surface.rect().contains(again->geometry()));
             const int tries = camera.printed().count("OPTIONS ");
             QVERIFY(tries > 0);
             QTest::qWait(1500); // the first wait is one second
             QCOMPARE(camera.printed().count("OPTIONS "), tries);
             again->click();
-            QVERIFY(again->isHidden());
+            QTRY_VERIFY(again->isHidden());
             QTRY_VERIFY_WITH_TIMEOUT(camera.printed().count("OPTIONS ") > tries, kPatience);
         }
     }
