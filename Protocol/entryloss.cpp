@@ -179,7 +179,9 @@ void EntryLoss::tellMisfits(const Value& read, const Value& written)
         return;
     for (const Items& items : qAsConst(m_items)) {
         for (const RuleProtocolItem* item : items) {
-            if (!Misfit::isUnder(*m_entry, item->key()))
+            // Elements of lists are matched by their kind, not by their place.
+            const bool isInList = item->path().text().contains(QLatin1String("[]."));
+            if (isInList || !Misfit::isUnder(*m_entry, item->key()))
                 continue;
             const Value* const before = item->path().probe(read);
             const Value* const after = item->path().probe(written);
