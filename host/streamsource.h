@@ -49,7 +49,7 @@ private:
     const StreamRequest m_request;
     std::shared_ptr<StreamMailbox> m_mailbox; ///< null while nothing is played
     QTimer m_retry;
-    int m_wait; ///< seconds until the next try
+    int m_wait;       ///< seconds until the next try
     QString m_reason; ///< why the stream was lost last
     QSize m_targetSize;
     QImage m_picture;
