@@ -548,7 +548,8 @@ private slots:
 
         const Load unreadable(
             makeTemplate(R"("calibrateArea": {"parent": "C[]", "method": "Scene"})", {}, "{}"),
-            R"({"C": [{"Staffs": [{"Type": "Vertical", "Length": "2.5 m"}]}]})");
+            R"({"C": [{"Staffs": [{"Type": "Vertical", "Length": "2.5 m",
+                                                  "Start": [1, 2], "End": [1, 5]}]}]})");
         const QString told = unreadable.parser.notices().join(' ');
         QVERIFY2(told.startsWith("vertical (Area1) cannot be shown") &&
                      !told.contains("no vertical length"),
