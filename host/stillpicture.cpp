@@ -18,7 +18,7 @@ namespace
 
 QString text(const char* source)
 {
-    return QCoreApplication::translate("StillPictureSource", source);
+    return QCoreApplication::translate("StillPicture", source);
 }
 
 class StillImage : public DecodedPicture
