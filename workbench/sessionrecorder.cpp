@@ -18,6 +18,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTimer>
+#include <QValidator>
 
 namespace
 {
@@ -43,6 +44,17 @@ QMetaProperty propertyOf(const QObject& object, const char* name)
 {
     const QMetaObject& meta = *object.metaObject();
     return meta.property(meta.indexOfProperty(name));
+}
+
+/// Whether @p edit, left empty, shows what it held before.
+bool isEmptyDropped(const QLineEdit& edit)
+{
+    QString text;
+    int position = 0;
+    if (!edit.validator())
+        return false;
+    edit.validator()->fixup(text);
+    return edit.validator()->validate(text, position) != QValidator::Acceptable;
 }
 
 } // namespace
@@ -335,7 +347,7 @@ void SessionRecorder::recordSettled()
         recordEdited();
 }
 
-// An edit whose text was refused left nothing to do again, but to end it if it is written already.
+// An edit whose text was refused left nothing to do again, but to drop what is written of it.
 void SessionRecorder::recordEdited()
 {
     const QPointer<QLineEdit> edit = std::exchange(m_edited, nullptr);
@@ -351,8 +363,21 @@ void SessionRecorder::recordEdited()
         if (!(set == m_last))
             recordAfterMove(set);
     } else if (row && m_isResumed) {
-        recordAfterMove(RecordedStep::finish());
+        recordDropped(*row, *edit);
     }
+}
+
+/// The text that is written would be taken over when the edit ends; the row shows what it held.
+void SessionRecorder::recordDropped(const QWidget& row, const QLineEdit& edit)
+{
+    if (!isEmptyDropped(edit)) {
+        recordAfterMove(RecordedStep::set(row));
+        return;
+    }
+    Value emptied = RecordedStep::typed(row, edit);
+    emptied["text"] = "";
+    recordAfterMove(emptied);
+    recordAfterMove(RecordedStep::finish());
 }
 
 void SessionRecorder::record(const Value& step)

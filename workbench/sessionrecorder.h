@@ -77,6 +77,7 @@ private:
     /// Writes an edit that is finished, as the row shows it now.
     void recordSettled();
     void recordEdited();
+    void recordDropped(const QWidget& row, const QLineEdit& edit);
     void recordAfterMove(const Value& step);
     void recordSize();
     void append(const Value& step);

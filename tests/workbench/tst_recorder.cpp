@@ -355,7 +355,9 @@ private slots:
         WorkbenchOptions options = Bench::example();
         options.replayFile =
             WorkbenchFiles::write(m_folder, "cut.jsonl", "{\"do\":\"wait\",\"ms\":60000}\n");
-        QTimer::singleShot(1000, qApp, &QApplication::closeAllWindows);
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, qApp, &QApplication::closeAllWindows);
+        closer.start(1000);
         QCOMPARE(Workbench(options).run(), int(Workbench::StepFailed));
     }
 
