@@ -130,7 +130,7 @@ QString shownText(const BaseTabelScene& panel)
             out << "\n   " << button->fullText() << button->isChecked() << button->isEnabled();
     }
     for (const ControlTabel* row : panel.findChildren<ControlTabel*>()) {
-        out << "\n   " << row->key() << row->isHidden() << row->isMarked() << row->heldValue();
+        out << "\n   " << row->key() << row->isHidden() << row->heldValue();
         for (const QLineEdit* edit : row->findChildren<QLineEdit*>())
             out << edit->text() << edit->isEnabled();
     }
