@@ -602,6 +602,8 @@ void CIntelligentRulesCtrl::showNotices()
     const QStringList notices = m_parser ? m_parser->notices() : QStringList();
     m_form->lblNotices->setTitle(notices.join(QLatin1Char(' ')));
     m_form->lblNotices->setToolTip(PlainText::toolTip(notices.join(QLatin1Char('\n'))));
+    if (m_form->lblNotices->isHidden() == notices.isEmpty())
+        return;
     m_form->lblNotices->setVisible(!notices.isEmpty());
     // The notices have the room that is empty otherwise.
     const int emptyWidth = notices.isEmpty() ? kEmptyWidth : 0;

@@ -17,6 +17,7 @@
 #include "tabel/ruleitemwidgettabel.h"
 #include "workbench/workbenchwindow.h"
 
+#include <QApplication>
 #include <QDebug>
 #include <QLineEdit>
 #include <QRect>
@@ -130,7 +131,7 @@ QString shownText(const BaseTabelScene& panel)
             out << "\n   " << button->fullText() << button->isChecked() << button->isEnabled();
     }
     for (const ControlTabel* row : panel.findChildren<ControlTabel*>()) {
-        out << "\n   " << row->key() << row->isHidden() << row->heldValue();
+        out << "\n   " << row->key() << row->isHidden() << row->isMarked() << row->heldValue();
         for (const QLineEdit* edit : row->findChildren<QLineEdit*>())
             out << edit->text() << edit->isEnabled();
     }
@@ -179,6 +180,12 @@ std::string DayOrder::shown(const WorkbenchWindow& window)
 bool DayOrder::isEditing(const WorkbenchWindow& window)
 {
     const auto edits = window.rulesWindow()->findChildren<QLineEdit*>();
+    const auto rows = window.rulesWindow()->findChildren<ControlTabel*>();
+    const QWidget* focused = QApplication::focusWidget();
+    // A row marks letters that it refused until it is left.
     return std::any_of(edits.begin(), edits.end(),
-                       [](const QLineEdit* edit) { return edit->isModified(); });
+                       [](const QLineEdit* edit) { return edit->isModified(); }) ||
+           std::any_of(rows.begin(), rows.end(), [focused](const ControlTabel* row) {
+               return row->isMarked() && row->isAncestorOf(focused);
+           });
 }
