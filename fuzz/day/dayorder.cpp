@@ -17,7 +17,6 @@
 #include "tabel/ruleitemwidgettabel.h"
 #include "workbench/workbenchwindow.h"
 
-#include <QApplication>
 #include <QDebug>
 #include <QLineEdit>
 #include <QRect>
@@ -181,7 +180,7 @@ bool DayOrder::isEditing(const WorkbenchWindow& window)
 {
     const auto edits = window.rulesWindow()->findChildren<QLineEdit*>();
     const auto rows = window.rulesWindow()->findChildren<ControlTabel*>();
-    const QWidget* focused = QApplication::focusWidget();
+    const QWidget* focused = window.focusWidget();
     // A row marks letters that it refused until it is left.
     return std::any_of(edits.begin(), edits.end(),
                        [](const QLineEdit* edit) { return edit->isModified(); }) ||
