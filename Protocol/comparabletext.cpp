@@ -1,7 +1,7 @@
 #include "Protocol/comparabletext.h"
 
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,13 +1,13 @@
 #include "Protocol/configreader.h"
 
-#include "Protocol/calibrateareadata.h"
-#include "Protocol/calibrateareareader.h"
-#include "Protocol/detectionreader.h"
-#include "Protocol/fightcalibratedata.h"
-#include "Protocol/fightcalibratereader.h"
-#include "Protocol/lanesdata.h"
-#include "Protocol/lanesreader.h"
-#include "Protocol/rulesreader.h"
+#include "Protocol/calibration/calibrateareadata.h"
+#include "Protocol/calibration/calibrateareareader.h"
+#include "Protocol/detection/detectionreader.h"
+#include "Protocol/fight/fightcalibratedata.h"
+#include "Protocol/fight/fightcalibratereader.h"
+#include "Protocol/lanes/lanesdata.h"
+#include "Protocol/lanes/lanesreader.h"
+#include "Protocol/rules/rulesreader.h"
 
 namespace
 {

@@ -1,15 +1,15 @@
 #include "Protocol/configwriter.h"
 
-#include "Protocol/calibrateareadata.h"
-#include "Protocol/calibrateareawriter.h"
+#include "Protocol/calibration/calibrateareadata.h"
+#include "Protocol/calibration/calibrateareawriter.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/detectionwriter.h"
-#include "Protocol/fightcalibratedata.h"
-#include "Protocol/fightcalibratewriter.h"
-#include "Protocol/lanesdata.h"
-#include "Protocol/laneswriter.h"
+#include "Protocol/detection/detectionwriter.h"
+#include "Protocol/fight/fightcalibratedata.h"
+#include "Protocol/fight/fightcalibratewriter.h"
+#include "Protocol/lanes/lanesdata.h"
+#include "Protocol/lanes/laneswriter.h"
 #include "Protocol/missingplace.h"
-#include "Protocol/ruleswriter.h"
+#include "Protocol/rules/ruleswriter.h"
 #include "Protocol/writecontext.h"
 
 namespace

@@ -2,15 +2,15 @@
 
 #include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/detectionentries.h"
+#include "Protocol/detection/detectionentries.h"
 #include "Protocol/entryloss.h"
 #include "Protocol/jsonpath.h"
-#include "Protocol/lanerules.h"
-#include "Protocol/lanestemplate.h"
+#include "Protocol/lanes/lanerules.h"
+#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/savenotices.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 using kql::Json::Value;
 

@@ -2,13 +2,13 @@
 
 #include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/detectionentries.h"
+#include "Protocol/detection/detectionentries.h"
 #include "Protocol/entrywriter.h"
-#include "Protocol/lanestemplate.h"
+#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/drawscene.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <algorithm>
 

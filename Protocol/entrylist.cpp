@@ -1,7 +1,7 @@
 #include "Protocol/entrylist.h"
 
 #include "Protocol/jsonpath.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 using kql::Json::Value;
 

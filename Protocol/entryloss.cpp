@@ -8,7 +8,7 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/savenotices.h"
 #include "Protocol/valueconversion.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <algorithm>
 

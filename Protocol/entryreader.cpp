@@ -9,7 +9,7 @@
 #include "Protocol/valueconversion.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <algorithm>
 

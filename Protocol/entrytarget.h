@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Protocol/jsonpath.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <vector>
 

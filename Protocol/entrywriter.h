@@ -2,7 +2,7 @@
 
 #include "Protocol/entryfigures.h"
 #include "Protocol/entrykey.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <QString>
 #include <map>

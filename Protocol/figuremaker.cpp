@@ -1,6 +1,6 @@
 #include "Protocol/figuremaker.h"
 
-#include "Protocol/calibrateareatemplate.h"
+#include "Protocol/calibration/calibrateareatemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/basedraw.h"

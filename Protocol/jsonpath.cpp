@@ -1,7 +1,7 @@
 #include "Protocol/jsonpath.h"
 
-#include "host/dprintlog.h"
-#include "host/value.h"
+#include "host/api/dprintlog.h"
+#include "host/json/value.h"
 
 #include <QStringList>
 

@@ -4,7 +4,7 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/entrylist.h"
 #include "Protocol/entrywriter.h"
-#include "Protocol/lanestemplate.h"
+#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/savenotices.h"

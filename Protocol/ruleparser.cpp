@@ -9,8 +9,8 @@
 #include "Protocol/placecheck.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/templatereader.h"
-#include "host/dprintlog.h"
-#include "host/reader.h"
+#include "host/api/dprintlog.h"
+#include "host/json/reader.h"
 
 #include <algorithm>
 #include <limits>

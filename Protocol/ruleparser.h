@@ -2,7 +2,7 @@
 
 #include "Protocol/entrylimit.h"
 #include "Protocol/ruletypes.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <QCoreApplication>
 #include <QStringList>

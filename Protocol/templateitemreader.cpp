@@ -2,7 +2,7 @@
 
 #include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 using kql::Json::Value;
 

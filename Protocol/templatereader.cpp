@@ -1,20 +1,20 @@
 #include "Protocol/templatereader.h"
 
-#include "Protocol/calibrateareadata.h"
-#include "Protocol/calibrateareatemplate.h"
-#include "Protocol/calibratestaffs.h"
+#include "Protocol/calibration/calibrateareadata.h"
+#include "Protocol/calibration/calibrateareatemplate.h"
+#include "Protocol/calibration/calibratestaffs.h"
 #include "Protocol/configmember.h"
 #include "Protocol/entrylimit.h"
 #include "Protocol/entrylist.h"
-#include "Protocol/fightcalibratedata.h"
-#include "Protocol/fightcalibratetemplate.h"
-#include "Protocol/lanesdata.h"
-#include "Protocol/lanestemplate.h"
+#include "Protocol/fight/fightcalibratedata.h"
+#include "Protocol/fight/fightcalibratetemplate.h"
+#include "Protocol/lanes/lanesdata.h"
+#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/templateitemreader.h"
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <QMap>
 #include <QPair>

@@ -1,8 +1,8 @@
 #include "Protocol/valueconversion.h"
 
 #include "Protocol/ruleprotocolitem.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 
 #include <QSize>
 #include <QStringList>

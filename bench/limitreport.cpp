@@ -4,8 +4,8 @@
 #include "Protocol/ruleparser.h"
 #include "draw/drawscene.h"
 #include "host/gdiplus.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 #include "tests/support/absurddocuments.h"
 
 #include <QFile>

@@ -1,5 +1,5 @@
 #include "bench/benchrow.h"
-#include "host/samplecamerasource.h"
+#include "host/sample/samplecamerasource.h"
 
 #include <QDir>
 #include <QImage>

@@ -9,8 +9,8 @@
 #include "Protocol/ruleparser.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 
 #include <QDir>
 #include <memory>

@@ -1,8 +1,8 @@
 // Changes documents as documents: bytes changed at random are hardly ever JSON any more.
 #include "fuzz/harnesses.h"
 #include "fuzz/inputbytes.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 
 #include <algorithm>
 #include <random>

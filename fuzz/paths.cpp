@@ -6,8 +6,8 @@
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/valueconversion.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 
 #include <QSize>
 

@@ -7,7 +7,7 @@
 #include "Protocol/entryname.h"
 #include "Protocol/entrytarget.h"
 #include "Protocol/entrywriter.h"
-#include "Protocol/lanestemplate.h"
+#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -17,8 +17,8 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 
 #include <QSet>
 #include <QSize>

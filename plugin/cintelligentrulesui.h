@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/iabstractui.h"
+#include "host/api/iabstractui.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "plugin/cintelligentrulesuiplugin.h"
 
-#include "host/cinterfacesetmanager.h"
+#include "host/api/cinterfacesetmanager.h"
 #include "plugin/cintelligentrulesui.h"
 #include "plugin/modulelifetime.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/iclientuipluginapi.h"
+#include "host/api/iclientuipluginapi.h"
 
 #include <QObject>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/iabstractwidget.h"
+#include "host/api/iabstractwidget.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,9 +1,9 @@
 #include "plugin/resultmessage.h"
 
-#include "host/cuipluginmessage.h"
-#include "host/kqsingleton.h"
-#include "host/pluginmsg_param.h"
-#include "host/value.h"
+#include "host/api/cuipluginmessage.h"
+#include "host/api/kqsingleton.h"
+#include "host/api/pluginmsg_param.h"
+#include "host/json/value.h"
 #include "plugin/pluginmessages.h"
 
 namespace IntelligentRulesUI

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/rtspvideoparam.h"
+#include "host/api/rtspvideoparam.h"
 
 #include <QString>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "scene/calibrateareascene.h"
 
-#include "Protocol/calibrateareatemplate.h"
+#include "Protocol/calibration/calibrateareatemplate.h"
 #include "Protocol/misfit.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"

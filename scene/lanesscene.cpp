@@ -1,8 +1,8 @@
 #include "scene/lanesscene.h"
 
 #include "Protocol/entryname.h"
-#include "Protocol/lanesdata.h"
-#include "Protocol/lanestemplate.h"
+#include "Protocol/lanes/lanesdata.h"
+#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"

@@ -8,7 +8,7 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/kqmessagebox.h"
+#include "host/api/kqmessagebox.h"
 #include "scene/entrybuttons.h"
 #include "scene/scenefigures.h"
 #include "tabel/controlitemwidgettabel.h"

@@ -1,7 +1,7 @@
 #include "tabel/controltabel.h"
 
 #include "Protocol/ruleprotocolitem.h"
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
 #include "tabel/plaintext.h"
 #include "tabel/titlelabel.h"
 

@@ -27,7 +27,7 @@ public:
     virtual void setValue(const QVariant& value, bool emitChange);
     QVariant value() const override;
 
-    /// What the row is and holds for hosts, as host/rowcontract.h has it.
+    /// What the row is and holds for hosts, as host/api/rowcontract.h has it.
     virtual int rowKind() const;
     virtual QVariant heldValue() const { return value(); }
 

@@ -1,6 +1,6 @@
 #include "tabel/inputboxwidget.h"
 
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
 #include "tabel/plaintext.h"
 #include "tabel/rowedit.h"
 

@@ -1,6 +1,6 @@
 #include "tabel/inputrangeedit.h"
 
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
 #include "tabel/optionalintvalidator.h"
 #include "tabel/rowedit.h"
 

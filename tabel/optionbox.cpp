@@ -1,7 +1,7 @@
 #include "tabel/optionbox.h"
 
 #include "Protocol/enumoption.h"
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
 #include "tabel/plaintext.h"
 
 #include <QAbstractButton>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
 #include "tabel/optionstabel.h"
 
 class QAbstractButton;

@@ -1,8 +1,8 @@
 #include "workbench/autosave.h"
 
-#include "host/kqmessagebox.h"
-#include "host/qrtspvideownd.h"
-#include "host/value.h"
+#include "host/api/kqmessagebox.h"
+#include "host/json/value.h"
+#include "host/video/qrtspvideownd.h"
 #include "workbench/messagerecord.h"
 #include "workbench/recordedstep.h"
 #include "workbench/restorebar.h"

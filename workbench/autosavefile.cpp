@@ -1,6 +1,6 @@
 #include "workbench/autosavefile.h"
 
-#include "host/wholefile.h"
+#include "host/api/wholefile.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "workbench/commandline.h"
 
-#include "host/maskedaddress.h"
+#include "host/video/maskedaddress.h"
 
 #include <QCoreApplication>
 

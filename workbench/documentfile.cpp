@@ -1,7 +1,7 @@
 #include "workbench/documentfile.h"
 
-#include "host/reader.h"
-#include "host/wholefile.h"
+#include "host/api/wholefile.h"
+#include "host/json/reader.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "workbench/loadoptions.h"
 
-#include "host/value.h"
+#include "host/json/value.h"
 #include "workbench/workbenchoptions.h"
 
 namespace LoadOptions

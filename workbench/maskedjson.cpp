@@ -1,8 +1,8 @@
 #include "workbench/maskedjson.h"
 
-#include "host/maskedaddress.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
+#include "host/video/maskedaddress.h"
 
 using kql::Json::Value;
 using UICommonMdl::maskedAddress;

@@ -7,8 +7,8 @@ namespace MaskedJson
 {
 
 /**
- * @p json with every address in it masked as host/maskedaddress.h does. A text without addresses
- * comes back as it is.
+ * @p json with every address in it masked as host/video/maskedaddress.h does. A text without
+ * addresses comes back as it is.
  */
 QString text(const QString& json);
 

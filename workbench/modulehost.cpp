@@ -1,12 +1,12 @@
 #include "workbench/modulehost.h"
 
-#include "host/cuipluginmessage.h"
-#include "host/iabstractui.h"
-#include "host/iabstractwidget.h"
-#include "host/iclientuipluginapi.h"
-#include "host/kqsingleton.h"
-#include "host/pluginmsg_param.h"
-#include "host/value.h"
+#include "host/api/cuipluginmessage.h"
+#include "host/api/iabstractui.h"
+#include "host/api/iabstractwidget.h"
+#include "host/api/iclientuipluginapi.h"
+#include "host/api/kqsingleton.h"
+#include "host/api/pluginmsg_param.h"
+#include "host/json/value.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "workbench/panelfinder.h"
 
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
 
 #include <QAbstractButton>
 #include <QLabel>

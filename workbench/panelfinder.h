@@ -9,8 +9,8 @@ class QWidget;
 
 /**
  * Finds the widgets of the rules window by the names and properties that they carry
- * (host/rowcontract.h), without knowing their classes. Everything is null or empty when there is no
- * such widget.
+ * (host/api/rowcontract.h), without knowing their classes. Everything is null or empty when there
+ * is no such widget.
  */
 class PanelFinder
 {

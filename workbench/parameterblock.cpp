@@ -1,6 +1,6 @@
 #include "workbench/parameterblock.h"
 
-#include "host/value.h"
+#include "host/json/value.h"
 #include "workbench/documentfile.h"
 #include "workbench/workbenchoptions.h"
 

@@ -1,7 +1,7 @@
 #include "workbench/rowhand.h"
 
-#include "host/rowcontract.h"
-#include "host/value.h"
+#include "host/api/rowcontract.h"
+#include "host/json/value.h"
 #include "workbench/operatorhand.h"
 
 #include <QAbstractButton>

@@ -1,6 +1,6 @@
 #include "workbench/sectionstate.h"
 
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
 #include "workbench/panelfinder.h"
 #include "workbench/recordedstep.h"
 

@@ -1,6 +1,6 @@
 #include "workbench/sessionexpectation.h"
 
-#include "host/reader.h"
+#include "host/json/reader.h"
 #include "workbench/eventwait.h"
 #include "workbench/panelfinder.h"
 #include "workbench/rowhand.h"

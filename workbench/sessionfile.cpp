@@ -1,7 +1,7 @@
 #include "workbench/sessionfile.h"
 
-#include "host/value.h"
-#include "host/wholefile.h"
+#include "host/api/wholefile.h"
+#include "host/json/value.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #include "workbench/sessionplayer.h"
 
-#include "host/maskedaddress.h"
-#include "host/qrtspvideownd.h"
+#include "host/video/maskedaddress.h"
+#include "host/video/qrtspvideownd.h"
 #include "workbench/boxwatcher.h"
 #include "workbench/eventwait.h"
 #include "workbench/loadoptions.h"

@@ -1,7 +1,7 @@
 #include "workbench/sessionrecorder.h"
 
-#include "host/qrtspvideownd.h"
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
+#include "host/video/qrtspvideownd.h"
 #include "workbench/recordedstep.h"
 #include "workbench/rowhand.h"
 #include "workbench/sessionfile.h"

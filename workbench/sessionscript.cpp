@@ -1,6 +1,6 @@
 #include "workbench/sessionscript.h"
 
-#include "host/reader.h"
+#include "host/json/reader.h"
 #include "workbench/documentfile.h"
 
 #include <QBuffer>

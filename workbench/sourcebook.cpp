@@ -1,6 +1,6 @@
 #include "workbench/sourcebook.h"
 
-#include "host/maskedaddress.h"
+#include "host/video/maskedaddress.h"
 #include "workbench/sourcesfile.h"
 
 #include <QFileInfo>

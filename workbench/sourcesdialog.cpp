@@ -1,6 +1,6 @@
 #include "workbench/sourcesdialog.h"
 
-#include "host/maskedaddress.h"
+#include "host/video/maskedaddress.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #include "workbench/stepcheck.h"
 
-#include "host/value.h"
+#include "host/json/value.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "workbench/workbench.h"
 
-#include "host/maskedaddress.h"
+#include "host/video/maskedaddress.h"
 #include "workbench/autosave.h"
 #include "workbench/sessionplayer.h"
 #include "workbench/sessionrecorder.h"

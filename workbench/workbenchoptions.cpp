@@ -1,6 +1,6 @@
 #include "workbench/workbenchoptions.h"
 
-#include "host/wholefile.h"
+#include "host/api/wholefile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

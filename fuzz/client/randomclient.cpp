@@ -3,11 +3,11 @@
 #include "fuzz/client/clientplace.h"
 #include "fuzz/fault.h"
 
-#include "host/channelsources.h"
-#include "host/iabstractui.h"
-#include "host/iabstractwidget.h"
-#include "host/picturesource.h"
-#include "host/qrtspvideownd.h"
+#include "host/api/iabstractui.h"
+#include "host/api/iabstractwidget.h"
+#include "host/video/channelsources.h"
+#include "host/video/picturesource.h"
+#include "host/video/qrtspvideownd.h"
 #include "plugin/cintelligentrulesuiplugin.h"
 #include "plugin/pluginmessages.h"
 

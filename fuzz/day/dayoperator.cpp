@@ -1,8 +1,8 @@
 #include "fuzz/day/dayoperator.h"
 
 #include "draw/drawscene.h"
-#include "host/qrtspvideownd.h"
-#include "host/rowcontract.h"
+#include "host/api/rowcontract.h"
+#include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
 #include "tabel/controltabel.h"
 #include "workbench/recordedstep.h"

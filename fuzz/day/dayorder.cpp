@@ -10,7 +10,7 @@
 #include "draw/drawgeometry.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/qrtspvideownd.h"
+#include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
 #include "tabel/controltabel.h"
 #include "tabel/drawitembutton.h"

@@ -10,8 +10,8 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 #include "scene/basetabelscene.h"
 #include "workbench/workbenchwindow.h"
 

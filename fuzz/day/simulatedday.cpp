@@ -8,7 +8,7 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/ruledata.h"
 #include "draw/drawscene.h"
-#include "host/reader.h"
+#include "host/json/reader.h"
 #include "plugin/cintelligentrulesuiplugin.h"
 #include "scene/basetabelscene.h"
 #include "workbench/autosave.h"

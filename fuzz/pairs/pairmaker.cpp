@@ -1,6 +1,6 @@
 #include "fuzz/pairs/pairmaker.h"
 
-#include "host/reader.h"
+#include "host/json/reader.h"
 
 using kql::Json::Value;
 using kql::Json::ValueType;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/api/kqhostexport.h"
 #include "host/gdiplus/basetypes.h"
-#include "host/kqhostexport.h"
 
 namespace Gdiplus
 {

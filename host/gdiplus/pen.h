@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/api/kqhostexport.h"
 #include "host/gdiplus/basetypes.h"
 #include "host/gdiplus/color.h"
-#include "host/kqhostexport.h"
 
 #include <QPen>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/decodedpicture.h"
 #include "host/streams/avpointers.h"
 #include "host/streams/pictureshape.h"
+#include "host/video/decodedpicture.h"
 
 namespace UICommonMdl
 {

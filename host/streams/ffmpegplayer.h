@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/streamplayer.h"
+#include "host/video/streamplayer.h"
 
 #include <QObject>
 

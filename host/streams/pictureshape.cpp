@@ -1,6 +1,6 @@
 #include "host/streams/pictureshape.h"
 
-#include "host/picturesize.h"
+#include "host/video/picturesize.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 #include "host/streams/streamdecoder.h"
 
-#include "host/picturesize.h"
-#include "host/streammailbox.h"
 #include "host/streams/decodedframe.h"
 #include "host/streams/streamerrors.h"
+#include "host/video/picturesize.h"
+#include "host/video/streammailbox.h"
 
 #include <QCoreApplication>
 

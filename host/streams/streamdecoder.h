@@ -1,11 +1,11 @@
 #pragma once
 
-#include "host/picturewatch.h"
-#include "host/playoutclock.h"
 #include "host/streams/packetqueue.h"
 #include "host/streams/picturescaler.h"
 #include "host/streams/pictureshape.h"
 #include "host/streams/streaminput.h"
+#include "host/video/picturewatch.h"
+#include "host/video/playoutclock.h"
 
 namespace UICommonMdl
 {

@@ -1,10 +1,10 @@
 #include "host/streams/streaminput.h"
 
-#include "host/picturesize.h"
-#include "host/picturewatch.h"
-#include "host/streammailbox.h"
 #include "host/streams/streamerrors.h"
 #include "host/streams/webserver.h"
+#include "host/video/picturesize.h"
+#include "host/video/picturewatch.h"
+#include "host/video/streammailbox.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "host/streamaddress.h"
-#include "host/streamrequest.h"
 #include "host/streams/avpointers.h"
 #include "host/streams/namedpipe.h"
+#include "host/video/streamaddress.h"
+#include "host/video/streamrequest.h"
 
 #include <atomic>
 #include <chrono>

@@ -9,7 +9,7 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/reader.h"
+#include "host/json/reader.h"
 #include "tests/support/rulestest.h"
 
 #include <QDir>

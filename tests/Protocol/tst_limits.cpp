@@ -7,8 +7,8 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "host/gdiplus.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 #include "tests/support/absurddocuments.h"
 #include "tests/support/rulestest.h"
 

@@ -1,5 +1,5 @@
-#include "Protocol/calibrateareadata.h"
-#include "Protocol/calibrateareatemplate.h"
+#include "Protocol/calibration/calibrateareadata.h"
+#include "Protocol/calibration/calibrateareatemplate.h"
 #include "Protocol/controlrow.h"
 #include "Protocol/figuremaker.h"
 #include "Protocol/ruledata.h"

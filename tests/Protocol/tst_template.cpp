@@ -3,7 +3,7 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
-#include "host/reader.h"
+#include "host/json/reader.h"
 #include "tests/support/rulestest.h"
 
 using kql::Json::Value;

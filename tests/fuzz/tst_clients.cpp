@@ -1,6 +1,6 @@
 #include "fuzz/client/clientplace.h"
-#include "host/iabstractui.h"
-#include "host/iclientuipluginapi.h"
+#include "host/api/iabstractui.h"
+#include "host/api/iclientuipluginapi.h"
 #include "tests/support/clientwindow.h"
 #include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"

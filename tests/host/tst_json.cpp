@@ -1,6 +1,6 @@
-#include "host/dprintlog.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/api/dprintlog.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 #include "tests/support/rulestest.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
-#include "host/channelsources.h"
-#include "host/picturesource.h"
-#include "host/qrtspvideownd.h"
-#include "host/samplecamerasource.h"
+#include "host/sample/samplecamerasource.h"
+#include "host/video/channelsources.h"
+#include "host/video/picturesource.h"
+#include "host/video/qrtspvideownd.h"
 #include "tests/support/rulestest.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
-#include "host/cuipluginmessage.h"
-#include "host/kqmessagebox.h"
-#include "host/maskedaddress.h"
-#include "host/skin.h"
-#include "host/streamaddress.h"
+#include "host/api/cuipluginmessage.h"
+#include "host/api/kqmessagebox.h"
+#include "host/api/skin.h"
+#include "host/video/maskedaddress.h"
+#include "host/video/streamaddress.h"
 #include "tests/support/rulestest.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
-#include "host/channelsources.h"
-#include "host/letterbox.h"
-#include "host/picturefile.h"
-#include "host/picturesource.h"
-#include "host/qrtspvideownd.h"
-#include "host/rtspvideoparam.h"
-#include "host/samplecamerasource.h"
+#include "host/api/rtspvideoparam.h"
+#include "host/sample/samplecamerasource.h"
+#include "host/video/channelsources.h"
+#include "host/video/letterbox.h"
+#include "host/video/picturefile.h"
+#include "host/video/picturesource.h"
+#include "host/video/qrtspvideownd.h"
 #include "tests/support/rulestest.h"
 
 #include <QApplication>

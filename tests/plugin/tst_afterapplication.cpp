@@ -1,6 +1,6 @@
-#include "host/cuipluginmessage.h"
-#include "host/iabstractui.h"
-#include "host/iclientuipluginapi.h"
+#include "host/api/cuipluginmessage.h"
+#include "host/api/iabstractui.h"
+#include "host/api/iclientuipluginapi.h"
 #include "tests/support/clientwindow.h"
 
 #include <QPluginLoader>

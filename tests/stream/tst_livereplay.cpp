@@ -1,4 +1,4 @@
-#include "host/value.h"
+#include "host/json/value.h"
 #include "tests/stream/server.h"
 #include "tests/stream/videofile.h"
 #include "tests/support/rulestest.h"

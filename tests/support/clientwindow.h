@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/iabstractwidget.h"
-#include "host/qrtspvideownd.h"
+#include "host/api/iabstractwidget.h"
+#include "host/video/qrtspvideownd.h"
 #include "tests/support/sampledocuments.h"
 
 #include <QAbstractButton>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/cuipluginmessage.h"
-#include "host/reader.h"
-#include "host/value.h"
+#include "host/api/cuipluginmessage.h"
+#include "host/json/reader.h"
+#include "host/json/value.h"
 
 #include <QCoreApplication>
 #include <QList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/picturesource.h"
+#include "host/video/picturesource.h"
 
 /// A grey picture, which is there at once.
 class OnePicture : public UICommonMdl::PictureSource

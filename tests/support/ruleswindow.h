@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/cinterfacesetmanager.h"
+#include "host/api/cinterfacesetmanager.h"
 #include "plugin/cintelligentrulesctrl.h"
 #include "tests/support/boxanswerer.h"
 #include "tests/support/mailbox.h"

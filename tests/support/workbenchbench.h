@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/qrtspvideownd.h"
+#include "host/video/qrtspvideownd.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/workbenchfiles.h"
 #include "workbench/panelfinder.h"

@@ -1,6 +1,6 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/qrtspvideownd.h"
+#include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/rulestest.h"

@@ -1,4 +1,4 @@
-#include "host/value.h"
+#include "host/json/value.h"
 #include "tests/support/fulldisk.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchprogram.h"

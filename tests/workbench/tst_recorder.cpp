@@ -1,4 +1,4 @@
-#include "host/reader.h"
+#include "host/json/reader.h"
 #include "tabel/controltabel.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"

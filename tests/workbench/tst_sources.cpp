@@ -1,5 +1,5 @@
-#include "host/channelsources.h"
-#include "host/qrtspvideownd.h"
+#include "host/video/channelsources.h"
+#include "host/video/qrtspvideownd.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/fulldisk.h"
 #include "tests/support/rulestest.h"

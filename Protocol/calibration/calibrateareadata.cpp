@@ -1,0 +1,41 @@
+#include "Protocol/calibration/calibrateareadata.h"
+
+#include "Protocol/calibration/calibrateareatemplate.h"
+#include "Protocol/misfit.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
+
+#include <utility>
+
+CalibrateAreaData::CalibrateAreaData()
+{
+    setSceneType(SceneType::CalibrateArea);
+    setTemplate(std::make_unique<CalibrateAreaTemplate>());
+    setRuleFucTitle(RuleData::tr("Area"));
+}
+
+CalibrateAreaTemplate* CalibrateAreaData::calibrateTemplate() const
+{
+    return dynamic_cast<CalibrateAreaTemplate*>(getTemplate());
+}
+
+void CalibrateAreaData::collectNotices(QStringList& notices) const
+{
+    const CalibrateAreaTemplate* const area = calibrateTemplate();
+    if (!area)
+        return;
+    const bool isScene = area->isSceneMethod();
+    const std::pair<QString, QString> lengths[] = {
+        {area->verticalLengthItem()->key(),
+         isScene ? tr("%1 has no vertical length.") : tr("%1 has no length.")},
+        {area->horizontalLengthItem()->key(),
+         isScene ? tr("%1 has no horizontal length.") : tr("%1 has no width.")}};
+    int number = 0;
+    for (const auto& entry : getAllData()) {
+        const QString name = getRuleFucTitle() + QString::number(++number);
+        for (const auto& [key, notice] : lengths) {
+            if (!entry->value(key).isValid() && !Misfit::isUnder(*entry, key))
+                notices.append(notice.arg(name));
+        }
+    }
+}

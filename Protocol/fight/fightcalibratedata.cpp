@@ -1,0 +1,15 @@
+#include "Protocol/fight/fightcalibratedata.h"
+
+#include "Protocol/fight/fightcalibratetemplate.h"
+
+FightCalibrateData::FightCalibrateData()
+{
+    setSceneType(SceneType::FightCalibrate);
+    setTemplate(std::make_unique<FightCalibrateTemplate>());
+    setRuleFucTitle(RuleData::tr("Area"));
+}
+
+FightCalibrateTemplate* FightCalibrateData::fightTemplate() const
+{
+    return dynamic_cast<FightCalibrateTemplate*>(getTemplate());
+}

@@ -1,0 +1,15 @@
+#include "Protocol/lanes/lanesdata.h"
+
+#include "Protocol/lanes/lanestemplate.h"
+
+LanesData::LanesData()
+{
+    setSceneType(SceneType::Lanes);
+    setTemplate(std::make_unique<LanesTemplate>());
+    setRuleFucTitle(RuleData::tr("Lanes"));
+}
+
+LanesTemplate* LanesData::lanesTemplate() const
+{
+    return dynamic_cast<LanesTemplate*>(getTemplate());
+}

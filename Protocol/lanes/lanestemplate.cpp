@@ -1,0 +1,105 @@
+#include "Protocol/lanes/lanestemplate.h"
+
+#include "Protocol/configmember.h"
+#include "Protocol/ruleprotocolitem.h"
+
+#include <algorithm>
+
+namespace
+{
+
+const auto kLane = QStringLiteral("lanesLanes");
+const auto kNumber = QStringLiteral("lanesNum");
+const auto kLeftLineType = QStringLiteral("lanesLeftLineType");
+const auto kRightLineType = QStringLiteral("lanesRightLineType");
+
+bool isRuleItem(const std::unique_ptr<RuleProtocolItem>& item)
+{
+    return item->templateName() == ConfigMember::kRuleSection;
+}
+
+EnumOption lineType(const char* key, const char* value, const QString& text)
+{
+    EnumOption option;
+    option.key = QLatin1String(key);
+    option.value = QLatin1String(value);
+    option.text = text;
+    return option;
+}
+
+void initLineType(RuleProtocolItem* item, const QList<EnumOption>& options)
+{
+    item->setValueType(ValueType::String);
+    item->setEnumeration(options);
+}
+
+} // namespace
+
+LanesTemplate::LanesTemplate()
+{
+    setName(QStringLiteral("lanes"));
+    setTitle(tr("Lanes configuration"));
+    RuleProtocolItem* const lane = addBuiltIn(kLane, QString(), FacadeType::Lane, tr("lanes"));
+    lane->setCountRange({1, 1});
+    lane->setPointCount({4, 4});
+    addBuiltIn(kNumber, QStringLiteral("Number"), FacadeType::InputBoxNumber, tr("Lanes num"))
+        ->setValueType(ValueType::Int);
+    const QList<EnumOption> lineTypes = {
+        lineType("enumWhiteSolid", "WhiteSolid", tr("White solid")),
+        lineType("enumWhiteDotted", "WhiteDotted", tr("White dotted")),
+        lineType("enumYellow", "Yellow", tr("Yellow")),
+    };
+    initLineType(addBuiltIn(kLeftLineType, QStringLiteral("LeftLineType"), FacadeType::RadioButton,
+                            tr("left line")),
+                 lineTypes);
+    initLineType(addBuiltIn(kRightLineType, QStringLiteral("RightLineType"),
+                            FacadeType::RadioButton, tr("right line")),
+                 lineTypes);
+}
+
+std::unique_ptr<DataTemplate> LanesTemplate::clone() const
+{
+    return std::unique_ptr<DataTemplate>(new LanesTemplate(*this));
+}
+
+void LanesTemplate::addRuleItems(Items items)
+{
+    for (auto& item : items)
+        addItem(std::move(item));
+}
+
+bool LanesTemplate::hasRuleItems() const
+{
+    return std::any_of(items().begin(), items().end(), isRuleItem);
+}
+
+QString LanesTemplate::rulesParent() const
+{
+    const auto found = std::find_if(items().begin(), items().end(), isRuleItem);
+    return found == items().end() ? QString() : (*found)->parent();
+}
+
+RuleProtocolItem* LanesTemplate::laneItem() const
+{
+    return findItem(kLane);
+}
+
+RuleProtocolItem* LanesTemplate::numberItem() const
+{
+    return findItem(kNumber);
+}
+
+RuleProtocolItem* LanesTemplate::leftLineTypeItem() const
+{
+    return findItem(kLeftLineType);
+}
+
+RuleProtocolItem* LanesTemplate::rightLineTypeItem() const
+{
+    return findItem(kRightLineType);
+}
+
+RuleProtocolItem* LanesTemplate::ruleLaneNumberItem() const
+{
+    return findItem(kRuleLaneNumber);
+}

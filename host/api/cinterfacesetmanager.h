@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/api/kqhostexport.h"
+
+#include <QList>
+
+namespace KQPluginAPI
+{
+class IClientLogicalPluginAPI;
+}
+
+namespace CommonData
+{
+
+/// A plug-in's handle to the host's managers: the logical plug-ins that it was given.
+class KQHOST_EXPORT CInterfaceSetManager
+{
+public:
+    /// The plug-in stays the caller's. False for null and for one that is already registered.
+    bool AddLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin);
+    /// False for one that is not registered.
+    bool RemoveLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin);
+
+private:
+    QList<KQPluginAPI::IClientLogicalPluginAPI*> m_logicalPlugins; ///< not owned
+};
+
+} // namespace CommonData

@@ -1,0 +1,61 @@
+#include "host/api/kqmessagebox.h"
+
+#include <QPointer>
+
+namespace KQGUI
+{
+namespace
+{
+
+/// More than an operator reads; names from documents can be of any length.
+constexpr int kLongestText = 2000;
+/// The buttons have to stay on the screen.
+constexpr int kMostLines = 20;
+
+QString shortened(const QString& text)
+{
+    QString shown = text.left(kLongestText);
+    shown.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    shown.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    shown = shown.section(QLatin1Char('\n'), 0, kMostLines - 1);
+    return shown.size() < text.size() ? shown + QChar(0x2026) : shown;
+}
+
+QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& title,
+                                 const QString& text, QMessageBox::StandardButtons buttons)
+{
+    // On the heap, as a parent that goes takes its box along.
+    const QPointer<QMessageBox> box(new QMessageBox(parent));
+    box->setIcon(icon);
+    box->setWindowTitle(title);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(shortened(text));
+    box->setStandardButtons(buttons);
+    const auto answer = static_cast<QMessageBox::StandardButton>(box->exec());
+    if (!box)
+        return QMessageBox::NoButton;
+    delete box.data();
+    return answer;
+}
+
+} // namespace
+
+void KQMessageBox::ShowError(QWidget* parent, const QString& title, const QString& text)
+{
+    show(parent, QMessageBox::Critical, title, text, QMessageBox::Ok);
+}
+
+void KQMessageBox::ShowNotice(QWidget* parent, const QString& title, const QString& text)
+{
+    show(parent, QMessageBox::Information, title, text, QMessageBox::Ok);
+}
+
+QMessageBox::StandardButton KQMessageBox::ShowInformation(QWidget* parent, int type,
+                                                          const QString& title, const QString& text,
+                                                          QMessageBox::StandardButtons buttons)
+{
+    const auto icon = type == kQuestion ? QMessageBox::Question : QMessageBox::Information;
+    return show(parent, icon, title, text, buttons);
+}
+
+} // namespace KQGUI

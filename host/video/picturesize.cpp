@@ -1,0 +1,34 @@
+#include "host/video/picturesize.h"
+
+#include <QCoreApplication>
+
+namespace UICommonMdl
+{
+namespace
+{
+
+constexpr int kLargestSide = 16384;
+const QSize kLargestUnasked(3840, 2160);
+
+} // namespace
+
+bool isPlausibleSize(const QSize& size)
+{
+    return !size.isEmpty() && size.width() <= kLargestSide && size.height() <= kLargestSide;
+}
+
+QSize sizeUnasked(const QSize& size)
+{
+    const bool fits = size.boundedTo(kLargestUnasked) == size;
+    return fits ? size : size.scaled(kLargestUnasked, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+QString implausibleSizeText(const QSize& size)
+{
+    return QCoreApplication::translate("PictureSource",
+                                       "The picture's size, %1 x %2, is out of range.")
+        .arg(size.width())
+        .arg(size.height());
+}
+
+} // namespace UICommonMdl

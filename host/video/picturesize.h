@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/api/kqhostexport.h"
+
+#include <QSize>
+#include <QString>
+
+namespace UICommonMdl
+{
+
+/// False for an empty size and for one that no camera has: it would only take the memory.
+KQHOST_EXPORT bool isPlausibleSize(const QSize& size);
+/// @p size, or the largest of its shape that is worth the work while nobody has asked for one.
+KQHOST_EXPORT QSize sizeUnasked(const QSize& size);
+/// Says to the operator that @p size is refused.
+KQHOST_EXPORT QString implausibleSizeText(const QSize& size);
+
+} // namespace UICommonMdl

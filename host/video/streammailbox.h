@@ -1,0 +1,68 @@
+#pragma once
+
+#include "host/api/kqhostexport.h"
+#include "host/video/streamnews.h"
+
+#include <QSize>
+
+#include <chrono>
+#include <condition_variable>
+#include <functional>
+#include <mutex>
+
+namespace UICommonMdl
+{
+
+/**
+ * All that the GUI thread and a stream's threads share. It holds the newest picture only: one that
+ * was not fetched in time counts as dropped. Once closed, nothing wakes the GUI side any more, and
+ * the stream's threads end by themselves.
+ */
+class KQHOST_EXPORT StreamMailbox
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    /// @p wake is called on a stream's thread, once until the next fetch(); it must not block.
+    explicit StreamMailbox(std::function<void()> wake);
+
+    // The GUI's side.
+    void close();
+    StreamNews fetch();
+    void setTargetSize(const QSize& size);
+    QString codec() const;
+    qint64 dropped() const;
+    bool isLoginRefused() const;
+
+    // The stream's side.
+    bool isClosed() const;
+    /// Waits; false as soon as the mailbox is closed.
+    bool waitUntil(Clock::time_point time);
+    /// The size in which the GUI shows the picture, empty while it is not known.
+    QSize targetSize() const;
+    /// Waits until the target size is known and not @p size; false as soon as the mailbox is
+    /// closed.
+    bool waitForAnotherSize(const QSize& size);
+    void setCodec(const QString& codec);
+    void countDropped(int pictures);
+    /// The failure that follows is one that only another login ends.
+    void setLoginRefused();
+    /// The same @p decoded may come again, in another size.
+    void postPicture(const QImage& picture, std::shared_ptr<const DecodedPicture> decoded);
+    void postFailure(const QString& reason);
+
+private:
+    void wakeOnce();
+
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed; ///< closed, or of another size
+    std::function<void()> m_wake;      ///< null once closed
+    bool m_isAwake = false;
+    StreamNews m_news;
+    QSize m_targetSize;
+    QString m_codec;
+    qint64 m_dropped = 0;
+    bool m_isLoginRefused = false;
+};
+
+} // namespace UICommonMdl
