@@ -1,6 +1,6 @@
 #include "workbench/eventwait.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -12,19 +12,20 @@ namespace
 constexpr int kSlice = 10; // milliseconds
 }
 
+// One loop for all of it: each that starts drops a wish to end the program that is on its way.
 bool until(int milliseconds, const std::function<bool()>& condition)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition()) {
-        if (timer.elapsed() > milliseconds)
-            return false;
-        QEventLoop loop;
-        QTimer::singleShot(kSlice, &loop, &QEventLoop::quit);
-        if (loop.exec() < 0)
-            return false; // the program is about to end
-    }
-    return true;
+    const QDeadlineTimer deadline(milliseconds);
+    QEventLoop loop;
+    QTimer slices;
+    QObject::connect(&slices, &QTimer::timeout, &loop, [&] {
+        if (deadline.hasExpired() || condition())
+            loop.quit();
+    });
+    slices.start(kSlice);
+    if (!condition())
+        loop.exec();
+    return condition();
 }
 
 } // namespace EventWait

@@ -85,6 +85,11 @@ void SessionPlayer::start()
 
 void SessionPlayer::runNext()
 {
+    if (!m_window.isVisible()) {
+        // The end that its closing asked for may have been dropped by a loop that began then.
+        QApplication::quit();
+        return;
+    }
     if (m_next == m_script.steps.size()) {
         emit sgnFinished({});
         return;
