@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -33,6 +34,26 @@ QString obstacle(QWidget* widget, const QPoint& position)
     if (hit != widget && !(hit && widget->isAncestorOf(hit)))
         return say("it is covered; select its section first");
     return {};
+}
+
+QWidget* focusTaker(QWidget* pressed)
+{
+    QWidget* taker = pressed;
+    while (taker && !(taker->isEnabled() && (taker->focusPolicy() & Qt::ClickFocus)))
+        taker = taker->isWindow() ? nullptr : taker->parentWidget();
+    return taker;
+}
+
+/// A window that is not the active one moves its focus without telling what it leaves, but a press
+/// of an operator's own hand would have made it active: an edit in progress ends.
+void leaveFocused(QWidget* pressed)
+{
+    QWidget* focused = pressed->window()->focusWidget();
+    const QWidget* taker = focusTaker(pressed);
+    if (!focused || !taker || taker == focused || pressed->isActiveWindow())
+        return;
+    QFocusEvent leave(QEvent::FocusOut, Qt::MouseFocusReason);
+    QCoreApplication::sendEvent(focused, &leave);
 }
 
 // Letter by letter, as QTest::keyClicks() does, but in any script.
@@ -71,18 +92,18 @@ QString click(QWidget* widget)
 QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button)
 {
     const QString why = obstacle(widget, position);
-    if (why.isEmpty())
-        QTest::mouseClick(widget, button, Qt::NoModifier, position);
-    return why;
+    if (!why.isEmpty())
+        return why;
+    leaveFocused(widget);
+    QTest::mouseClick(widget, button, Qt::NoModifier, position);
+    return {};
 }
 
 QString doubleClickAt(QWidget* widget, const QPoint& position)
 {
-    const QString why = obstacle(widget, position);
-    if (why.isEmpty()) {
-        QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, position);
+    const QString why = clickAt(widget, position, Qt::LeftButton);
+    if (why.isEmpty())
         QTest::mouseDClick(widget, Qt::LeftButton, Qt::NoModifier, position);
-    }
     return why;
 }
 

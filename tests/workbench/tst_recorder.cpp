@@ -1,9 +1,11 @@
+#include "host/api/rowcontract.h"
 #include "host/json/reader.h"
 #include "tabel/controltabel.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
 #include "workbench/boxwatcher.h"
 #include "workbench/messagerecord.h"
+#include "workbench/operatorhand.h"
 #include "workbench/sessionrecorder.h"
 #include "workbench/workbench.h"
 
@@ -347,6 +349,21 @@ private slots:
         QCOMPARE(change(control, [&control] { QTest::keyClick(&control, Qt::Key_Up); }), said);
         QCOMPARE(change(edit, [&edit] { QTest::keyClick(&edit, Qt::Key_A); }), said);
         QCOMPARE(recorded(), QStringList());
+    }
+
+    void endsEditsInAWindowThatIsNotActive()
+    {
+        QVERIFY(record(Bench::example("perimeter"), nullptr));
+        QApplication::setActiveWindow(nullptr);
+        OperatorHand::click(m_bench->part("global", "mask"));
+        QLineEdit* edit = m_bench->edit("global", "globalMountHeight");
+        QCOMPARE(OperatorHand::type(edit, "12.5", false), QString());
+        QVERIFY(edit->isModified());
+        QCOMPARE(OperatorHand::type(m_bench->edit("global", "globalSensitivity"), "4", false),
+                 QString());
+        QVERIFY(!edit->isModified());
+        QCOMPARE(m_bench->part("global", "globalMountHeight")->property(RowContract::kValue),
+                 QVariant(QString("12.5")));
     }
 
     void tellsThatAReplayWasCut()
