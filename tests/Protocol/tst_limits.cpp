@@ -12,10 +12,6 @@
 #include "tests/support/absurddocuments.h"
 #include "tests/support/rulestest.h"
 
-#include <QImage>
-#include <QPainter>
-#include <QRegularExpression>
-
 using kql::Json::Value;
 
 namespace

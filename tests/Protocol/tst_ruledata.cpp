@@ -12,8 +12,6 @@
 #include "draw/drawscene.h"
 #include "tests/support/rulestest.h"
 
-#include <QSize>
-
 namespace
 {
 

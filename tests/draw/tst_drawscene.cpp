@@ -5,10 +5,6 @@
 #include "host/gdiplus.h"
 #include "tests/support/rulestest.h"
 
-#include <QImage>
-#include <QPainter>
-#include <QRandomGenerator>
-#include <QSignalSpy>
 #include <algorithm>
 #include <memory>
 

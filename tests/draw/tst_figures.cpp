@@ -4,9 +4,6 @@
 #include "draw/labelfont.h"
 #include "tests/support/rulestest.h"
 
-#include <QImage>
-#include <QPainter>
-#include <QTranslator>
 #include <climits>
 
 using Type = BaseDrawType;

@@ -3,7 +3,6 @@
 #include "host/gdiplus.h"
 #include "tests/support/rulestest.h"
 
-#include <QRandomGenerator>
 #include <climits>
 #include <cmath>
 #include <optional>

@@ -6,11 +6,6 @@
 #include "host/gdiplus.h"
 #include "tests/support/rulestest.h"
 
-#include <QImage>
-#include <QPainter>
-#include <QRandomGenerator>
-#include <QSet>
-#include <QtMath>
 #include <functional>
 #include <memory>
 

@@ -5,9 +5,6 @@
 #include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"
 
-#include <QLineEdit>
-#include <QPluginLoader>
-
 using namespace SampleDocuments;
 using KQPluginAPI::IClientUIPluginAPI;
 

@@ -2,8 +2,6 @@
 #include "fuzz/harnesses.h"
 #include "tests/support/rulestest.h"
 
-#include <QDir>
-
 /// Inputs that once did harm, each in the folder of the harness that it was for.
 class TstRegressions : public RulesTest
 {

@@ -2,11 +2,6 @@
 
 #include "tests/support/rulestest.h"
 
-#include <QBitmap>
-#include <QImage>
-#include <QPainter>
-#include <QSet>
-
 #include <array>
 #include <functional>
 #include <limits>

@@ -4,14 +4,6 @@
 #include "host/video/qrtspvideownd.h"
 #include "tests/support/rulestest.h"
 
-#include <QApplication>
-#include <QFileDialog>
-#include <QLabel>
-#include <QMouseEvent>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QToolButton>
-
 using namespace UICommonMdl;
 
 /// The tools over a pane that shows the sample camera.

@@ -5,13 +5,6 @@
 #include "host/video/streamaddress.h"
 #include "tests/support/rulestest.h"
 
-#include <QApplication>
-#include <QPointer>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QThread>
-#include <QTimer>
-
 #include <functional>
 #include <memory>
 

@@ -7,15 +7,6 @@
 #include "host/video/qrtspvideownd.h"
 #include "tests/support/rulestest.h"
 
-#include <QApplication>
-#include <QBuffer>
-#include <QMouseEvent>
-#include <QPainter>
-#include <QPointer>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QtEndian>
-
 using namespace UICommonMdl;
 
 namespace

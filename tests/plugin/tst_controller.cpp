@@ -11,11 +11,6 @@
 #include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-
 #include <functional>
 
 using namespace SampleDocuments;

@@ -3,13 +3,6 @@
 #include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTextDocument>
-#include <QTextDocumentFragment>
-
 using kql::Json::Value;
 
 namespace

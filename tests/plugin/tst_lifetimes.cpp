@@ -11,9 +11,6 @@
 #include "tests/support/rulestest.h"
 #include "tests/support/sampledocuments.h"
 
-#include <QLineEdit>
-#include <QPluginLoader>
-
 #include <functional>
 #include <limits>
 #include <malloc.h>

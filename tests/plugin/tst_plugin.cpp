@@ -8,9 +8,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QPluginLoader>
-#include <QProcess>
-#include <QStandardPaths>
 
 using namespace SampleDocuments;
 using kql::Json::Value;

@@ -1,16 +1,9 @@
-#include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "draw/basedraw.h"
-#include "draw/drawitem.h"
-#include "draw/drawscene.h"
 #include "scene/rulescene.h"
 #include "tabel/controltabel.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/panelbench.h"
 #include "tests/support/rulestest.h"
-
-#include <QAbstractButton>
-#include <QLineEdit>
 
 namespace
 {

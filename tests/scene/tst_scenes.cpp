@@ -1,10 +1,5 @@
 #include "Protocol/datatemplate.h"
-#include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
-#include "draw/drawitem.h"
-#include "draw/drawscene.h"
-#include "scene/basetabelscene.h"
 #include "scene/entryrows.h"
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
@@ -13,10 +8,6 @@
 #include "tests/support/panelbench.h"
 #include "tests/support/rulestest.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <memory>
 
 namespace

@@ -4,10 +4,6 @@
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchprogram.h"
 
-#include <QImage>
-#include <QRegularExpression>
-#include <QScopedValueRollback>
-
 using kql::Json::Value;
 using WorkbenchFiles::read;
 

@@ -10,13 +10,6 @@
 #include "tests/support/examplefiles.h"
 #include "tests/support/rulestest.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QThread>
-#include <QtEndian>
-
 #include <array>
 #include <csignal>
 #include <sys/inotify.h>

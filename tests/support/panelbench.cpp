@@ -1,10 +1,5 @@
 #include "tests/support/panelbench.h"
 
-#include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
-#include "draw/drawitem.h"
-#include "draw/drawscene.h"
-#include "scene/basetabelscene.h"
 #include "scene/scenefactory.h"
 #include "tabel/drawitembutton.h"
 #include "tabel/ruleitemwidgettabel.h"

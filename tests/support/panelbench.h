@@ -1,6 +1,10 @@
 #pragma once
 
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
 #include "scene/basetabelscene.h"
 #include "tabel/widgettabelview.h"
 
@@ -9,10 +13,7 @@
 #include <QStringList>
 #include <QVector>
 
-class DrawItem;
 class DrawItemButton;
-class DrawScene;
-class RuleDataInfo;
 
 /**
  * One scene's panel on a template and a configuration given as text, worked on as an operator

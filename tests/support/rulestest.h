@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QObject>
-#include <QRegularExpression>
-#include <QStringList>
 #include <QtTest>
+#include <QtWidgets>
 
 /**
- * Base of every test case: a warning that a test does not expect fails that test.
+ * Base of every test case: a warning that a test does not expect fails that test. With it come the
+ * widgets and the test library of Qt, which the tests do not include one by one.
  * Derived cases use initTestCase() only through prepare(), which they may override.
  */
 class RulesTest : public QObject

@@ -34,6 +34,12 @@ public:
         return {ended ? process.exitCode() : int(Crashed), QString::fromUtf8(process.readAll())};
     }
 
+    /// A session with the documents of the example.
+    Outcome replay(const QString& session, const QStringList& more = {}) const
+    {
+        return run(documents() + more + QStringList{"--replay", session});
+    }
+
     QString path(const QString& name) const { return m_folder.filePath(name); }
     /// Writes a file into the folder; its path is the answer.
     QString file(const char* name, const QByteArray& content) const

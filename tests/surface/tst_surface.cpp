@@ -7,9 +7,6 @@
 #include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
 
-#include <QMouseEvent>
-#include <QPolygon>
-
 /// The window on a surface of another maker.
 class TstSurface : public RulesTest
 {

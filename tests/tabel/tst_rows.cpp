@@ -12,12 +12,6 @@
 #include "tests/support/absurddocuments.h"
 #include "tests/support/rulestest.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QDoubleValidator>
-#include <QLabel>
-#include <QMimeData>
 #include <tuple>
 #include <vector>
 

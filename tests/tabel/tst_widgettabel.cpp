@@ -4,8 +4,6 @@
 #include "tabel/widgettabelview.h"
 #include "tests/support/rulestest.h"
 
-#include <QScrollBar>
-
 namespace
 {
 

@@ -6,10 +6,6 @@
 #include "workbench/boxwatcher.h"
 #include "workbench/restorebar.h"
 
-#include <QLabel>
-#include <QLockFile>
-#include <QProcess>
-
 #include <memory>
 
 using kql::Json::Value;

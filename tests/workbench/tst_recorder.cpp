@@ -9,11 +9,6 @@
 #include "workbench/sessionrecorder.h"
 #include "workbench/workbench.h"
 
-#include <QLineEdit>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QTimer>
-
 #include <functional>
 #include <memory>
 

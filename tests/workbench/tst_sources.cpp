@@ -12,18 +12,6 @@
 #include "workbench/sourcesdialog.h"
 #include "workbench/workbenchwindow.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTableWidget>
-#include <QTemporaryDir>
-#include <QTreeWidget>
-
 namespace
 {
 

@@ -1,7 +1,6 @@
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
 
-#include <QLabel>
 #include <QXmlStreamReader>
 
 namespace
