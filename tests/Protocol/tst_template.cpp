@@ -3,7 +3,8 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
-#include "host/json/reader.h"
+#include "tests/support/fixtures.h"
+#include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"
 
 using kql::Json::Value;
@@ -11,11 +12,9 @@ using kql::Json::Value;
 namespace
 {
 
-Value json(const QString& text)
+QString document(const QString& name)
 {
-    Value value;
-    kql::Json::Reader().parse(text, value);
-    return value;
+    return QString::fromUtf8(Fixtures::contentOf("templates/" + name));
 }
 
 QString description(const QString& sections, const QString& configItems = QStringLiteral("{}"))
@@ -82,16 +81,9 @@ private slots:
     void toleratesOtherKinds()
     {
         const QStringList kinds{"1", "-2.5e300", "true", "\"x\"", "[]", "{}", "[[], {}, null, 7]"};
-        const QString whole = description(
-            R"("calibrateArea": %1, "fightCalibrate": {"celibateArea": %1, "rectOfArea": %1},
-               "lanes": {"parent": %1, "countOfLane": %1}, "ruleDescription": {"global": %1,
-               "detectArea": {"parent": %1, "controls": %1}, "rules": {"count": %1, "parent": "R",
-               "checkValueControls": %1, "controls": [%1, {"key": "a", "valid": %1, "depend": %1,
-               "protocol": %1}, {"key": "b", "protocol": {"index": %1, "type": %1, "name": %1},
-               "valid": {"enumValueArray": %1}, "depend": [%1]}]}})",
-            R"({"a": %1, "b": {"facade": "checkbox", "enumeration": %1, "default": %1}})");
+        const QString whole = document("otherkinds.json");
         for (const QString& kind : kinds) {
-            QVERIFY2(parse(QString(whole).replace("%1", kind)), qPrintable(kind));
+            QVERIFY2(parse(QString(whole).replace("\"%1\"", kind)), qPrintable(kind));
             QCOMPARE(m_parser->getAllData().size(), std::size_t(6));
             QCOMPARE(m_parser->getAllData()[2]->getTemplate()->countRange(),
                      kind.startsWith("[[") ? (CountRange{0, 0}) : (CountRange{0, kAnyCount}));
@@ -102,11 +94,7 @@ private slots:
 
     void controlDescription()
     {
-        const RuleData* const data = parse(rules(R"("parent": "Cfg.R[]", "controls": [
-              {"key": "a", "protocol": {"name": "A.B[]", "type": "int", "index": 1},
-               "valid": {"controlKey": "c", "enumValue": "x", "enumValueArray": ["y"]}},
-              {"key": "b", "valid": {"controlKey": "c", "enumValueArray": ["y", "z"]}},
-              {"key": "c", "valid": {"controlKey": "c", "enumValueArray": "y"}}])"));
+        const RuleData* const data = parse(document("controls.json"));
         const auto& items = data->getTemplate()->items();
         QCOMPARE(items.size(), std::size_t(3));
         QCOMPARE(items[0]->path().text(), QStringLiteral("A.B[]"));
@@ -133,26 +121,19 @@ private slots:
         check(two + "," + two, {{"a", "b"}, {"a", "b"}});
     }
 
+    void defaults_data() { Fixtures::addRows("defaults.json"); }
+
     void defaults()
     {
-        const auto check = [this](const char* type, const char* details, const QVariant& expected) {
-            const RuleProtocolItem* const item = parseItem(oneControl(type, details));
-            QVERIFY(item && item->isControl());
-            const QVariant found = m_parser->getData(SceneType::Rules)->newDataInfo()->value("a");
-            QCOMPARE(found.userType(), expected.userType());
-            QCOMPARE(found, expected);
-        };
-        check("int", R"({"facade": "inputBoxNumber", "default": 7.9})", 7);
-        check("float", R"({"facade": "inputBoxNumber", "default": 7})", 7.0);
-        check("string", R"({"facade": "inputBoxNumber", "default": "7"})", "7");
-        check("int", R"({"facade": "inputBoxNumber", "default": null})", {});
-        check("bool", R"({"facade": "inputBoxNumber", "default": true})", {});
-        check("int", R"({"facade": "inputBoxNumber"})", {});
-        check("string", R"({"facade": "radioButton", "default": "A"})", "A");
-        check("string", R"({"facade": "checkbox", "default": "A"})", QStringList{"A"});
-        check("bool", R"({"facade": "bool", "default": true})", true);
-        check("bool", R"({"facade": "bool"})", false);
-        check("array int", R"({"facade": "numericalInterval", "default": [1, 2]})", {});
+        QFETCH(const Value, fixture);
+        const RuleProtocolItem* const item =
+            parseItem(oneControl(fixture["type"].asString(), fixture["details"].toStyledText()));
+        QVERIFY(item);
+        QVERIFY(item->isControl());
+        const QVariant expected = Fixtures::valueOf(fixture["default"]);
+        const QVariant found = m_parser->getData(SceneType::Rules)->newDataInfo()->value("a");
+        QCOMPARE(found.userType(), expected.userType());
+        QCOMPARE(found, expected);
     }
 
     void details()
@@ -173,7 +154,7 @@ private slots:
         QVERIFY(item->hasAllChoice() && options[0].isAll && !options[1].isAll);
         QCOMPARE(options[0].text + options[0].value + options[0].description,
                  QStringLiteral("Allalltip"));
-        QCOMPARE(json(options[1].value), json(R"({"k": 1})"));
+        QCOMPARE(Mailbox::json(options[1].value), Mailbox::json(R"({"k": 1})"));
         QCOMPARE(options[2].value + item->units(), QString());
     }
 
@@ -234,58 +215,45 @@ private slots:
 
     void lanesTakeRulesOver()
     {
-        const QString sections = R"("lanes": {}, "ruleDescription": {"rules": {"parent": "R[]",
-            "controls": [{"key": "x"}, {"key": "%1"}], "checkValueControls": [
-              {"firstKey": "x", "secondKey": "y", "rule": {"operator": "!="}},
-              {"firstKey": "x", "secondKey": "y", "rule": {"operator": "<="}},
-              {"firstKey": "x", "rule": {"operator": "<"}}, {"firstKey": "x", "secondKey": "y"}]}})";
+        const QString sections = document("lanesandrules.json");
         const auto checks = [](const RuleData* data) {
             return data->getTemplate()->checkRules().size();
         };
-        const RuleData* const apart = parse(description(sections.arg("y")));
+        const RuleData* const apart = parse(sections);
         QCOMPARE(int(checks(apart)), 1);
         QCOMPARE(int(checks(m_parser->getData(SceneType::Lanes))), 0);
         const RuleData* const joined =
-            parse(description(sections.arg("ruleLaneNumber")), SceneType::Lanes);
+            parse(QString(sections).replace("\"key\": \"y\"", "\"key\": \"ruleLaneNumber\""),
+                  SceneType::Lanes);
         QVERIFY(!m_parser->getData(SceneType::Rules));
         QCOMPARE(int(checks(joined)), 1);
     }
 
+    void paths_data() { Fixtures::addRows("paths/read.json"); }
+
     void paths()
     {
-        const Value root = json(R"({"A": [], "B": [{"C": [1, 2]}, 0], "D": {"": 4, "E": null},
-                                    "F[]": 5})");
-        const auto check = [&root](const char* path, const char* expected = nullptr) {
-            const Value* const value = JsonPath(path).readPath(root);
-            QVERIFY2(expected ? value && *value == json(expected) : !value, path);
-        };
-        check("A", "[]");
-        check("A[]", "[]");
-        check("B[].C", "[1,2]");
-        check("B[].C[]", "[1,2]");
-        check("D.", "4");
-        check("D.E", "null");
-        for (const char* absent : {"A[].B", "B.C", "D[].E", "D.E.X", "a", "", "F[]", "B[].C[].X"})
-            check(absent);
-        QVERIFY(!JsonPath().readPath(root));
+        QFETCH(const Value, fixture);
+        const Value root = Mailbox::json(R"({"A": [], "B": [{"C": [1, 2]}, 0],
+                                             "D": {"": 4, "E": null}, "F[]": 5})");
+        const QString path = QString(QTest::currentDataTag()).section(' ', 1);
+        const Value* const value = JsonPath(path).readPath(root);
+        QCOMPARE(value != nullptr, fixture.isMember("found"));
+        if (value)
+            QCOMPARE(*value, fixture["found"]);
     }
+
+    void createsPaths_data() { Fixtures::addRows("paths/made.json"); }
 
     void createsPaths()
     {
-        const auto check = [](const QString& before, const QString& path, const QString& after) {
-            Value root = json(before);
-            const Value* const made = JsonPath(path).create(root);
-            QVERIFY2(root == json(after), qPrintable(path + root.toStyledText()));
-            QCOMPARE(made, JsonPath(path).probe(static_cast<const Value&>(root)));
-        };
-        check("null", "A[].B.C[]", R"({"A": [{"B": {"C": []}}]})");
-        check(R"({"A": null, "X": 1})", "A.B", R"({"A": {"B": null}, "X": 1})");
-        check(R"({"A": [null, 2]})", "A[].B", R"({"A": [{"B": null}, 2]})");
-        check(R"({"A": {"B": 7}})", "A.B", R"({"A": {"B": 7}})");
-        check(R"({"A": 3})", "A.B", R"({"A": 3})");
-        check(R"({"A": {}})", "A[].B", R"({"A": {}})");
-        check("[1]", "A", "[1]");
-        check("{}", QString("A[].").repeated(100) + "B", "{}");
+        QFETCH(const Value, fixture);
+        Value root = fixture["before"];
+        const JsonPath path(fixture["path"].asString());
+        const Value* const made = path.create(root);
+        QCOMPARE(root, fixture["after"]);
+        QCOMPARE(made, path.probe(static_cast<const Value&>(root)));
+        QVERIFY(!JsonPath().readPath(root));
     }
 };
 
