@@ -1,6 +1,6 @@
 #include "host/json/value.h"
 #include "tests/stream/server.h"
-#include "tests/stream/videofile.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchprogram.h"
 
@@ -46,9 +46,8 @@ private slots:
         QImage still(kSize, QImage::Format_RGB32);
         still.fill(Qt::darkGreen);
         QVERIFY(still.save(path("still.png")));
-        QVERIFY((VideoFile{"mjpeg", kSize}.write(path("video.avi"))));
         QTest::newRow("still") << "still.png";
-        QTest::newRow("video") << "video.avi";
+        QTest::newRow("video") << Fixtures::path("videos/1280x720.avi");
         QTest::newRow("stream") << QString();
     }
 
@@ -56,7 +55,6 @@ private slots:
     {
         QFETCH(QString, source);
         Server camera({"--width", "1280", "--height", "720"});
-        QVERIFY(camera.isRunning());
         if (source.isEmpty())
             source = camera.address();
         // First the tools come up under the pointer, and a press where they are goes to the
@@ -86,7 +84,7 @@ private slots:
         const QString session = file("picture.jsonl", "{\"do\":\"wait\",\"picture\":true}\n");
         Outcome outcome = run({"--source", "still.png", "--replay", session});
         QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
-        outcome = run({"--source", "video.avi", "--replay", session});
+        outcome = run({"--source", Fixtures::path("videos/1280x720.avi"), "--replay", session});
         QVERIFY2(outcome.said.contains("no picture came: No signal The library that plays streams"),
                  qPrintable(outcome.said));
         QCOMPARE(outcome.status, int(StepFailed));
@@ -95,7 +93,6 @@ private slots:
     void keepsSecrets()
     {
         Server camera({"--user", "viewer", "--password", "s3cr3t"});
-        QVERIFY(camera.isRunning());
         const QString address = camera.address(kUser);
         QString closed = address;
         closed.replace(QString::number(QUrl(address).port()), QString::number(1));

@@ -6,8 +6,8 @@
 #include "host/video/qrtspvideownd.h"
 #include "host/video/streamsource.h"
 #include "tests/stream/server.h"
-#include "tests/stream/videofile.h"
 #include "tests/support/examplefiles.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 
 #include <array>
@@ -19,8 +19,6 @@
 
 using namespace UICommonMdl;
 using namespace std::chrono_literals;
-
-Q_DECLARE_METATYPE(VideoFile)
 
 namespace Files = ExampleFiles;
 
@@ -83,11 +81,9 @@ const QList<QColor> kColorBars{Qt::white,   Qt::yellow, Qt::cyan, Qt::green,
                                Qt::magenta, Qt::red,    Qt::blue};
 const QList<QColor> kFileBars{Qt::red, Qt::blue};
 
-/// The AVI's picture width, as its stream's format tells it, replaced.
-QByteArray withWidth(QByteArray avi, qint32 width)
+QString video(const char* name)
 {
-    qToLittleEndian(width, avi.data() + avi.indexOf("strf") + 12);
-    return avi;
+    return Fixtures::path("videos/") + name;
 }
 
 struct HostileAnswer {
@@ -189,7 +185,6 @@ private slots:
         QFETCH(const bool, udp);
         QFETCH(const int, delay);
         Server camera(server);
-        QVERIFY(camera.isRunning());
         StreamSource source(request(camera.address(), false, {udp, delay}));
         QSignalSpy ready(&source, &PictureSource::sgnPictureReady);
         source.start();
@@ -211,7 +206,6 @@ private slots:
     void comesBack()
     {
         Server camera;
-        QVERIFY(camera.isRunning());
         QList<QSize> sizes;
         QRtspVideoWnd surface;
         surface.resize(400, 300);
@@ -265,7 +259,6 @@ private slots:
         QFETCH(const QString, path);
         QFETCH(const QString, reason);
         Server camera(server);
-        QVERIFY(camera.isRunning());
         StreamRequest asked = request(camera.address(user, path));
         asked.firstPictureLimit = 2s;
         StreamSource source(asked);
@@ -278,7 +271,6 @@ private slots:
     void takesAWebServerForNoCamera()
     {
         Server server({"--web"});
-        QVERIFY(server.isRunning());
         for (const char* login : {"", "u:/#?p@", "u:?x@"}) {
             StreamRequest asked = request(server.address().replace("://", "://" + QString(login)));
             asked.firstPictureLimit = 2s;
@@ -316,7 +308,6 @@ private slots:
     void givesUpASilentCamera()
     {
         Server camera;
-        QVERIFY(camera.isRunning());
         StreamRequest asked = request(camera.address());
         asked.silenceLimit = 2s;
         StreamSource source(asked);
@@ -339,7 +330,6 @@ private slots:
         const ErrorOutput output;
         const QStringList guarded{"--user", "viewer", "--password", "s3cr3t/p?a#s %s@1"};
         Server camera(guarded);
-        QVERIFY(camera.isRunning());
         StreamSource source(request(camera.address(QString("viewer:s3cr3t/p?a#s %s@1@"))));
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::Playing, kPatience);
@@ -372,7 +362,8 @@ private slots:
             auto* const again = surface.findChild<QPushButton*>("tryAgain");
             PreviewLogical::RtspVideoParam param;
             param.rtspUrl = camera.address("viewer:s3cr3t@");
-            QVERIFY(camera.isRunning() && surface.openByRtsp(param) && again->isHidden());
+            QVERIFY(surface.openByRtsp(param));
+            QVERIFY(again->isHidden());
             QTRY_VERIFY_WITH_TIMEOUT(surface.statusText().contains("only when you ask"), kPatience);
             QTRY_VERIFY(!again->isHidden());
             QVERIFY(surface.rect().contains(again->geometry()));
@@ -390,7 +381,6 @@ private slots:
     {
         Server greedy({"--refuse", "401 Unauthorized"});
         Server camera({"--location", greedy.address()});
-        QVERIFY(greedy.isRunning() && camera.isRunning());
         StreamSource source(request(camera.address("viewer:s3cr3t@")));
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
@@ -403,10 +393,8 @@ private slots:
     {
         Server camera;
         Server silent({"--silent"});
-        QVERIFY(camera.isRunning() && silent.isRunning());
-        QVERIFY(VideoFile{"mjpeg"}.write(file("closed.avi")));
         const StreamRequest requests[] = {request(camera.address()), request(silent.address()),
-                                          request(file("closed.avi"), true)};
+                                          request(video("fast.avi"), true)};
         for (const StreamRequest& asked : requests) {
             qint64 longest = 0;
             int pictures = 0;
@@ -434,28 +422,20 @@ private slots:
 
     void playsFiles_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<VideoFile>("video");
         QTest::addColumn<QString>("codec");
-        const auto row = [](const char* name, const char* encoder, const char* codec,
-                            int picturesPerSecond = 10, int pictures = 8) {
-            QTest::newRow(name) << name << VideoFile{encoder, {64, 48}, picturesPerSecond, pictures}
-                                << codec;
-        };
-        row("a.mp4", "libx264", "H.264");
-        row("bare.h264", "libx264", "H.264");
-        row("b.mkv", "libx265", "H.265");
-        row("c.avi", "mjpeg", "MJPEG");
-        row("bare.mjpeg", "mjpeg", "MJPEG", 25);
-        row("onepicture.avi", "mjpeg", "MJPEG", 10, 1);
+        QTest::addColumn<int>("picturesPerSecond");
+        QTest::newRow("h264.mp4") << "H.264" << 10;
+        QTest::newRow("bare.h264") << "H.264" << 25;
+        QTest::newRow("h265.mkv") << "H.265" << 10;
+        QTest::newRow("jpegs.avi") << "MJPEG" << 10;
+        QTest::newRow("bare.mjpeg") << "MJPEG" << 25;
+        QTest::newRow("onepicture.avi") << "MJPEG" << 10;
     }
 
     void playsFiles()
     {
-        QFETCH(const QString, name);
-        QFETCH(const VideoFile, video);
-        const QString path = file(name);
-        QVERIFY(video.write(path));
+        QFETCH(const int, picturesPerSecond);
+        const QString path = video(QTest::currentDataTag());
         const auto source = KQGUI::KQSingleton<ChannelSources>::Instance().makeSource(path);
         source->setTargetSize({33, 25});
         QSignalSpy ready(source.get(), &PictureSource::sgnPictureReady);
@@ -467,8 +447,7 @@ private slots:
         const qint64 first = count();
         QTRY_VERIFY_WITH_TIMEOUT(count() >= first + 12, kPatience);
         // Eleven whole distances at least, whatever the first picture waited for.
-        const int shortest =
-            11 * 1000 / (name.endsWith(QString(".h264")) ? 25 : video.picturesPerSecond);
+        const int shortest = 11 * 1000 / picturesPerSecond;
         QVERIFY2(timer.elapsed() > shortest - 150, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(source->picture().size(), QSize(33, 25));
         QCOMPARE(wrongBars(source->picture(), kFileBars), QString());
@@ -478,7 +457,6 @@ private slots:
     void showsPicturesInTheirShape_data()
     {
         QTest::addColumn<QStringList>("server");
-        QTest::addColumn<VideoFile>("video");
         QTest::addColumn<QSize>("decoded");
         QTest::addColumn<QSize>("shown");
         QTest::addColumn<QList<QColor>>("bars");
@@ -486,34 +464,30 @@ private slots:
             const QStringList arguments{"--aspect", aspect,
                                         "--width",  QString::number(size.width()),
                                         "--height", QString::number(size.height())};
-            QTest::newRow(aspect) << arguments << VideoFile{} << size << shown << kColorBars;
+            QTest::newRow(aspect) << arguments << size << shown << kColorBars;
         };
-        const auto file = [](const char* name, const QSize& points, int turn, const QSize& decoded,
-                             const QSize& shown, const QList<QColor>& bars) {
-            QTest::newRow(name) << QStringList()
-                                << VideoFile{"libx264", {64, 48}, 10, 8, points, turn} << decoded
-                                << shown << bars;
+        const auto file = [](const char* name, const QSize& decoded, const QSize& shown,
+                             const QList<QColor>& bars) {
+            QTest::newRow(name) << QStringList() << decoded << shown << bars;
         };
         stream("12/11", {352, 288}, {384, 288});
         stream("6/11", {704, 288}, {704, 528});
-        file("wide", {2, 1}, 0, {64, 48}, {128, 48}, kFileBars);
-        file("turned", {2, 1}, 90, {48, 64}, {48, 128}, {Qt::red});
-        file("upside down", {1, 1}, 180, {64, 48}, {64, 48}, {Qt::blue, Qt::red});
-        file("turned back", {1, 1}, 270, {48, 64}, {48, 64}, {Qt::blue});
-        file("nonsense", {30000, 1}, 0, {64, 48}, {64, 48}, kFileBars);
+        file("wide.mp4", {64, 48}, {128, 48}, kFileBars);
+        file("turned.mp4", {48, 64}, {48, 128}, {Qt::red});
+        file("upsidedown.mp4", {64, 48}, {64, 48}, {Qt::blue, Qt::red});
+        file("turnedback.mp4", {48, 64}, {48, 64}, {Qt::blue});
+        file("nonsense.mp4", {64, 48}, {64, 48}, kFileBars);
     }
 
     void showsPicturesInTheirShape()
     {
         QFETCH(const QStringList, server);
-        QFETCH(const VideoFile, video);
         QFETCH(const QList<QColor>, bars);
         QFETCH(const QSize, shown);
         Server camera(server);
-        const QString path = file("shape.mp4");
-        QVERIFY(camera.isRunning() && (!server.isEmpty() || video.write(path)));
         auto& sources = KQGUI::KQSingleton<ChannelSources>::Instance();
-        sources.setAddress("shape", server.isEmpty() ? path : camera.address());
+        sources.setAddress("shape",
+                           server.isEmpty() ? video(QTest::currentDataTag()) : camera.address());
         QRtspVideoWnd surface;
         surface.resize(300, 200);
         QSize reported;
@@ -542,7 +516,6 @@ private slots:
     {
         const QString path = file("pipe");
         QVERIFY(::mkfifo(path.toUtf8().constData(), S_IRUSR | S_IWUSR) == 0);
-        QVERIFY(VideoFile{"mjpeg"}.write(file("piped.avi")));
         auto& sources = KQGUI::KQSingleton<ChannelSources>::Instance();
         sources.makeSource(path)->start();
         const auto source = sources.makeSource(path);
@@ -551,7 +524,7 @@ private slots:
         QCOMPARE(source->status().state, PictureState::Connecting);
         QFile pipe(path);
         QVERIFY(pipe.open(QIODevice::WriteOnly));
-        pipe.write(Files::contentOf(file("piped.avi")));
+        pipe.write(Fixtures::contentOf("videos/fast.avi"));
         pipe.close();
         QTRY_VERIFY_WITH_TIMEOUT(!source->picture().isNull(), kPatience);
         QCOMPARE(wrongBars(source->picture(), kFileBars), QString());
@@ -561,9 +534,7 @@ private slots:
 
     void dropsWhatNobodyTakes()
     {
-        const QString path = file("dropped.avi");
-        QVERIFY(VideoFile{"mjpeg"}.write(path));
-        StreamSource source(request(path, true));
+        StreamSource source(request(video("fast.avi"), true));
         QSignalSpy ready(&source, &PictureSource::sgnPictureReady);
         source.start();
         QTRY_VERIFY_WITH_TIMEOUT(ready.count() > 0, kPatience);
@@ -583,28 +554,19 @@ private slots:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("reason");
-        const auto row = [this](const char* name, const QByteArray& content, const char* reason) {
-            QTest::newRow(name) << file(name, content) << reason;
+        const auto row = [](const char* name, const char* reason) {
+            QTest::newRow(name) << video(name) << reason;
         };
-        const auto made = [this](const char* name, const char* encoder) {
-            return VideoFile{encoder}.write(file(name)) ? Files::contentOf(file(name))
-                                                        : QByteArray();
-        };
-        const QByteArray mp4 = made("good.mp4", "libx264");
-        const QByteArray avi = made("good.avi", "mjpeg");
-        const QByteArray raw = made("raw.avi", "rawvideo");
-        QVERIFY(!mp4.isEmpty() && !avi.isEmpty() && !raw.isEmpty());
-        row("text.mp4", "not a video", "no video that can be read");
-        row("empty.mp4", "", "");
-        row("half.mp4", mp4.left(mp4.size() / 2), "no video");
-        row("header.avi", avi.left(avi.indexOf("movi") + 4), "no picture in it");
-        row("unknown.avi", QByteArray(avi).replace("MJPG", "ZzQq"),
-            "coding of the video is not known");
-        row("wide.avi", withWidth(avi, 16385), "16385 x 48, is out of range");
-        row("narrow.avi", withWidth(raw, 0), "0 x 48, is out of range");
-        row("missing.mp4", {}, "no such file");
+        row("text.mp4", "no video that can be read");
+        row("empty.mp4", "");
+        row("half.mp4", "no video");
+        row("header.avi", "no picture in it");
+        row("unknowncoding.avi", "coding of the video is not known");
+        row("toowide.avi", "16385 x 48, is out of range");
+        row("nowidth.avi", "0 x 48, is out of range");
+        row("missing.mp4", "no such file");
         QTest::newRow("folder") << m_folder.path() << "a folder";
-        QTest::newRow("protocol") << "concat:" + file("good.mp4") << "no such file";
+        QTest::newRow("protocol") << "concat:" + video("h264.mp4") << "no such file";
     }
 
     void refusesFiles()
@@ -635,10 +597,8 @@ private slots:
     /// A camera may send its client to another address, but never to a file or another protocol.
     void isSentToStreamsOnly()
     {
-        const QString video = file("elsewhere.avi");
-        QVERIFY(VideoFile{"mjpeg"}.write(video));
+        const QString video = ::video("fast.avi");
         Server bars;
-        QVERIFY(bars.isRunning());
         const auto comes = [](const QString& address) {
             StreamSource source(request(address));
             source.start();
@@ -654,15 +614,13 @@ private slots:
              {"file://" + video, "file:" + video, video, "rtsp:" + video, "concat:" + video,
               QString(bars.address()).replace("rtsp:", "http:"), QString()}) {
             Server camera({"--location", location});
-            QVERIFY(camera.isRunning());
             QVERIFY2(!comes(camera.address()), qPrintable(location));
             QTRY_VERIFY_WITH_TIMEOUT(camera.printed().contains("rtsp://127.0.0.1"), kTryFor);
         }
         Server camera({"--location", bars.address()});
-        QVERIFY(camera.isRunning() && comes(camera.address()));
+        QVERIFY(comes(camera.address()));
         // An option behind the address that asks for a tunnel gets none.
         Server untunnelled({"--location", bars.address()});
-        QVERIFY(untunnelled.isRunning());
         comes(untunnelled.address() + QString("?http"));
         QTRY_VERIFY_WITH_TIMEOUT(untunnelled.printed().contains(" rtsp://"), kTryFor);
         QVERIFY2(!untunnelled.printed().contains("HTTP"), untunnelled.printed().constData());
@@ -671,12 +629,11 @@ private slots:
     /// What a camera describes leads to no file, to no other protocol, and to nothing without end.
     void survivesHostileDescriptions()
     {
-        const QByteArray video = file("described.avi").toUtf8();
-        QVERIFY(VideoFile{"mjpeg"}.write(file("described.avi")));
+        const QByteArray video =
+            file("described.avi", Fixtures::contentOf("videos/fast.avi")).toUtf8();
         const int opened = ::inotify_init1(IN_NONBLOCK);
         QVERIFY(::inotify_add_watch(opened, video.constData(), IN_OPEN) >= 0);
         Server camera({"--describe", m_folder.path()});
-        QVERIFY(camera.isRunning());
         const QByteArray http = camera.address().replace("rtsp:", "http:").toUtf8();
         const auto answers = hostileAnswers("file://" + video, http);
         std::vector<std::unique_ptr<StreamSource>> sources;
@@ -715,7 +672,6 @@ private slots:
         QVERIFY(openssl.waitForFinished(kPatience) && openssl.exitCode() == 0);
         Server camera({"--certificate",
                        file("both.pem", Files::contentOf(certificate) + Files::contentOf(key))});
-        QVERIFY(camera.isRunning());
         QString address = camera.address();
         StreamSource source(request(address.replace("rtsp:", "rtsps:")));
         source.start();
