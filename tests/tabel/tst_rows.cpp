@@ -1,3 +1,4 @@
+#include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/shortenedtext.h"
 #include "tabel/checkboxwidget.h"
@@ -10,10 +11,13 @@
 #include "tabel/rowedit.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tests/support/absurddocuments.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 
 #include <tuple>
 #include <vector>
+
+using kql::Json::Value;
 
 namespace
 {
@@ -25,9 +29,9 @@ public:
     explicit Bench(FacadeType facade, ValueType type, const QVariant& min = {},
                    const QVariant& max = {}, const QVariant& preset = {})
     {
-        item.setKey(QStringLiteral("key"));
-        item.setCaption(QStringLiteral("Caption"));
-        item.setUnits(QStringLiteral("s"));
+        item.setKey(QString("key"));
+        item.setCaption(QString("Caption"));
+        item.setUnits(QString("s"));
         item.setFacade(facade);
         item.setValueType(type);
         item.setRange(min, max);
@@ -53,18 +57,16 @@ public:
     static EnumOption option(const char* value, bool isAll = false)
     {
         const QString v = QLatin1String(value);
-        return {v, v, QStringLiteral("Option ") + v, {}, isAll};
+        return {v, v, QString("Option ") + v, {}, isAll};
     }
 
     static QString text(const QVariant& value)
     {
         if (value.type() == QVariant::Size)
-            return QStringLiteral("%1..%2")
-                .arg(value.toSize().width())
-                .arg(value.toSize().height());
+            return QString("%1..%2").arg(value.toSize().width()).arg(value.toSize().height());
         if (value.type() == QVariant::StringList)
             return value.toStringList().join(QLatin1Char('+'));
-        return value.isValid() ? value.toString() : QStringLiteral("none");
+        return value.isValid() ? value.toString() : QString("none");
     }
 
     /// Replaces the text of an edit by typing, or by pasting what follows a leading "^"; the edit
@@ -119,78 +121,43 @@ private slots:
     void unitsLieInTheirEdits()
     {
         const Bench bench(FacadeType::InputBoxNumber, ValueType::Int);
-        auto* edit = bench.row->findChild<RowEdit*>(QStringLiteral("edit"));
-        auto* unit = bench.row->findChild<QLabel*>(QStringLiteral("unit"));
+        auto* edit = bench.row->findChild<RowEdit*>(QString("edit"));
+        auto* unit = bench.row->findChild<QLabel*>(QString("unit"));
         QCOMPARE(edit->textMargins().right(), unit->width() + 5);
         QCOMPARE(unit->geometry().right(), edit->width() - 6);
         bench.row->setControlEnable(false);
         QVERIFY(!edit->isEnabled() && unit->isEnabled() && !bench.row->getControlEnable());
     }
 
+    void typesIntoInputBoxes_data() { Fixtures::addRows("inputboxes.json"); }
+
+    /// The keys, what they show, and what is announced and shown once the edit is left.
     void typesIntoInputBoxes()
     {
-        // The keys, what they show, and what is announced and shown once the edit is left.
-        const auto check = [](const char* name, ValueType type, const QVariant& min,
-                              const QVariant& max, const QVariant& loaded, const char* keys,
-                              const char* shown, const char* announced, const char* left) {
-            const QLocale previous;
-            QLocale::setDefault(QLocale(QLocale::German));
-            Bench bench(FacadeType::InputBoxNumber, type, min, max);
-            QLocale::setDefault(previous);
+        QFETCH(const Value, fixture);
+        const auto text = [&](const char* name) { return fixture[name].asString(); };
+        const QLocale previous;
+        QLocale::setDefault(QLocale(QLocale::German));
+        Bench bench(FacadeType::InputBoxNumber, RuleParser::parseToValueType(text("type")),
+                    Fixtures::valueOf(fixture["minimum"]), Fixtures::valueOf(fixture["maximum"]));
+        QLocale::setDefault(previous);
 
-            bench.row->loadValue(loaded);
-            QCOMPARE(bench.take(), QString());
-            const RowEdit* edit = bench.type("edit", keys);
-            QVERIFY2(bench.shown(edit) == shown, qPrintable(name + (": " + bench.shown(edit))));
-            bench.leave();
-            QVERIFY2(bench.shown(edit) == left && bench.take() == announced,
-                     qPrintable(name + (", left: " + bench.shown(edit))));
+        const QVariant loaded = Fixtures::valueOf(fixture["loaded"]);
+        bench.row->loadValue(loaded);
+        QCOMPARE(bench.take(), QString());
+        const RowEdit* edit = bench.type("edit", text("keys"));
+        QCOMPARE(bench.shown(edit), text("shown"));
+        bench.leave();
+        QCOMPARE(bench.shown(edit), text("left"));
+        QCOMPARE(bench.take(), text("announced"));
 
-            // Finishing without leaving ends the same way.
-            bench.row->loadValue(loaded);
-            bench.type("edit", keys);
-            bench.container.finishEdits();
-            bench.container.finishEdits();
-            QVERIFY2(bench.shown(edit) == left && bench.take() == announced, name);
-        };
-        const auto i = ValueType::Int;
-        const auto f = ValueType::Float;
-        const QVariant none;
-        const QString old = QStringLiteral("old");
-        check("int keeps out letters", i, none, none, 7, "a4b2", "42", "42", "42");
-        check("int ends at a comma", i, 1, 30, 7, "4,75", "4!", "4", "4");
-        check("int ends at a point", i, 1, 30, 7, "2.5", "2!", "2", "2");
-        check("int pasted ends at a comma", i, 1, 30, 7, "^4,75", "4!", "4", "4");
-        check("int not below 0", i, 1, 600, 20, "-5", "20!", "", "20");
-        check("int minus in a number", i, none, none, 20, "-5-3", "-5!", "-5", "-5");
-        check("int pasted with blanks", i, none, none, 20, "^ 42\n", "42", "42", "42");
-        check("int pasted letters", i, none, none, 20, "^4x", "20!", "", "20");
-        check("int with surplus digits", i, 1, 600, 20, "1000", "600", "600", "600");
-        check("int pasted above", i, 1, 600, 20, "^1000", "600", "600", "600");
-        check("int with surplus digits below", i, -600, 600, 20, "-1000", "-600", "-600", "-600");
-        check("int beyond all", i, 1, 2000000000, 20, "3000000000", "2000000000", "2000000000",
-              "2000000000");
-        check("int emptied without a minimum", i, none, 50, 20, "", "", "", "20");
-        check("int above, while typing", i, -10, 5, 3, "9", "5", "5", "5");
-        check("int below is mended", i, 10, 50, 20, "3", "3", "10", "10");
-        check("int emptied is mended", i, 10, 50, 20, "", "", "10", "10");
-        check("int emptied below 0 is mended", i, -50, -10, -20, "", "", "-10", "-10");
-        check("int emptied is refused", i, none, none, 20, "", "", "", "20");
-        check("int without a maximum", i, 10, none, 20, "2147483647", "2147483647", "2147483647",
-              "2147483647");
-        check("int too long", i, none, none, 20, "99999999999", "9999999999", "", "20");
-        check("float", f, 0.5, 10.0, 1.0, "2.755", "2.75", "2.75", "2.75");
-        check("float with a comma", f, none, none, 1.0, "1,5e3", "1.53", "1.53", "1.53");
-        check("float pasted with a comma", f, 0.5, 10.0, 1.0, "^\t4,75 ", "4.75", "4.75", "4.75");
-        check("float ends at the second comma", f, none, none, 1.0, "1,5,2", "1.5!", "1.5", "1.5");
-        check("float pasted with groups", f, none, none, 1.0, "^1.234,5", "1!", "", "1");
-        check("float not below 0", f, 0.5, 10.0, 1.0, "-5", "1!", "", "1");
-        check("float with surplus digits", f, 0.5, 600.0, 1.0, "1000", "600", "600", "600");
-        check("float above, while typing", f, 0.5, 10.0, 1.0, "11", "10", "10", "10");
-        check("float below", f, 0.5, 10.0, 1.0, "0.1", "0.1", "0.5", "0.5");
-        check("float below a fine minimum", f, 0.005, 10.0, 1.0, "0", "0", "0.005", "0.005");
-        check("float emptied is refused", f, none, none, 12345678.25, "", "", "", "12345678.25");
-        check("text", ValueType::String, 1, 2, old, "9 & <b>", "9 & <b>", "9 & <b>", "9 & <b>");
+        // Finishing without leaving ends the same way.
+        bench.row->loadValue(loaded);
+        bench.type("edit", text("keys"));
+        bench.container.finishEdits();
+        bench.container.finishEdits();
+        QCOMPARE(bench.shown(edit), text("left"));
+        QCOMPARE(bench.take(), text("announced"));
     }
 
     void marksWhatItRefuses()
@@ -198,50 +165,50 @@ private slots:
         Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 1, 30, 7);
         const QString tip = bench.row->toolTip();
         QVERIFY2(tip.contains("1 to 30") && tip.contains(" s"), qPrintable(tip));
-        RowEdit* edit = bench.type("edit", QStringLiteral("1,2"));
+        RowEdit* edit = bench.type("edit", QString("1,2"));
         QVERIFY(bench.row->toolTip() != tip && bench.row->toolTip().contains(tip));
         QTest::keyClick(edit, Qt::Key_Backspace);
         QCOMPARE(bench.shown(edit) + bench.row->toolTip(), tip);
-        QTest::keyClicks(edit, QStringLiteral("2,9"));
+        QTest::keyClicks(edit, QString("2,9"));
         QTest::keyClick(edit, Qt::Key_Home, Qt::ShiftModifier);
-        QCOMPARE(bench.shown(edit), QStringLiteral("2"));
-        QTest::keyClicks(edit, QStringLiteral("3,"));
+        QCOMPARE(bench.shown(edit), QString("2"));
+        QTest::keyClicks(edit, QString("3,"));
         bench.row->loadValue(9);
-        QCOMPARE(bench.shown(edit), QStringLiteral("9"));
+        QCOMPARE(bench.shown(edit), QString("9"));
         edit->selectAll();
-        QGuiApplication::clipboard()->setText(QStringLiteral("8."));
+        QGuiApplication::clipboard()->setText(QString("8."));
         QVERIFY(QMetaObject::invokeMethod(edit, "paste")); // as the context menu does
-        QCOMPARE(bench.shown(edit), QStringLiteral("8!"));
+        QCOMPARE(bench.shown(edit), QString("8!"));
 
         // Return cannot end the edit of such a text, which stays marked until it is right.
         Bench floats(FacadeType::InputBoxNumber, ValueType::Float, 0.5, 10.0, 1.0);
         edit = floats.type("edit", QString());
         QTest::keyClick(edit, Qt::Key_Return);
-        QCOMPARE(floats.shown(edit), QStringLiteral("!"));
-        QTest::keyClicks(edit, QStringLiteral("0"));
-        QCOMPARE(floats.shown(edit), QStringLiteral("0!"));
-        QTest::keyClicks(edit, QStringLiteral(",7"));
-        QCOMPARE(floats.shown(edit), QStringLiteral("0.7"));
+        QCOMPARE(floats.shown(edit), QString("!"));
+        QTest::keyClicks(edit, QString("0"));
+        QCOMPARE(floats.shown(edit), QString("0!"));
+        QTest::keyClicks(edit, QString(",7"));
+        QCOMPARE(floats.shown(edit), QString("0.7"));
 
         // An input method and a drop are no way around.
         edit = floats.type("edit", QString());
         QInputMethodEvent committed;
-        committed.setCommitString(QStringLiteral("3,"));
+        committed.setCommitString(QString("3,"));
         QApplication::sendEvent(edit, &committed);
         QMimeData dragged;
-        dragged.setText(QStringLiteral("5 \n"));
+        dragged.setText(QString("5 \n"));
         const QPoint end = edit->rect().bottomRight();
         QDragEnterEvent entered(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(edit, &entered);
         QDropEvent dropped(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(edit, &dropped);
-        QCOMPARE(floats.shown(edit), QStringLiteral("3.5"));
+        QCOMPARE(floats.shown(edit), QString("3.5"));
 
         // Without a value to fall back to it is the minimum, else nothing.
         for (const auto& [minimum, left] :
              {std::pair(QVariant(0.5), "0.5"), std::pair(QVariant(), "")}) {
             Bench fresh(FacadeType::InputBoxNumber, ValueType::Float, minimum);
-            edit = fresh.type("edit", QStringLiteral("5"));
+            edit = fresh.type("edit", QString("5"));
             QTest::keyClick(edit, Qt::Key_Backspace);
             fresh.leave();
             QCOMPARE(fresh.shown(edit) + fresh.take(), QString(left).repeated(2));
@@ -252,34 +219,34 @@ private slots:
     void keepsTextsTooLongToEdit()
     {
         Bench bench(FacadeType::InputBoxNumber, ValueType::String);
-        const QString text = QStringLiteral("line\n").repeated(20'000);
+        const QString text = QString("line\n").repeated(20'000);
         bench.container.setControlValue(bench.item.key(), text);
         bench.take();
-        RowEdit* edit = bench.type("edit", QStringLiteral("7"));
+        RowEdit* edit = bench.type("edit", QString("7"));
         QTest::keyClick(edit, Qt::Key_Return);
         bench.leave();
         QVERIFY(edit->text().size() <= 2000);
         QVERIFY(!edit->toolTip().isEmpty());
         QCOMPARE(bench.row->value(), QVariant(text));
-        bench.container.setControlValue(bench.item.key(), QStringLiteral("short"));
-        bench.type("edit", QStringLiteral("7"));
+        bench.container.setControlValue(bench.item.key(), QString("short"));
+        bench.type("edit", QString("7"));
         bench.leave();
-        QCOMPARE(bench.row->value(), QVariant(QStringLiteral("7")));
+        QCOMPARE(bench.row->value(), QVariant(QString("7")));
         QVERIFY(edit->toolTip().isEmpty());
         edit->setMaxLength(20); // as of names
         bench.container.setControlValue(bench.item.key(), text);
-        bench.type("edit", QStringLiteral("8"));
+        bench.type("edit", QString("8"));
         bench.leave();
-        QCOMPARE(bench.row->value(), QVariant(QStringLiteral("8")));
+        QCOMPARE(bench.row->value(), QVariant(QString("8")));
     }
 
     void linesHaveNoBreaks()
     {
-        QCOMPARE(PlainText::button(QStringLiteral("a\nb\r&\u2028c")), QStringLiteral("a b && c"));
-        const QString faces = PlainText::line(QStringLiteral("\U0001F600").repeated(1000));
+        QCOMPARE(PlainText::button(QString("a\nb\r&\u2028c")), QString("a b && c"));
+        const QString faces = PlainText::line(QString("\U0001F600").repeated(1000));
         QVERIFY(faces.size() < 400);
         QVERIFY(faces.at(faces.size() - 2).isLowSurrogate());
-        QVERIFY(PlainText::toolTip(QStringLiteral("a\nb")).contains('\n'));
+        QVERIFY(PlainText::toolTip(QString("a\nb")).contains('\n'));
         const QString label = ShortenedText::middle(QString(1000, 'x') + "12", 64);
         QVERIFY(label.size() == 64 && label.endsWith("x12"));
     }
@@ -287,17 +254,17 @@ private slots:
     void finishesWithinLimits()
     {
         Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 10, 50);
-        auto* edit = bench.row->findChild<RowEdit*>(QStringLiteral("edit"));
+        auto* edit = bench.row->findChild<RowEdit*>(QString("edit"));
         bench.row->loadValue(700); // passing through mends nothing
         edit->setFocus();
         bench.leave();
-        QCOMPARE(bench.take() + edit->text(), QStringLiteral("700"));
+        QCOMPARE(bench.take() + edit->text(), QString("700"));
 
         // Reached when text gets past the validator.
         bench.item.setRange(20, 10);
-        edit->setText(QStringLiteral("15"));
+        edit->setText(QString("15"));
         emit edit->editingFinished();
-        QCOMPARE(bench.take(), QStringLiteral("20 10 15"));
+        QCOMPARE(bench.take(), QString("20 10 15"));
     }
 
     void editsRanges()
@@ -306,34 +273,34 @@ private slots:
         const auto edited = [&bench](const char* name, const char* keys) {
             const RowEdit* edit = bench.type(name, QLatin1String(keys));
             bench.leave();
-            return QStringLiteral("%1|%2").arg(bench.take(), edit->text());
+            return QString("%1|%2").arg(bench.take(), edit->text());
         };
-        QCOMPARE(edited("minimum", "20"), QStringLiteral("20..50|20"));
-        QCOMPARE(edited("minimum", "20"), QStringLiteral("|20")); // no change, nothing said
-        QCOMPARE(edited("maximum", "30"), QStringLiteral("20..30|30"));
-        QCOMPARE(edited("maximum", "7"), QStringLiteral("|30"));         // below: refused
-        QCOMPARE(edited("minimum", "100"), QStringLiteral("30..30|30")); // at once, while typing
-        QCOMPARE(bench.shown(bench.type("minimum", QStringLiteral("-5"))), QStringLiteral("30!"));
-        QCOMPARE(bench.shown(bench.type("maximum", QStringLiteral("42,5"))), QStringLiteral("42!"));
-        QCOMPARE(edited("maximum", "^ 30\n"), QStringLiteral("|30"));
-        QCOMPARE(edited("minimum", ""), QStringLiteral("-1..30|")); // unset, not mended to 0
-        QCOMPARE(edited("maximum", "4"), QStringLiteral("-1..4|4"));
-        QCOMPARE(edited("maximum", ""), QStringLiteral("-1..-1|"));
-        QCOMPARE(edited("minimum", "123456"), QStringLiteral("123456..-1|123456"));
-        QCOMPARE(edited("maximum", "-"), QStringLiteral("|"));
+        QCOMPARE(edited("minimum", "20"), QString("20..50|20"));
+        QCOMPARE(edited("minimum", "20"), QString("|20")); // no change, nothing said
+        QCOMPARE(edited("maximum", "30"), QString("20..30|30"));
+        QCOMPARE(edited("maximum", "7"), QString("|30"));         // below: refused
+        QCOMPARE(edited("minimum", "100"), QString("30..30|30")); // at once, while typing
+        QCOMPARE(bench.shown(bench.type("minimum", QString("-5"))), QString("30!"));
+        QCOMPARE(bench.shown(bench.type("maximum", QString("42,5"))), QString("42!"));
+        QCOMPARE(edited("maximum", "^ 30\n"), QString("|30"));
+        QCOMPARE(edited("minimum", ""), QString("-1..30|")); // unset, not mended to 0
+        QCOMPARE(edited("maximum", "4"), QString("-1..4|4"));
+        QCOMPARE(edited("maximum", ""), QString("-1..-1|"));
+        QCOMPARE(edited("minimum", "123456"), QString("123456..-1|123456"));
+        QCOMPARE(edited("maximum", "-"), QString("|"));
 
         bench.row->setValue(QSize(3, 8), true);
-        QCOMPARE(bench.take(), QStringLiteral("3..8"));
-        for (const QVariant& value : {QVariant(), QVariant(4), QVariant(QStringLiteral("[1,2]"))})
+        QCOMPARE(bench.take(), QString("3..8"));
+        for (const QVariant& value : {QVariant(), QVariant(4), QVariant(QString("[1,2]"))})
             bench.row->setValue(value, true);
         QCOMPARE(bench.take(), QString());
         QCOMPARE(bench.row->value(), QVariant(QSize(3, 8)));
         QCOMPARE(bench.row->findChildren<QValidator*>().size(), 2); // of all that there were
 
         // Only the minimum is checked while it is typed, against what the other edit shows.
-        bench.row->findChild<RowEdit*>(QStringLiteral("maximum"))->setText(QStringLiteral("6"));
-        QCOMPARE(bench.type("minimum", QStringLiteral("7"))->text(), QStringLiteral("6"));
-        QCOMPARE(bench.take(), QStringLiteral("6..8"));
+        bench.row->findChild<RowEdit*>(QString("maximum"))->setText(QString("6"));
+        QCOMPARE(bench.type("minimum", QString("7"))->text(), QString("6"));
+        QCOMPARE(bench.take(), QString("6..8"));
     }
 
     void clicksCheckBoxes()
@@ -344,20 +311,20 @@ private slots:
             return bench.take();
         };
         QVERIFY(!bench.row->value().isValid());
-        QCOMPARE(click(1), QStringLiteral("2"));
-        QCOMPARE(click(1), QStringLiteral("2")); // the last one stays
-        QCOMPARE(click(0), QStringLiteral("1+2"));
-        QCOMPARE(click(2), QStringLiteral("all"));
-        QCOMPARE(click(0), QStringLiteral("1"));
+        QCOMPARE(click(1), QString("2"));
+        QCOMPARE(click(1), QString("2")); // the last one stays
+        QCOMPARE(click(0), QString("1+2"));
+        QCOMPARE(click(2), QString("all"));
+        QCOMPARE(click(0), QString("1"));
         // Values set by code are no clicks.
-        bench.row->setValue(QStringList{QStringLiteral("all"), QStringLiteral("1")}, false);
+        bench.row->setValue(QStringList{QString("all"), QString("1")}, false);
         QCOMPARE(bench.take(), QString());
-        QCOMPARE(Bench::text(bench.row->value()), QStringLiteral("1+all"));
-        QCOMPARE(click(2), QStringLiteral("1"));
-        bench.row->setValue(QStringLiteral("ALL"), true);
-        QCOMPARE(bench.take(), QStringLiteral("none"));
-        bench.row->setValue(AbsurdDocuments::ofOneHash() << QStringLiteral("2"), true);
-        QCOMPARE(bench.take(), QStringLiteral("2"));
+        QCOMPARE(Bench::text(bench.row->value()), QString("1+all"));
+        QCOMPARE(click(2), QString("1"));
+        bench.row->setValue(QString("ALL"), true);
+        QCOMPARE(bench.take(), QString("none"));
+        bench.row->setValue(AbsurdDocuments::ofOneHash() << QString("2"), true);
+        QCOMPARE(bench.take(), QString("2"));
     }
 
     void clicksRadioButtons()
@@ -365,12 +332,12 @@ private slots:
         Bench bench(FacadeType::RadioButton, ValueType::Int);
         QVERIFY(!bench.row->value().isValid());
         bench.option<RadioButtonWidget>(1)->click();
-        QCOMPARE(bench.take(), QStringLiteral("2"));
+        QCOMPARE(bench.take(), QString("2"));
         QCOMPARE(bench.row->value(), QVariant(2));
         bench.row->setValue(1, true);
         QCOMPARE(bench.take(), QString()); // a match says nothing
         bench.row->setValue(9, true);
-        QCOMPARE(bench.take(), QStringLiteral("1")); // no match keeps the selection
+        QCOMPARE(bench.take(), QString("1")); // no match keeps the selection
         bench.row->loadValue(9);
         QVERIFY(!bench.row->value().isValid());
         bench.option<RadioButtonWidget>(0)->click();
@@ -384,8 +351,8 @@ private slots:
 
     void loadsAndRemembers()
     {
-        const QString one = QStringLiteral("1");
-        const QString two = QStringLiteral("2");
+        const QString one = QString("1");
+        const QString two = QString("2");
         const auto box = FacadeType::InputBoxNumber;
         using Row = std::tuple<FacadeType, ValueType, QVariant, QVariant>;
         for (const auto& [facade, type, first, second] : std::vector<Row>{
@@ -423,23 +390,23 @@ private slots:
     {
         Bench bench(FacadeType::InputBoxNumber, ValueType::Int);
         RuleProtocolItem second;
-        second.setKey(QStringLiteral("second"));
+        second.setKey(QString("second"));
         second.setFacade(FacadeType::NumericalInterval);
         bench.container.setControlEnable(false);
         auto* row = createControlTabel(&second, &bench.container);
         bench.container.addControl(row, true);
         QVERIFY(!row->isEnabled());
         bench.container.setControlEnable(true);
-        QCOMPARE(bench.container.findControl(QStringLiteral("second")), row);
-        QVERIFY(bench.container.setControlValue(QStringLiteral("second"), QSize(1, 2)));
-        QVERIFY(!bench.container.setControlValue(QStringLiteral("third"), 1));
+        QCOMPARE(bench.container.findControl(QString("second")), row);
+        QVERIFY(bench.container.setControlValue(QString("second"), QSize(1, 2)));
+        QVERIFY(!bench.container.setControlValue(QString("third"), 1));
 
         // An announcement in the middle may take rows away.
-        bench.type("edit", QStringLiteral("5"));
+        bench.type("edit", QString("5"));
         connect(&bench.container, &ControlItemWidgetTabel::sgnValueChanged, row,
                 [row] { delete row; });
         bench.container.finishEdits();
-        QCOMPARE(bench.take(), QStringLiteral("5"));
+        QCOMPARE(bench.take(), QString("5"));
         QCOMPARE(bench.container.controls().size(), 1);
         QVERIFY(!second.row());
         bench.container.deleteWidget(bench.row);
@@ -459,11 +426,11 @@ private slots:
         const auto buttons = table.buttons();
         QVERIFY(!buttons[0]->isEnabled());
         table.setControlEnable(true);
-        buttons[0]->setText(QStringLiteral("Rule1"));
-        buttons[1]->setText(QStringLiteral("A&Rule1"));
-        QCOMPARE(buttons[0]->text(), QStringLiteral("Rule1"));
-        QCOMPARE(buttons[1]->text(), QStringLiteral("A&&Ru..."));
-        QCOMPARE(buttons[1]->toolTip(), QStringLiteral("A&Rule1"));
+        buttons[0]->setText(QString("Rule1"));
+        buttons[1]->setText(QString("A&Rule1"));
+        QCOMPARE(buttons[0]->text(), QString("Rule1"));
+        QCOMPARE(buttons[1]->text(), QString("A&&Ru..."));
+        QCOMPARE(buttons[1]->toolTip(), QString("A&Rule1"));
         QCOMPARE(table.findDataButton(113), buttons[2]);
         QVERIFY(!table.findButton(113));
 
@@ -501,7 +468,7 @@ private slots:
         button->setEnabledState(false);
         button->setEnableCheckBoxVisible(true);
         table.show();
-        const QString name = QStringLiteral("enable");
+        const QString name = QString("enable");
         auto* box = table.findChild<QCheckBox*>(name);
         QVERIFY(box && box->isVisible() && !box->isChecked());
         table.relayout(40, 0);
