@@ -13,9 +13,9 @@ struct BenchRow {
     std::string peer;
     double goal; ///< the module's time over the peer's, at most
     int size;    ///< things worked on: rules, figures, rows
+    int limit;   ///< the most of them that is accepted; 0 where there is nothing to grow
     Work ours;
     Work theirs;
-    bool scales = true; ///< whether there is a quarter of it, and four times as much
 };
 
 using BenchRows = std::vector<BenchRow>;
@@ -24,4 +24,5 @@ void addDocumentRows(BenchRows& rows);
 void addPaintRows(BenchRows& rows);
 void addMouseRow(BenchRows& rows);
 void addPanelRows(BenchRows& rows);
+void addOpenRow(BenchRows& rows);
 void addStartRow(BenchRows& rows);

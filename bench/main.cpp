@@ -2,9 +2,12 @@
 #include "bench/limitreport.h"
 #include "bench/memoryreport.h"
 #include "bench/ratiotable.h"
+#include "bench/verdicts.h"
 #include "draw/labelfont.h"
 
 #include <QApplication>
+#include <algorithm>
+#include <cstring>
 #include <vector>
 
 namespace
@@ -22,6 +25,17 @@ std::vector<char*> withDefaults(int argc, char* argv[])
     return arguments;
 }
 
+/// Whether @p flag was given; it is no argument of the library's then.
+bool takeFlag(std::vector<char*>& arguments, const char* flag)
+{
+    const auto found = std::find_if(arguments.begin(), arguments.end(),
+                                    [flag](const char* a) { return std::strcmp(a, flag) == 0; });
+    if (found == arguments.end())
+        return false;
+    arguments.erase(found);
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -30,6 +44,7 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     std::vector<char*> arguments = withDefaults(argc, argv);
+    const bool isCheck = takeFlag(arguments, "--check");
     int count = int(arguments.size());
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
@@ -40,13 +55,15 @@ int main(int argc, char* argv[])
     addPaintRows(rows);
     addMouseRow(rows);
     addPanelRows(rows);
+    addOpenRow(rows);
     addStartRow(rows);
     RatioTable table(rows);
     table.registerWork();
     benchmark::RunSpecifiedBenchmarks(&table);
-    table.print();
-    printMemoryReport();
+    Verdicts verdicts;
+    table.print(verdicts);
+    printMemoryReport(verdicts);
     printLimitReport();
     LabelFont::release();
-    return 0;
+    return isCheck && verdicts.missed() > 0 ? 1 : 0;
 }

@@ -4,6 +4,7 @@
 #include "Protocol/ruleparser.h"
 #include "bench/figurescene.h"
 #include "bench/sampledocument.h"
+#include "bench/verdicts.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 
@@ -13,9 +14,12 @@
 namespace
 {
 
-constexpr int kRules = 20000;
+constexpr int kRules = 3000;
+constexpr double kGoal = 6; // times their text
 constexpr int kRulesOfOneLoad = 200;
 constexpr int kLoads = 1000;
+/// Freed blocks that the allocator keeps for the thread come and go in between.
+constexpr double kKept = 16384;
 
 /// Bytes in use as the allocator counts them, with the freed blocks that it keeps for the thread.
 double bytesInUse()
@@ -24,20 +28,22 @@ double bytesInUse()
     return double(info.uordblks) + double(info.hblkhd);
 }
 
-void printRules()
+void printRules(Verdicts& verdicts)
 {
     const QString templateText = SampleDocument::ruleTemplate();
     const QByteArray utf8 = SampleDocument::rules(kRules);
     const QString text = QString::fromUtf8(utf8);
     const double before = bytesInUse();
     RuleParser parser;
-    SampleDocument::liftLimits(parser);
     parser.parseTemplate(templateText);
     parser.readData(text);
     const double bytes = bytesInUse() - before;
-    std::printf("Memory: %.0f bytes per rule loaded (%d), with its figure; %.2f times the text of "
-                "%.0f bytes (goal: 6)\n",
-                bytes / kRules, kRules, bytes / utf8.size(), double(utf8.size()) / kRules);
+    const double times = bytes / utf8.size();
+    std::printf(
+        "| a rule loaded, with its figure, of %d | %.0f bytes | %.2f times its %.0f bytes of "
+        "text | %.0f times | %s |\n",
+        kRules, bytes / kRules, times, double(utf8.size()) / kRules, kGoal,
+        verdicts.of(times, kGoal));
 }
 
 /// Bytes of points in a document without white space.
@@ -51,7 +57,7 @@ int textSize(const QVector<QPoint>& points)
     return bytes;
 }
 
-void printFigures()
+void printFigures(Verdicts& verdicts)
 {
     const auto figures = FigureScene::figures(kRules);
     const double before = bytesInUse();
@@ -61,12 +67,13 @@ void printFigures()
     double text = 0;
     for (const DrawItem* item : scene.getItemList(BaseDrawType::None, 0))
         text += textSize(item->getPoints());
-    std::printf("Memory: %.0f bytes per figure of 6 points; %.2f times their text of %.0f bytes "
-                "(goal: 6)\n",
-                bytes / kRules, bytes / text, text / kRules);
+    std::printf("| a figure of 6 points, of %d | %.0f bytes | %.2f times its %.0f bytes of text | "
+                "%.0f times | %s |\n",
+                kRules, bytes / kRules, bytes / text, text / kRules, kGoal,
+                verdicts.of(bytes / text, kGoal));
 }
 
-void printGrowth()
+void printGrowth(Verdicts& verdicts)
 {
     const QString templateText = SampleDocument::ruleTemplate();
     const QString text = QString::fromUtf8(SampleDocument::rules(kRulesOfOneLoad));
@@ -80,16 +87,17 @@ void printGrowth()
         if (load == 1)
             second = bytesInUse();
     }
-    std::printf("Memory: %.0f bytes more after %d loads of %d rules than after two\n",
-                bytesInUse() - second, kLoads, kRulesOfOneLoad);
+    const double more = bytesInUse() - second;
+    std::printf("| growth from 2 to %d loads of %d rules | %.0f bytes | | %.0f bytes | %s |\n",
+                kLoads, kRulesOfOneLoad, more, kKept, verdicts.of(more, kKept));
 }
 
 } // namespace
 
-void printMemoryReport()
+void printMemoryReport(Verdicts& verdicts)
 {
-    std::puts("");
-    printRules();
-    printFigures();
-    printGrowth();
+    std::puts("\n| Memory | Each | Against | Goal | |\n|---|---|---|---|---|");
+    printRules(verdicts);
+    printFigures(verdicts);
+    printGrowth(verdicts);
 }

@@ -1,39 +1,46 @@
 #include "bench/ratiotable.h"
 
+#include "bench/verdicts.h"
+
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <utility>
 
 namespace
 {
 
-std::string nameOf(std::size_t index, const BenchRow& row, const char* side, int size)
-{
-    return std::to_string(index + 1) + " " + row.work + "/" + side + "/" + std::to_string(size);
-}
+constexpr int kSmallest = 16; ///< part of the limit from which growth is measured
+constexpr double kGrowthGoal = 1.3;
 
-void measure(const std::string& name, const BenchRow::Work& work, int size)
+std::string nameOf(const BenchRow& row, const char* side, int size)
 {
-    benchmark::RegisterBenchmark(name.c_str(), [work, size](benchmark::State& state) {
-        work(state, size);
-    })->UseRealTime();
+    return row.work + ", " + row.peer + "/" + side + "/" + std::to_string(size);
 }
 
 } // namespace
 
 RatioTable::RatioTable(BenchRows rows) : m_rows(std::move(rows)) {}
 
-void RatioTable::registerWork() const
+void RatioTable::registerWork()
 {
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const BenchRow& row = m_rows[i];
-        measure(nameOf(i, row, "ours", row.size), row.ours, row.size);
-        measure(nameOf(i, row, "peer", row.size), row.theirs, row.size);
-        if (!row.scales)
+    for (const BenchRow& row : m_rows) {
+        measure(nameOf(row, "ours", row.size), row.ours, row.size);
+        measure(nameOf(row, "peer", row.size), row.theirs, row.size);
+        if (row.limit == 0)
             continue;
-        measure(nameOf(i, row, "ours", row.size / 4), row.ours, row.size / 4);
-        measure(nameOf(i, row, "ours", row.size * 4), row.ours, row.size * 4);
+        measure(nameOf(row, "ours", row.limit), row.ours, row.limit);
+        measure(nameOf(row, "ours", row.limit / kSmallest), row.ours, row.limit / kSmallest);
     }
+}
+
+void RatioTable::measure(const std::string& name, const BenchRow::Work& work, int size)
+{
+    if (!m_seconds.emplace(name, std::vector<double>()).second)
+        return;
+    benchmark::RegisterBenchmark(name.c_str(), [work, size](benchmark::State& state) {
+        work(state, size);
+    })->UseRealTime();
 }
 
 bool RatioTable::ReportContext(const Context&)
@@ -53,20 +60,22 @@ void RatioTable::ReportRuns(const std::vector<Run>& runs)
     }
 }
 
-void RatioTable::print() const
+void RatioTable::print(Verdicts& verdicts) const
 {
-    std::puts("| Work | Ours | Peer | Ours, us | Peer, us | Ratio | Goal | | Growth |\n"
-              "|---|---|---|---|---|---|---|---|---|");
-    for (std::size_t i = 0; i < m_rows.size(); ++i)
-        printRow(i);
-    std::puts("\nGrowth: time for a unit of work at 4 times the size over that at a quarter; "
-              "at most 1.3.");
+    std::puts("| Work | Size | Peer | Ours, us | Peer, us | Ratio | Goal | |\n"
+              "|---|---|---|---|---|---|---|---|");
+    for (const BenchRow& row : m_rows)
+        printRatio(row, verdicts);
+    std::puts("\n| Growth | From | To | Unit, us | Unit, us | A quadrupling | Goal | |\n"
+              "|---|---|---|---|---|---|---|---|");
+    for (const BenchRow& row : m_rows)
+        printGrowth(row, verdicts);
 }
 
 double RatioTable::median(const std::string& name) const
 {
     const auto found = m_seconds.find(name);
-    if (found == m_seconds.end())
+    if (found == m_seconds.end() || found->second.empty())
         return 0;
     std::vector<double> seconds = found->second;
     const auto middle = seconds.begin() + int(seconds.size() / 2);
@@ -74,21 +83,27 @@ double RatioTable::median(const std::string& name) const
     return *middle;
 }
 
-void RatioTable::printRow(std::size_t index) const
+void RatioTable::printRatio(const BenchRow& row, Verdicts& verdicts) const
 {
-    const BenchRow& row = m_rows[index];
-    const double ours = median(nameOf(index, row, "ours", row.size));
-    const double peer = median(nameOf(index, row, "peer", row.size));
+    const double ours = median(nameOf(row, "ours", row.size));
+    const double peer = median(nameOf(row, "peer", row.size));
     if (ours <= 0 || peer <= 0)
         return;
-    const double ratio = ours / peer;
-    std::printf("| %s | %d | %s | %.2f | %.2f | %.3f | %.3g | %s |", row.work.c_str(), row.size,
-                row.peer.c_str(), ours * 1e6, peer * 1e6, ratio, row.goal,
-                ratio <= row.goal ? "met" : "missed");
-    const double small = median(nameOf(index, row, "ours", row.size / 4));
-    const double large = median(nameOf(index, row, "ours", row.size * 4));
-    if (small > 0 && large > 0)
-        std::printf(" %.2f |\n", large / small / 16);
-    else
-        std::puts(" |");
+    std::printf("| %s | %d | %s | %.2f | %.2f | %.3f | %.3g | %s |\n", row.work.c_str(), row.size,
+                row.peer.c_str(), ours * 1e6, peer * 1e6, ours / peer, row.goal,
+                verdicts.of(ours / peer, row.goal));
+}
+
+void RatioTable::printGrowth(const BenchRow& row, Verdicts& verdicts) const
+{
+    const int from = row.limit / kSmallest;
+    const double small = median(nameOf(row, "ours", from)) / std::max(from, 1);
+    const double large = median(nameOf(row, "ours", row.limit)) / std::max(row.limit, 1);
+    if (row.limit == 0 || small <= 0 || large <= 0)
+        return;
+    // From a sixteenth to the limit is two quadruplings.
+    const double growth = std::sqrt(large / small);
+    std::printf("| %s | %d | %d | %.3f | %.3f | %.2f | %.1f | %s |\n", row.work.c_str(), from,
+                row.limit, small * 1e6, large * 1e6, growth, kGrowthGoal,
+                verdicts.of(growth, kGrowthGoal));
 }

@@ -1,13 +1,10 @@
 #include "bench/sampledocument.h"
 
-#include "Protocol/ruleparser.h"
-
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
 #include <cmath>
-#include <limits>
 
 namespace
 {
@@ -132,9 +129,4 @@ QString SampleDocument::panelTemplate(int attributes)
     document[description] = section;
     document[QStringLiteral("configItems")] = items;
     return QString::fromUtf8(QJsonDocument(document).toJson(QJsonDocument::Compact));
-}
-
-void SampleDocument::liftLimits(RuleParser& parser)
-{
-    parser.setLimits({std::numeric_limits<int>::max(), std::numeric_limits<qint64>::max()});
 }

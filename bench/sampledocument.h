@@ -3,8 +3,6 @@
 #include <QByteArray>
 #include <QString>
 
-class RuleParser;
-
 /// Templates and configurations of any size, the same ones in every run.
 namespace SampleDocument
 {
@@ -15,8 +13,5 @@ QString ruleTemplate();
 QByteArray rules(int count);
 /// Rules of a region and @p attributes attributes of all kinds of rows.
 QString panelTemplate(int attributes);
-
-/// Lets @p parser read more than a client's window takes.
-void liftLimits(RuleParser& parser);
 
 } // namespace SampleDocument
