@@ -1,21 +1,16 @@
 #include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/shortenedtext.h"
-#include "tabel/checkboxwidget.h"
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
 #include "tabel/drawitembutton.h"
 #include "tabel/plaintext.h"
-#include "tabel/radiobuttonwidget.h"
 #include "tabel/rowedit.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tests/support/absurddocuments.h"
-#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
-
-#include <tuple>
-#include <vector>
+#include "tests/support/script.h"
 
 using kql::Json::Value;
 
@@ -39,6 +34,8 @@ public:
         item.setEnumeration({option("1"), option("2"), option("all", true)});
         row = createControlTabel(&item, &container);
         container.addControl(row, true);
+        blank = row->value();
+        tip = row->toolTip();
         other = new QLineEdit;
         container.addWidget(other, true);
         QObject::connect(&container, &ControlItemWidgetTabel::sgnValueChanged, &container,
@@ -71,9 +68,9 @@ public:
 
     /// Replaces the text of an edit by typing, or by pasting what follows a leading "^"; the edit
     /// keeps the focus.
-    RowEdit* type(const char* name, const QString& keys) const
+    RowEdit* type(const QString& name, const QString& keys) const
     {
-        auto* edit = row->findChild<RowEdit*>(QLatin1String(name));
+        auto* edit = row->findChild<RowEdit*>(name);
         edit->setFocus();
         edit->selectAll();
         if (keys.isEmpty()) {
@@ -95,21 +92,100 @@ public:
 
     void leave() const { other->setFocus(); }
 
-    template<class Box>
-    Box* option(int index) const
-    {
-        return static_cast<Box*>(row->items().value(index));
-    }
-
     /// What was announced since the last call, joined by blanks.
     QString take() { return QStringList(std::exchange(announced, {})).join(QLatin1Char(' ')); }
 
     RuleProtocolItem item;
     ControlItemWidgetTabel container;
     ControlTabel* row = nullptr;
+    QVariant blank; ///< what the row has at first
+    QString tip;    ///< as the row has it then
     QLineEdit* other = nullptr;
     QStringList announced;
 };
+
+using Step = const Value&;
+
+RowEdit* editOf(Bench& bench, Step step)
+{
+    return bench.row->findChild<RowEdit*>(step[1].asString());
+}
+
+/// As the context menu does.
+void paste(Bench& bench, Step step)
+{
+    editOf(bench, step)->selectAll();
+    QGuiApplication::clipboard()->setText(step[2].asString());
+    QVERIFY(QMetaObject::invokeMethod(editOf(bench, step), "paste"));
+}
+
+/// As input methods do.
+void commit(Bench& bench, Step step)
+{
+    QInputMethodEvent committed;
+    committed.setCommitString(step[2].asString());
+    QApplication::sendEvent(editOf(bench, step), &committed);
+}
+
+void drop(Bench& bench, Step step)
+{
+    QMimeData dragged;
+    dragged.setText(step[2].asString());
+    const QPoint end = editOf(bench, step)->rect().bottomRight();
+    QDragEnterEvent entered(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editOf(bench, step), &entered);
+    QDropEvent dropped(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editOf(bench, step), &dropped);
+}
+
+void key(Bench& bench, Step step)
+{
+    const QKeySequence keys(step[2].asString());
+    QTest::keyClick(editOf(bench, step), Qt::Key(keys[0] & ~Qt::KeyboardModifierMask),
+                    Qt::KeyboardModifiers(keys[0] & Qt::KeyboardModifierMask));
+}
+
+QString tip(Bench& bench, Step)
+{
+    const QString shown = bench.row->toolTip();
+    if (shown == bench.tip)
+        return "the usual one";
+    return shown.contains(bench.tip) ? QString("the usual one and more") : shown;
+}
+
+QAbstractButton* option(Bench& bench, Step step)
+{
+    return qobject_cast<QAbstractButton*>(bench.row->items().value(step[1].asInt()));
+}
+
+/// What an operator, or the panel, does with a row; and what there is to see.
+const Script<Bench> kScript{
+    {{"type", [](Bench& b, Step s) { b.type(s[1].asString(), s[2].asString()); }},
+     {"keys", [](Bench& b, Step s) { QTest::keyClicks(editOf(b, s), s[2].asString()); }},
+     {"key", key},
+     {"paste", paste},
+     {"commit", commit},
+     {"drop", drop},
+     {"setText", [](Bench& b, Step s) { editOf(b, s)->setText(s[2].asString()); }},
+     {"focus", [](Bench& b, Step s) { editOf(b, s)->setFocus(); }},
+     {"leave", [](Bench& b, Step) { b.leave(); }},
+     {"click", [](Bench& b, Step s) { option(b, s)->click(); }},
+     {"load", [](Bench& b, Step s) { b.row->loadValue(Fixtures::valueOf(s[1])); }},
+     {"set", [](Bench& b, Step s) { b.row->setValue(Fixtures::valueOf(s[1]), true); }},
+     {"setQuietly", [](Bench& b, Step s) { b.row->setValue(Fixtures::valueOf(s[1]), false); }},
+     {"rebuild", [](Bench& b, Step) { b.row->setProtocolItem(&b.item); }}},
+    {{"announced", [](Bench& b, Step) { return b.take(); }},
+     {"shown", [](Bench& b, Step s) { return b.shown(editOf(b, s)); }},
+     {"tip", [](Bench& b, Step s) { return b.row->toolTip().contains(s[1].asString()); }},
+     {"tipIs", tip},
+     {"value", [](Bench& b, Step) { return b.row->value(); }},
+     {"isBlank", [](Bench& b, Step) { return b.row->value() == b.blank; }},
+     {"isModified", [](Bench& b, Step) { return b.row->isModified(); }},
+     {"isChecked", [](Bench& b, Step s) { return option(b, s)->isChecked(); }},
+     {"options", [](Bench& b, Step) { return b.row->items().size(); }},
+     {"grouped",
+      [](Bench& b, Step) { return b.row->findChild<QButtonGroup*>()->buttons().size(); }},
+     {"validators", [](Bench& b, Step) { return b.row->findChildren<QValidator*>().size(); }}}};
 
 } // namespace
 
@@ -160,59 +236,16 @@ private slots:
         QCOMPARE(bench.take(), text("announced"));
     }
 
-    void marksWhatItRefuses()
+    void works_data() { Fixtures::addRows("rows.json"); }
+
+    void works()
     {
-        Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 1, 30, 7);
-        const QString tip = bench.row->toolTip();
-        QVERIFY2(tip.contains("1 to 30") && tip.contains(" s"), qPrintable(tip));
-        RowEdit* edit = bench.type("edit", QString("1,2"));
-        QVERIFY(bench.row->toolTip() != tip && bench.row->toolTip().contains(tip));
-        QTest::keyClick(edit, Qt::Key_Backspace);
-        QCOMPARE(bench.shown(edit) + bench.row->toolTip(), tip);
-        QTest::keyClicks(edit, QString("2,9"));
-        QTest::keyClick(edit, Qt::Key_Home, Qt::ShiftModifier);
-        QCOMPARE(bench.shown(edit), QString("2"));
-        QTest::keyClicks(edit, QString("3,"));
-        bench.row->loadValue(9);
-        QCOMPARE(bench.shown(edit), QString("9"));
-        edit->selectAll();
-        QGuiApplication::clipboard()->setText(QString("8."));
-        QVERIFY(QMetaObject::invokeMethod(edit, "paste")); // as the context menu does
-        QCOMPARE(bench.shown(edit), QString("8!"));
-
-        // Return cannot end the edit of such a text, which stays marked until it is right.
-        Bench floats(FacadeType::InputBoxNumber, ValueType::Float, 0.5, 10.0, 1.0);
-        edit = floats.type("edit", QString());
-        QTest::keyClick(edit, Qt::Key_Return);
-        QCOMPARE(floats.shown(edit), QString("!"));
-        QTest::keyClicks(edit, QString("0"));
-        QCOMPARE(floats.shown(edit), QString("0!"));
-        QTest::keyClicks(edit, QString(",7"));
-        QCOMPARE(floats.shown(edit), QString("0.7"));
-
-        // An input method and a drop are no way around.
-        edit = floats.type("edit", QString());
-        QInputMethodEvent committed;
-        committed.setCommitString(QString("3,"));
-        QApplication::sendEvent(edit, &committed);
-        QMimeData dragged;
-        dragged.setText(QString("5 \n"));
-        const QPoint end = edit->rect().bottomRight();
-        QDragEnterEvent entered(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(edit, &entered);
-        QDropEvent dropped(end, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(edit, &dropped);
-        QCOMPARE(floats.shown(edit), QString("3.5"));
-
-        // Without a value to fall back to it is the minimum, else nothing.
-        for (const auto& [minimum, left] :
-             {std::pair(QVariant(0.5), "0.5"), std::pair(QVariant(), "")}) {
-            Bench fresh(FacadeType::InputBoxNumber, ValueType::Float, minimum);
-            edit = fresh.type("edit", QString("5"));
-            QTest::keyClick(edit, Qt::Key_Backspace);
-            fresh.leave();
-            QCOMPARE(fresh.shown(edit) + fresh.take(), QString(left).repeated(2));
-        }
+        QFETCH(const Value, fixture);
+        Bench bench(RuleParser::parseToFacadeType(fixture["facade"].asString()),
+                    RuleParser::parseToValueType(fixture["type"].asString()),
+                    Fixtures::valueOf(fixture["minimum"]), Fixtures::valueOf(fixture["maximum"]),
+                    Fixtures::valueOf(fixture["default"]));
+        kScript.play(bench, fixture["steps"]);
     }
 
     /// Shown in part, and never lost: not by passing through, by keys or by Return.
@@ -255,11 +288,6 @@ private slots:
     {
         Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 10, 50);
         auto* edit = bench.row->findChild<RowEdit*>(QString("edit"));
-        bench.row->loadValue(700); // passing through mends nothing
-        edit->setFocus();
-        bench.leave();
-        QCOMPARE(bench.take() + edit->text(), QString("700"));
-
         // Reached when text gets past the validator.
         bench.item.setRange(20, 10);
         edit->setText(QString("15"));
@@ -267,123 +295,11 @@ private slots:
         QCOMPARE(bench.take(), QString("20 10 15"));
     }
 
-    void editsRanges()
-    {
-        Bench bench(FacadeType::NumericalInterval, ValueType::ArrayInt, {}, {}, QSize(5, 50));
-        const auto edited = [&bench](const char* name, const char* keys) {
-            const RowEdit* edit = bench.type(name, QLatin1String(keys));
-            bench.leave();
-            return QString("%1|%2").arg(bench.take(), edit->text());
-        };
-        QCOMPARE(edited("minimum", "20"), QString("20..50|20"));
-        QCOMPARE(edited("minimum", "20"), QString("|20")); // no change, nothing said
-        QCOMPARE(edited("maximum", "30"), QString("20..30|30"));
-        QCOMPARE(edited("maximum", "7"), QString("|30"));         // below: refused
-        QCOMPARE(edited("minimum", "100"), QString("30..30|30")); // at once, while typing
-        QCOMPARE(bench.shown(bench.type("minimum", QString("-5"))), QString("30!"));
-        QCOMPARE(bench.shown(bench.type("maximum", QString("42,5"))), QString("42!"));
-        QCOMPARE(edited("maximum", "^ 30\n"), QString("|30"));
-        QCOMPARE(edited("minimum", ""), QString("-1..30|")); // unset, not mended to 0
-        QCOMPARE(edited("maximum", "4"), QString("-1..4|4"));
-        QCOMPARE(edited("maximum", ""), QString("-1..-1|"));
-        QCOMPARE(edited("minimum", "123456"), QString("123456..-1|123456"));
-        QCOMPARE(edited("maximum", "-"), QString("|"));
-
-        bench.row->setValue(QSize(3, 8), true);
-        QCOMPARE(bench.take(), QString("3..8"));
-        for (const QVariant& value : {QVariant(), QVariant(4), QVariant(QString("[1,2]"))})
-            bench.row->setValue(value, true);
-        QCOMPARE(bench.take(), QString());
-        QCOMPARE(bench.row->value(), QVariant(QSize(3, 8)));
-        QCOMPARE(bench.row->findChildren<QValidator*>().size(), 2); // of all that there were
-
-        // Only the minimum is checked while it is typed, against what the other edit shows.
-        bench.row->findChild<RowEdit*>(QString("maximum"))->setText(QString("6"));
-        QCOMPARE(bench.type("minimum", QString("7"))->text(), QString("6"));
-        QCOMPARE(bench.take(), QString("6..8"));
-    }
-
-    void clicksCheckBoxes()
+    void findsChoicesThatShareTheirHashes()
     {
         Bench bench(FacadeType::CheckBox, ValueType::String);
-        const auto click = [&bench](int index) {
-            bench.option<CheckBoxWidget>(index)->click();
-            return bench.take();
-        };
-        QVERIFY(!bench.row->value().isValid());
-        QCOMPARE(click(1), QString("2"));
-        QCOMPARE(click(1), QString("2")); // the last one stays
-        QCOMPARE(click(0), QString("1+2"));
-        QCOMPARE(click(2), QString("all"));
-        QCOMPARE(click(0), QString("1"));
-        // Values set by code are no clicks.
-        bench.row->setValue(QStringList{QString("all"), QString("1")}, false);
-        QCOMPARE(bench.take(), QString());
-        QCOMPARE(Bench::text(bench.row->value()), QString("1+all"));
-        QCOMPARE(click(2), QString("1"));
-        bench.row->setValue(QString("ALL"), true);
-        QCOMPARE(bench.take(), QString("none"));
         bench.row->setValue(AbsurdDocuments::ofOneHash() << QString("2"), true);
         QCOMPARE(bench.take(), QString("2"));
-    }
-
-    void clicksRadioButtons()
-    {
-        Bench bench(FacadeType::RadioButton, ValueType::Int);
-        QVERIFY(!bench.row->value().isValid());
-        bench.option<RadioButtonWidget>(1)->click();
-        QCOMPARE(bench.take(), QString("2"));
-        QCOMPARE(bench.row->value(), QVariant(2));
-        bench.row->setValue(1, true);
-        QCOMPARE(bench.take(), QString()); // a match says nothing
-        bench.row->setValue(9, true);
-        QCOMPARE(bench.take(), QString("1")); // no match keeps the selection
-        bench.row->loadValue(9);
-        QVERIFY(!bench.row->value().isValid());
-        bench.option<RadioButtonWidget>(0)->click();
-        bench.option<RadioButtonWidget>(1)->click();
-        QVERIFY(!bench.option<RadioButtonWidget>(0)->isChecked());
-        // Built anew, the options are there once.
-        bench.row->setProtocolItem(&bench.item);
-        QCOMPARE(bench.row->items().size(), 3);
-        QCOMPARE(bench.row->findChild<QButtonGroup*>()->buttons().size(), 3);
-    }
-
-    void loadsAndRemembers()
-    {
-        const QString one = QString("1");
-        const QString two = QString("2");
-        const auto box = FacadeType::InputBoxNumber;
-        using Row = std::tuple<FacadeType, ValueType, QVariant, QVariant>;
-        for (const auto& [facade, type, first, second] : std::vector<Row>{
-                 {box, ValueType::Int, 1, 2},
-                 {box, ValueType::Float, 1.5, 2.5},
-                 {box, ValueType::String, one, two},
-                 {FacadeType::CheckBox, ValueType::String, QStringList{one}, QStringList{two}},
-                 {FacadeType::RadioButton, ValueType::String, one, two},
-                 {FacadeType::Bool, ValueType::Bool, true, false},
-                 {FacadeType::NumericalInterval, ValueType::ArrayInt, QSize(1, 2), QSize(2, 3)}}) {
-            Bench bench(facade, type);
-            const QVariant blank = bench.row->value();
-            bench.row->loadValue(first);
-            QCOMPARE(bench.row->value(), first);
-            bench.row->loadValue(QVariant());
-            QCOMPARE(bench.row->value(), blank);
-            QVERIFY(!bench.row->isModified());
-
-            // Back to the first value after another one was announced: it has to be stored again.
-            bench.row->loadValue(first);
-            if (facade == FacadeType::RadioButton)
-                bench.option<RadioButtonWidget>(1)->click();
-            else if (facade == FacadeType::Bool)
-                bench.option<QCheckBox>(0)->click();
-            else
-                bench.row->setValue(second, true);
-            QCOMPARE(bench.take(), Bench::text(second));
-            bench.row->setValue(first, false);
-            QVERIFY(bench.row->isModified());
-            QCOMPARE(bench.take(), QString());
-        }
     }
 
     void containerFindsAndFinishes()
