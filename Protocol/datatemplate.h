@@ -1,7 +1,9 @@
 #pragma once
 
-#include "Protocol/checkrule.h"
 #include "Protocol/countrange.h"
+#include "Protocol/ruletypes.h"
+#include "draw/drawitemforbidenareatype.h"
+#include "draw/edgelabelmode.h"
 
 #include <QList>
 #include <QMap>
@@ -11,6 +13,19 @@
 
 class DrawItem;
 class RuleProtocolItem;
+
+/// A cross-field check between two attributes of one entry.
+struct CheckRule {
+    QString firstKey;
+    QString secondKey;
+    CheckRuleOperatorType operatorType = CheckRuleOperatorType::None;
+};
+
+/// Attributes that are read and written together.
+struct TemplateSection {
+    QString name;   ///< the items' template name
+    QString parent; ///< path of the entries in the configuration
+};
 
 /// What one scene's entries are made of. Owns its items, figures and controls in template order.
 class DataTemplate
@@ -50,6 +65,13 @@ public:
     /// Whether @p figure was read or drawn for @p item. One that names no item counts for the
     /// first of its kind.
     bool isFigureFor(const DrawItem& figure, const RuleProtocolItem& item) const;
+
+    /// What the entries are made of: one section, unless the scene was handed another one's items.
+    virtual std::vector<TemplateSection> sections() const;
+    /// Where the figures of @p item may not be drawn.
+    virtual DrawItemForbidenAreaType forbiddenArea(const RuleProtocolItem& item) const;
+    /// What is written at the edges of the figures of @p item.
+    virtual EdgeLabelMode edgeLabels(const RuleProtocolItem& item) const;
 
     const QList<CheckRule>& checkRules() const { return m_checkRules; }
     void addCheckRule(const CheckRule& rule) { m_checkRules.append(rule); }

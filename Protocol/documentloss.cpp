@@ -1,16 +1,13 @@
 #include "Protocol/documentloss.h"
 
-#include "Protocol/configmember.h"
-#include "Protocol/datatemplate.h"
-#include "Protocol/detection/detectionentries.h"
 #include "Protocol/entryloss.h"
-#include "Protocol/jsonpath.h"
-#include "Protocol/lanes/lanerules.h"
-#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "Protocol/savenotices.h"
+#include "Protocol/sceneprotocol.h"
+#include "Protocol/sceneprotocols.h"
 #include "host/json/value.h"
+
+#include <algorithm>
 
 using kql::Json::Value;
 
@@ -20,61 +17,20 @@ namespace
 // As many as a line can tell.
 constexpr int kMostSentences = 64;
 
-/// The entries of a place with the one of the scene that each was read into; null for what is none.
-class ReadEntries
-{
-public:
-    ReadEntries(const RuleData& data, const QString& section, const Value& document,
-                EntryList::Entries listed)
-        : m_listed(std::move(listed)), m_entries(m_listed.size())
-    {
-        const auto* lanes = dynamic_cast<const LanesTemplate*>(data.getTemplate());
-        if (lanes && section == ConfigMember::kRuleSection)
-            findRules(data, *lanes, document);
-        else
-            findEntries(data);
-    }
-
-    const EntryList::Entries& listed() const { return m_listed; }
-    const RuleDataInfo* entry(std::size_t index) const { return m_entries[index]; }
-    /// Whether the one at @p index is an entry, but of none that the scene shows.
-    bool isKeptAside(std::size_t index) const { return m_aside.contains(m_listed[index]); }
-
-private:
-    void findEntries(const RuleData& data)
-    {
-        for (const auto& entry : data.getAllData()) {
-            const auto index = static_cast<std::size_t>(entry->sourceIndex());
-            if (index < m_entries.size())
-                m_entries[index] = entry.get();
-        }
-    }
-    void findRules(const RuleData& data, const LanesTemplate& lanes, const Value& document)
-    {
-        const LaneRules rules(lanes, document);
-        QHash<const Value*, const RuleDataInfo*> entryOf;
-        for (const auto& entry : data.getAllData())
-            entryOf.insert(rules.ruleOf(entry->sourceIndex()), entry.get());
-        for (std::size_t i = 0; i < m_listed.size(); ++i)
-            m_entries[i] = entryOf.value(m_listed[i]);
-        for (const Value* rule : rules.unpaired())
-            m_aside.insert(rule);
-    }
-
-    EntryList::Entries m_listed;
-    std::vector<const RuleDataInfo*> m_entries;
-    QSet<const Value*> m_aside;
-};
-
-EntryList::Entries listed(const RuleData& data, const Value* place)
-{
-    return data.getSceneType() == SceneType::Detection ? DetectionEntries::of(place)
-                                                       : EntryList::getJsonItemList(place);
-}
-
 QString quoted(const QString& path)
 {
     return QLatin1Char('"') + path + QLatin1Char('"');
+}
+
+/// Whether there is something at @p place that is none of the @p known entries.
+bool hasOthers(const Value& place, const JsonEntries& listed, JsonEntries known)
+{
+    if (listed.empty())
+        return !place.isNull() && (!place.empty() || !(place.isArray() || place.isObject()));
+    std::sort(known.begin(), known.end());
+    return std::any_of(listed.begin(), listed.end(), [&known](const Value* entry) {
+        return !entry->isNull() && !std::binary_search(known.begin(), known.end(), entry);
+    });
 }
 
 } // namespace
@@ -88,20 +44,13 @@ DocumentLoss::DocumentLoss(const std::vector<std::unique_ptr<RuleData>>& scenes,
 QStringList DocumentLoss::tell()
 {
     for (const auto& scene : m_scenes) {
-        const DataTemplate& dataTemplate = *scene->getTemplate();
-        addPlace(*scene, dataTemplate.name(), dataTemplate.parent());
-        const auto* lanes = dynamic_cast<const LanesTemplate*>(&dataTemplate);
-        if (lanes && lanes->hasRuleItems())
-            addPlace(*scene, ConfigMember::kRuleSection, lanes->rulesParent());
+        for (const TemplateSection& section : scene->getTemplate()->sections()) {
+            if (const Value* place = JsonPath(section.parent).find(m_read))
+                m_places.insert({place, {scene.get(), section}});
+        }
     }
     compare(m_read, m_written, {});
     return m_sentences;
-}
-
-void DocumentLoss::addPlace(RuleData& data, const QString& section, const QString& parent)
-{
-    if (const Value* place = JsonPath(parent).probe(m_read))
-        m_places.insert({place, {&data, section, parent}});
 }
 
 void DocumentLoss::compare(const Value& read, const Value& written, const QString& path)
@@ -134,20 +83,17 @@ void DocumentLoss::compare(const Value& read, const Value& written, const QStrin
 void DocumentLoss::compareEntries(const Place& place, const Value& read)
 {
     RuleData& data = *place.data;
-    const ReadEntries entries(data, place.section, m_read, listed(data, &read));
-    const EntryList::Entries written = listed(data, JsonPath(place.parent).probe(m_written));
-    EntryLoss loss(data, place.section);
-    bool hasStrays = entries.listed().empty() && !read.isNull() && !read.empty();
-    hasStrays = hasStrays || (!read.isNull() && !read.isArray() && !read.isObject());
-    for (std::size_t i = 0; i < entries.listed().size(); ++i) {
-        const RuleDataInfo* entry = entries.entry(i);
-        const auto position = static_cast<std::size_t>(entry ? data.indexOf(entry->id()) : 0);
-        if (entry && position < written.size())
-            loss.compare(*entry, *entries.listed()[i], *written[position]);
-        else if (!entry && !entries.isKeptAside(i) && !entries.listed()[i]->isNull())
-            hasStrays = true;
+    const SceneProtocol& protocol = sceneProtocol(data.getSceneType());
+    const JsonEntries sources = protocol.sources(data, place.section, m_read);
+    const JsonEntries written = protocol.entriesAt(JsonPath(place.section.parent).find(m_written));
+    JsonEntries known = protocol.keptAside(data, place.section, m_read);
+    EntryLoss loss(data, place.section.name);
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        known.push_back(sources[i]);
+        if (sources[i] && i < written.size())
+            loss.compare(*data.getAllData()[i], *sources[i], *written[i]);
     }
-    if (hasStrays)
-        data.saveNotices().add(
-            SaveNotices::tr("What is no entry under %1 is not saved.").arg(quoted(place.parent)));
+    if (hasOthers(read, protocol.entriesAt(&read), std::move(known)))
+        data.saveNotices().add(SaveNotices::tr("What is no entry under %1 is not saved.")
+                                   .arg(quoted(place.section.parent)));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Protocol/datatemplate.h"
+
 #include <QStringList>
 #include <map>
 #include <memory>
@@ -32,11 +34,9 @@ public:
 private:
     struct Place {
         RuleData* data;
-        QString section;
-        QString parent;
+        TemplateSection section;
     };
 
-    void addPlace(RuleData& data, const QString& section, const QString& parent);
     void compare(const kql::Json::Value& read, const kql::Json::Value& written,
                  const QString& path);
     void compareEntries(const Place& place, const kql::Json::Value& read);

@@ -7,26 +7,26 @@
 class DataTemplate;
 class DrawItem;
 class DrawScene;
-class RuleData;
 class RuleProtocolItem;
 
-/// A scene's figures by the entry that they belong to.
+/// A scene's figures by the entry that they belong to, and the template's item that they are for.
 class EntryFigures
 {
 public:
-    using Figures = QVector<const DrawItem*>;
+    using Figures = QVector<DrawItem*>;
 
-    /// @p data is not owned; its canvas must not change while this lives.
-    explicit EntryFigures(const RuleData& data);
+    /// Neither is owned; the canvas must not change while this lives.
+    EntryFigures(const DataTemplate& dataTemplate, const DrawScene& scene)
+        : m_template(dataTemplate), m_scene(scene)
+    {
+    }
 
     /// The figures of the entry @p dataId in the scene's order.
     DrawItemRange of(int dataId) const;
     /// Those that the entry has for @p item.
     Figures of(int dataId, const RuleProtocolItem& item) const;
     /// The first of them; null when there is none.
-    const DrawItem* first(int dataId, const RuleProtocolItem& item) const;
-    /// Whether @p figure was read or drawn for @p item.
-    bool isFor(const DrawItem& figure, const RuleProtocolItem& item) const;
+    DrawItem* first(int dataId, const RuleProtocolItem& item) const;
 
 private:
     const DataTemplate& m_template;

@@ -1,12 +1,11 @@
 #include "Protocol/entrylimit.h"
 
-#include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/detection/detectionentries.h"
 #include "Protocol/entrywriter.h"
-#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/sceneprotocol.h"
+#include "Protocol/sceneprotocols.h"
 #include "draw/drawscene.h"
 #include "host/json/value.h"
 
@@ -23,18 +22,6 @@ constexpr int kTest = 16;
 // What an element takes that an entry may have beside its prototype, and how many it may have.
 constexpr int kElement = 32;
 constexpr qint64 kMostElements = 1024;
-
-/// An entry of the section that has nothing but its places.
-qint64 textOfEmpty(const RuleData& data, const QString& section)
-{
-    return EntryWriter(data, section).emptyEntry().styledLength();
-}
-
-qint64 textOfFirst(const Value& skeleton, const QString& parent)
-{
-    const Value* first = EntryList::object(EntryList::at(skeleton, JsonPath(parent)), 0);
-    return first ? first->styledLength() : 0;
-}
 
 qint64 tests(const DataTemplate& dataTemplate)
 {
@@ -59,12 +46,11 @@ qint64 elements(const DataTemplate& dataTemplate)
 qint64 EntryLimit::textPerEntry(const RuleData& data, const Value& skeleton)
 {
     const DataTemplate& dataTemplate = *data.getTemplate();
-    qint64 cost = kEntry + kTest * tests(dataTemplate) + kElement * elements(dataTemplate) +
-                  textOfEmpty(data, dataTemplate.name()) +
-                  textOfFirst(skeleton, dataTemplate.parent());
-    if (const auto* lanes = dynamic_cast<const LanesTemplate*>(&dataTemplate)) {
-        cost += textOfEmpty(data, ConfigMember::kRuleSection) +
-                textOfFirst(skeleton, lanes->rulesParent());
+    qint64 cost = kEntry + kTest * tests(dataTemplate) + kElement * elements(dataTemplate);
+    for (const TemplateSection& section : dataTemplate.sections()) {
+        const Value* const first = JsonPath(section.parent).firstEntryIn(skeleton);
+        cost += EntryWriter(data, section.name).emptyEntry().styledLength();
+        cost += first ? first->styledLength() : 0;
     }
     return cost;
 }
@@ -72,15 +58,13 @@ qint64 EntryLimit::textPerEntry(const RuleData& data, const Value& skeleton)
 int EntryLimit::countEntries(const RuleData& data, const Value& document)
 {
     const JsonPath parent(data.getTemplate()->parent());
-    const auto entries = data.getSceneType() == SceneType::Detection
-                             ? DetectionEntries::of(parent.probe(document))
-                             : EntryList::at(document, parent);
-    return static_cast<int>(entries.size());
+    const SceneProtocol& protocol = sceneProtocol(data.getSceneType());
+    return static_cast<int>(protocol.entriesAt(parent.find(document)).size());
 }
 
 int EntryLimit::countInnerFigures(const RuleData& data)
 {
-    const bool isCalibration = data.getSceneType() == SceneType::CalibrateArea ||
-                               data.getSceneType() == SceneType::FightCalibrate;
-    return isCalibration ? data.getDrawScene()->itemCount(BaseDrawType::None, 0) : 0;
+    return sceneProtocol(data.getSceneType()).isCalibration()
+               ? data.getDrawScene()->itemCount(BaseDrawType::None, 0)
+               : 0;
 }

@@ -2,7 +2,6 @@
 
 #include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/misfit.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -181,10 +180,10 @@ void EntryLoss::tellMisfits(const Value& read, const Value& written)
         for (const RuleProtocolItem* item : items) {
             // Elements of lists are matched by their kind, not by their place.
             const bool isInList = item->path().text().contains(QLatin1String("[]."));
-            if (isInList || !Misfit::isUnder(*m_entry, item->key()))
+            if (isInList || !m_entry->isMisfit(item->key()))
                 continue;
-            const Value* const before = item->path().probe(read);
-            const Value* const after = item->path().probe(written);
+            const Value* const before = item->path().find(read);
+            const Value* const after = item->path().find(written);
             if (before && !(after && isSame(ValueConversion::element(*before, *item),
                                             ValueConversion::element(*after, *item))))
                 tellItem(*item);

@@ -24,9 +24,9 @@ QString EntryName::written(const RuleData& data, int position)
     return name.isEmpty() ? RuleData::tr("Rule") + QString::number(position + 1) : name;
 }
 
-QString EntryName::unused(const RuleData& data, const QString& wanted, const QStringList& others)
+QString EntryName::unused(const RuleData& data, const QString& wanted)
 {
-    QSet<QString> taken(others.begin(), others.end());
+    QSet<QString> taken(data.namesKeptAside().begin(), data.namesKeptAside().end());
     for (int i = 0; i < data.getDataCount(); ++i)
         taken.insert(written(data, i));
     QString name = wanted;

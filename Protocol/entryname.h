@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 class RuleData;
 class RuleProtocolItem;
@@ -13,9 +12,10 @@ namespace EntryName
 /// The name that a rule at @p position (from 0) is written with.
 QString written(const RuleData& data, int position);
 
-/// The name for an entry that is put behind the others: @p wanted, or where one of them or of
-/// @p others has it, "Rule" and the lowest free number, counted up from the entry's place.
-QString unused(const RuleData& data, const QString& wanted, const QStringList& others = {});
+/// The name for an entry that is put behind the others: @p wanted, or where one of them
+/// or of those kept aside has it, "Rule" and the lowest free number, counted up from the entry's
+/// place.
+QString unused(const RuleData& data, const QString& wanted);
 
 /// Button text of the entry at @p position: its name, else the scene's word for an entry
 /// followed by the 1-based position where several are allowed.

@@ -4,14 +4,12 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
-#include "Protocol/validity.h"
 #include "Protocol/valueconversion.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "host/json/value.h"
-
-#include <algorithm>
 
 using kql::Json::Value;
 
@@ -57,33 +55,18 @@ void readEnabled(const Value& enabled, RuleDataInfo& entry)
 
 } // namespace
 
-EntryReader::EntryReader(RuleData& data, const QString& section, const EntryReader* before)
-    : m_data(data), m_blank(before ? before->m_blank : data.defaults()), m_figures(data)
+EntryReader::EntryReader(RuleData& data, const QString& section) : m_data(data), m_figures(data)
 {
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
-            m_sources.push_back({item.get(), EntryKey(item->key())});
+            m_items.push_back(item.get());
     }
-    makeBlank(data);
-}
-
-void EntryReader::makeBlank(const RuleData& data)
-{
-    for (const Source& source : m_sources) {
-        if (source.item->isFigure())
-            continue;
-        m_blank.setValue(source.key, QVariant());
-        ++m_controlCount;
-    }
-    Validity::update(*data.getTemplate(), m_blank);
-    m_blank.shareValues();
 }
 
 void EntryReader::read(const Value& json, RuleDataInfo& entry, const DrawItem* parent) const
 {
-    entry.takeCommonValues(m_blank, std::min(m_controlCount, json.size()));
-    for (const Source& source : m_sources)
-        parseJsonToDataItem(source, json, entry, parent);
+    for (const RuleProtocolItem* item : m_items)
+        parseJsonToDataItem(*item, json, entry, parent);
 }
 
 void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawItem* parent) const
@@ -93,40 +76,39 @@ void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawIte
     readEnabled(json[ConfigMember::kEnable], entry);
 }
 
-void EntryReader::parseJsonToDataItem(const Source& source, const Value& json, RuleDataInfo& entry,
-                                      const DrawItem* parent) const
+void EntryReader::parseJsonToDataItem(const RuleProtocolItem& item, const Value& json,
+                                      RuleDataInfo& entry, const DrawItem* parent) const
 {
-    if (m_data.isCutShort())
+    if (m_data.isOverdrawn())
         return; // all is dropped in the end
-    const RuleProtocolItem& item = *source.item;
     const Value* found = item.path().readPath(json);
     if (!item.isFigure() && found)
-        readValue(source, *found, entry);
+        readValue(item, *found, entry);
     else if (!item.isFigure())
-        entry.setValue(source.key, QVariant());
+        entry.setValue(item.key(), QVariant());
     else if (found && found->isArray())
         addFigure(item, json, PointConversion::toPoints(*found), entry, parent);
 }
 
-void EntryReader::readValue(const Source& source, const Value& found, RuleDataInfo& entry) const
+void EntryReader::readValue(const RuleProtocolItem& item, const Value& found,
+                            RuleDataInfo& entry) const
 {
-    const RuleProtocolItem& item = *source.item;
-    entry.setValue(source.key, parseValue(item, found));
+    entry.setValue(item.key(), parseValue(item, found));
     if (ValueConversion::isReadWhole(found, item))
         return;
     const Value& json = ValueConversion::element(found, item);
-    if (m_data.takeRoom(json.styledLength()))
-        entry.keepAsRead(source.key, json);
+    if (m_data.takeText(json.styledLength()))
+        entry.keepAsRead(item.key(), json);
 }
 
 QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& found) const
 {
     // Styled text may be a hundred times as long as what it is made of.
     const qint64 styled = ValueConversion::styledLength(found, item);
-    if (!m_data.takeRoom(kValue + styled))
+    if (!m_data.takeText(kValue + styled))
         return {};
     QVariant value = ValueConversion::parseJsonToValue(found, item);
-    if (styled == 0 && !m_data.takeRoom(textIn(value)))
+    if (styled == 0 && !m_data.takeText(textIn(value)))
         return {};
     if (value.userType() == QMetaType::QString && !item.enumeration().isEmpty())
         return *m_choices.insert(value.toString()).first;
@@ -141,6 +123,6 @@ void EntryReader::addFigure(const RuleProtocolItem& item, const Value& json,
     if (!drawItem || drawItem->drawType() != BaseDrawType::Parallelogram)
         return;
     const QVector<QPoint> direction = directionPoints(json);
-    if (m_data.takeRoom(qint64{kValue} * direction.size()))
+    if (m_data.takeText(qint64{kValue} * direction.size()))
         drawItem->figure()->setDirectionPoints(direction);
 }

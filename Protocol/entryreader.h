@@ -1,15 +1,15 @@
 #pragma once
 
-#include "Protocol/entrykey.h"
 #include "Protocol/figurereader.h"
-#include "Protocol/ruledatainfo.h"
 
 #include <QString>
+#include <QVariant>
 #include <set>
 #include <vector>
 
 class DrawItem;
 class RuleData;
+class RuleDataInfo;
 class RuleProtocolItem;
 namespace kql
 {
@@ -28,8 +28,7 @@ class EntryReader
 {
 public:
     /// Reads the items of @p data's template that belong to @p section. Nothing is owned.
-    /// @p before reads other items of the same entries first.
-    EntryReader(RuleData& data, const QString& section, const EntryReader* before = nullptr);
+    EntryReader(RuleData& data, const QString& section);
 
     /// Reads @p json into @p entry; figures go inside @p parent when there is one.
     void read(const kql::Json::Value& json, RuleDataInfo& entry,
@@ -39,24 +38,17 @@ public:
                   const DrawItem* parent = nullptr) const;
 
 private:
-    struct Source {
-        const RuleProtocolItem* item;
-        EntryKey key;
-    };
-
-    void makeBlank(const RuleData& data);
-    void parseJsonToDataItem(const Source& source, const kql::Json::Value& json,
+    void parseJsonToDataItem(const RuleProtocolItem& item, const kql::Json::Value& json,
                              RuleDataInfo& entry, const DrawItem* parent) const;
-    void readValue(const Source& source, const kql::Json::Value& found, RuleDataInfo& entry) const;
+    void readValue(const RuleProtocolItem& item, const kql::Json::Value& found,
+                   RuleDataInfo& entry) const;
     QVariant parseValue(const RuleProtocolItem& item, const kql::Json::Value& found) const;
     void addFigure(const RuleProtocolItem& item, const kql::Json::Value& json,
                    const QVector<QPoint>& points, const RuleDataInfo& entry,
                    const DrawItem* parent) const;
 
     RuleData& m_data;
-    std::vector<Source> m_sources;
-    RuleDataInfo m_blank; ///< as an entry is of which none of the items is found
-    int m_controlCount = 0;
+    std::vector<const RuleProtocolItem*> m_items;
     FigureReader m_figures;
     mutable std::set<QString> m_choices; ///< texts of enumerations, which entries share
 };

@@ -1,7 +1,5 @@
 #include "Protocol/entrytarget.h"
 
-#include "Protocol/entrylist.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -33,7 +31,7 @@ EntryTarget::EntryTarget(Value& document, const QString& parent, WhenMissing whe
 
 const Value* EntryTarget::prototype() const
 {
-    return EntryList::object(EntryList::getJsonItemList(skeleton()), 0);
+    return m_path.firstEntryIn(m_document);
 }
 
 bool EntryTarget::put(std::vector<Value> entries)

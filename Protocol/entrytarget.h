@@ -19,7 +19,7 @@ public:
                 WhenMissing whenMissing = WhenMissing::List);
 
     /// What the skeleton has at the place; null when there is nothing.
-    const kql::Json::Value* skeleton() const { return m_path.probe(m_document); }
+    const kql::Json::Value* skeleton() const { return m_path.find(m_document); }
     /// The skeleton's first entry, which every entry starts as; null when it has none.
     const kql::Json::Value* prototype() const;
 

@@ -4,6 +4,7 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/validity.h"
 #include "Protocol/valueconversion.h"
@@ -71,11 +72,11 @@ struct EntryWriter::Pass {
 };
 
 EntryWriter::EntryWriter(const RuleData& data, const QString& section)
-    : m_template(*data.getTemplate()), m_figures(data)
+    : m_template(*data.getTemplate()), m_figures(data.figures())
 {
     for (const auto& item : m_template.items()) {
         if (item->templateName() == section && !item->path().text().isEmpty())
-            m_targets.push_back({item.get(), EntryKey(item->key()), -1, false});
+            m_targets.push_back({item.get(), -1, false});
     }
     markSharedFields();
     listElements();
@@ -126,7 +127,7 @@ Value EntryWriter::prototype(const Value* skeleton) const
     Value entry = *skeleton;
     ElementMaker elements;
     for (const Target& target : m_elements) {
-        Value* field = target.item->path().probe(entry);
+        Value* field = target.item->path().find(entry);
         if (field && field->isArray())
             elements.make(*field, target.item->index());
     }
@@ -186,7 +187,7 @@ bool EntryWriter::hasNoRoom(const RuleProtocolItem& item, const Value& entry) co
 
 bool EntryWriter::hasNoRoom(const Target& target, const Value& entry)
 {
-    const Value* field = target.isFurtherElement ? target.item->path().probe(entry) : nullptr;
+    const Value* field = target.isFurtherElement ? target.item->path().find(entry) : nullptr;
     return field && !field->isArray() && !field->isNull();
 }
 
@@ -194,24 +195,24 @@ EntryWriter::Weight EntryWriter::weigh(const Target& target, bool isHidden, cons
 {
     const RuleProtocolItem& item = *target.item;
     const bool isShared = target.sharedField >= 0;
-    const bool isKept = pass.entry.asRead(target.key) && !item.isFigure();
+    const bool isKept = pass.entry.asRead(target.item->key()) && !item.isFigure();
     if (isKept && !isShared)
         return {Sight::NoOthers, State::Kept};
     const bool isSeen = item.isFigure() || item.isControl();
     const auto sight = isHidden ? Sight::Hidden : isSeen ? Sight::Shown : Sight::WithoutRow;
     if (isKept)
         return {sight, State::Kept};
-    const Value* found = isShared && pass.asRead ? item.path().probe(*pass.asRead) : nullptr;
+    const Value* found = isShared && pass.asRead ? item.path().find(*pass.asRead) : nullptr;
     if (!found || item.isFigure())
         return {sight, State::Entered};
-    const QVariant& value = pass.entry.value(target.key);
+    const QVariant value = pass.entry.value(target.item->key());
     const QVariant read = ValueConversion::parseJsonToValue(*found, item);
     return {sight, areSame(value, read) ? State::Converted : State::Entered};
 }
 
 EntryWriter::Place EntryWriter::placeOf(const Target& target, const Value& json)
 {
-    const Value* field = target.sharedField < 0 ? nullptr : target.item->path().probe(json);
+    const Value* field = target.sharedField < 0 ? nullptr : target.item->path().find(json);
     const int index = target.item->index();
     const bool isElement = field && field->isArray() && index >= 0 && index < field->size();
     return {target.sharedField, isElement ? index : -1};
@@ -224,7 +225,7 @@ EntryWriter::Weights EntryWriter::heaviestOf(const std::vector<Step>& steps, con
     for (const Step& step : steps) {
         const Target& target = *step.target;
         const bool isValue = target.sharedField >= 0 && !target.item->isFigure();
-        if (isValue && (step.isKept() || pass.entry.value(target.key).isValid()))
+        if (isValue && (step.isKept() || pass.entry.value(target.item->key()).isValid()))
             heaviest[step.place] = step.weight;
     }
     return heaviest;
@@ -246,13 +247,13 @@ void EntryWriter::makeElements(const Pass& pass) const
 {
     const auto foundFor = [&pass](const Target& target) -> const Value& {
         static const Value nothing;
-        const Value* found = pass.asRead ? target.item->path().probe(*pass.asRead) : nullptr;
+        const Value* found = pass.asRead ? target.item->path().find(*pass.asRead) : nullptr;
         return found ? *found : nothing;
     };
     std::vector<Target> missing;
     std::copy_if(m_elements.begin(), m_elements.end(), std::back_inserter(missing),
                  [&](const Target& target) {
-                     const Value* field = target.item->path().probe(pass.json);
+                     const Value* field = target.item->path().find(pass.json);
                      return field && field->isNull();
                  });
     for (const Target& target : missing) {
@@ -262,7 +263,8 @@ void EntryWriter::makeElements(const Pass& pass) const
         if (field.isNull() && found.isArray())
             field = Value(kql::Json::ValueType::Array);
         if ((found.isArray() && item.index() < found.size()) ||
-            !areSame(pass.entry.value(target.key), ValueConversion::parseJsonToValue(found, item)))
+            !areSame(pass.entry.value(target.item->key()),
+                     ValueConversion::parseJsonToValue(found, item)))
             pass.elements.make(field, item.index());
     }
 }
@@ -282,7 +284,7 @@ void EntryWriter::writeItem(const Target& target, const Pass& pass) const
 {
     if (target.item->isFigure())
         writeFigure(*target.item, pass);
-    else if (const Value* kept = pass.entry.asRead(target.key))
+    else if (const Value* kept = pass.entry.asRead(target.item->key()))
         writeAsRead(target, *kept, pass);
     else
         writeValueToJson(target, pass);
@@ -306,13 +308,21 @@ void EntryWriter::writeValueToJson(const Target& source, const Pass& pass)
 void EntryWriter::putValue(const Target& source, const Pass& pass, Value& field)
 {
     const RuleProtocolItem& item = *source.item;
-    const QVariant& value = pass.entry.value(source.key);
+    const QVariant value = pass.entry.value(item.key());
     const bool needsSource = !value.isValid() || item.valueType() == ValueType::Float;
-    const Value* asRead = pass.asRead && needsSource ? item.path().probe(*pass.asRead) : nullptr;
+    const Value* asRead = pass.asRead && needsSource ? item.path().find(*pass.asRead) : nullptr;
     if (!value.isValid() && pass.entry.sourceIndex() >= 0 &&
         (!asRead || ValueConversion::element(*asRead, item).isNull()))
         return; // not even a list is emptied for what the configuration lacks
     ValueConversion::toJson(value, item, field, asRead);
+}
+
+void EntryWriter::writeMadePoints(const RuleProtocolItem& item, const RuleDataInfo& entry,
+                                  Value& json) const
+{
+    const DrawItem* figure = m_figures.first(entry.id(), item);
+    if (Value* place = figure ? item.path().create(json) : nullptr)
+        *place = PointConversion::toJson(figure->getPoints());
 }
 
 void EntryWriter::writeFigure(const RuleProtocolItem& item, const Pass& pass) const

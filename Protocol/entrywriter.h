@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Protocol/entryfigures.h"
-#include "Protocol/entrykey.h"
 #include "host/json/value.h"
 
 #include <QString>
@@ -11,6 +10,7 @@
 
 class DataTemplate;
 class RuleData;
+class RuleDataInfo;
 class RuleProtocolItem;
 
 /**
@@ -33,6 +33,10 @@ public:
     void write(const RuleDataInfo& entry, const kql::Json::Value* asRead,
                kql::Json::Value& json) const;
 
+    /// Writes the points of the entry's first figure of @p item, whose place is made.
+    void writeMadePoints(const RuleProtocolItem& item, const RuleDataInfo& entry,
+                         kql::Json::Value& json) const;
+
     /// Whether @p item's value is one of several for a place that has but one in @p entry.
     bool hasNoRoom(const RuleProtocolItem& item, const kql::Json::Value& entry) const;
 
@@ -41,7 +45,6 @@ public:
 private:
     struct Target {
         const RuleProtocolItem* item;
-        EntryKey key;
         int sharedField; ///< that other items write to, too, however it is spelled; -1 for none
         bool isFurtherElement; ///< of a field that others write an earlier element of
     };

@@ -1,6 +1,7 @@
 #include "Protocol/figurereader.h"
 
 #include "Protocol/figuremaker.h"
+#include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -13,8 +14,8 @@ namespace
 
 constexpr int kNoParent = -1;
 
-// In characters of text, of which a scene has room for so many: the memory, and mostly the time in
-// which figures are painted.
+// In characters of text, as a scene may take up so many: the memory, and mostly the time in which
+// figures are painted.
 constexpr int kFigureSize = 1024;
 constexpr int kPointSize = 512;
 
@@ -24,7 +25,7 @@ DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& en
                             const QVector<QPoint>& points, const QString& label,
                             const DrawItem* parent) const
 {
-    if (!m_data.takeRoom(kFigureSize + qint64{kPointSize} * points.size()))
+    if (!m_data.takeText(kFigureSize + qint64{kPointSize} * points.size()))
         return nullptr;
     auto drawItem =
         FigureMaker::make(m_data, item, entry.id(), FigureMaker::forbiddenType(m_data, item));
@@ -34,4 +35,12 @@ DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& en
     drawItem->figure()->setFinishedPoints(points);
     return m_data.getDrawScene()->addItem(std::move(drawItem),
                                           parent ? parent->itemId() : kNoParent);
+}
+
+DrawItem* FigureReader::read(const RuleProtocolItem& item, const RuleDataInfo& entry,
+                             const kql::Json::Value& json, const QString& label) const
+{
+    const kql::Json::Value* const found = item.path().readPath(json);
+    return found && found->isArray() ? add(item, entry, PointConversion::toPoints(*found), label)
+                                     : nullptr;
 }

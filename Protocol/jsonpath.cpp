@@ -12,7 +12,8 @@ namespace
 {
 
 constexpr int kLogLevel = 6;
-// Two such paths, one inside the other, make a document that can still be read back.
+// A scene's path and an attribute's inside of it, both of this length, make a document that is
+// not too deep to be read again.
 constexpr std::size_t kMostParts = 100;
 
 JsonPath::Part toPart(QString text)
@@ -67,7 +68,7 @@ bool JsonPath::isPlainName() const
     return m_parts.size() == 1 && !m_parts.front().isArray;
 }
 
-const Value* JsonPath::probe(const Value& root) const
+const Value* JsonPath::find(const Value& root) const
 {
     const Value* value = m_parts.empty() ? nullptr : &root;
     for (std::size_t i = 0; value && i + 1 < m_parts.size(); ++i)
@@ -75,14 +76,14 @@ const Value* JsonPath::probe(const Value& root) const
     return value ? value->find(m_parts.back().name) : nullptr;
 }
 
-Value* JsonPath::probe(Value& root) const
+Value* JsonPath::find(Value& root) const
 {
-    return const_cast<Value*>(probe(static_cast<const Value&>(root)));
+    return const_cast<Value*>(find(static_cast<const Value&>(root)));
 }
 
 const Value* JsonPath::readPath(const Value& root) const
 {
-    const Value* const value = probe(root);
+    const Value* const value = find(root);
     if (!value) {
         kql::DPrintLog::instance()->Log("IntelligentRulesUI", kLogLevel, "RuleParser::readPath",
                                         "Protocol\\ruleparser", __LINE__, "ReadPath failed.Path:%d",
@@ -110,4 +111,32 @@ Value* JsonPath::create(Value& root) const
     if (m_parts.back().isArray)
         makeIfNull(last, ValueType::Array);
     return &last;
+}
+
+JsonEntries JsonPath::entriesIn(const Value& root) const
+{
+    return getJsonItemList(find(root));
+}
+
+const Value* JsonPath::firstEntryIn(const Value& root) const
+{
+    return objectAt(entriesIn(root), 0);
+}
+
+JsonEntries getJsonItemList(const Value* place)
+{
+    JsonEntries entries;
+    if (place && place->isObject())
+        entries.push_back(place);
+    for (int i = 0; place && place->isArray() && i < place->size(); ++i)
+        entries.push_back(&(*place)[i]);
+    return entries;
+}
+
+const Value* objectAt(const JsonEntries& entries, int index)
+{
+    if (index < 0 || index >= static_cast<int>(entries.size()))
+        return nullptr;
+    const Value* entry = entries[static_cast<std::size_t>(index)];
+    return entry->isObject() ? entry : nullptr;
 }

@@ -12,6 +12,8 @@ class Value;
 }
 } // namespace kql
 
+using JsonEntries = std::vector<const kql::Json::Value*>;
+
 /**
  * Place of a value in a configuration: member names joined by ".", each optionally followed by
  * "[]". A part with "[]" that is not the last goes on in the array's first element; the last part
@@ -39,8 +41,8 @@ public:
     const kql::Json::Value* readPath(const kql::Json::Value& root) const;
     kql::Json::Value* readPath(kql::Json::Value& root) const;
     /// As readPath(), without logging.
-    const kql::Json::Value* probe(const kql::Json::Value& root) const;
-    kql::Json::Value* probe(kql::Json::Value& root) const;
+    const kql::Json::Value* find(const kql::Json::Value& root) const;
+    kql::Json::Value* find(kql::Json::Value& root) const;
 
     /// Makes every missing or null member of the path below @p root: arrays for "[]", holding
     /// one object where the path goes on. A member that the path would have to go on in, but
@@ -48,7 +50,19 @@ public:
     /// document may be deep.
     kql::Json::Value* create(kql::Json::Value& root) const;
 
+    /// What @p root lists at this path, without logging when there is nothing.
+    JsonEntries entriesIn(const kql::Json::Value& root) const;
+    /// The first of that, if it is an object; else null.
+    const kql::Json::Value* firstEntryIn(const kql::Json::Value& root) const;
+
 private:
     QString m_text;
     std::vector<Part> m_parts;
 };
+
+/// The entries that a configuration lists at a place: the elements of an array, or an object as the
+/// only entry; else none. @p place may be null.
+JsonEntries getJsonItemList(const kql::Json::Value* place);
+
+/// The object at @p index in @p entries; null outside and for other kinds.
+const kql::Json::Value* objectAt(const JsonEntries& entries, int index);

@@ -38,13 +38,6 @@ QString explainLoss(const Value& json)
 
 } // namespace
 
-bool Misfit::isUnder(const RuleDataInfo& entry, const QString& key)
-{
-    const Value* json = entry.asRead(key);
-    const bool isEmptyList = json && json->isArray() && json->empty();
-    return json && !isEmptyList && !entry.value(key).isValid();
-}
-
 void Misfit::tell(RuleData& data)
 {
     using Kind = SaveNotices::Kind;
@@ -56,7 +49,7 @@ void Misfit::tell(RuleData& data)
         if (entry->enabledAsRead())
             data.saveNotices().add(Kind::StateNotShown, QStringLiteral("\"Enable\""), *entry);
         for (const auto& item : data.getTemplate()->items()) {
-            if (isUnder(*entry, item->key()))
+            if (entry->isMisfit(item->key()))
                 data.saveNotices().add(Kind::NotShown, SaveNotices::subject(*item), *entry,
                                        item->key());
         }
@@ -65,7 +58,7 @@ void Misfit::tell(RuleData& data)
 
 QString Misfit::explained(const RuleData& data, const RuleDataInfo& entry, const QString& key)
 {
-    if (!isUnder(entry, key))
+    if (!entry.isMisfit(key))
         return {};
     const Value& json = *entry.asRead(key);
     return data.saveNotices().isUnsaved(entry, key) ? explainLoss(json) : explain(json);

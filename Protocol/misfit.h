@@ -10,10 +10,6 @@ class RuleDataInfo;
 namespace Misfit
 {
 
-/// Whether @p entry has such a thing under @p key. What merely is spelled in another way, such as
-/// 1 for a switch that is on, is shown, and no misfit.
-bool isUnder(const RuleDataInfo& entry, const QString& key);
-
 /// Tells @p data all those of its entries.
 void tell(RuleData& data);
 

@@ -2,12 +2,12 @@
 
 #include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/entrylist.h"
 #include "Protocol/entrywriter.h"
-#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/savenotices.h"
+#include "Protocol/sceneprotocol.h"
+#include "Protocol/sceneprotocols.h"
 #include "Protocol/valueconversion.h"
 
 #include <QCoreApplication>
@@ -54,7 +54,7 @@ QString whyControlIsUnsaved(const RuleProtocolItem& item, const Value& prototype
 {
     if (item.valueType() == ValueType::None || item.valueType() == ValueType::Point)
         return noType(item);
-    const Value* const field = item.path().probe(prototype);
+    const Value* const field = item.path().find(prototype);
     if (!field)
         return item.path().isPlainName() ? QString() : noPlace(item, item.path());
     const bool endsBefore = field->isArray() && item.index() >= 0 && item.index() >= field->size();
@@ -66,10 +66,10 @@ QString whyControlIsUnsaved(const RuleProtocolItem& item, const Value& prototype
 
 QString whyFigureIsUnsaved(const RuleProtocolItem& item, const Value& prototype)
 {
-    if (!item.path().probe(prototype))
+    if (!item.path().find(prototype))
         return noPlace(item, item.path());
     const bool lacksDirection = item.drawType() == BaseDrawType::Parallelogram &&
-                                !ConfigMember::directionPath().probe(prototype);
+                                !ConfigMember::directionPath().find(prototype);
     return lacksDirection ? noPlace(item, ConfigMember::directionPath()) : QString();
 }
 
@@ -94,16 +94,13 @@ QString whyUnsaved(const RuleProtocolItem& item, bool isBuiltIn, const Value& pr
                            : whyControlIsUnsaved(item, prototype);
 }
 
-void tellSection(RuleData& data, const QString& section, const QString& parent,
-                 const Value& skeleton)
+void tellSection(RuleData& data, const TemplateSection& section, const Value& skeleton)
 {
-    const Value* const first = EntryList::object(EntryList::at(skeleton, JsonPath(parent)), 0);
-    const EntryWriter writer(data, section);
-    const Value prototype = writer.prototype(first);
-    const bool isBuiltIn = data.getSceneType() == SceneType::CalibrateArea ||
-                           data.getSceneType() == SceneType::FightCalibrate;
+    const EntryWriter writer(data, section.name);
+    const Value prototype = writer.prototype(JsonPath(section.parent).firstEntryIn(skeleton));
+    const bool isBuiltIn = sceneProtocol(data.getSceneType()).isCalibration();
     for (const auto& item : data.getTemplate()->items()) {
-        if (item->templateName() != section)
+        if (item->templateName() != section.name)
             continue;
         QString why = whyUnsaved(*item, isBuiltIn, prototype);
         if (why.isEmpty() && item->isControl() && writer.hasNoRoom(*item, prototype))
@@ -117,17 +114,11 @@ void tellSection(RuleData& data, const QString& section, const QString& parent,
 
 void PlaceCheck::tell(RuleData& data, const Value& skeleton)
 {
-    const DataTemplate& dataTemplate = *data.getTemplate();
-    tellSection(data, dataTemplate.name(), dataTemplate.parent(), skeleton);
-    const auto* const lanes = dynamic_cast<const LanesTemplate*>(&dataTemplate);
-    if (lanes && lanes->hasRuleItems())
-        tellSection(data, ConfigMember::kRuleSection, lanes->rulesParent(), skeleton);
-}
-
-bool PlaceCheck::takesOneEntry(const RuleData& data, const Value& skeleton)
-{
-    const Value* const place = JsonPath(data.getTemplate()->parent()).probe(skeleton);
+    for (const TemplateSection& section : data.getTemplate()->sections())
+        tellSection(data, section, skeleton);
+    const Value* const place = JsonPath(data.getTemplate()->parent()).find(skeleton);
     const bool isMadeAsOne =
-        data.getSceneType() == SceneType::Global && !(place && place->isArray());
-    return (place && place->isObject()) || isMadeAsOne;
+        sceneProtocol(data.getSceneType()).whenMissing() == EntryTarget::WhenMissing::Object &&
+        !(place && place->isArray());
+    data.saveNotices().setTakesOneEntry((place && place->isObject()) || isMadeAsOne);
 }

@@ -14,11 +14,8 @@ class Value;
 namespace PlaceCheck
 {
 
-/// Tells them to @p data. @p skeleton is the document that its entries are written into.
+/// Tells them to @p data, and whether there is a place for one entry alone. @p skeleton is the
+/// document that its entries are written into.
 void tell(RuleData& data, const kql::Json::Value& skeleton);
-
-/// Whether the skeleton has an object in the place of the entries of @p data, so that only the
-/// first one is written.
-bool takesOneEntry(const RuleData& data, const kql::Json::Value& skeleton);
 
 } // namespace PlaceCheck

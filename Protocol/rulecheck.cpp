@@ -4,13 +4,13 @@
 #include "Protocol/controlrow.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/entryfigures.h"
-#include "Protocol/entrykey.h"
-#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/validity.h"
 #include "Protocol/valuecompare.h"
 #include "draw/drawitem.h"
 
+#include <QCoreApplication>
 #include <QSize>
 #include <vector>
 
@@ -22,16 +22,19 @@ using Failure = std::optional<QString>;
 constexpr int kEmpty = -1;
 constexpr CountRange kAnyNumber{0, 0};
 
-Failure checkEntryCount(const RuleData& data)
+/// The texts that a check gives are the scene's.
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RuleData)
+};
+
+Failure checkEntryCount(CountRange range, std::size_t count, const QString& entryTitle)
 {
-    const CountRange range = data.getTemplate()->countRange();
-    if (range.contains(data.getDataCount()))
+    if (range.contains(static_cast<int>(count)))
         return {};
     const QString minimum = QString::number(range.min);
     if (range.min == range.max)
-        return RuleData::tr("Please add %1 %2.").arg(minimum, data.getRuleFucTitle());
-    return RuleData::tr("Please add %1-%2 %3.")
-        .arg(minimum, QString::number(range.max), data.getRuleFucTitle());
+        return Text::tr("Please add %1 %2.").arg(minimum, entryTitle);
+    return Text::tr("Please add %1-%2 %3.").arg(minimum, QString::number(range.max), entryTitle);
 }
 
 /// A range that the operator sees must have both ends.
@@ -45,12 +48,12 @@ Failure checkRange(const RuleProtocolItem& item)
         return {};
     const QSize range = value.toSize();
     if (range.width() == kEmpty) {
-        return RuleData::tr("%1:%2").arg(item.caption(),
-                                         RuleData::tr("The minimum value cannot be empty."));
+        return Text::tr("%1:%2").arg(item.caption(),
+                                     Text::tr("The minimum value cannot be empty."));
     }
     if (range.height() == kEmpty) {
-        return RuleData::tr("%1:%2").arg(item.caption(),
-                                         RuleData::tr("The maximum value cannot be empty."));
+        return Text::tr("%1:%2").arg(item.caption(),
+                                     Text::tr("The maximum value cannot be empty."));
     }
     return {};
 }
@@ -60,8 +63,8 @@ QString wrongFigureCount(const RuleProtocolItem& item)
     const CountRange range = item.countRange();
     const QString minimum = QString::number(range.min);
     if (range.min == range.max)
-        return RuleData::tr("Please draw %1 %2.").arg(minimum, item.caption());
-    return RuleData::tr("Please draw %1-%2 %3.")
+        return Text::tr("Please draw %1 %2.").arg(minimum, item.caption());
+    return Text::tr("Please draw %1-%2 %3.")
         .arg(minimum, QString::number(range.max), item.caption());
 }
 
@@ -69,15 +72,15 @@ QString reasonText(CheckRuleOperatorType operatorType)
 {
     switch (operatorType) {
     case CheckRuleOperatorType::Greater:
-        return RuleData::tr("greater than");
+        return Text::tr("greater than");
     case CheckRuleOperatorType::Less:
-        return RuleData::tr("less than");
+        return Text::tr("less than");
     case CheckRuleOperatorType::Equal:
-        return RuleData::tr("equal");
+        return Text::tr("equal");
     case CheckRuleOperatorType::GreaterOrEqual:
-        return RuleData::tr("greater than or equal");
+        return Text::tr("greater than or equal");
     default:
-        return RuleData::tr("less than or equal");
+        return Text::tr("less than or equal");
     }
 }
 
@@ -91,7 +94,7 @@ QVariant comparable(const QVariant& value, const RuleProtocolItem& item)
 class EntryCheck
 {
 public:
-    explicit EntryCheck(const RuleData& data);
+    EntryCheck(const DataTemplate& dataTemplate, const DrawScene& scene);
 
     Failure firstFailure(const RuleDataInfo& entry) const;
 
@@ -100,8 +103,6 @@ private:
         const RuleProtocolItem* first;
         const RuleProtocolItem* second;
         CheckRuleOperatorType operatorType;
-        EntryKey firstKey;
-        EntryKey secondKey;
     };
 
     Failure checkFigures(const RuleDataInfo& entry, const RuleProtocolItem& item) const;
@@ -114,7 +115,8 @@ private:
     std::vector<Comparison> m_comparisons;
 };
 
-EntryCheck::EntryCheck(const RuleData& data) : m_template(*data.getTemplate()), m_figures(data)
+EntryCheck::EntryCheck(const DataTemplate& dataTemplate, const DrawScene& scene)
+    : m_template(dataTemplate), m_figures(dataTemplate, scene)
 {
     for (const auto& item : m_template.items()) {
         if (item->isFigure() || item->valueType() == ValueType::ArrayInt)
@@ -124,8 +126,7 @@ EntryCheck::EntryCheck(const RuleData& data) : m_template(*data.getTemplate()), 
         const RuleProtocolItem* const first = m_template.findItem(rule.firstKey);
         const RuleProtocolItem* const second = m_template.findItem(rule.secondKey);
         if (first && second)
-            m_comparisons.push_back({first, second, rule.operatorType, EntryKey(rule.firstKey),
-                                     EntryKey(rule.secondKey)});
+            m_comparisons.push_back({first, second, rule.operatorType});
     }
 }
 
@@ -144,7 +145,7 @@ Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolIt
     int count = 0;
     const DrawItem* unfinished = nullptr;
     for (const auto& [id, figure] : m_figures.of(entry.id())) {
-        if (!m_figures.isFor(*figure, item))
+        if (!m_template.isFigureFor(*figure, item))
             continue;
         ++count;
         if (!unfinished && !figure->isFinished())
@@ -153,7 +154,7 @@ Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolIt
     if (!item.countRange().contains(count))
         return item.countRange() == kAnyNumber ? Failure() : wrongFigureCount(item);
     if (unfinished)
-        return RuleData::tr("Please finish drawing %1.").arg(unfinished->label());
+        return Text::tr("Please finish drawing %1.").arg(unfinished->label());
     return {};
 }
 
@@ -171,27 +172,30 @@ Failure EntryCheck::checkValues(const RuleDataInfo& entry) const
 
 Failure EntryCheck::compare(const RuleDataInfo& entry, const Comparison& comparison)
 {
-    if (!entry.isValid(comparison.firstKey) || !entry.isValid(comparison.secondKey))
+    const QString& firstKey = comparison.first->key();
+    const QString& secondKey = comparison.second->key();
+    if (!entry.isValid(firstKey) || !entry.isValid(secondKey))
         return {};
-    const QVariant& first = entry.value(comparison.firstKey);
-    const QVariant& second = entry.value(comparison.secondKey);
+    const QVariant first = entry.value(firstKey);
+    const QVariant second = entry.value(secondKey);
     if (!first.isValid() || !second.isValid() ||
         ValueCompare::holds(comparable(first, *comparison.first), comparison.operatorType,
                             comparable(second, *comparison.second)))
         return {};
-    return RuleData::tr("%1 must be %2 to %3")
+    return Text::tr("%1 must be %2 to %3")
         .arg(comparison.first->caption(), reasonText(comparison.operatorType),
              comparison.second->caption());
 }
 
 } // namespace
 
-Failure RuleCheck::firstFailure(const RuleData& data)
+Failure RuleCheck::firstFailure(const DataTemplate& dataTemplate, const DrawScene& scene,
+                                const Entries& entries, const QString& entryTitle)
 {
-    if (const Failure failure = checkEntryCount(data))
+    if (Failure failure = checkEntryCount(dataTemplate.countRange(), entries.size(), entryTitle))
         return failure;
-    const EntryCheck check(data);
-    for (const auto& entry : data.getAllData()) {
+    const EntryCheck check(dataTemplate, scene);
+    for (const auto& entry : entries) {
         if (Failure failure = check.firstFailure(*entry))
             return failure;
     }

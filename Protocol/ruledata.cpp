@@ -1,10 +1,9 @@
 #include "Protocol/ruledata.h"
 
 #include "Protocol/datatemplate.h"
-#include "Protocol/entryname.h"
+#include "Protocol/entryid.h"
 #include "Protocol/rulecheck.h"
 #include "Protocol/ruledatainfo.h"
-#include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/validity.h"
 #include "draw/drawitem.h"
@@ -33,24 +32,13 @@ void RuleData::copyFrom(const RuleData& other)
     m_sceneType = other.m_sceneType;
     m_ruleFucTitle = other.m_ruleFucTitle;
     m_saveNotices = other.m_saveNotices;
-    m_takesOneEntry = other.m_takesOneEntry;
+    m_namesKeptAside = other.m_namesKeptAside;
     setTemplate(other.m_template ? other.m_template->clone() : nullptr);
     m_entries.clear();
     for (const auto& entry : other.m_entries)
         m_entries.push_back(std::make_unique<RuleDataInfo>(*entry));
-    m_places.clear();
     m_drawScene->copyItemsFrom(*other.m_drawScene);
     setSelectedDataId(other.m_selectedDataId);
-}
-
-QStringList RuleData::notices() const
-{
-    QStringList notices = m_saveNotices.sentences(*this);
-    if (m_takesOneEntry && getDataCount() > 1)
-        notices.append(tr("Only %1 is saved: the template has room for one.")
-                           .arg(EntryName::button(*this, 0)));
-    collectNotices(notices);
-    return notices;
 }
 
 void RuleData::collectNotices(QStringList&) const {}
@@ -59,7 +47,8 @@ bool RuleData::checkData(QString& message) const
 {
     if (!m_template || !m_drawScene)
         return false;
-    const std::optional<QString> failure = RuleCheck::firstFailure(*this);
+    const std::optional<QString> failure =
+        RuleCheck::firstFailure(*m_template, *m_drawScene, m_entries, m_ruleFucTitle);
     if (failure)
         message = *failure;
     return !failure;
@@ -81,7 +70,6 @@ const RuleDataInfo& RuleData::defaults() const
             m_defaults->setValue(item->key(), item->defaultValue());
     }
     Validity::update(*m_template, *m_defaults);
-    m_defaults->shareValues();
     return *m_defaults;
 }
 
@@ -90,7 +78,7 @@ std::unique_ptr<RuleDataInfo> RuleData::newDataInfo() const
     if (!m_template)
         return nullptr;
     auto entry = std::make_unique<RuleDataInfo>(defaults());
-    entry->setId(RuleParser::createId());
+    entry->setId(EntryId::next());
     return entry;
 }
 
@@ -98,29 +86,15 @@ RuleDataInfo* RuleData::addDataInfo(std::unique_ptr<RuleDataInfo> entry)
 {
     if (!entry)
         return nullptr;
-    if (!m_places.empty() && m_places.back().id < entry->id())
-        m_places.push_back({entry->id(), getDataCount()});
-    else
-        m_places.clear();
-    if (!m_entries.empty())
-        entry->shareFlags(*m_entries.back());
     m_entries.push_back(std::move(entry));
     return m_entries.back().get();
 }
 
-void RuleData::reserve(std::size_t count)
-{
-    m_entries.reserve(m_entries.size() + count);
-}
-
 int RuleData::indexOf(int id) const
 {
-    if (m_places.empty())
-        findPlaces();
-    const auto place =
-        std::lower_bound(m_places.begin(), m_places.end(), id,
-                         [](const Place& one, int wanted) { return one.id < wanted; });
-    return place != m_places.end() && place->id == id ? place->position : -1;
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [id](const auto& entry) { return entry->id() == id; });
+    return found == m_entries.end() ? -1 : static_cast<int>(found - m_entries.begin());
 }
 
 RuleDataInfo* RuleData::getDataInfo(int id) const
@@ -132,21 +106,10 @@ RuleDataInfo* RuleData::getDataInfo(int id) const
 void RuleData::removeDataInfo(int id)
 {
     const int position = indexOf(id);
-    if (position >= 0) {
+    if (position >= 0)
         m_entries.erase(m_entries.begin() + position);
-        m_places.clear();
-    } else if (m_selectedDataId == id) {
+    else if (m_selectedDataId == id)
         m_selectedDataId = 0;
-    }
-}
-
-void RuleData::findPlaces() const
-{
-    m_places.reserve(m_entries.size());
-    for (const auto& entry : m_entries)
-        m_places.push_back({entry->id(), static_cast<int>(m_places.size())});
-    std::stable_sort(m_places.begin(), m_places.end(),
-                     [](const Place& one, const Place& other) { return one.id < other.id; });
 }
 
 void RuleData::setSelectedDataId(int id)
@@ -156,15 +119,10 @@ void RuleData::setSelectedDataId(int id)
         m_drawScene->setCurrentDataId(id);
 }
 
-QList<DrawItem*> RuleData::figuresOf(int dataId, const RuleProtocolItem& item) const
+EntryFigures::Figures RuleData::figuresOf(int dataId, const RuleProtocolItem& item) const
 {
     // For the canvas an id below 1 stands for all entries.
     if (!m_template || dataId < 1 || !item.isFigure())
         return {};
-    QList<DrawItem*> figures;
-    for (const auto& [id, figure] : m_drawScene->itemsOf(dataId)) {
-        if (m_template->isFigureFor(*figure, item))
-            figures.append(figure);
-    }
-    return figures;
+    return figures().of(dataId, item);
 }

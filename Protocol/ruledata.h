@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Protocol/entryfigures.h"
 #include "Protocol/ruletypes.h"
 #include "Protocol/savenotices.h"
 
@@ -39,11 +40,7 @@ public:
     /// What was found when the scene was read that a save leaves out.
     SaveNotices& saveNotices() { return m_saveNotices; }
     const SaveNotices& saveNotices() const { return m_saveNotices; }
-    /// Whether a save writes the first entry alone.
-    void setTakesOneEntry(bool takesOne) { m_takesOneEntry = takesOne; }
-    /// What a save would leave out of the document as it is now, a sentence each.
-    QStringList notices() const;
-    /// Adds what only a scene of this kind has to say of that.
+    /// Adds what only a scene of this kind has to say of that, a sentence each.
     virtual void collectNotices(QStringList& notices) const;
 
     SceneType getSceneType() const { return m_sceneType; }
@@ -61,8 +58,6 @@ public:
     /// An entry of the template's default values alone, which newDataInfo() starts from.
     const RuleDataInfo& defaults() const;
     RuleDataInfo* addDataInfo(std::unique_ptr<RuleDataInfo> entry);
-    /// Makes room for @p count entries more.
-    void reserve(std::size_t count);
     /// The entry with that id; null when there is none.
     RuleDataInfo* getDataInfo(int id) const;
     int getDataCount() const { return static_cast<int>(m_entries.size()); }
@@ -73,17 +68,21 @@ public:
     /// Position of the entry in the list; -1 when there is none.
     int indexOf(int id) const;
 
-    /// What may be read into it still, in characters of text.
-    void setRoom(qint64 room) { m_room = room; }
-    /// False when there is less room than @p size, and from then on.
-    bool takeRoom(qint64 size)
+    /// How much text may be read into it still, in characters.
+    void setTextLeft(qint64 length) { m_textLeft = length; }
+    /// Takes @p length off that; false when it is more than there is, and from then on.
+    bool takeText(qint64 length)
     {
-        if (m_room >= 0)
-            m_room -= size;
-        return m_room >= 0;
+        if (m_textLeft >= 0)
+            m_textLeft -= length;
+        return m_textLeft >= 0;
     }
-    /// Whether the configuration asked for more than there was room for.
-    bool isCutShort() const { return m_room < 0; }
+    /// Whether the configuration asked for more than there was.
+    bool isOverdrawn() const { return m_textLeft < 0; }
+
+    /// Names of rules that belong to none of the entries, and that a save keeps.
+    const QStringList& namesKeptAside() const { return m_namesKeptAside; }
+    void setNamesKeptAside(const QStringList& names) { m_namesKeptAside = names; }
 
     void setSelectedDataId(int id);
     int getSelectedDataId() const { return m_selectedDataId; }
@@ -91,27 +90,21 @@ public:
 
     /// The figures that an entry has for a template item: by kind, and where the template has
     /// several items of that kind, those read or drawn for this one.
-    QList<DrawItem*> figuresOf(int dataId, const RuleProtocolItem& item) const;
+    EntryFigures::Figures figuresOf(int dataId, const RuleProtocolItem& item) const;
+    /// The scene's figures, for a template and as long as neither changes.
+    EntryFigures figures() const { return {*m_template, *m_drawScene}; }
 
 private:
-    /// Where the entry with an id is in the list.
-    struct Place {
-        int id;
-        int position;
-    };
-
     void copyFrom(const RuleData& other);
-    void findPlaces() const;
 
     SceneType m_sceneType = SceneType::None;
     std::unique_ptr<DataTemplate> m_template;
     std::unique_ptr<DrawScene> m_drawScene;
     Entries m_entries;
-    mutable std::vector<Place> m_places; ///< of all entries by id; empty until one is looked for
     mutable std::unique_ptr<RuleDataInfo> m_defaults; ///< made when needed
     int m_selectedDataId = 0;
-    qint64 m_room = std::numeric_limits<qint64>::max();
+    qint64 m_textLeft = std::numeric_limits<qint64>::max();
     QString m_ruleFucTitle;
     SaveNotices m_saveNotices;
-    bool m_takesOneEntry = false;
+    QStringList m_namesKeptAside;
 };

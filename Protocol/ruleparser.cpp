@@ -1,19 +1,21 @@
 #include "Protocol/ruleparser.h"
 
-#include "Protocol/configreader.h"
-#include "Protocol/configwriter.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/documentloss.h"
+#include "Protocol/entryid.h"
+#include "Protocol/entrylimit.h"
 #include "Protocol/misfit.h"
-#include "Protocol/missingplace.h"
+#include "Protocol/noticetext.h"
 #include "Protocol/placecheck.h"
 #include "Protocol/ruledata.h"
+#include "Protocol/sceneprotocol.h"
+#include "Protocol/sceneprotocols.h"
+#include "Protocol/spelling.h"
 #include "Protocol/templatereader.h"
 #include "host/api/dprintlog.h"
 #include "host/json/reader.h"
 
 #include <algorithm>
-#include <limits>
 
 using kql::Json::Reader;
 using kql::Json::Value;
@@ -22,91 +24,40 @@ namespace
 {
 
 constexpr int kLogLevel = 6;
-
-template<typename Type>
-struct Spelling {
-    const char* text;
-    Type type;
+// A scene that is written later wins where two share a place.
+constexpr SceneType kWritingOrder[] = {
+    SceneType::Global, SceneType::CalibrateArea, SceneType::FightCalibrate,
+    SceneType::Rules,  SceneType::Lanes,         SceneType::Detection,
 };
-
-constexpr Spelling<FacadeType> kFacades[] = {
-    {"region", FacadeType::Region},
-    {"line", FacadeType::Line},
-    {"directLine", FacadeType::DirectLine},
-    {"rect", FacadeType::Rect},
-    {"parallelogram", FacadeType::Parallelogram},
-    {"inputBoxNumber", FacadeType::InputBoxNumber},
-    {"checkbox", FacadeType::CheckBox},
-    {"radioButton", FacadeType::RadioButton},
-    {"bool", FacadeType::Bool},
-    {"numericalInterval", FacadeType::NumericalInterval},
-};
-
-constexpr Spelling<ValueType> kValueTypes[] = {
-    {"bool", ValueType::Bool},          {"int", ValueType::Int},
-    {"float", ValueType::Float},        {"string", ValueType::String},
-    {"array int", ValueType::ArrayInt}, {"point", ValueType::Point},
-    {"object", ValueType::Object},
-};
-
-constexpr Spelling<BaseDrawDirectionType> kDirections[] = {
-    {"RightToLeft", BaseDrawDirectionType::RightToLeft},
-    {"LeftToRight", BaseDrawDirectionType::LeftToRight},
-    {"Both", BaseDrawDirectionType::Both},
-};
-
-constexpr Spelling<CheckRuleOperatorType> kOperators[] = {
-    {">", CheckRuleOperatorType::Greater},      {"<", CheckRuleOperatorType::Less},
-    {"==", CheckRuleOperatorType::Equal},       {">=", CheckRuleOperatorType::GreaterOrEqual},
-    {"<=", CheckRuleOperatorType::LessOrEqual},
-};
-
-template<typename Type, std::size_t Size>
-Type lookUp(const Spelling<Type> (&spellings)[Size], const QString& text)
-{
-    for (const Spelling<Type>& spelling : spellings) {
-        if (text == QLatin1String(spelling.text))
-            return spelling.type;
-    }
-    return Type::None;
-}
 
 } // namespace
-
-int RuleParser::g_nId = 0;
 
 RuleParser::RuleParser() = default;
 RuleParser::~RuleParser() = default;
 
 int RuleParser::createId()
 {
-    return g_nId = idAfter(g_nId);
-}
-
-int RuleParser::idAfter(int last)
-{
-    // From 1 again after the last: entries that old are long gone.
-    return last == std::numeric_limits<int>::max() ? 1 : last + 1;
+    return EntryId::next();
 }
 
 FacadeType RuleParser::parseToFacadeType(const QString& text)
 {
-    return lookUp(kFacades, text);
+    return Spelling::toFacadeType(text);
 }
 
 ValueType RuleParser::parseToValueType(const QString& text)
 {
-    return lookUp(kValueTypes, text);
+    return Spelling::toValueType(text);
 }
 
 BaseDrawDirectionType RuleParser::parseToDirectionType(const QString& text)
 {
-    return lookUp(kDirections, text);
+    return Spelling::toDirectionType(text);
 }
 
 CheckRuleOperatorType RuleParser::parseToOperatorType(const QString& text)
 {
-    return lookUp(kOperators, text);
+    return Spelling::toOperatorType(text);
 }
 
 void RuleParser::setAlgorithmInfo(int id, const QString& name)
@@ -162,17 +113,18 @@ bool RuleParser::readData(const QString& text, QString& why)
         return false;
     }
     const auto isRoomFor = [&](const auto& countOf) {
-        qint64 room = m_limits.text;
+        qint64 textLeft = EntryLimit::kMostText;
         return std::all_of(m_data.begin(), m_data.end(), [&](const auto& scene) {
-            return hasRoomFor(*scene, countOf(*scene), room, why);
+            return hasRoomFor(*scene, countOf(*scene), textLeft, why);
         });
     };
     if (!isRoomFor(
             [&](const RuleData& scene) { return EntryLimit::countEntries(scene, document); }))
         return false;
-    for (const auto& scene : m_data)
-        scene->setRoom(m_limits.text);
-    ConfigReader(m_data).read(document);
+    for (const auto& scene : m_data) {
+        scene->setTextLeft(EntryLimit::kMostText);
+        sceneProtocol(scene->getSceneType()).read(*scene, document);
+    }
     if (!isRoomFor(&EntryLimit::countInnerFigures) || !isReadWhole(why)) {
         m_data = TemplateReader(m_templateDocument).read();
         return false;
@@ -192,7 +144,6 @@ void RuleParser::findNotices()
     for (const auto& scene : m_data) {
         PlaceCheck::tell(*scene, *skeleton);
         Misfit::tell(*scene);
-        scene->setTakesOneEntry(PlaceCheck::takesOneEntry(*scene, *skeleton));
     }
     if (!m_configuration.empty() && writeData(written))
         m_notices = DocumentLoss(m_data, m_configuration, written).tell();
@@ -205,15 +156,15 @@ QStringList RuleParser::notices() const
 {
     QStringList notices;
     for (const auto& scene : m_data)
-        notices += scene->notices();
+        notices += NoticeText::of(*scene);
     return notices + m_notices;
 }
 
-bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& room, QString& why) const
+bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const
 {
     const qint64 text = EntryLimit::textPerEntry(scene, m_templateDocument["configTemplate"]);
-    const qint64 most = std::min<qint64>(m_limits.entries, room / text);
-    room -= count * text;
+    const qint64 most = std::min<qint64>(EntryLimit::kMostEntries, textLeft / text);
+    textLeft -= count * text;
     if (count <= most)
         return true;
     const DataTemplate& dataTemplate = *scene.getTemplate();
@@ -225,7 +176,7 @@ bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& room, QStr
 bool RuleParser::isReadWhole(QString& why) const
 {
     const auto cut = std::find_if(m_data.begin(), m_data.end(),
-                                  [](const auto& scene) { return scene->isCutShort(); });
+                                  [](const auto& scene) { return scene->isOverdrawn(); });
     if (cut == m_data.end())
         return true;
     why = tr("The attributes read too much of what the configuration has under \"%1\".")
@@ -248,14 +199,27 @@ bool RuleParser::writeData(Value& config, QString& why) const
         return false;
     }
     Value written = *skeleton;
-    ConfigWriter writer(m_data, m_configuration);
-    writer.setAlgorithmInfo(m_algorithmId, m_algorithmName);
-    if (const auto missing = writer.write(written)) {
-        why = tr("The template has no place \"%1\" for what is set under \"%2\".")
-                  .arg(missing->parent, missing->section);
-        return false;
+    const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
+    for (const SceneType type : kWritingOrder) {
+        for (const auto& scene : m_data) {
+            if (scene->getSceneType() == type && !writeScene(*scene, context, written, why))
+                return false;
+        }
     }
     config = std::move(written);
+    return true;
+}
+
+bool RuleParser::writeScene(const RuleData& scene, const WriteContext& context, Value& document,
+                            QString& why)
+{
+    for (const TemplateSection& section : scene.getTemplate()->sections()) {
+        if (sceneProtocol(scene.getSceneType()).write(scene, section, context, document))
+            continue;
+        why = tr("The template has no place \"%1\" for what is set under \"%2\".")
+                  .arg(section.parent, section.name);
+        return false;
+    }
     return true;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Protocol/entrylimit.h"
 #include "Protocol/ruletypes.h"
 #include "host/json/value.h"
 
@@ -10,6 +9,7 @@
 #include <vector>
 
 class RuleData;
+struct WriteContext;
 
 /**
  * Turns the template text into one RuleData per scene, reads the device's configuration into
@@ -27,8 +27,6 @@ public:
 
     /// Next id for an entry, unique in the process, from 1.
     static int createId();
-    /// The id that comes behind @p last.
-    static int idAfter(int last);
 
     // Exact, case-sensitive spellings; anything else gives None.
     static FacadeType parseToFacadeType(const QString& text);
@@ -38,9 +36,6 @@ public:
 
     /// Algorithm that the rules are for; written into each rule when @p id is 1.
     void setAlgorithmInfo(int id, const QString& name);
-
-    /// What a configuration to be read may have; without it what a client's window can bear.
-    void setLimits(const EntryLimit::Limits& limits) { m_limits = limits; }
 
     /// Builds the scenes; false when the text is not JSON or has no "configDescription", or when it
     /// describes too much. @p why then says so in a sentence.
@@ -68,18 +63,17 @@ public:
     RuleData* getData(SceneType type) const;
 
 private:
-    static int g_nId; ///< last id given out
-
-    /// Takes the text of @p count entries off @p room.
-    bool hasRoomFor(const RuleData& scene, int count, qint64& room, QString& why) const;
+    /// Takes the text of @p count entries off @p textLeft.
+    bool hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const;
     bool isReadWhole(QString& why) const;
+    static bool writeScene(const RuleData& scene, const WriteContext& context,
+                           kql::Json::Value& document, QString& why);
     void findNotices();
 
     kql::Json::Value m_templateDocument;
     kql::Json::Value m_configuration; ///< as read: what no template names is kept from here
     int m_algorithmId = 0;
     QString m_algorithmName;
-    EntryLimit::Limits m_limits;
     std::vector<std::unique_ptr<RuleData>> m_data;
     QStringList m_notices; ///< about what lies outside of all scenes
 };

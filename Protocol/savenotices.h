@@ -9,14 +9,10 @@
 #include <QVariant>
 #include <vector>
 
-class RuleData;
 class RuleDataInfo;
 class RuleProtocolItem;
 
-/**
- * What a save leaves out of what one scene was read from, in sentences for the operator. What is
- * said of an entry stands as long as the entry has the value that it was read with.
- */
+/// What a save leaves out of what one scene was read from. NoticeText says it to the operator.
 class SaveNotices
 {
     Q_DECLARE_TR_FUNCTIONS(SaveNotices)
@@ -43,9 +39,7 @@ public:
 
     /// The caption of @p item, or its key where it has none.
     static QString subject(const RuleProtocolItem& item);
-    QStringList sentences(const RuleData& data) const;
 
-private:
     struct Found {
         int dataId;
         QVariant value; ///< under the topic's key, when it was read
@@ -57,13 +51,19 @@ private:
         std::vector<Found> found;
     };
 
-    static bool stands(const Topic& topic, const Found& found, const RuleData& data);
-    static QString sentence(const Topic& topic, const RuleData& data);
+    /// What is told of the scene as a whole.
+    const QStringList& sentences() const { return m_sentences; }
+    const std::vector<Topic>& topics() const { return m_topics; }
+    /// Whether a save writes the first entry alone.
+    bool takesOneEntry() const { return m_takesOneEntry; }
+    void setTakesOneEntry(bool takesOne) { m_takesOneEntry = takesOne; }
 
+private:
     QStringList m_sentences;
     QSet<QString> m_unsavedKeys;
     QSet<QPair<int, QString>> m_changed; ///< by entry and key
     std::vector<Topic> m_topics;
     QHash<QString, std::size_t> m_topicOf; ///< by kind and subject
     int m_count = 0;
+    bool m_takesOneEntry = false;
 };

@@ -1,7 +1,7 @@
 #include "Protocol/templateitemreader.h"
 
-#include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/spelling.h"
 #include "host/json/value.h"
 
 using kql::Json::Value;
@@ -16,7 +16,7 @@ void parseProtocol(RuleProtocolItem& item, const Value& protocol)
     if (const Value* const name = protocol.find("name"))
         item.setPath(name->asString());
     if (const Value* const type = protocol.find("type"))
-        item.setValueType(RuleParser::parseToValueType(type->asString()));
+        item.setValueType(Spelling::toValueType(type->asString()));
     if (const Value* const index = protocol.find("index"))
         item.setIndex(index->asInt());
 }
@@ -151,7 +151,7 @@ void TemplateItemReader::parseRuleProtocolItem(RuleProtocolItem& item, const Val
     if (details.isNull())
         return;
     item.setCaption(details["describe"].asString());
-    item.setFacade(RuleParser::parseToFacadeType(details["facade"].asString()));
+    item.setFacade(Spelling::toFacadeType(details["facade"].asString()));
     if (item.isFigure()) {
         parseFigure(item, details);
         return;

@@ -5,14 +5,13 @@
 #include "Protocol/calibration/calibratestaffs.h"
 #include "Protocol/configmember.h"
 #include "Protocol/entrylimit.h"
-#include "Protocol/entrylist.h"
 #include "Protocol/fight/fightcalibratedata.h"
 #include "Protocol/fight/fightcalibratetemplate.h"
 #include "Protocol/lanes/lanesdata.h"
 #include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/spelling.h"
 #include "Protocol/templateitemreader.h"
 #include "host/json/value.h"
 
@@ -41,7 +40,7 @@ CheckRule parseCheck(const Value& check)
         return rule;
     rule.firstKey = check["firstKey"].asString();
     rule.secondKey = check["secondKey"].asString();
-    rule.operatorType = RuleParser::parseToOperatorType(check["rule"]["operator"].asString());
+    rule.operatorType = Spelling::toOperatorType(check["rule"]["operator"].asString());
     return rule;
 }
 
@@ -103,7 +102,7 @@ TemplateReader::Scenes TemplateReader::read()
 void TemplateReader::readCalibrateArea(const Value& section)
 {
     auto data = std::make_unique<CalibrateAreaData>();
-    CalibrateAreaTemplate& area = *data->calibrateTemplate();
+    CalibrateAreaTemplate& area = *CalibrateAreaTemplate::of(*data);
     applyParentAndCount(area, section, "celibateArea");
     area.setMethod(section["method"].asString());
     if (const auto points = parseCountRange(section["pointOfArea"]))
@@ -120,9 +119,8 @@ void TemplateReader::readCalibrateArea(const Value& section)
 /// The staffs that are drawn are made from the skeleton's, lengths included.
 void TemplateReader::takeSampleLengths(CalibrateAreaTemplate& area) const
 {
-    const auto entries = EntryList::at(m_skeleton, JsonPath(area.parent()));
-    const Value* const entry = EntryList::object(entries, 0);
-    const Value* const staffs = entry ? area.verticalStaffItem()->path().probe(*entry) : nullptr;
+    const Value* const entry = JsonPath(area.parent()).firstEntryIn(m_skeleton);
+    const Value* const staffs = entry ? area.verticalStaffItem()->path().find(*entry) : nullptr;
     if (staffs)
         CalibrateStaffs::takeSampleLengths(area, *staffs);
 }
@@ -130,19 +128,20 @@ void TemplateReader::takeSampleLengths(CalibrateAreaTemplate& area) const
 void TemplateReader::readFightCalibrate(const Value& section)
 {
     auto data = std::make_unique<FightCalibrateData>();
-    FightCalibrateTemplate& fight = *data->fightTemplate();
-    applyParentAndCount(fight, section, "celibateArea");
+    auto fight = std::make_unique<FightCalibrateTemplate>();
+    applyParentAndCount(*fight, section, "celibateArea");
     if (const auto points = parseCountRange(section["pointOfArea"]))
-        fight.setAreaPointCount(*points);
+        fight->setAreaPointCount(*points);
     if (const auto rects = parseCountRange(section["rectOfArea"]))
-        fight.setRectCount(*rects);
+        fight->setRectCount(*rects);
+    data->setTemplate(std::move(fight));
     m_scenes.push_back(std::move(data));
 }
 
 void TemplateReader::readLanes(const Value& section)
 {
     auto data = std::make_unique<LanesData>();
-    m_lanes = data->lanesTemplate();
+    m_lanes = LanesTemplate::of(*data);
     applyParentAndCount(*m_lanes, section, "countOfLane");
     m_scenes.push_back(std::move(data));
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Protocol/checkrule.h"
 #include "Protocol/datatemplate.h"
 
 #include <QList>

@@ -68,7 +68,7 @@ void requireCreation(const JsonPath& path, const Value& document)
     const Value* created = path.create(grown);
     if (!created)
         return;
-    require(path.probe(grown) == created, "what a path made is not found by it");
+    require(path.find(grown) == created, "what a path made is not found by it");
     const Value before = grown;
     path.create(grown);
     require(grown == before, "a path makes something twice");
@@ -82,7 +82,7 @@ void followPath(const QString& text, const Value& document)
 {
     const JsonPath path(text);
     require(path.text() == text, "a path changed its text");
-    const Value* found = path.probe(document);
+    const Value* found = path.find(document);
     require(path.readPath(document) == found, "a path is read in two ways");
     if (found)
         requireConversions(*found);

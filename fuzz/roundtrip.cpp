@@ -41,11 +41,8 @@ std::vector<Section> sections(const RuleParser& parser)
 {
     std::vector<Section> all;
     for (const auto& data : parser.getAllData()) {
-        const DataTemplate& dataTemplate = *data->getTemplate();
-        all.push_back({*data, dataTemplate.name(), dataTemplate.parent()});
-        const auto* lanes = dynamic_cast<const LanesTemplate*>(&dataTemplate);
-        if (lanes && lanes->hasRuleItems())
-            all.push_back({*data, ConfigMember::kRuleSection, lanes->rulesParent()});
+        for (const TemplateSection& section : data->getTemplate()->sections())
+            all.push_back({*data, section.name, section.parent});
     }
     return all;
 }
@@ -108,7 +105,7 @@ QStringList ownPlaces(const Section& section)
 /// The value that an item has in an entry; null for none.
 const Value* found(const Value& entry, const RuleProtocolItem& item)
 {
-    return item.path().probe(entry);
+    return item.path().find(entry);
 }
 
 /// Where an item's value lies in @p entry: an element of what is a list there, or all of it.
@@ -144,7 +141,7 @@ bool isOfType(const Value& entry, const RuleProtocolItem& item)
     if (!value || (item.isFigure() && !value->isArray()))
         return canBeMade(entry, item);
     if (item.drawType() == BaseDrawType::Parallelogram) {
-        const Value* course = ConfigMember::directionPath().probe(entry);
+        const Value* course = ConfigMember::directionPath().find(entry);
         return value->empty() && (!course || (course->isArray() && course->empty()));
     }
     if (item.isFigure())
@@ -158,7 +155,7 @@ bool isOfType(const Value& entry, const RuleProtocolItem& item)
 bool hasRoom(const Section& section, const Value& skeleton)
 {
     const JsonPath path(section.parent);
-    const Value* list = path.probe(skeleton);
+    const Value* list = path.find(skeleton);
     const bool isList = list && list->isArray();
     const bool isGlobal = section.name == QLatin1String("global");
     const bool isSingle = !isList && (isGlobal || (list && list->isObject()));
@@ -193,7 +190,7 @@ bool hasPlace(const Value& entry, const RuleProtocolItem& item)
 /// Whether lanes and rules have the numbers by which they belong together, where that is asked.
 bool areNumbered(const Section& section, const Value& prototypeEntry)
 {
-    const auto* lanes = dynamic_cast<const LanesTemplate*>(section.data.getTemplate());
+    const auto* lanes = LanesTemplate::of(section.data);
     if (!lanes || !lanes->hasRuleItems())
         return true;
     const bool isRule = section.name == ConfigMember::kRuleSection;
@@ -283,7 +280,7 @@ void requireEntry(const Section& before, const Section& again, int position, con
         require(is.name() == EntryName::written(before.data, position) &&
                     is.isEnabled() == was.isEnabled(),
                 "an entry is named otherwise");
-    const bool hasCourse = ConfigMember::directionPath().probe(entry);
+    const bool hasCourse = ConfigMember::directionPath().find(entry);
     for (const RuleProtocolItem* item : itemsOf(before)) {
         if (!hasPlace(entry, *item))
             continue;
@@ -308,7 +305,7 @@ void requireFigures(const RuleData& before, const RuleData& again)
 
 void requireLane(const RuleData& before, const RuleData& again, int position)
 {
-    const auto* lanes = dynamic_cast<const LanesTemplate*>(before.getTemplate());
+    const auto* lanes = LanesTemplate::of(before);
     if (!lanes)
         return;
     const RuleProtocolItem& lane = *lanes->laneItem();

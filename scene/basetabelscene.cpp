@@ -2,6 +2,7 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/figuremaker.h"
+#include "Protocol/linedirections.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -9,7 +10,6 @@
 #include "draw/drawscene.h"
 #include "scene/entrybuttons.h"
 #include "scene/entryrows.h"
-#include "scene/linedirections.h"
 #include "scene/scenefigures.h"
 #include "scene/scenetitlebar.h"
 #include "scene/taborder.h"

@@ -18,8 +18,7 @@ CalibrateAreaScene::CalibrateAreaScene(QWidget* parent) : BaseTabelScene(parent)
 
 const CalibrateAreaTemplate* CalibrateAreaScene::calibrateTemplate() const
 {
-    return isBound() ? dynamic_cast<const CalibrateAreaTemplate*>(ruleData()->getTemplate())
-                     : nullptr;
+    return isBound() ? CalibrateAreaTemplate::of(*ruleData()) : nullptr;
 }
 
 bool CalibrateAreaScene::isSceneMethod() const

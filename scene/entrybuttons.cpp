@@ -68,7 +68,7 @@ void EntryButtons::fillChildren(RuleItemWidgetTabel& table, const RuleData& data
         if (!types.contains(item->drawType()))
             continue;
         int number = 0;
-        const QList<DrawItem*> figures = data.figuresOf(dataId, *item);
+        const auto figures = data.figuresOf(dataId, *item);
         for (DrawItem* figure : figures) {
             const QString label = EntryName::child(*item, ++number);
             figure->setLabel(label);

@@ -1,7 +1,6 @@
 #include "scene/lanesscene.h"
 
 #include "Protocol/entryname.h"
-#include "Protocol/lanes/lanesdata.h"
 #include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -31,7 +30,7 @@ LanesScene::LanesScene(QWidget* parent) : BaseTabelScene(parent)
 
 LanesTemplate* LanesScene::lanesTemplate() const
 {
-    return isBound() ? dynamic_cast<LanesTemplate*>(ruleData()->getTemplate()) : nullptr;
+    return isBound() ? LanesTemplate::of(*ruleData()) : nullptr;
 }
 
 void LanesScene::setRuleData(RuleData* newData)
@@ -85,10 +84,9 @@ void LanesScene::prepareNewEntry(RuleDataInfo& entry)
         entry.setValue(kRuleLaneNumber, number);
     Validity::update(*ruleData()->getTemplate(), entry);
     m_laneNumbers.insert(number);
-    const auto* lanes = dynamic_cast<const LanesData*>(ruleData());
-    if (lanes && lanes->lanesTemplate()->hasRuleItems()) {
-        const QString wanted = EntryName::written(*lanes, lanes->getDataCount());
-        entry.setName(EntryName::unused(*lanes, wanted, lanes->otherRuleNames()));
+    if (lanesTemplate()->hasRuleItems()) {
+        const RuleData& lanes = *ruleData();
+        entry.setName(EntryName::unused(lanes, EntryName::written(lanes, lanes.getDataCount())));
     }
 }
 

@@ -2,13 +2,12 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/figuremaker.h"
+#include "Protocol/linedirections.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
-#include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "scene/linedirections.h"
 
 #include <algorithm>
 
@@ -20,9 +19,7 @@ std::unique_ptr<DrawItem> SceneFigures::make(const RuleData& data, const RulePro
     if (!figure)
         return nullptr;
     figure->setLabel(item.caption());
-    const QVariant direction = entry.value(LineDirections::key());
-    if (figure->drawType() == BaseDrawType::DirectionLine && direction.isValid())
-        figure->setDirection(RuleParser::parseToDirectionType(direction.toString()));
+    LineDirections::giveTo(*figure, entry);
     return figure;
 }
 

@@ -3,8 +3,8 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
-#include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/spelling.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
@@ -99,7 +99,7 @@ void StatisticsDirection::apply(const RuleData& data, const RuleDataInfo& entry)
 
 BaseDrawDirectionType StatisticsDirection::shown() const
 {
-    const auto direction = RuleParser::parseToDirectionType(m_row->value().toString());
+    const auto direction = Spelling::toDirectionType(m_row->value().toString());
     return direction == BaseDrawDirectionType::None ? BaseDrawDirectionType::LeftToRight
                                                     : direction;
 }

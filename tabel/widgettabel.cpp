@@ -1,6 +1,5 @@
 #include "tabel/widgettabel.h"
 
-#include "tabel/layouthold.h"
 #include "tabel/titlelabel.h"
 
 #include <QChildEvent>
@@ -99,9 +98,10 @@ void WidgetTabel::deleteWidget(QWidget* widget)
 
 void WidgetTabel::deleteAll()
 {
-    const LayoutHold hold(this);
+    holdLayout();
     while (!m_items.isEmpty())
         deleteWidget(m_items.first());
+    releaseLayout();
 }
 
 void WidgetTabel::forgetWidget(const QObject* child)

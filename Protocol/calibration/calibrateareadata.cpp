@@ -1,7 +1,6 @@
 #include "Protocol/calibration/calibrateareadata.h"
 
 #include "Protocol/calibration/calibrateareatemplate.h"
-#include "Protocol/misfit.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
@@ -14,14 +13,9 @@ CalibrateAreaData::CalibrateAreaData()
     setRuleFucTitle(RuleData::tr("Area"));
 }
 
-CalibrateAreaTemplate* CalibrateAreaData::calibrateTemplate() const
-{
-    return dynamic_cast<CalibrateAreaTemplate*>(getTemplate());
-}
-
 void CalibrateAreaData::collectNotices(QStringList& notices) const
 {
-    const CalibrateAreaTemplate* const area = calibrateTemplate();
+    const CalibrateAreaTemplate* const area = CalibrateAreaTemplate::of(*this);
     if (!area)
         return;
     const bool isScene = area->isSceneMethod();
@@ -34,7 +28,7 @@ void CalibrateAreaData::collectNotices(QStringList& notices) const
     for (const auto& entry : getAllData()) {
         const QString name = getRuleFucTitle() + QString::number(++number);
         for (const auto& [key, notice] : lengths) {
-            if (!entry->value(key).isValid() && !Misfit::isUnder(*entry, key))
+            if (!entry->value(key).isValid() && !entry->isMisfit(key))
                 notices.append(notice.arg(name));
         }
     }

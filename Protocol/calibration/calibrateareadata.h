@@ -4,8 +4,6 @@
 
 #include <QCoreApplication>
 
-class CalibrateAreaTemplate;
-
 /// The calibrate-area scene's data; makes its own template.
 class CalibrateAreaData : public RuleData
 {
@@ -15,6 +13,4 @@ public:
     CalibrateAreaData();
     /// Names each area that lacks a length.
     void collectNotices(QStringList& notices) const override;
-    /// Null when a template of another kind was put in its place.
-    CalibrateAreaTemplate* calibrateTemplate() const;
 };

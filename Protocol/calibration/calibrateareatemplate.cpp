@@ -1,5 +1,6 @@
 #include "Protocol/calibration/calibrateareatemplate.h"
 
+#include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
 
 namespace
@@ -61,9 +62,27 @@ CalibrateAreaTemplate::CalibrateAreaTemplate()
                tr("meter"));
 }
 
+CalibrateAreaTemplate* CalibrateAreaTemplate::of(const RuleData& data)
+{
+    return dynamic_cast<CalibrateAreaTemplate*>(data.getTemplate());
+}
+
 std::unique_ptr<DataTemplate> CalibrateAreaTemplate::clone() const
 {
     return std::unique_ptr<DataTemplate>(new CalibrateAreaTemplate(*this));
+}
+
+DrawItemForbidenAreaType CalibrateAreaTemplate::forbiddenArea(const RuleProtocolItem& item) const
+{
+    return item.linkedItem() ? DrawItemForbidenAreaType::ForbidenOutsideParent
+                             : DrawItemForbidenAreaType::ForbidenOtherItems;
+}
+
+EdgeLabelMode CalibrateAreaTemplate::edgeLabels(const RuleProtocolItem& item) const
+{
+    if (&item == regionItem() && isLaneMethod())
+        return EdgeLabelMode::LengthAndWidth;
+    return &item == regionItem() && isSceneMethod() ? EdgeLabelMode::Scene : EdgeLabelMode::Name;
 }
 
 void CalibrateAreaTemplate::setMethod(const QString& method)

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <optional>
 
+class RuleData;
+
 /// Template of the calibrate-area scene, with its five built-in items.
 class CalibrateAreaTemplate : public DataTemplate
 {
@@ -12,7 +14,11 @@ class CalibrateAreaTemplate : public DataTemplate
 
 public:
     CalibrateAreaTemplate();
+    /// That of @p data; null when it has one of another kind.
+    static CalibrateAreaTemplate* of(const RuleData& data);
     std::unique_ptr<DataTemplate> clone() const override;
+    DrawItemForbidenAreaType forbiddenArea(const RuleProtocolItem& item) const override;
+    EdgeLabelMode edgeLabels(const RuleProtocolItem& item) const override;
 
     /// "Lane" or "Scene": enables the staff items, sets their counts and the title; anything
     /// else changes nothing.

@@ -8,8 +8,3 @@ FightCalibrateData::FightCalibrateData()
     setTemplate(std::make_unique<FightCalibrateTemplate>());
     setRuleFucTitle(RuleData::tr("Area"));
 }
-
-FightCalibrateTemplate* FightCalibrateData::fightTemplate() const
-{
-    return dynamic_cast<FightCalibrateTemplate*>(getTemplate());
-}

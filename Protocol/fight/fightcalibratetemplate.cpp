@@ -2,14 +2,6 @@
 
 #include "Protocol/ruleprotocolitem.h"
 
-namespace
-{
-
-const auto kRegion = QStringLiteral("fightCalibrateRegion");
-const auto kRect = QStringLiteral("fightCalibrateRect");
-
-} // namespace
-
 FightCalibrateTemplate::FightCalibrateTemplate()
 {
     setName(QStringLiteral("fightCalibrate"));
@@ -30,20 +22,10 @@ std::unique_ptr<DataTemplate> FightCalibrateTemplate::clone() const
 
 void FightCalibrateTemplate::setAreaPointCount(CountRange range)
 {
-    regionItem()->setPointCount(range);
+    findItem(kRegion)->setPointCount(range);
 }
 
 void FightCalibrateTemplate::setRectCount(CountRange range)
 {
-    rectItem()->setCountRange(range);
-}
-
-RuleProtocolItem* FightCalibrateTemplate::regionItem() const
-{
-    return findItem(kRegion);
-}
-
-RuleProtocolItem* FightCalibrateTemplate::rectItem() const
-{
-    return findItem(kRect);
+    findItem(kRect)->setCountRange(range);
 }

@@ -10,6 +10,9 @@ class FightCalibrateTemplate : public DataTemplate
     Q_DECLARE_TR_FUNCTIONS(FightCalibrateTemplate)
 
 public:
+    inline static const QString kRegion = QStringLiteral("fightCalibrateRegion");
+    inline static const QString kRect = QStringLiteral("fightCalibrateRect");
+
     FightCalibrateTemplate();
     std::unique_ptr<DataTemplate> clone() const override;
 
@@ -17,9 +20,6 @@ public:
     void setAreaPointCount(CountRange range);
     /// Rectangles inside one area.
     void setRectCount(CountRange range);
-
-    RuleProtocolItem* regionItem() const;
-    RuleProtocolItem* rectItem() const;
 
 protected:
     FightCalibrateTemplate(const FightCalibrateTemplate& other) = default;

@@ -1,6 +1,5 @@
 #include "Protocol/lanes/lanerules.h"
 
-#include "Protocol/jsonpath.h"
 #include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/valueconversion.h"
@@ -28,7 +27,7 @@ constexpr int kLongestNumber = 32; // in characters
 
 std::optional<int> numberIn(const Value& json, const RuleProtocolItem* item)
 {
-    const Value* found = item ? item->path().probe(json) : nullptr;
+    const Value* found = item ? item->path().find(json) : nullptr;
     if (!found || ValueConversion::styledLength(*found, *item) > kLongestNumber)
         return std::nullopt;
     const QVariant value = ValueConversion::parseJsonToValue(*found, *item);
@@ -40,9 +39,9 @@ std::optional<int> numberIn(const Value& json, const RuleProtocolItem* item)
 Candidates candidates(const Value& document, const QString& parent, const RuleProtocolItem* number)
 {
     Candidates listed;
-    const auto entries = EntryList::at(document, JsonPath(parent));
+    const JsonEntries entries = JsonPath(parent).entriesIn(document);
     for (int i = 0; i < static_cast<int>(entries.size()); ++i) {
-        if (const Value* json = EntryList::object(entries, i))
+        if (const Value* json = objectAt(entries, i))
             listed.append({json, i, numberIn(*json, number)});
     }
     return listed;
@@ -94,8 +93,8 @@ LaneRules::LaneRules(const LanesTemplate& dataTemplate, const Value& document)
     if (!dataTemplate.hasRuleItems())
         return;
     auto lanes = candidates(document, dataTemplate.parent(), dataTemplate.numberItem());
-    auto rules =
-        candidates(document, dataTemplate.rulesParent(), dataTemplate.ruleLaneNumberItem());
+    auto rules = candidates(document, dataTemplate.sections().back().parent,
+                            dataTemplate.ruleLaneNumberItem());
     pairByPlace(lanes, rules);
     pairByNumber(lanes, rules);
     pairInOrder(lanes, rules);

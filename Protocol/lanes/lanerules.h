@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Protocol/entrylist.h"
+#include "Protocol/jsonpath.h"
 
 #include <QHash>
 
@@ -19,9 +19,9 @@ public:
     /// The rule of the lane at @p laneIndex in the document; null when it has none.
     const kql::Json::Value* ruleOf(int laneIndex) const { return m_ruleOfLane.value(laneIndex); }
     /// Rules that no lane has, in order.
-    const EntryList::Entries& unpaired() const { return m_unpaired; }
+    const JsonEntries& unpaired() const { return m_unpaired; }
 
 private:
     QHash<int, const kql::Json::Value*> m_ruleOfLane;
-    EntryList::Entries m_unpaired;
+    JsonEntries m_unpaired;
 };

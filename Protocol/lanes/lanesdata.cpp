@@ -8,8 +8,3 @@ LanesData::LanesData()
     setTemplate(std::make_unique<LanesTemplate>());
     setRuleFucTitle(RuleData::tr("Lanes"));
 }
-
-LanesTemplate* LanesData::lanesTemplate() const
-{
-    return dynamic_cast<LanesTemplate*>(getTemplate());
-}

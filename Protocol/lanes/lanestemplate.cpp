@@ -1,6 +1,7 @@
 #include "Protocol/lanes/lanestemplate.h"
 
 #include "Protocol/configmember.h"
+#include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
 
 #include <algorithm>
@@ -57,6 +58,11 @@ LanesTemplate::LanesTemplate()
                  lineTypes);
 }
 
+LanesTemplate* LanesTemplate::of(const RuleData& data)
+{
+    return dynamic_cast<LanesTemplate*>(data.getTemplate());
+}
+
 std::unique_ptr<DataTemplate> LanesTemplate::clone() const
 {
     return std::unique_ptr<DataTemplate>(new LanesTemplate(*this));
@@ -73,10 +79,21 @@ bool LanesTemplate::hasRuleItems() const
     return std::any_of(items().begin(), items().end(), isRuleItem);
 }
 
-QString LanesTemplate::rulesParent() const
+std::vector<TemplateSection> LanesTemplate::sections() const
 {
-    const auto found = std::find_if(items().begin(), items().end(), isRuleItem);
-    return found == items().end() ? QString() : (*found)->parent();
+    auto sections = DataTemplate::sections();
+    const auto rule = std::find_if(items().begin(), items().end(), isRuleItem);
+    if (rule != items().end())
+        sections.push_back({ConfigMember::kRuleSection, (*rule)->parent()});
+    return sections;
+}
+
+/// Whatever else is drawn in this scene belongs to a lane.
+DrawItemForbidenAreaType LanesTemplate::forbiddenArea(const RuleProtocolItem& item) const
+{
+    return item.drawType() == BaseDrawType::VehicleLane
+               ? DrawItemForbidenAreaType::ForbidenSelf
+               : DrawItemForbidenAreaType::ForbidenOutsideParent;
 }
 
 RuleProtocolItem* LanesTemplate::laneItem() const

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+class RuleData;
+
 /// Template of the lanes scene: its built-in items, and the rules' items when these are edited
 /// per lane.
 class LanesTemplate : public DataTemplate
@@ -15,13 +17,16 @@ public:
     inline static const QString kRuleLaneNumber = QStringLiteral("ruleLaneNumber");
 
     LanesTemplate();
+    /// That of @p data; null when it has one of another kind.
+    static LanesTemplate* of(const RuleData& data);
     std::unique_ptr<DataTemplate> clone() const override;
+    /// The rules' section behind the lanes', with rule items.
+    std::vector<TemplateSection> sections() const override;
+    DrawItemForbidenAreaType forbiddenArea(const RuleProtocolItem& item) const override;
 
     /// Takes over the rules' items behind the built-in ones.
     void addRuleItems(Items items);
     bool hasRuleItems() const;
-    /// The "parent" path that the handed rules are listed under; empty without rule items.
-    QString rulesParent() const;
 
     RuleProtocolItem* laneItem() const;
     RuleProtocolItem* numberItem() const;

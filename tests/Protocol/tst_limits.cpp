@@ -1,4 +1,5 @@
 #include "Protocol/datatemplate.h"
+#include "Protocol/entryid.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
@@ -200,13 +201,13 @@ private slots:
                 .replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'),
             R"({"R": [)" + AbsurdDocuments::list(2500, "{}") + "]}",
             "The configuration has 2500 entries under \"R[]\"; at most %1 can be edited.");
-        row("entries", areas(), R"({"R": [)" + AbsurdDocuments::list(8001, "{}") + "]}",
-            "The configuration has 8001 entries under \"R[]\"; at most 8000 can be edited.");
+        row("entries", areas(), R"({"R": [)" + AbsurdDocuments::list(3001, "{}") + "]}",
+            "The configuration has 3001 entries under \"R[]\"; at most 3000 can be edited.");
         row("figures in an entry",
             R"({"configDescription": {"fightCalibrate": {"parent": "R"}}, "configTemplate": {}})",
             R"({"R": {"CalibrateArea": {"Area": [[1, 1], [9, 1], [9, 9]], "Rects": [)" +
-                AbsurdDocuments::list(8000, "[[1, 1], [5, 5]]") + "]}}}",
-            "The configuration has 8001 entries under \"R\"; at most 8000 can be edited.");
+                AbsurdDocuments::list(3000, "[[1, 1], [5, 5]]") + "]}}}",
+            "The configuration has 3001 entries under \"R\"; at most 3000 can be edited.");
     }
 
     /// Short documents that ask for very much together are refused before it is made.
@@ -216,7 +217,6 @@ private slots:
         QFETCH(QByteArray, config);
         QFETCH(QString, why);
         QString said;
-        m_parser.setLimits({8000, 64 << 20});
         const bool isRead = m_parser.parseTemplate(QString::fromUtf8(description), said) &&
                             m_parser.readData(QString::fromUtf8(config), said);
         QVERIFY(!isRead);
@@ -330,9 +330,9 @@ private slots:
 
     void ids()
     {
-        QCOMPARE(RuleParser::idAfter(0), 1);
-        QCOMPARE(RuleParser::idAfter(2147483646), 2147483647);
-        QCOMPARE(RuleParser::idAfter(2147483647), 1);
+        QCOMPARE(EntryId::after(0), 1);
+        QCOMPARE(EntryId::after(2147483646), 2147483647);
+        QCOMPARE(EntryId::after(2147483647), 1);
     }
 
     void pointLimits_data()

@@ -236,7 +236,7 @@ private slots:
     void madeFigures()
     {
         CalibrateAreaData area;
-        CalibrateAreaTemplate& items = *area.calibrateTemplate();
+        CalibrateAreaTemplate& items = *CalibrateAreaTemplate::of(area);
         const std::pair<const char*, EdgeLabelMode> modes[] = {
             {"", EdgeLabelMode::Name},
             {"Lane", EdgeLabelMode::LengthAndWidth},

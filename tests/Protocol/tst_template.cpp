@@ -252,7 +252,7 @@ private slots:
         const JsonPath path(fixture["path"].asString());
         const Value* const made = path.create(root);
         QCOMPARE(root, fixture["after"]);
-        QCOMPARE(made, path.probe(static_cast<const Value&>(root)));
+        QCOMPARE(made, path.find(static_cast<const Value&>(root)));
         QVERIFY(!JsonPath().readPath(root));
     }
 };

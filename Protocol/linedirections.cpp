@@ -1,8 +1,8 @@
-#include "scene/linedirections.h"
+#include "Protocol/linedirections.h"
 
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
-#include "Protocol/ruleparser.h"
+#include "Protocol/spelling.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 
@@ -11,13 +11,18 @@ QString LineDirections::key()
     return QStringLiteral("ruleLineDirection");
 }
 
+void LineDirections::giveTo(DrawItem& figure, const RuleDataInfo& entry)
+{
+    const QVariant direction = entry.value(key());
+    if (figure.drawType() == BaseDrawType::DirectionLine && direction.isValid())
+        figure.setDirection(Spelling::toDirectionType(direction.toString()));
+}
+
 void LineDirections::apply(const RuleData& data, const RuleDataInfo& entry)
 {
-    const QVariant value = entry.value(key());
-    if (!value.isValid())
+    if (!entry.value(key()).isValid())
         return;
-    const auto direction = RuleParser::parseToDirectionType(value.toString());
     const auto lines = data.getDrawScene()->getItemList(BaseDrawType::DirectionLine, entry.id());
     for (DrawItem* line : lines)
-        line->setDirection(direction);
+        giveTo(*line, entry);
 }

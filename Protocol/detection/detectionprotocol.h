@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Protocol/sceneprotocol.h"
+
+/**
+ * Detection areas. The configuration holds them as objects, or as bare lists of points for the
+ * template's first figure; a single bare list may stand in the place of all. Each is written in the
+ * shape that it was read in, new ones in the skeleton's.
+ */
+class DetectionProtocol final : public SceneProtocol
+{
+public:
+    void read(RuleData& data, const kql::Json::Value& document) const override;
+    bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
+               kql::Json::Value& document) const override;
+    JsonEntries entriesAt(const kql::Json::Value* place) const override;
+
+protected:
+    std::unique_ptr<RuleDataInfo> newEntry(const RuleData& data,
+                                           const kql::Json::Value& json) const override;
+};

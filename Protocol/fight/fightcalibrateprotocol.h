@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Protocol/sceneprotocol.h"
+
+/// The areas that fights are calibrated in, and the rectangles inside them.
+class FightCalibrateProtocol final : public SceneProtocol
+{
+public:
+    void read(RuleData& data, const kql::Json::Value& document) const override;
+    bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
+               kql::Json::Value& document) const override;
+    bool isCalibration() const override { return true; }
+};

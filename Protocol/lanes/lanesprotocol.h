@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Protocol/sceneprotocol.h"
+
+/// Vehicle lanes, and their rules where these are edited per lane.
+class LanesProtocol final : public SceneProtocol
+{
+public:
+    void read(RuleData& data, const kql::Json::Value& document) const override;
+    bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
+               kql::Json::Value& document) const override;
+    JsonEntries sources(const RuleData& data, const TemplateSection& section,
+                        const kql::Json::Value& document) const override;
+    JsonEntries keptAside(const RuleData& data, const TemplateSection& section,
+                          const kql::Json::Value& document) const override;
+
+private:
+    bool writeLanes(const RuleData& data, const TemplateSection& section,
+                    const WriteContext& context, kql::Json::Value& document) const;
+    bool writeRules(const RuleData& data, const TemplateSection& section,
+                    const WriteContext& context, kql::Json::Value& document) const;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Protocol/sceneprotocol.h"
+
+/// The scenes whose entries their template alone describes.
+class GlobalProtocol : public SceneProtocol
+{
+public:
+    void read(RuleData& data, const kql::Json::Value& document) const override;
+    bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
+               kql::Json::Value& document) const override;
+    EntryTarget::WhenMissing whenMissing() const override
+    {
+        return EntryTarget::WhenMissing::Object;
+    }
+
+protected:
+    std::unique_ptr<RuleDataInfo> newEntry(const RuleData& data,
+                                           const kql::Json::Value& json) const override;
+};
+
+/// Rules, which have a name and a switch besides.
+class RulesProtocol final : public GlobalProtocol
+{
+public:
+    void read(RuleData& data, const kql::Json::Value& document) const override;
+    bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
+               kql::Json::Value& document) const override;
+    EntryTarget::WhenMissing whenMissing() const override { return EntryTarget::WhenMissing::List; }
+
+    /// Sets in @p entries, one for each entry of @p data, what every rule has besides its
+    /// attributes.
+    static void writeRuleMembers(const RuleData& data, const WriteContext& context,
+                                 std::vector<kql::Json::Value>& entries);
+};
