@@ -555,7 +555,7 @@ bool CIntelligentRulesCtrl::postResult()
     kql::Json::Value config;
     QString why;
     bool isWritten = m_parser->writeData(config, why);
-    if (isWritten && !postSaved(resultContext(), config)) {
+    if (isWritten && !postSaved(resultContext(), std::move(config))) {
         why = tr("The configuration is too long.");
         isWritten = false;
     }

@@ -39,10 +39,10 @@ bool post(const ResultContext& context, const kql::Json::Value& object)
 
 } // namespace
 
-bool postSaved(const ResultContext& context, const kql::Json::Value& config)
+bool postSaved(const ResultContext& context, kql::Json::Value config)
 {
     kql::Json::Value object = resultObject(context, kSaved);
-    object["channelAbilityPO"] = config;
+    object["channelAbilityPO"] = std::move(config);
     return post(context, object);
 }
 

@@ -24,7 +24,7 @@ struct ResultContext {
 
 /// Posts to the host that the operator saved @p config; false, with nothing posted, when its text
 /// is too long.
-bool postSaved(const ResultContext& context, const kql::Json::Value& config);
+bool postSaved(const ResultContext& context, kql::Json::Value config);
 
 /// Posts to the host that the operator left without saving.
 void postExited(const ResultContext& context);

@@ -38,8 +38,7 @@ public:
 private:
     struct Fault;
 
-    /// Writes in @p text, which a NUL follows.
-    static Fault parseInPlace(char* text, std::size_t size, Value& document);
+    static Fault parsed(std::string_view utf8, Value& root);
     void report(std::string_view utf8, const Fault& fault);
 
     QString m_errorText;

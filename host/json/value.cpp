@@ -1,17 +1,17 @@
 #include "host/json/value.h"
 
-#include "host/json/valueblocks.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 namespace kql
 {
 namespace Json
 {
 
-static_assert(sizeof(Value) == 16, "a value is two words");
+// A node can only be seen as a value while that adds nothing.
+static_assert(sizeof(Value) == sizeof(Node) && std::is_standard_layout_v<Value>);
 
 namespace
 {
@@ -47,109 +47,75 @@ qint64 truncated(double number) noexcept
 
 } // namespace
 
-Value::Value(const QString& text)
-{
-    const QByteArray utf8 = text.toUtf8();
-    assignText({utf8.constData(), std::size_t(utf8.size())});
-}
+Value::Value(const QString& text) : Value(text.toStdString()) {}
 
-Value::Value(const char* utf8)
-{
-    assignText(utf8 ? std::string_view(utf8) : std::string_view());
-}
+Value::Value(std::string_view utf8) : m_node(textNode(utf8)) {}
 
 Value::Value(ValueType type) noexcept
 {
-    constexpr Kind kKinds[] = {Kind::Null, Kind::Int,   Kind::Real,  Kind::ShortText,
-                               Kind::Bool, Kind::Array, Kind::Object};
-    m_bytes.kind = kKinds[int(type)];
+    constexpr rapidjson::Type kTypes[] = {rapidjson::kNullType,   rapidjson::kNumberType,
+                                          rapidjson::kNumberType, rapidjson::kStringType,
+                                          rapidjson::kFalseType,  rapidjson::kArrayType,
+                                          rapidjson::kObjectType};
+    m_node = type == ValueType::Int    ? Node(0)
+             : type == ValueType::Real ? Node(0.0)
+                                       : Node(kTypes[int(type)]);
 }
 
 Value::Value(const Value& other)
 {
-    switch (other.m_bytes.kind) {
-    case Kind::LongText:
-        other.block<TextBlock>()->users.fetch_add(1, std::memory_order_relaxed);
-        hold(Kind::LongText, other.block<TextBlock>());
-        break;
-    case Kind::Array:
-        hold(Items::copy(other.items()));
-        break;
-    case Kind::Object:
-        hold(Kind::Object, MemberBlock::copy(other.members()));
-        break;
-    default:
-        m_bytes = other.m_bytes;
-    }
-}
-
-Value& Value::operator=(const Value& other)
-{
-    return *this = Value(other);
+    rapidjson::CrtAllocator heap;
+    m_node.CopyFrom(other.m_node, heap);
 }
 
 Value& Value::operator=(Value&& other) noexcept
 {
     // The old content goes last: the new one may be a part of it.
-    Value taken(std::move(other));
-    Value old(std::move(*this));
-    takeFrom(taken);
+    Node content(std::move(other.m_node));
+    m_node.Swap(content);
     return *this;
-}
-
-void Value::release() noexcept
-{
-    if (m_bytes.kind == Kind::LongText)
-        block<TextBlock>()->release();
-    else if (m_bytes.kind == Kind::Array)
-        items().release();
-    else if (m_bytes.kind == Kind::Object)
-        MemberBlock::release(members());
-}
-
-void Value::assignLongText(std::string_view utf8)
-{
-    hold(Kind::LongText, TextBlock::make(utf8));
 }
 
 bool Value::operator==(const Value& other) const
 {
     if (type() != other.type() || size() != other.size())
         return false;
-    switch (m_bytes.kind) {
-    case Kind::Real:
-        return load<double>() == other.load<double>();
-    case Kind::Array:
-        return std::equal(items().begin(), items().end(), other.items().begin());
-    case Kind::Object:
-        return empty() ||
-               std::all_of(members()->begin(), members()->end(), [&other](const Member& member) {
-                   const Value* match = other.find(member.name.asView());
-                   return match && *match == member.value;
-               });
+    switch (type()) {
+    case ValueType::Array:
+        return std::equal(
+            m_node.Begin(), m_node.End(), other.m_node.Begin(),
+            [](const Node& one, const Node& another) { return of(one) == of(another); });
+    case ValueType::Object:
+        return std::all_of(m_node.MemberBegin(), m_node.MemberBegin() + size(),
+                           [&other](const Node::Member& member) {
+                               const Value* const match = other.find(textOf(member.name));
+                               return match && *match == of(member.value);
+                           });
+    case ValueType::Int:
+        // -1 has the bits of 2^64-1.
+        return m_node.IsInt64() == other.m_node.IsInt64() && m_node == other.m_node;
     default:
-        return sameText(other);
+        return m_node == other.m_node;
     }
 }
 
 ValueType Value::type() const noexcept
 {
-    constexpr ValueType kTypes[] = {ValueType::Null,   ValueType::Bool,  ValueType::Int,
-                                    ValueType::Int,    ValueType::Real,  ValueType::String,
-                                    ValueType::String, ValueType::Array, ValueType::Object};
-    return kTypes[int(m_bytes.kind)];
+    constexpr ValueType kTypes[] = {ValueType::Null,   ValueType::Bool,  ValueType::Bool,
+                                    ValueType::Object, ValueType::Array, ValueType::String,
+                                    ValueType::Int};
+    return isDouble() ? ValueType::Real : kTypes[m_node.GetType()];
 }
 
 const Value* Value::find(std::string_view name) const
 {
-    MemberBlock* block = members();
-    return block ? block->find(name) : nullptr;
+    const Node* const member = isObject() ? Members::find(m_node, name) : nullptr;
+    return member ? &of(*member) : nullptr;
 }
 
 Value* Value::find(std::string_view name)
 {
-    MemberBlock* block = members();
-    return block ? block->find(name) : nullptr;
+    return const_cast<Value*>(std::as_const(*this).find(name));
 }
 
 const Value& Value::operator[](std::string_view name) const
@@ -162,18 +128,16 @@ Value& Value::operator[](std::string_view name)
 {
     if (Value* member = find(name))
         return *member;
-    Value key(name);
+    Node key = textNode(name);
     if (!isObject())
-        *this = Value(ValueType::Object);
-    MemberBlock* block = MemberBlock::grown(members());
-    hold(Kind::Object, block);
-    return block->findOrAdd(std::move(key));
+        m_node.SetObject();
+    return of(Members::add(m_node, std::move(key)));
 }
 
 void Value::removeMember(std::string_view name)
 {
     if (Value* member = find(name))
-        members()->remove(member);
+        Members::remove(m_node, member->m_node);
 }
 
 int Value::bounded(std::size_t index) noexcept
@@ -183,8 +147,8 @@ int Value::bounded(std::size_t index) noexcept
 
 const Value& Value::operator[](int index) const
 {
-    const Items all = items();
-    return index >= 0 && std::uint32_t(index) < all.size ? all.first[index] : nullValue();
+    const bool isInside = isArray() && index >= 0 && index < size();
+    return isInside ? of(m_node.Begin()[index]) : nullValue();
 }
 
 Value& Value::operator[](int index)
@@ -194,70 +158,67 @@ Value& Value::operator[](int index)
         return thrownAway();
     for (int missing = index - count; missing >= 0; --missing)
         append(Value());
-    return items().first[index];
+    return of(m_node.Begin()[index]);
 }
 
 Value& Value::append(Value value)
 {
+    rapidjson::CrtAllocator heap;
     if (!isArray())
-        *this = Value(ValueType::Array);
-    Items all = items();
-    all.append(std::move(value));
-    hold(all);
-    return *(all.end() - 1);
+        m_node.SetArray();
+    if (m_node.Capacity() == 0)
+        m_node.Reserve(2, heap); // most are pairs of numbers
+    m_node.PushBack(value.m_node, heap);
+    return of(*(m_node.End() - 1));
 }
 
 int Value::size() const noexcept
 {
     if (isArray())
-        return int(items().size);
-    const MemberBlock* block = members();
-    return block ? block->size : 0;
-}
-
-void Value::clear()
-{
-    *this = isArray() || isObject() ? Value(type()) : Value();
+        return int(m_node.Size());
+    return isObject() ? Members::count(m_node) : 0;
 }
 
 QStringList Value::memberNames() const
 {
     QStringList names;
-    names.reserve(isObject() ? size() : 0);
-    for (int position = 0; isObject() && position < size(); ++position)
-        names.append(members()->begin()[position].name.asString());
+    if (!isObject())
+        return names;
+    names.reserve(size());
+    std::for_each(
+        m_node.MemberBegin(), m_node.MemberBegin() + size(),
+        [&names](const Node::Member& member) { names.append(of(member.name).asString()); });
     return names;
+}
+
+/// Null outside.
+const Node::Member* Value::memberAt(int position) const noexcept
+{
+    const bool isInside = isObject() && position >= 0 && position < size();
+    return isInside ? &*(m_node.MemberBegin() + position) : nullptr;
 }
 
 std::string_view Value::memberName(int position) const
 {
-    const MemberBlock* block = members();
-    if (!block || position < 0 || position >= block->size)
-        return {};
-    return block->begin()[position].name.asView();
+    const Node::Member* const member = memberAt(position);
+    return member ? textOf(member->name) : std::string_view();
 }
 
 const Value& Value::memberValue(int position) const
 {
-    const MemberBlock* block = members();
-    if (!block || position < 0 || position >= block->size)
-        return nullValue();
-    return block->begin()[position].value;
+    const Node::Member* const member = memberAt(position);
+    return member ? of(member->value) : nullValue();
 }
 
 Value& Value::memberValue(int position)
 {
-    MemberBlock* block = members();
-    if (!block || position < 0 || position >= block->size)
-        return thrownAway();
-    return block->begin()[position].value;
+    const Node::Member* const member = memberAt(position);
+    return member ? const_cast<Value&>(of(member->value)) : thrownAway();
 }
 
 bool Value::asBool() const
 {
-    if (m_bytes.kind == Kind::Bool)
-        return load<bool>();
-    return m_bytes.kind == Kind::Real ? load<double>() != 0.0 : asInt64() != 0;
+    return isDouble() ? m_node.GetDouble() != 0.0 : asInt64() != 0;
 }
 
 int Value::asInt() const
@@ -268,43 +229,22 @@ int Value::asInt() const
 
 qint64 Value::asInt64() const
 {
-    switch (m_bytes.kind) {
-    case Kind::Int:
-        return load<qint64>();
-    case Kind::LargeInt:
+    if (m_node.IsInt64())
+        return m_node.GetInt64();
+    if (m_node.IsUint64())
         return std::numeric_limits<qint64>::max();
-    case Kind::Real:
-        return truncated(load<double>());
-    case Kind::Bool:
-        return load<bool>() ? 1 : 0;
-    default:
-        return 0;
-    }
+    return isDouble() ? truncated(m_node.GetDouble()) : m_node.IsTrue() ? 1 : 0;
 }
 
 double Value::asDouble() const
 {
-    if (m_bytes.kind == Kind::LargeInt)
-        return double(load<quint64>());
-    return m_bytes.kind == Kind::Real ? load<double>() : double(asInt64());
+    return isNumeric() ? m_node.GetDouble() : double(asInt64());
 }
 
 QString Value::asString() const
 {
     const std::string_view text = asView();
     return QString::fromUtf8(text.data(), int(text.size()));
-}
-
-std::string Value::asStdString() const
-{
-    return std::string(asView());
-}
-
-std::string_view Value::asView() const noexcept
-{
-    if (m_bytes.kind == Kind::ShortText)
-        return {m_bytes.content, m_bytes.length};
-    return m_bytes.kind == Kind::LongText ? block<TextBlock>()->view() : std::string_view();
 }
 
 } // namespace Json

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "host/api/kqhostexport.h"
-#include "host/json/valuetype.h"
+#include "host/json/members.h"
 
 #include <QStringList>
 
 #include <cstddef>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,68 +15,60 @@ namespace kql
 namespace Json
 {
 
-struct Items;
-struct MemberBlock;
-struct TextBlock;
+/// What a Value holds. Whole numbers and numbers with a fraction are kinds of their own.
+enum class ValueType { Null, Int, Real, String, Bool, Array, Object };
 
 /**
  * One value of a JSON document, with everything below it.
  *
  * Reads are total: what is missing, of another kind or outside reads as null, 0, false or empty
  * text, and a const read never changes the document. Texts are UTF-8. Members keep the order in
- * which they were added. References into a value end when it is changed.
+ * which they were added. References into a value end when it is changed. Copies are deep.
  *
- * Sixteen bytes: short texts are held in place, longer ones are shared between copies, the
- * elements of an array or object lie in one block that the value owns.
+ * A value is a node of RapidJSON and nothing else, with the reads and writes that this system is
+ * used to: so each node of a document can be seen as a value in its place. Documents are small,
+ * nodes of the heap one by one serve them as well as any store of our own would.
  */
 class KQHOST_EXPORT Value
 {
 public:
     Value() noexcept = default;
-    Value(bool value) noexcept { store(Kind::Bool, value); }
-    Value(int value) noexcept { store(Kind::Int, qint64(value)); }
-    Value(qint64 value) noexcept { store(Kind::Int, value); }
-    Value(quint64 value) noexcept { store(value >> 63 ? Kind::LargeInt : Kind::Int, value); }
-    Value(double value) noexcept { store(Kind::Real, value); }
+    Value(bool value) noexcept : m_node(value) {}
+    Value(int value) noexcept : m_node(value) {}
+    Value(qint64 value) noexcept : m_node(std::int64_t(value)) {}
+    Value(quint64 value) noexcept : m_node(std::uint64_t(value)) {}
+    Value(double value) noexcept : m_node(value) {}
     Value(const QString& text);
-    Value(std::string_view utf8) { assignText(utf8); }
-    Value(const std::string& utf8) { assignText(utf8); }
-    Value(const char* utf8);
+    Value(std::string_view utf8);
+    Value(const std::string& utf8) : Value(std::string_view(utf8)) {}
+    Value(const char* utf8) : Value(std::string_view(utf8 ? utf8 : "")) {}
     Value(const void* pointer) = delete;
     /// The empty value of a kind: 0, false, empty text, no elements, no members.
     Value(ValueType type) noexcept;
+    /// Of a node of which all objects are complete, as Members says.
+    explicit Value(Node&& node) noexcept : m_node(std::move(node)) {}
 
     Value(const Value& other);
-    Value(Value&& other) noexcept { takeFrom(other); }
-    Value& operator=(const Value& other);
+    Value(Value&& other) noexcept = default;
+    Value& operator=(const Value& other) { return *this = Value(other); }
     Value& operator=(Value&& other) noexcept;
-    ~Value()
-    {
-        if (m_bytes.kind >= Kind::LongText)
-            release();
-    }
+    ~Value() = default;
 
     /// Same kind and content; members compare by name in any order, 2 and 2.0 differ.
     bool operator==(const Value& other) const;
     bool operator!=(const Value& other) const { return !(*this == other); }
 
     ValueType type() const noexcept;
-    bool isNull() const noexcept { return m_bytes.kind == Kind::Null; }
-    bool isBool() const noexcept { return m_bytes.kind == Kind::Bool; }
+    bool isNull() const noexcept { return m_node.IsNull(); }
+    bool isBool() const noexcept { return m_node.IsBool(); }
     /// From -2^63 to 2^64-1; larger numbers are of the kind Real.
-    bool isInt() const noexcept
-    {
-        return m_bytes.kind == Kind::Int || m_bytes.kind == Kind::LargeInt;
-    }
+    bool isInt() const noexcept { return m_node.IsInt64() || m_node.IsUint64(); }
     /// True for the kind Real alone; isNumeric() asks for either kind of number.
-    bool isDouble() const noexcept { return m_bytes.kind == Kind::Real; }
-    bool isNumeric() const noexcept { return isInt() || isDouble(); }
-    bool isString() const noexcept
-    {
-        return m_bytes.kind == Kind::ShortText || m_bytes.kind == Kind::LongText;
-    }
-    bool isArray() const noexcept { return m_bytes.kind == Kind::Array; }
-    bool isObject() const noexcept { return m_bytes.kind == Kind::Object; }
+    bool isDouble() const noexcept { return m_node.IsDouble(); }
+    bool isNumeric() const noexcept { return m_node.IsNumber(); }
+    bool isString() const noexcept { return m_node.IsString(); }
+    bool isArray() const noexcept { return m_node.IsArray(); }
+    bool isObject() const noexcept { return m_node.IsObject(); }
 
     bool isMember(std::string_view name) const { return find(name) != nullptr; }
     /// The member, or null (not a null value) where there is none.
@@ -108,7 +99,7 @@ public:
     int size() const noexcept;
     bool empty() const noexcept { return size() == 0; }
     /// Removes all elements or members; a value of another kind becomes null.
-    void clear();
+    void clear() { *this = isArray() || isObject() ? Value(type()) : Value(); }
 
     QStringList memberNames() const;
     /// Name and value of the member at a position; empty and null outside.
@@ -123,11 +114,16 @@ public:
     qint64 asInt64() const;
     double asDouble() const;
     QString asString() const;
-    std::string asStdString() const;
+    std::string asStdString() const { return std::string(asView()); }
     /// The text in place, UTF-8, valid until this value changes; empty for other kinds.
-    std::string_view asView() const noexcept;
+    std::string_view asView() const noexcept
+    {
+        return isString() ? textOf(m_node) : std::string_view();
+    }
 
-    /// The document as indented text. A number that is not finite is written as null.
+    /// The document as indented text. A number that is not finite is written as null. The indent
+    /// ends at 32 levels, and a text of over 256 million bytes becomes empty: short documents can
+    /// be nested so that their styled text has hundreds of times their length.
     std::string toStyledString() const;
     QString toStyledText() const;
     /// How many characters toStyledText() has, or would have if it were not too long to be made.
@@ -137,85 +133,15 @@ public:
     QString toCompactText() const;
 
 private:
-    friend class ValueBuilder;
-    template<typename Writer>
-    friend class ValueWriter;
-    friend struct MemberBlock;
-
-    enum class Kind : unsigned char {
-        Null,
-        Bool,
-        Int,
-        LargeInt, ///< from 2^63
-        Real,
-        ShortText,
-        LongText,
-        Array,
-        Object
-    };
-    static constexpr std::size_t kShortText = 14;
-    // Of an array, behind the pointer to its elements.
-    static constexpr std::size_t kSizeAt = 8;
-    static constexpr std::size_t kOffsetAt = 12;
-
-    /// Unused bytes are zero, so that short texts compare as two words.
-    struct Bytes {
-        alignas(8) char content[kShortText] = {};
-        unsigned char length = 0;
-        Kind kind = Kind::Null;
-    };
-
-    template<typename T>
-    T load() const noexcept
+    static const Value& of(const Node& node) noexcept
     {
-        T content;
-        std::memcpy(&content, m_bytes.content, sizeof(T));
-        return content;
+        return reinterpret_cast<const Value&>(node);
     }
-    template<typename T>
-    void store(Kind kind, T content) noexcept
-    {
-        std::memcpy(m_bytes.content, &content, sizeof(T));
-        m_bytes.kind = kind;
-    }
-    template<typename Block>
-    Block* block() const noexcept
-    {
-        return static_cast<Block*>(load<void*>());
-    }
-    void hold(Kind kind, void* content) noexcept { store(kind, content); }
-    void hold(const Items& items) noexcept;
-    void takeFrom(Value& other) noexcept
-    {
-        m_bytes = other.m_bytes;
-        other.m_bytes = {};
-    }
-
+    static Value& of(Node& node) noexcept { return reinterpret_cast<Value&>(node); }
     static int bounded(std::size_t index) noexcept;
-    void assignText(std::string_view utf8)
-    {
-        if (utf8.size() > kShortText) {
-            assignLongText(utf8);
-            return;
-        }
-        for (std::size_t at = 0; at < utf8.size(); ++at)
-            m_bytes.content[at] = utf8[at];
-        m_bytes.length = static_cast<unsigned char>(utf8.size());
-        m_bytes.kind = Kind::ShortText;
-    }
-    void assignLongText(std::string_view utf8);
-    bool sameText(const Value& other) const noexcept
-    {
-        if (std::memcmp(&m_bytes, &other.m_bytes, sizeof m_bytes) == 0)
-            return true;
-        return m_bytes.kind == Kind::LongText && other.m_bytes.kind == Kind::LongText &&
-               asView() == other.asView();
-    }
-    void release() noexcept;
-    Items items() const noexcept;
-    MemberBlock* members() const noexcept { return isObject() ? block<MemberBlock>() : nullptr; }
+    const Node::Member* memberAt(int position) const noexcept;
 
-    Bytes m_bytes;
+    Node m_node;
 };
 
 } // namespace Json

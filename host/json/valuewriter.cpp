@@ -1,10 +1,8 @@
 #include "host/json/value.h"
 
-#include "host/api/textmeter.h"
-#include "host/json/textstream.h"
-#include "host/json/valueblocks.h"
-
+#include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
@@ -14,113 +12,128 @@ namespace kql
 namespace Json
 {
 
-using Utf16 = rapidjson::UTF16<TextStream::Ch>;
+namespace
+{
 
-/// Tells a writer of any kind of text what a document holds.
-template<typename Writer>
-class ValueWriter
+constexpr std::size_t kDeepestIndent = std::size_t(4) * 32;
+constexpr std::size_t kLongestText = std::size_t(256) << 20;
+
+/// What a writer writes, with the limits that Value::toStyledString() tells.
+class BoundedText : public rapidjson::StringBuffer
 {
 public:
-    explicit ValueWriter(Writer& writer) : m_writer(writer) {}
-
-    void write(const Value& value)
+    /// Makes room. Of a text that becomes too long what there was is forgotten.
+    void reserve(std::size_t count)
     {
-        switch (value.m_bytes.kind) {
-        case Value::Kind::Null:
-            m_writer.Null();
-            break;
-        case Value::Kind::Bool:
-            m_writer.Bool(value.load<bool>());
-            break;
-        case Value::Kind::Int:
-            m_writer.Int64(value.load<qint64>());
-            break;
-        case Value::Kind::LargeInt:
-            m_writer.Uint64(value.load<quint64>());
-            break;
-        case Value::Kind::Real:
-            writeReal(value.load<double>());
-            break;
-        case Value::Kind::ShortText:
-        case Value::Kind::LongText:
-            m_writer.String(value.asView().data(), length(value));
-            break;
-        case Value::Kind::Array:
-            writeArray(value.items());
-            break;
-        case Value::Kind::Object:
-            writeObject(value.members());
-            break;
+        if (GetSize() + count > kLongestText) {
+            m_isTooLong = true;
+            Clear();
         }
+        Reserve(count);
     }
+    std::string_view utf8() const
+    {
+        return m_isTooLong ? std::string_view() : std::string_view(GetString(), GetSize());
+    }
+    QString utf16() const { return QString::fromUtf8(utf8().data(), int(utf8().size())); }
 
 private:
-    static rapidjson::SizeType length(const Value& text)
-    {
-        return rapidjson::SizeType(text.asView().size());
-    }
-
-    void writeReal(double number)
-    {
-        if (std::isfinite(number))
-            m_writer.Double(number);
-        else
-            m_writer.Null();
-    }
-
-    void writeArray(const Items& items)
-    {
-        m_writer.StartArray();
-        for (const Value& item : items)
-            write(item);
-        m_writer.EndArray();
-    }
-
-    void writeObject(const MemberBlock* members)
-    {
-        m_writer.StartObject();
-        if (members) {
-            for (const Member& member : *members) {
-                m_writer.Key(member.name.asView().data(), length(member.name));
-                write(member.value);
-            }
-        }
-        m_writer.EndObject();
-    }
-
-    Writer& m_writer;
+    bool m_isTooLong = false;
 };
+
+// The writer's own versions of these know no bounds.
+
+void PutReserve(BoundedText& text, std::size_t count)
+{
+    text.reserve(count);
+}
+
+void PutUnsafe(BoundedText& text, char c)
+{
+    text.PutUnsafe(c);
+}
+
+void PutN(BoundedText& text, char c, std::size_t count)
+{
+    count = std::min(count, kDeepestIndent);
+    text.reserve(count);
+    std::memset(text.Push(count), c, count);
+}
+
+/// Counts what a writer writes as characters of a QString, and keeps none of it.
+struct TextMeter {
+    using Ch = char;
+    void Put(char c)
+    {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool isFirst = (byte & 0xC0) != 0x80;
+        length += isFirst + (byte >= 0xF0); // four bytes are two characters
+    }
+    void Flush() {}
+
+    qint64 length = 0;
+};
+
+void PutN(TextMeter& meter, char, std::size_t count)
+{
+    meter.length += qint64(std::min(count, kDeepestIndent));
+}
+
+template<typename Writer>
+void write(const Node& node, Writer& writer)
+{
+    if (node.IsArray()) {
+        writer.StartArray();
+        for (const Node* element = node.Begin(); element != node.End(); ++element)
+            write(*element, writer);
+        writer.EndArray();
+    } else if (node.IsObject()) {
+        writer.StartObject();
+        const auto end = node.MemberBegin() + Members::count(node);
+        for (auto member = node.MemberBegin(); member != end; ++member) {
+            writer.Key(member->name.GetString(), member->name.GetStringLength());
+            write(member->value, writer);
+        }
+        writer.EndObject();
+    } else if (node.IsDouble() && !std::isfinite(node.GetDouble())) {
+        writer.Null();
+    } else {
+        node.Accept(writer);
+    }
+}
+
+} // namespace
 
 std::string Value::toStyledString() const
 {
-    rapidjson::StringBuffer text;
-    rapidjson::PrettyWriter<rapidjson::StringBuffer> writer(text);
-    ValueWriter(writer).write(*this);
-    return {text.GetString(), text.GetSize()};
+    BoundedText text;
+    rapidjson::PrettyWriter<BoundedText> writer(text);
+    write(m_node, writer);
+    return std::string(text.utf8());
 }
 
 QString Value::toStyledText() const
 {
-    TextStream text;
-    rapidjson::PrettyWriter<TextStream, rapidjson::UTF8<>, Utf16> writer(text);
-    ValueWriter(writer).write(*this);
-    return text.take();
+    BoundedText text;
+    rapidjson::PrettyWriter<BoundedText> writer(text);
+    write(m_node, writer);
+    return text.utf16();
 }
 
 qint64 Value::styledLength() const
 {
     TextMeter meter;
-    rapidjson::PrettyWriter<TextMeter, rapidjson::UTF8<>, Utf16> writer(meter);
-    ValueWriter(writer).write(*this);
-    return meter.length();
+    rapidjson::PrettyWriter<TextMeter> writer(meter);
+    write(m_node, writer);
+    return meter.length;
 }
 
 QString Value::toCompactText() const
 {
-    TextStream text;
-    rapidjson::Writer<TextStream, rapidjson::UTF8<>, Utf16> writer(text);
-    ValueWriter(writer).write(*this);
-    return text.take();
+    BoundedText text;
+    rapidjson::Writer<BoundedText> writer(text);
+    write(m_node, writer);
+    return text.utf16();
 }
 
 } // namespace Json
