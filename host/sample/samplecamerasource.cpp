@@ -1,9 +1,6 @@
 #include "host/sample/samplecamerasource.h"
 
 #include "host/sample/samplestreet.h"
-#include "host/sample/sampletraffic.h"
-
-#include <QPainter>
 
 namespace UICommonMdl
 {
@@ -12,30 +9,9 @@ namespace
 
 constexpr int kMillisecondsPerSecond = 1000;
 
-/// A painter's units become the camera's own pixels, whatever the image's size.
-void useCameraPixels(QPainter& painter, const QSize& size)
+qreal secondsAt(int frame)
 {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(qreal(size.width()) / SampleCameraSource::kWidth,
-                  qreal(size.height()) / SampleCameraSource::kHeight);
-}
-
-QImage paintedBackground(const QSize& size)
-{
-    QImage image(size, QImage::Format_RGB32);
-    QPainter painter(&image);
-    useCameraPixels(painter, size);
-    paintStreet(painter);
-    return image;
-}
-
-QImage paintedFrame(const QImage& background, int frame)
-{
-    QImage image = background.copy();
-    QPainter painter(&image);
-    useCameraPixels(painter, image.size());
-    paintTraffic(painter, qreal(frame) / SampleCameraSource::kPicturesPerSecond);
-    return image;
+    return qreal(frame) / SampleCameraSource::kPicturesPerSecond;
 }
 
 std::optional<int> frozenFrame()
@@ -54,17 +30,11 @@ SampleCameraSource::SampleCameraSource() : m_frozen(frozenFrame())
     connect(&m_timer, &QTimer::timeout, this, &SampleCameraSource::nextPicture);
 }
 
+SampleCameraSource::~SampleCameraSource() = default;
+
 QImage SampleCameraSource::paintFrame(int frame)
 {
-    return paintedFrame(paintedBackground({kWidth, kHeight}), frame);
-}
-
-void SampleCameraSource::freeze(int frame)
-{
-    m_frozen = frame;
-    m_timer.stop();
-    if (m_started)
-        nextPicture();
+    return SampleStreet({kWidth, kHeight}).pictureAt(secondsAt(frame));
 }
 
 void SampleCameraSource::start()
@@ -106,7 +76,7 @@ void SampleCameraSource::setTargetSize(const QSize& size)
     if (wanted == m_size)
         return;
     m_size = wanted;
-    m_background = QImage();
+    m_street.reset();
     m_picture = QImage();
 }
 
@@ -120,9 +90,9 @@ void SampleCameraSource::nextPicture()
 
 QImage SampleCameraSource::paint() const
 {
-    if (m_background.isNull())
-        m_background = paintedBackground(m_size);
-    return paintedFrame(m_background, m_frame);
+    if (!m_street)
+        m_street = std::make_unique<SampleStreet>(m_size);
+    return m_street->pictureAt(secondsAt(m_frame));
 }
 
 } // namespace UICommonMdl

@@ -5,13 +5,16 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
 namespace UICommonMdl
 {
 
+class SampleStreet;
+
 /**
- * A camera over a street that is painted, for work without a camera. It shows 25 pictures a
+ * A camera over a street, for work without a camera. It shows 25 pictures a
  * second, or one only: that whose number the environment variable KQ_SAMPLE_FREEZE holds.
  * A picture is painted when it is asked for, in the size in which it is shown.
  */
@@ -25,12 +28,10 @@ public:
     static constexpr int kPicturesPerSecond = 25;
 
     SampleCameraSource();
+    ~SampleCameraSource() override;
 
     /// Picture number @p frame in the camera's own size; the same number, the same picture.
     static QImage paintFrame(int frame);
-
-    /// Shows picture number @p frame from now on, and no other.
-    void freeze(int frame);
 
     void start() override;
     void stop() override;
@@ -45,12 +46,12 @@ private:
 
     QTimer m_timer;
     QElapsedTimer m_clock;
-    std::optional<int> m_frozen;
+    const std::optional<int> m_frozen;
     bool m_started = false;
     int m_frame = 0;
     QSize m_size{kWidth, kHeight};
-    mutable QImage m_background; ///< what never moves, in m_size
-    mutable QImage m_picture;    ///< null while picture m_frame is not painted
+    mutable std::unique_ptr<SampleStreet> m_street; ///< in m_size; null until it is needed
+    mutable QImage m_picture;                       ///< null while picture m_frame is not painted
 };
 
 } // namespace UICommonMdl

@@ -1,206 +1,239 @@
 #include "host/sample/samplestreet.h"
 
 #include "host/sample/samplecamerasource.h"
-#include "host/sample/samplehouse.h"
-#include "host/sample/sampletree.h"
-#include "host/sample/samplevehicle.h"
-#include "host/sample/streetview.h"
 
-#include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
+#include <QTime>
+#include <QtMath>
 
-using namespace UICommonMdl::streetview;
+#include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace UICommonMdl
 {
 namespace
 {
 
-constexpr qreal kPictureWidth = SampleCameraSource::kWidth;
-constexpr qreal kPictureHeight = SampleCameraSource::kHeight;
-constexpr qreal kNear = 9;  ///< metres; the picture's lower edge is farther
-constexpr qreal kFar = 420; ///< metres; the road goes out of sight
-constexpr qreal kRoadHalf = 7;
-constexpr qreal kKerb = 0.3;
-constexpr qreal kBayEnd = 9.6;
-constexpr qreal kLeftWalkEnd = -10.6;
-constexpr qreal kRightWalkEnd = 12.9;
-constexpr QRgb kMarking = 0xFFE4E4DE;
-constexpr QRgb kPavement = 0xFFB3AFA7;
-constexpr QRgb kPavementJoint = 0x30605C56;
-constexpr QRgb kKerbStone = 0xFFD2CFC8;
+constexpr QRect kView(0, 0, SampleCameraSource::kWidth, SampleCameraSource::kHeight);
+constexpr qreal kMiddle = 616;  ///< where the road vanishes, camera pixels
+constexpr qreal kHorizon = 216; ///< camera pixels from the top
+constexpr qreal kFocus = 900;   ///< camera pixels
+constexpr qreal kCameraHeight = 7.5;
+constexpr qreal kNearest = 3; ///< metres; what is nearer is shown as if it were there
+constexpr qreal kLaneStart = -6;
+constexpr qreal kLaneLength = 196;
+constexpr qreal kWalkStart = 8;
+constexpr qreal kWalkLength = 92;
 
-QColor rgba(QRgb color)
+struct Shape {
+    qreal width;
+    qreal height;
+    qreal length;
+};
+
+constexpr Shape kCar{1.8, 1.46, 4.4};
+constexpr Shape kVan{1.95, 2.3, 5.6};
+constexpr Shape kBus{2.5, 3, 11};
+
+struct Driver {
+    qreal lane; ///< its middle, metres to the right of the road's
+    qreal start;
+    qreal speed; ///< metres a second away from the camera, the same for all of a lane
+    Shape shape;
+};
+
+constexpr Driver kDrivers[] = {
+    {-5.25, 8, -9.5, kCar},   {-5.25, 62, -9.5, kBus},  {-5.25, 118, -9.5, kCar},
+    {-1.75, 30, -12.5, kCar}, {-1.75, 96, -12.5, kVan}, {-1.75, 150, -12.5, kCar},
+    {1.75, 26, 12, kCar},     {1.75, 74, 12, kCar},     {1.75, 140, 12, kCar},
+    {5.25, 40, 9, kVan},      {5.25, 104, 9, kCar},     {5.25, 160, 9, kCar},
+};
+
+struct Stroller {
+    qreal x;
+    qreal start;
+    qreal speed;
+    qreal height;
+};
+
+constexpr Stroller kStrollers[] = {
+    {-9.4, 8, 1.3, 1.8},    {-8.5, 26, -1.2, 1.68},  {-9.6, 52, 1.1, 1.75},
+    {11.2, 20, -1.25, 1.7}, {11.9, 21, -1.25, 1.62}, {11.4, 60, 1.35, 1.82},
+};
+
+/// Camera pixels a metre at @p distance.
+qreal scaleAt(qreal distance)
 {
-    return QColor::fromRgba(color);
+    return kFocus / qMax(distance, kNearest);
 }
 
-/// Fills the full width between two heights, from one colour to the other.
-void fillBand(QPainter& painter, qreal top, qreal bottom, QRgb upper, QRgb lower)
+/// Camera pixels of a place in metres: right of the road's middle, above it, from the camera.
+QPointF project(qreal x, qreal y, qreal distance)
 {
-    QLinearGradient gradient(0, top, 0, bottom);
-    gradient.setColorAt(0, rgba(upper));
-    gradient.setColorAt(1, rgba(lower));
-    painter.fillRect(QRectF(0, top, kPictureWidth, bottom - top), gradient);
+    const qreal scale = scaleAt(distance);
+    return {kMiddle + x * scale, kHorizon + (kCameraHeight - y) * scale};
 }
 
-void paintCloud(QPainter& painter, const QPointF& middle, qreal size)
+/// What a vehicle and its shadow, to its right, cover; its sprites fill that.
+QRectF outlineOf(const Driver& driver, qreal distance)
 {
-    QPainterPath cloud;
-    cloud.setFillRule(Qt::WindingFill);
-    cloud.addEllipse(middle, size * 1.9, size * 0.26);
-    cloud.addEllipse(middle + QPointF(-size * 0.55, -size * 0.16), size * 0.72, size * 0.3);
-    cloud.addEllipse(middle + QPointF(size * 0.4, -size * 0.26), size * 0.85, size * 0.4);
-    painter.fillPath(cloud, QColor(255, 255, 255, 105));
+    const Shape& shape = driver.shape;
+    QPolygonF corners;
+    for (const qreal x : {-shape.width / 2, shape.width / 2 + 0.55}) {
+        for (const qreal z : {distance - 0.15, distance + shape.length + 0.1})
+            corners << project(driver.lane + x, 0, z) << project(driver.lane + x, shape.height, z);
+    }
+    return corners.boundingRect();
 }
 
-void paintSky(QPainter& painter)
+/// Place on a loop of @p length metres after a way of @p way metres.
+qreal looped(qreal way, qreal length)
 {
-    fillBand(painter, 0, kHorizon + 30, 0xFF8FB8DA, 0xFFE4ECEE);
-    paintCloud(painter, {250, 70}, 92);
-    paintCloud(painter, {560, 118}, 60);
-    paintCloud(painter, {905, 62}, 110);
-    paintCloud(painter, {1190, 128}, 70);
+    const qreal place = std::fmod(way, length);
+    return place < 0 ? place + length : place;
 }
 
-/// The trees in which the road is lost.
-void paintDistance(QPainter& painter)
+/// Over the last metres, far away, all come and go softly.
+qreal opacityAt(qreal place, qreal length)
 {
-    constexpr int kCrowns = 64;
+    constexpr qreal kFadeLength = 30;
+    return qBound(0.0, (length - place) / kFadeLength, 1.0);
+}
+
+/// The picture in the resource for the narrowest of some cameras that is sharp in @p size.
+QImage pictureFor(const QSize& size, std::initializer_list<int> widths, const QString& name)
+{
+    const auto isSharp = [&size](int width) {
+        return size.width() <= width &&
+               qint64(size.height()) * kView.width() <= width * kView.height();
+    };
+    const auto* const found = std::find_if(widths.begin(), widths.end() - 1, isSharp);
+    return QImage(QStringLiteral(":/sample/pictures/") + name.arg(*found));
+}
+
+QImage background(const QSize& size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::gray);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(image.rect(),
+                      pictureFor(size, {960, 1280, 1920, 3840}, QStringLiteral("street-%1.jpg")));
+    return image;
+}
+
+/// The text that cameras put into their pictures.
+void paintCaption(QPainter& painter, qreal seconds)
+{
+    const QTime time = QTime(8, 30).addSecs(int(seconds));
+    QFont font = painter.font();
+    font.setPixelSize(22);
+    painter.setFont(font);
+    const QString text = QStringLiteral("Sample camera  %1").arg(time.toString(Qt::ISODate));
+    painter.setPen(QColor(0, 0, 0, 130));
+    painter.drawText(QPointF(25, 41), text);
+    painter.setPen(QColor(255, 255, 255, 235));
+    painter.drawText(QPointF(24, 40), text);
+}
+
+/// Sprites have their colours as from near by; the air takes them away bit by bit.
+void paintSprite(QPainter& painter, const QImage& sprite, const QRectF& place, qreal distance)
+{
+    if (sprite.isNull())
+        return;
+    QImage image = sprite.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QSize size = painter.transform().mapRect(place).toAlignedRect().size();
+    if (size.width() < image.width())
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QColor air(0xCB, 0xD6, 0xDA);
+    air.setAlphaF(qBound(0.0, distance / 260, 0.62));
+    QPainter haze(&image);
+    haze.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    haze.fillRect(image.rect(), air);
+    haze.end();
+    painter.drawImage(place, image);
+}
+
+void paintShadow(QPainter& painter, qreal x, qreal distance)
+{
+    const qreal top = project(x, 0, distance + 0.35).y();
+    const qreal bottom = project(x, 0, distance - 0.35).y();
+    const QPointF middle(project(x, 0, distance).x(), (top + bottom) / 2);
     painter.setPen(Qt::NoPen);
-    for (int i = 0; i < kCrowns; ++i) {
-        const int unevenness = (i * 37) % 23;
-        const QPointF middle(kPictureWidth * i / (kCrowns - 1), kHorizon + 12 - unevenness * 0.5);
-        painter.setBrush(QColor(0x98 + unevenness / 2, 0xAE + unevenness / 3, 0xA2));
-        painter.drawEllipse(middle, 22.0 + unevenness * 0.6, 17.0 + unevenness * 0.5);
-    }
-}
-
-void paintLawn(QPainter& painter)
-{
-    fillBand(painter, kHorizon + 12, kPictureHeight, 0xFFA8B79A, 0xFF6F8C55);
-}
-
-/// Along the road in short pieces, so that the air's colour changes with the distance.
-void paintStrip(QPainter& painter, const QColor& color, qreal x0, qreal x1)
-{
-    for (qreal z = kFar; z > kNear; z *= 0.9)
-        paintGround(painter, color, x0, x1, z * 0.895, z);
-}
-
-void paintPavement(QPainter& painter, qreal x0, qreal x1)
-{
-    paintStrip(painter, rgba(kPavement), x0, x1);
-    for (qreal z = kNear; z < 90; z += 1.5)
-        paintGround(painter, rgba(kPavementJoint), x0, x1, z, z + 0.05);
-}
-
-void paintPavements(QPainter& painter)
-{
-    paintPavement(painter, kLeftWalkEnd, -kRoadHalf);
-    paintPavement(painter, kBayEnd, kRightWalkEnd);
-    paintStrip(painter, rgba(kKerbStone), -kRoadHalf - kKerb, -kRoadHalf);
-    paintStrip(painter, rgba(kKerbStone), kBayEnd, kBayEnd + kKerb);
-}
-
-void paintAsphalt(QPainter& painter)
-{
-    paintStrip(painter, QColor(0x66, 0x6A, 0x6E), -kRoadHalf, kRoadHalf);
-    paintStrip(painter, QColor(0x72, 0x75, 0x77), kRoadHalf, kBayEnd);
-    for (const qreal lane : {-5.25, -1.75, 1.75, 5.25}) {
-        for (const qreal track : {-0.8, 0.8})
-            paintGround(painter, QColor(0x30, 0x34, 0x38, 24), lane + track - 0.28,
-                        lane + track + 0.28, kNear, kFar);
-    }
-    paintGround(painter, QColor(0x50, 0x54, 0x58, 150), 2.2, 5.0, 27, 33);
-    paintGround(painter, QColor(0x55, 0x59, 0x5D, 130), -6.6, -4.6, 19, 30);
-}
-
-void paintDashes(QPainter& painter, qreal x)
-{
-    for (qreal z = 6; z < 240; z += 9)
-        paintGround(painter, rgba(kMarking), x - 0.08, x + 0.08, z, z + 3.6);
-}
-
-/// An arrow on the road that points away from the camera, or towards it.
-void paintArrow(QPainter& painter, qreal x, qreal z, bool pointsAway)
-{
-    const qreal sign = pointsAway ? 1 : -1;
-    const qreal neck = z + sign * 1.2;
-    const qreal tip = z + sign * 3.2;
-    const qreal tail = z - sign * 2.2;
-    paintFace(painter, rgba(kMarking),
-              {{x - 0.11, 0, tail},
-               {x + 0.11, 0, tail},
-               {x + 0.11, 0, neck},
-               {x + 0.42, 0, neck},
-               {x, 0, tip},
-               {x - 0.42, 0, neck},
-               {x - 0.11, 0, neck}});
-}
-
-void paintMarkings(QPainter& painter)
-{
-    for (const qreal x : {-6.75, -0.17, 0.17, 6.75})
-        paintStrip(painter, rgba(kMarking), x - 0.07, x + 0.07);
-    paintDashes(painter, -3.5);
-    paintDashes(painter, 3.5);
-    for (qreal z = 12; z < 120; z += 6.5)
-        paintGround(painter, rgba(kMarking), 6.9, kBayEnd - 0.1, z, z + 0.12);
-    for (const qreal x : {-5.25, -1.75})
-        paintArrow(painter, x, 25, false);
-    for (const qreal x : {1.75, 5.25})
-        paintArrow(painter, x, 38, true);
-}
-
-void paintLamp(QPainter& painter, qreal side, qreal x, qreal z)
-{
-    const QColor post(0x6E, 0x77, 0x7D);
-    paintShadow(painter, {x + 0.3, 0, z}, 0.45, 0.3);
-    paintFace(painter, post,
-              {{x - 0.09, 0, z}, {x + 0.09, 0, z}, {x + 0.05, 8.6, z}, {x - 0.05, 8.6, z}});
-    paintFace(painter, post,
-              {{x, 8.5, z}, {x - side * 2.2, 8.85, z}, {x - side * 2.2, 8.95, z}, {x, 8.65, z}});
-    paintFace(painter, QColor(0xE8, 0xE6, 0xDA),
-              {{x - side * 1.7, 8.72, z},
-               {x - side * 2.6, 8.84, z},
-               {x - side * 2.6, 8.96, z},
-               {x - side * 1.7, 8.92, z}});
-}
-
-void paintFurniture(QPainter& painter)
-{
-    for (const qreal z : {150.0, 116.0, 82.0, 48.0}) {
-        paintLamp(painter, -1, -8.0, z);
-        paintLamp(painter, 1, 10.3, z + 8);
-    }
-}
-
-void paintParked(QPainter& painter)
-{
-    const SampleVehicle last{SampleVehicle::Kind::Car, QColor(0x7A, 0x83, 0x8A), false};
-    const SampleVehicle middle{SampleVehicle::Kind::Van, QColor(0xD9, 0xD6, 0xCC), false};
-    const SampleVehicle first{SampleVehicle::Kind::Car, QColor(0x4B, 0x5F, 0x7C), false};
-    paintVehicle(painter, last, 8.3, 65.2);
-    paintVehicle(painter, middle, 8.35, 45.0);
-    paintVehicle(painter, first, 8.3, 26.2);
+    painter.setBrush(QColor(10, 20, 25, 46));
+    painter.drawEllipse(middle, 0.5 * scaleAt(distance), (bottom - top) / 2);
 }
 
 } // namespace
 
-void paintStreet(QPainter& painter)
+SampleStreet::SampleStreet(const QSize& size) : m_background(background(size)) {}
+
+QImage SampleStreet::pictureAt(qreal seconds)
 {
-    paintSky(painter);
-    paintDistance(painter);
-    paintLawn(painter);
-    paintPavements(painter);
-    paintAsphalt(painter);
-    paintMarkings(painter);
-    paintHouses(painter);
-    paintTrees(painter);
-    paintFurniture(painter);
-    paintParked(painter);
+    QImage image = m_background.copy();
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.scale(qreal(image.width()) / kView.width(), qreal(image.height()) / kView.height());
+    paintWalkers(painter, seconds);
+    paintVehicles(painter, seconds);
+    painter.setOpacity(1);
+    paintCaption(painter, seconds);
+    painter.end();
+    return image;
+}
+
+void SampleStreet::paintWalkers(QPainter& painter, qreal seconds)
+{
+    constexpr qreal kStepLength = 0.72;
+    constexpr int kSwings = 9; ///< pictures from one leg in front to the other
+    int number = 0;
+    for (const Stroller& stroller : kStrollers) {
+        const qreal way = stroller.start + stroller.speed * seconds;
+        const qreal place = looped(way, kWalkLength);
+        const qreal distance = kWalkStart + place;
+        const int swing = qRound((1 + qSin(way / kStepLength * M_PI)) * (kSwings - 1) / 2);
+        const QImage& swings = sprites(
+            QStringLiteral("walker-%1-%2-%3.png").arg(number++).arg(distance < 30 ? 0 : 30));
+        const int width = swings.width() / kSwings;
+        const qreal height = stroller.height * scaleAt(distance);
+        const QPointF feet = project(stroller.x, 0, distance);
+        painter.setOpacity(opacityAt(place, kWalkLength));
+        paintShadow(painter, stroller.x + 0.25, distance);
+        paintSprite(
+            painter, swings.copy(swing * width, 0, width, swings.height()),
+            {feet.x() - 0.24 * height, feet.y() - 1.03 * height, 0.48 * height, 1.08 * height},
+            distance);
+    }
+}
+
+void SampleStreet::paintVehicles(QPainter& painter, qreal seconds)
+{
+    std::vector<std::pair<qreal, int>> byDistance;
+    for (const Driver& driver : kDrivers)
+        byDistance.emplace_back(looped(driver.start + driver.speed * seconds, kLaneLength),
+                                int(byDistance.size()));
+    std::sort(byDistance.rbegin(), byDistance.rend());
+    for (const auto& [place, number] : byDistance) {
+        const qreal distance = kLaneStart + place;
+        const QRectF outline = outlineOf(kDrivers[number], distance);
+        if (!outline.intersects(kView))
+            continue;
+        // The nearer, the more of the roof is seen: a sprite serves from its distance on.
+        const int seenFrom = distance < 15 ? 0 : distance < 25 ? 15 : distance < 50 ? 25 : 50;
+        painter.setOpacity(opacityAt(place, kLaneLength));
+        paintSprite(painter,
+                    sprites(QStringLiteral("vehicle-%1-%2-%3.png").arg(number).arg(seenFrom)),
+                    outline, distance);
+    }
+}
+
+const QImage& SampleStreet::sprites(const QString& name)
+{
+    QImage& image = m_sprites[name];
+    if (image.isNull())
+        image = pictureFor(m_background.size(), {960, 1920, 3840}, name);
+    return image;
 }
 
 } // namespace UICommonMdl
