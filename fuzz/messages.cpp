@@ -2,6 +2,7 @@
 #include "fuzz/fault.h"
 #include "fuzz/harnesses.h"
 #include "fuzz/inputbytes.h"
+#include "fuzz/onepicture.h"
 #include "fuzz/scenetext.h"
 
 #include "Protocol/ruledata.h"
@@ -13,7 +14,6 @@
 #include "host/json/value.h"
 #include "host/video/channelsources.h"
 #include "host/video/nosignalsource.h"
-#include "host/video/picturesource.h"
 #include "plugin/cintelligentruleswidget.h"
 #include "plugin/modulelifetime.h"
 #include "plugin/pluginmessages.h"
@@ -354,25 +354,6 @@ Bench& bench()
     return *bench;
 }
 
-/// One picture, which is there at once.
-class OnePicture : public UICommonMdl::PictureSource
-{
-public:
-    OnePicture() : m_picture(QStringLiteral(":/skin/IntelligentRulesUI/check.png")) {}
-
-    void start() override
-    {
-        setState(UICommonMdl::PictureState::Playing);
-        announcePicture();
-    }
-    void stop() override { setState(UICommonMdl::PictureState::Ended); }
-    QImage picture() const override { return m_picture; }
-    QSize pictureSize() const override { return m_picture.size(); }
-
-private:
-    const QImage m_picture;
-};
-
 /// No input reads a file or opens a connection: one still picture stands for all sources.
 void cutSourcesOff()
 {
@@ -383,7 +364,8 @@ void cutSourcesOff()
             [](const QString& address, const UICommonMdl::StreamOptions&) {
                 std::unique_ptr<UICommonMdl::PictureSource> source;
                 if (address.startsWith(QLatin1String("sample:")))
-                    source = std::make_unique<OnePicture>();
+                    source = std::make_unique<OnePicture>(
+                        QImage(QStringLiteral(":/skin/IntelligentRulesUI/check.png")));
                 else
                     source = std::make_unique<UICommonMdl::NoSignalSource>(address);
                 return source;

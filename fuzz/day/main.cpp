@@ -2,13 +2,10 @@
 // hold; what it was, and how to see it again, is on the standard error stream.
 #include "fuzz/day/crashedday.h"
 #include "fuzz/day/simulatedday.h"
-#include "workbench/display.h"
+#include "fuzz/longrun.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTextStream>
 
 namespace
 {
@@ -18,14 +15,15 @@ struct Outcome {
     QString report;
 };
 
-Outcome play(const QCommandLineParser& options, const QString& name)
+Outcome play(const LongRun& run, const QString& name)
 {
+    const QCommandLineParser& options = run.parser;
     const QString example = QDir(QStringLiteral(RULES_EXAMPLES_DIR)).filePath(name);
-    const unsigned seed = options.value(QStringLiteral("seed")).toUInt();
-    const int actions = options.value(QStringLiteral("actions")).toInt();
+    const unsigned seed = run.seed();
+    const int actions = run.number("actions");
     if (options.isSet(QStringLiteral("crashes"))) {
         CrashedDay day(name, seed);
-        const bool held = day.play(options.value(QStringLiteral("crashes")).toInt());
+        const bool held = day.play(run.number("crashes"));
         return {held, day.report()};
     }
     if (options.isSet(QStringLiteral("until-killed"))) {
@@ -43,15 +41,10 @@ Outcome play(const QCommandLineParser& options, const QString& name)
 
 int main(int argc, char* argv[])
 {
-    if (!Display::isThere())
-        Display::useOffscreen();
-    const QApplication application(argc, argv);
-    QCommandLineParser parser;
-    parser.addHelpOption();
+    LongRun run(argc, argv);
+    QCommandLineParser& parser = run.parser;
     parser.addOptions({{QStringLiteral("actions"), QStringLiteral("actions on each example"),
                         QStringLiteral("number"), QStringLiteral("300")},
-                       {QStringLiteral("seed"), QStringLiteral("of the operator's choices"),
-                        QStringLiteral("number"), QStringLiteral("1")},
                        {QStringLiteral("crashes"),
                         QStringLiteral("instead of one long day, work that is killed that often "
                                        "and restored, on each example"),
@@ -62,16 +55,15 @@ int main(int argc, char* argv[])
     untilKilled.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(untilKilled);
     parser.addPositionalArgument(QStringLiteral("examples"), QStringLiteral("names; none: all"));
-    parser.process(application);
+    parser.process(*qApp);
 
     const QDir examples(QStringLiteral(RULES_EXAMPLES_DIR));
     QStringList names = parser.positionalArguments();
     if (names.isEmpty())
         names = examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     for (const QString& name : names) {
-        const Outcome outcome = play(parser, name);
-        QTextStream(outcome.held ? stdout : stderr) << outcome.report << '\n';
-        if (!outcome.held)
+        const Outcome outcome = play(run, name);
+        if (LongRun::end(outcome.held, outcome.report) != 0)
             return 1;
     }
     return 0;

@@ -60,7 +60,7 @@ struct Load {
     QString written() const
     {
         Value config;
-        return parser.writeData(config) ? text(config) : QStringLiteral("not written");
+        return parser.writeData(config) ? text(config) : QString("not written");
     }
 
     bool isRead = false;
@@ -145,7 +145,7 @@ private slots:
         const QString before = text(place);
         const bool isCleared = item.valueType() == ValueType::String && place.isArray();
         ValueConversion::toJson(QVariant(), item, place);
-        QCOMPARE(text(place), isCleared ? QStringLiteral("[]") : before);
+        QCOMPARE(text(place), isCleared ? QString("[]") : before);
     }
 
     void saves_data() { Fixtures::addRows("saving"); }
@@ -204,10 +204,10 @@ private slots:
         const Load unread(kRules.arg("{}"), "{");
         QVERIFY(!unread.isRead);
         QCOMPARE(unread.scene().getDataCount(), 0);
-        QCOMPARE(unread.written(), QStringLiteral("{}"));
+        QCOMPARE(unread.written(), QString("{}"));
         const Load bare(R"({"configDescription": {"calibrateArea": {"parent": "C"}}})", "{}");
         QVERIFY(bare.isRead);
-        QCOMPARE(bare.written(), QStringLiteral("not written"));
+        QCOMPARE(bare.written(), QString("not written"));
         const auto whyNot = [&](const char* parent, const char* instead) {
             const Load lanes(fixture["template"].toStyledText().replace(parent, instead), "{}");
             lanes.scene().addDataInfo(lanes.scene().newDataInfo())->setValue("N", 1);

@@ -9,8 +9,8 @@
 #include "draw/drawscene.h"
 #include "host/gdiplus.h"
 #include "host/json/reader.h"
-#include "host/json/value.h"
 #include "tests/support/absurddocuments.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 
 using kql::Json::Value;
@@ -137,7 +137,7 @@ private slots:
         const bool isPath = description.contains("a[].a[]."); // leads to nothing
         QString message;
         scene().checkData(message);
-        QCOMPARE(message, isPath ? QStringLiteral("Please draw 1 Area.") : QString());
+        QCOMPARE(message, isPath ? QString("Please draw 1 Area.") : QString());
         QCOMPARE(painted(256), Gdiplus::Ok);
         Value asRead;
         QVERIFY(kql::Json::Reader().parse(QString::fromUtf8(config), asRead));
@@ -223,7 +223,8 @@ private slots:
         const auto most = QRegularExpression("most ([0-9]{2,4}) can").match(said).captured(1);
         QCOMPARE(said, why.contains("%1") ? why.arg(most) : why);
         for (const auto& refused : m_parser.getAllData())
-            QVERIFY(refused->getDataCount() == 0 && !refused->getDrawScene()->getFirstDrawItem());
+            QVERIFY_BOTH(refused->getDataCount() == 0,
+                         !refused->getDrawScene()->getFirstDrawItem());
     }
 
     /// Every value of one long list is looked for in another one, whose values share a hash.
@@ -247,60 +248,30 @@ private slots:
         QCOMPARE(entry().value("999").toString().size(), 20);
     }
 
-    void counts_data()
-    {
-        QTest::addColumn<QByteArray>("range");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("millions") << QByteArray("[0, 2000000000]") << QString();
-        QTest::newRow("beyond int") << QByteArray("[-1e300, 1e300]") << QString();
-        QTest::newRow("at least millions")
-            << QByteArray("[2000000000, 99999999999]")
-            << QStringLiteral("Please add 2000000000-2147483647 Lanes.");
-        QTest::newRow("no pair") << QByteArray("[3]") << QString();
-        QTest::newRow("no numbers") << QByteArray(R"(["a", {}])") << QString();
-    }
+    void counts_data() { Fixtures::addRows("limits/counts.json"); }
 
     void counts()
     {
-        QFETCH(QByteArray, range);
+        QFETCH(const Value, fixture);
         const QByteArray description = R"({"configDescription": {"lanes": {"parent": "Lanes[]",
-            "countOfLane": )" + range + R"(}}, "configTemplate": {"Lanes": []}})";
+            "countOfLane": )" + fixture["range"].toCompactText().toUtf8() +
+                                       R"(}}, "configTemplate": {"Lanes": []}})";
         read(description, R"({"Lanes": []})");
         QString message;
         const bool isAllowed = scene().checkData(message);
-        QTEST(message, "message");
+        QCOMPARE(message, fixture["message"].asString());
         QCOMPARE(isAllowed, message.isEmpty());
-        QCOMPARE(written().toStyledText().simplified(), QStringLiteral("{ \"Lanes\": [] }"));
+        QCOMPARE(written().toStyledText().simplified(), QString("{ \"Lanes\": [] }"));
     }
 
-    void numbersBeyondTheirTypes_data()
-    {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QByteArray>("given");
-        QTest::addColumn<QString>("written");
-        const auto row = [](const char* type, const char* given, const char* kept) {
-            QTest::addRow("%s as %s", given, type)
-                << QByteArray(type) << QByteArray(given) << QString(kept);
-        };
-        row("int", "99999999999", "99999999999");
-        row("int", "-1e300", "-1e300");
-        row("float", "1.7976931348623157e308", "1.7976931348623157e308");
-        row("bool", "1e300", "1e300");
-        row("string", "\"a\\u0000b\"", "\"a\\u0000b\"");
-        row("array int", "[9, 3]", "[ 9, 3 ]");
-        row("array int", "[1e99, -99999999999]", "[ 1e99, -99999999999 ]");
-        row("object", "{\"a\": 1e300}", "{ \"a\": 1e300 }");
-        row("float", "123456789012345678901234567890", "1.2345678901234568e29");
-        row("string", "\"\\ud83d\\ude00\"", "\"\U0001F600\"");
-    }
+    void valuesBeyondTheirTypes_data() { Fixtures::addRows("limits/values.json"); }
 
-    void numbersBeyondTheirTypes()
+    void valuesBeyondTheirTypes()
     {
-        QFETCH(QByteArray, type);
-        QFETCH(QByteArray, given);
-        QFETCH(QString, written);
-        read(number({}, type), oneRule("\"N\": " + given));
-        QCOMPARE(this->written()["R"][0]["N"].toStyledText().simplified(), written);
+        QFETCH(const Value, fixture);
+        const auto text = [&](const char* name) { return fixture[name].asString(); };
+        read(number({}, text("type").toUtf8()), oneRule("\"N\": " + text("given").toUtf8()));
+        QCOMPARE(written()["R"][0]["N"].toStyledText().simplified(), text("written"));
     }
 
     /// Elements are made up to an index, but not without end in all fields of an entry together.
@@ -335,25 +306,18 @@ private slots:
         QCOMPARE(EntryId::after(2147483647), 1);
     }
 
-    void pointLimits_data()
-    {
-        QTest::addColumn<QByteArray>("range");
-        QTest::addColumn<int>("minimum");
-        QTest::addColumn<int>("maximum");
-        QTest::newRow("as given") << QByteArray("[3, 10]") << 3 << 10;
-        QTest::newRow("reversed") << QByteArray("[10, 3]") << 3 << kAnyCount;
-        QTest::newRow("negative") << QByteArray("[-7, -3]") << 3 << kAnyCount;
-        QTest::newRow("minimum negative") << QByteArray("[-7, 5]") << 3 << 5;
-        QTest::newRow("beyond int") << QByteArray("[1e99, 1e300]") << kAnyCount << kAnyCount;
-        QTest::newRow("no pair") << QByteArray("[4]") << 3 << kAnyCount;
-    }
+    void pointLimits_data() { Fixtures::addRows("limits/pointlimits.json"); }
 
     void pointLimits()
     {
-        QFETCH(QByteArray, range);
-        read(areas().replace("[3, 10]", range), oneArea("[1, 2], [3, 4], [5, 9]"));
-        QTEST(figure().minimumPointCount(), "minimum");
-        QTEST(figure().maximumPointCount(), "maximum");
+        QFETCH(const Value, fixture);
+        const auto limit = [&](const char* name) {
+            return fixture.isMember(name) ? fixture[name].asInt() : kAnyCount;
+        };
+        read(areas().replace("[3, 10]", fixture["range"].toCompactText().toUtf8()),
+             oneArea("[1, 2], [3, 4], [5, 9]"));
+        QCOMPARE(figure().minimumPointCount(), limit("minimum"));
+        QCOMPARE(figure().maximumPointCount(), limit("maximum"));
         QVERIFY(figure().isFinished());
     }
 
@@ -374,8 +338,8 @@ private slots:
         }
         read(areas(), oneArea(points));
         QCOMPARE(written()["R"][0]["Area"].toStyledText().simplified(),
-                 QStringLiteral("[ [ -1, 99999 ], [ 2147483647, -2147483648 ], "
-                                "[ 2147483647, 2147483647 ], [ 0, 5 ] ]"));
+                 QString("[ [ -1, 99999 ], [ 2147483647, -2147483648 ], "
+                         "[ 2147483647, 2147483647 ], [ 0, 5 ] ]"));
     }
 
     void longTexts()
@@ -414,14 +378,14 @@ private slots:
         read(number({}), oneRule("\"N\": 5"));
         const Value before = written();
         QString config;
-        QVERIFY(!m_parser.readData(text, config) && !config.isEmpty());
+        QVERIFY_BOTH(!m_parser.readData(text, config), !config.isEmpty());
         QCOMPARE(scene().getDataCount(), 1);
         QCOMPARE(written(), before);
         const QString description = QString::fromUtf8(number({}));
         QString why;
         QVERIFY(
             !m_parser.parseTemplate(QString(description).insert(1, "\"a\": " + text + ","), why));
-        QVERIFY(!why.isEmpty() && why != config);
+        QVERIFY_BOTH(!why.isEmpty(), why != config);
         QVERIFY(m_parser.getAllData().empty());
     }
 
@@ -433,7 +397,7 @@ private slots:
         const QString lone = QChar(0xD800);
         QVERIFY(m_parser.parseTemplate(QString::fromUtf8(number({}))));
         QVERIFY(m_parser.readData(QStringLiteral(R"({"R": [{"Name": "a%1"}]})").arg(lone)));
-        QCOMPARE(entry().name(), QStringLiteral("a?"));
+        QCOMPARE(entry().name(), QString("a?"));
     }
 };
 

@@ -10,7 +10,10 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
+
+using kql::Json::Value;
 
 namespace
 {
@@ -67,10 +70,31 @@ public:
     {
         QString message;
         const bool ok = data.checkData(message);
-        return ok == message.isEmpty() ? message : QStringLiteral("result and message differ");
+        return ok == message.isEmpty() ? message : QString("result and message differ");
     }
 
     RuleData data;
+};
+
+/// An entry whose attributes "a" and "b" are compared; "a" with one that is not there, too.
+struct CrossCheck {
+    explicit CrossCheck(const char* sign)
+    {
+        scene.add("a", FacadeType::InputBoxNumber);
+        scene.add("b", FacadeType::InputBoxNumber);
+        DataTemplate& items = *scene.data.getTemplate();
+        items.addCheckRule({"a", "unknown", CheckRuleOperatorType::Equal});
+        items.addCheckRule({"a", "b", RuleParser::parseToOperatorType(sign)});
+        entry = scene.addEntry();
+    }
+    void set(const QVariant& first, const QVariant& second) const
+    {
+        entry->setValue("a", first);
+        entry->setValue("b", second);
+    }
+
+    Scene scene;
+    RuleDataInfo* entry;
 };
 
 } // namespace
@@ -91,7 +115,7 @@ private slots:
         row->shown = -1; // of a row that shows no range
         QCOMPARE(scene.complaint(), QString());
         row->shown = QSize(-1, -1);
-        QCOMPARE(scene.complaint(), QStringLiteral("SPAN:The minimum value cannot be empty."));
+        QCOMPARE(scene.complaint(), QString("SPAN:The minimum value cannot be empty."));
         row->visible = false;
         QCOMPARE(scene.complaint(), QString());
         row->visible = true;
@@ -103,65 +127,55 @@ private slots:
     {
         Scene scene({1, 1});
         scene.data.setRuleFucTitle("%1 Area");
-        QCOMPARE(scene.complaint(), QStringLiteral("Please add 1 %1 Area."));
+        QCOMPARE(scene.complaint(), QString("Please add 1 %1 Area."));
         RuleProtocolItem* const item = scene.add("zone", FacadeType::Region);
         const RuleDataInfo* const entry = scene.addEntry();
         const auto said = [&](CountRange range) {
             item->setCountRange(range);
             return scene.complaint();
         };
-        QCOMPARE(said({1, 1}), QStringLiteral("Please draw 1 ZONE."));
+        QCOMPARE(said({1, 1}), QString("Please draw 1 ZONE."));
         DrawItem* const first = scene.draw(entry, item, false);
-        QCOMPARE(said({1, 1}), QStringLiteral("Please finish drawing figure."));
+        QCOMPARE(said({1, 1}), QString("Please finish drawing figure."));
         first->figure()->setFinished(true);
         QCOMPARE(said({1, 1}), QString());
         scene.draw(entry, item, false);
-        QCOMPARE(said({1, 1}), QStringLiteral("Please draw 1 ZONE."));
-        QCOMPARE(said({3, 4}), QStringLiteral("Please draw 3-4 ZONE."));
+        QCOMPARE(said({1, 1}), QString("Please draw 1 ZONE."));
+        QCOMPARE(said({3, 4}), QString("Please draw 3-4 ZONE."));
         QCOMPARE(said({0, 0}), QString());
-        QCOMPARE(said({2, 2}), QStringLiteral("Please finish drawing figure."));
+        QCOMPARE(said({2, 2}), QString("Please finish drawing figure."));
     }
+
+    void crossChecks_data() { Fixtures::addRows("crosschecks.json"); }
 
     void crossChecks()
     {
-        const QStringList reasons{"greater than", "less than", "equal", "greater than or equal",
-                                  "less than or equal"};
-        // Where >, <, ==, >= and <= hold.
-        const std::tuple<QVariant, QVariant, const char*> pairs[] = {
-            {1, 1, "--+++"},
-            {2, 10, "-+--+"},
-            {2.5, 2, "+--+-"},
-            {"10", 9, "+--+-"},
-            {"10", "9", "+--+-"},
-            {"b", "a", "+--+-"},
-            {-1, "", "+--+-"},
-            {"nan", 1, "+--+-"},
-            {"inf", "nan", "-+--+"},
-            {QSize(1, 2), QSize(1, 3), "++-++"},
-            {QStringList{"a"}, QStringList{"a"}, "+++++"},
-            {QVariant(), 1, "+++++"},
-        };
-        const QStringList operators{">", "<", "==", ">=", "<="};
-        for (int i = 0; i < operators.size(); ++i) {
-            Scene scene;
-            scene.add("a", FacadeType::InputBoxNumber);
-            scene.add("b", FacadeType::InputBoxNumber);
-            scene.data.getTemplate()->addCheckRule({"a", "unknown", CheckRuleOperatorType::Equal});
-            scene.data.getTemplate()->addCheckRule(
-                {"a", "b", RuleParser::parseToOperatorType(operators[i])});
-            RuleDataInfo* const entry = scene.addEntry();
-            const QString text = QStringLiteral("A must be %1 to B").arg(reasons[i]);
-            for (const auto& [first, second, holds] : pairs) {
-                entry->setValue("a", first);
-                entry->setValue("b", second);
-                QCOMPARE(scene.complaint(), holds[i] == '+' ? QString() : text);
-            }
-            entry->setValue("a", i % 2 ? 2 : 1);
-            entry->setValue("b", i == 2 ? 2 : 1);
+        QFETCH(const Value, fixture);
+        const std::pair<const char*, const char*> reasons[] = {{">", "greater than"},
+                                                               {"<", "less than"},
+                                                               {"==", "equal"},
+                                                               {">=", "greater than or equal"},
+                                                               {"<=", "less than or equal"}};
+        for (const auto& [sign, reason] : reasons) {
+            const CrossCheck check(sign);
+            check.set(Fixtures::valueOf(fixture["first"]), Fixtures::valueOf(fixture["second"]));
+            const bool holds = Fixtures::textsOf(fixture["holds"]).contains(sign);
+            const QString text = QString("A must be %1 to B").arg(reason);
+            QCOMPARE(check.scene.complaint(), holds ? QString() : text);
+        }
+    }
+
+    void crossChecksOnlyWhatApplies()
+    {
+        for (const auto& [sign, first, second] :
+             {std::tuple(">", 1, 1), std::tuple("<", 2, 1), std::tuple("==", 1, 2)}) {
+            const CrossCheck check(sign);
+            check.set(first, second);
+            QVERIFY2(!check.scene.complaint().isEmpty(), sign);
             for (const char* key : {"a", "b"}) {
-                entry->setValid(key, false);
-                QCOMPARE(scene.complaint(), QString());
-                entry->setValid(key, true);
+                check.entry->setValid(key, false);
+                QCOMPARE(check.scene.complaint(), QString());
+                check.entry->setValid(key, true);
             }
         }
     }
@@ -183,16 +197,16 @@ private slots:
         changed.setValid("more", false);
         const RuleDataInfo copy = changed;
         changed.setValue("number", QVariant());
-        QVERIFY(changed.hasValue("number") && !changed.value("number").isValid());
+        QVERIFY_BOTH(changed.hasValue("number"), !changed.value("number").isValid());
         QCOMPARE(copy.value("number"), QVariant(7));
-        QVERIFY(!copy.isValid("more") && copy.isValid("number"));
+        QVERIFY_BOTH(!copy.isValid("more"), copy.isValid("number"));
         const RuleDataInfo& other = *data.getDataInfo(ids[2]);
         QCOMPARE(other.value("number"), QVariant(4));
-        QVERIFY(!other.hasValue("more") && other.isValid("more"));
+        QVERIFY_BOTH(!other.hasValue("more"), other.isValid("more"));
         data.setSelectedDataId(ids[0]);
         data.removeDataInfo(ids[0]);
         QCOMPARE(data.getSelectedDataId(), ids[0]);
-        QVERIFY(!data.selectedDataInfo() && !data.getDataInfo(ids[0]));
+        QVERIFY_BOTH(!data.selectedDataInfo(), !data.getDataInfo(ids[0]));
         QCOMPARE(data.indexOf(ids[2]), 1);
         data.removeDataInfo(ids[0]);
         QCOMPARE(data.getSelectedDataId(), 0);
@@ -220,14 +234,14 @@ private slots:
         scene.data.getDrawScene()->removeItem(parent->itemId());
         for (RuleData* const data : {&copy, &assigned}) {
             const auto& items = data->getTemplate()->items();
-            QVERIFY(items[0].get() != zone && !items[0]->row());
+            QVERIFY_BOTH(items[0].get() != zone, !items[0]->row());
             QCOMPARE(items[1]->linkedItem(), items[0].get());
-            QCOMPARE(data->selectedDataInfo()->name(), QStringLiteral("gate"));
+            QCOMPARE(data->selectedDataInfo()->name(), QString("gate"));
             QCOMPARE(data->getDrawScene()->canvasSize(), QSize(50, 40));
             const auto figures = data->getDrawScene()->getItemListByDataId(entry->id());
             QCOMPARE(figures.size(), 2);
             QCOMPARE(figures[1]->parent(), figures[0]);
-            QCOMPARE(figures[1]->templateKey(), QStringLiteral("inner"));
+            QCOMPARE(figures[1]->templateKey(), QString("inner"));
             QString message;
             QVERIFY2(data->checkData(message), qPrintable(message));
         }
@@ -252,41 +266,21 @@ private slots:
         }
     }
 
+    void validity_data() { Fixtures::addRows("validity.json"); }
+
     void validity()
     {
-        Scene scene;
-        scene.add("radio", FacadeType::RadioButton);
-        scene.add("boxes", FacadeType::CheckBox);
-        scene.add("switch", FacadeType::Bool);
-        scene.add("number", FacadeType::InputBoxNumber);
-        const auto check = [&scene](const QString& controller, const QVariant& value,
-                                    const QStringList& values, bool isValid) {
-            const auto& items = scene.data.getTemplate()->items();
-            const QString key = QString::number(items.size());
-            scene.add(key, FacadeType::InputBoxNumber)->addValidity({controller, values});
-            RuleDataInfo entry;
-            entry.setValue(controller, value);
-            Validity::update(*scene.data.getTemplate(), entry);
-            QCOMPARE(entry.isValid(key), isValid);
-        };
-        check("radio", "a", {"a", "b"}, true);
-        check("radio", "c", {"a", "b"}, false);
-        check("radio", QVariant(), {"a", ""}, false);
-        check("boxes", QStringList{"x", "b"}, {"a", "b"}, true);
-        check("boxes", QStringList{"x"}, {"a", "b"}, false);
-        check("boxes", "b", {"b"}, true);
-        check("switch", true, {"true"}, true);
-        check("switch", true, {"false"}, false);
-        check("switch", QVariant(), {"false"}, true);
-        check("number", 7.5, {"7.5"}, true);
-        scene.add("float", FacadeType::InputBoxNumber, ValueType::Float);
-        scene.add("object", FacadeType::RadioButton, ValueType::Object);
-        const QString object = R"({"b": [2, "x"], "a": 1.0})";
-        check("float", 7.0, {"7.0"}, true);
-        check("object", object, {R"({"a":1,"b":[2.0,"x"]})"}, true);
-        check("object", object, {R"({"a":1,"b":["x",2]})", R"({"a":1})", "x"}, false);
-        check("nobody", 1, {"2"}, true);
-        check("radio", "c", {}, true);
+        QFETCH(const Value, fixture);
+        const Scene scene;
+        if (!fixture["facade"].isNull())
+            scene.add("controller", RuleParser::parseToFacadeType(fixture["facade"].asString()),
+                      RuleParser::parseToValueType(fixture["type"].asString()));
+        scene.add("key", FacadeType::InputBoxNumber)
+            ->addValidity({"controller", Fixtures::textsOf(fixture["values"])});
+        RuleDataInfo entry;
+        entry.setValue("controller", Fixtures::valueOf(fixture["value"]));
+        Validity::update(*scene.data.getTemplate(), entry);
+        QCOMPARE(entry.isValid("key"), fixture["applies"].asBool());
     }
 
     void validityChains()
@@ -305,13 +299,13 @@ private slots:
         const auto hides = [&](const RuleProtocolItem* item) {
             return Validity::hiddenItems(items, *entry).contains(item);
         };
-        QVERIFY(!entry->isValid("middle") && entry->isValid("low"));
+        QVERIFY_BOTH(!entry->isValid("middle"), entry->isValid("low"));
         entry->setValue("low", R"({"a": 1, "b": 2})");
         entry->setValue("other", "{}");
-        QVERIFY(hides(low) && !hides(top));
+        QVERIFY_BOTH(hides(low), !hides(top));
         QCOMPARE(scene.complaint(), QString()); // about a row that nobody sees
         entry->setValue("top", "on");
-        QVERIFY(!hides(low) && !scene.complaint().isEmpty());
+        QVERIFY_BOTH(!hides(low), !scene.complaint().isEmpty());
         entry->setValue("other", R"({"b": 2.0, "a": 1})");
         QCOMPARE(scene.complaint(), QString());
         top->addValidity({"low", {"5"}});

@@ -17,13 +17,13 @@ QString document(const QString& name)
     return QString::fromUtf8(Fixtures::contentOf("templates/" + name));
 }
 
-QString description(const QString& sections, const QString& configItems = QStringLiteral("{}"))
+QString description(const QString& sections, const QString& configItems = QString("{}"))
 {
     return QStringLiteral(R"({"configDescription": {%1}, "configItems": %2})")
         .arg(sections, configItems);
 }
 
-QString rules(const QString& members, const QString& configItems = QStringLiteral("{}"))
+QString rules(const QString& members, const QString& configItems = QString("{}"))
 {
     return description(QStringLiteral(R"("ruleDescription": {"rules": {%1}})").arg(members),
                        configItems);
@@ -56,7 +56,7 @@ private:
     const RuleProtocolItem* parseItem(const QString& text)
     {
         const RuleData* const data = parse(text);
-        return data ? data->getTemplate()->findItem(QStringLiteral("a")) : nullptr;
+        return data ? data->getTemplate()->findItem(QString("a")) : nullptr;
     }
 
     std::unique_ptr<RuleParser> m_parser;
@@ -72,7 +72,7 @@ private slots:
             QVERIFY2(parser.getAllData().empty(), text);
         }
         QVERIFY(parser.parseTemplate(description({})));
-        QVERIFY(parser.getAllData().empty() && !parser.getData(SceneType::Lanes));
+        QVERIFY_BOTH(parser.getAllData().empty(), !parser.getData(SceneType::Lanes));
         QVERIFY(parser.parseTemplate(description(R"("calibrateArea": null, "lanes": null,
                                                     "ruleDescription": {"rules": null})")));
         QVERIFY(parser.getAllData().empty());
@@ -97,7 +97,7 @@ private slots:
         const RuleData* const data = parse(document("controls.json"));
         const auto& items = data->getTemplate()->items();
         QCOMPARE(items.size(), std::size_t(3));
-        QCOMPARE(items[0]->path().text(), QStringLiteral("A.B[]"));
+        QCOMPARE(items[0]->path().text(), QString("A.B[]"));
         QCOMPARE(items[0]->index(), 1);
         QCOMPARE(items[1]->index(), -1);
         const QStringList values[] = {{"x"}, {"y", "z"}, {}};
@@ -140,20 +140,20 @@ private slots:
     {
         const RuleProtocolItem* item = parseItem(oneControl("int", R"({"describe": "Dwell",
             "facade": "inputBoxNumber", "range": [1, 1e12], "units": "s", "enumeration": [{}]})"));
-        QCOMPARE(item->caption() + item->units(), QStringLiteral("Dwells"));
+        QCOMPARE(item->caption() + item->units(), QString("Dwells"));
         QCOMPARE(item->rangeMinimum(), QVariant(1));
         QCOMPARE(item->rangeMaximum(), QVariant(2147483647));
         QVERIFY(item->enumeration().isEmpty());
         item = parseItem(oneControl("int", R"({"facade": "inputBoxNumber", "range": null})"));
-        QVERIFY(!item->rangeMinimum().isValid() && !item->rangeMaximum().isValid());
+        QVERIFY_BOTH(!item->rangeMinimum().isValid(), !item->rangeMaximum().isValid());
         item = parseItem(oneControl("string", R"({"facade": "checkbox", "units": "s",
             "enumeration": [{"name": "All", "value": "all", "isAll": true, "describe": "tip"},
                             {"name": "Obj", "value": {"k": 1}}, {"name": "Num", "value": 5}]})"));
         const QList<EnumOption>& options = item->enumeration();
         QCOMPARE(options.size(), 3);
-        QVERIFY(item->hasAllChoice() && options[0].isAll && !options[1].isAll);
-        QCOMPARE(options[0].text + options[0].value + options[0].description,
-                 QStringLiteral("Allalltip"));
+        QVERIFY_BOTH(item->hasAllChoice(), options[0].isAll);
+        QVERIFY(!options[1].isAll);
+        QCOMPARE(options[0].text + options[0].value + options[0].description, QString("Allalltip"));
         QCOMPARE(Mailbox::json(options[1].value), Mailbox::json(R"({"k": 1})"));
         QCOMPARE(options[2].value + item->units(), QString());
     }
@@ -186,7 +186,7 @@ private slots:
                             R"({"a": {"describe": "A", "facade": )" + QString(kind) + "}}"));
             const auto& items = data->getTemplate()->items();
             QVariantList expected = described(*items[0]);
-            QVERIFY(expected.first() == "A" && expected[1] != int(FacadeType::None));
+            QVERIFY_BOTH(expected.first() == "A", expected[1] != int(FacadeType::None));
             QCOMPARE(described(*items[1]), expected);
             if (items[0]->facade() == FacadeType::InputBoxNumber)
                 expected[5] = QString(); // no text
@@ -202,7 +202,8 @@ private slots:
             const QString details =
                 QStringLiteral(R"({"facade": "%1", "range": %2})").arg(facade, range);
             const RuleProtocolItem* const item = parseItem(oneControl("point", details));
-            QVERIFY2(item->isFigure() && item->countRange() == (CountRange{1, 1}), facade);
+            QVERIFY2(item->isFigure(), facade);
+            QVERIFY2(item->countRange() == (CountRange{1, 1}), facade);
             QVERIFY2(item->pointCount() == points, qPrintable(details));
             QVERIFY2(item->figurePointLimits() == limits, qPrintable(details));
         };

@@ -24,7 +24,7 @@ DrawItem* add(DrawScene& scene, Type type, int dataId = 1, int parentId = 0,
     item->setDataId(dataId);
     item->setForbidenAreaType(forbid);
     item->setPointLimits(-1, -1);
-    item->setLabel(QStringLiteral("Rule%1").arg(dataId));
+    item->setLabel("Rule%1".arg(dataId));
     return scene.addItem(std::move(item), parentId);
 }
 
@@ -89,18 +89,18 @@ private slots:
         press(*m_scene, {{5, 5}});
         QVERIFY(item->getPoints().isEmpty());
         m_scene->setSelected(item->itemId(), 1);
-        QCOMPARE(m_scene->message(), QStringLiteral("Please draw Rule1!"));
+        QCOMPARE(m_scene->message(), QString("Please draw Rule1!"));
         press(*m_scene, {{20, 20}, {120, 20}});
         move(*m_scene, {70, 70});
         QCOMPARE(item->figure()->movePoint().value(), QPoint(70, 70));
         rightPress(*m_scene);
         QVERIFY(!item->isFinished());
-        QCOMPARE(m_scene->message(), QStringLiteral("Please draw Rule1!"));
+        QCOMPARE(m_scene->message(), QString("Please draw Rule1!"));
         QCOMPARE(m_changes->count(), 1);
         press(*m_scene, {{120, 120}});
         rightPress(*m_scene);
         QVERIFY(item->isFinished());
-        QCOMPARE(m_scene->message(), QStringLiteral("Draw Rule1 complete!"));
+        QCOMPARE(m_scene->message(), QString("Draw Rule1 complete!"));
         QCOMPARE(m_changes->count(), 2);
         press(*m_scene, {{60, 200}});
         rightPress(*m_scene);
@@ -111,10 +111,10 @@ private slots:
 
         const DrawItem* rectangle = drawn(*m_scene, Type::Rectangle, {{1, 1}, {9, 9}});
         QVERIFY(rectangle->isFinished());
-        QCOMPARE(m_scene->message(), QStringLiteral("Draw Rule1 complete!"));
+        QCOMPARE(m_scene->message(), QString("Draw Rule1 complete!"));
         m_scene->setSelected(0, 0);
         move(*m_scene, {1, 1});
-        QVERIFY(!m_scene->selectedItem(-1) && m_scene->message().isEmpty());
+        QVERIFY_BOTH(!m_scene->selectedItem(-1), m_scene->message().isEmpty());
     }
 
     void keepsFiguresOutOfOthers()
@@ -132,10 +132,10 @@ private slots:
         press(*m_scene, {{10, 10}, {250, 10}, {250, 240}});
         QCOMPARE(item->getPoints().size(), 3);
         m_scene->setCanvasSize(2 * kCanvas, 2 * kCanvas);
-        QVERIFY(m_scene->isPointForbidden({120, 120}) && m_scene->isPointForbidden({380, 380}));
+        QVERIFY_BOTH(m_scene->isPointForbidden({120, 120}), m_scene->isPointForbidden({380, 380}));
         QVERIFY(!m_scene->isPointForbidden({480, 100}));
         rightPress(*m_scene);
-        QVERIFY(item->isFinished() && !m_scene->isPointForbidden({120, 120}));
+        QVERIFY_BOTH(item->isFinished(), !m_scene->isPointForbidden({120, 120}));
         m_scene->redrawItem(item->itemId());
         QVERIFY(m_scene->isPointForbidden({120, 120}));
         m_scene->removeItem(item->itemId());
@@ -150,11 +150,11 @@ private slots:
         QCOMPARE(child->parent(), region);
         QCOMPARE(child->dataId(), region->dataId());
         m_scene->setSelected(child->itemId(), 1);
-        QVERIFY(m_scene->isPointForbidden({200, 200}) && !m_scene->isPointForbidden({60, 60}));
+        QVERIFY_BOTH(m_scene->isPointForbidden({200, 200}), !m_scene->isPointForbidden({60, 60}));
         m_scene->setCanvasSize(2 * kCanvas, 2 * kCanvas);
-        QVERIFY(!m_scene->isPointForbidden({200, 200}) && m_scene->isPointForbidden({10, 60}));
+        QVERIFY_BOTH(!m_scene->isPointForbidden({200, 200}), m_scene->isPointForbidden({10, 60}));
         press(*m_scene, {{300, 300}, {60, 60}, {80, 80}});
-        QVERIFY(child->isFinished() && !m_scene->isPointForbidden({10, 60}));
+        QVERIFY_BOTH(child->isFinished(), !m_scene->isPointForbidden({10, 60}));
     }
 
     void keepsALanesLinesApart()
@@ -164,13 +164,13 @@ private slots:
         press(*m_scene, {{100, 200}, {120, 40}});
         QVERIFY(!m_scene->isPointForbidden({10, 10}));
         press(*m_scene, {{180, 200}});
-        QVERIFY(m_scene->isPointForbidden({10, 10}) && !m_scene->isPointForbidden({200, 30}));
+        QVERIFY_BOTH(m_scene->isPointForbidden({10, 10}), !m_scene->isPointForbidden({200, 30}));
         m_scene->setCanvasSize(2 * kCanvas, 2 * kCanvas);
-        QVERIFY(m_scene->isPointForbidden({180, 400}) && !m_scene->isPointForbidden({300, 400}));
+        QVERIFY_BOTH(m_scene->isPointForbidden({180, 400}), !m_scene->isPointForbidden({300, 400}));
         press(*m_scene, {{20, 20}});
         QVERIFY(!lane->isFinished());
         press(*m_scene, {{400, 60}});
-        QVERIFY(lane->isFinished() && !m_scene->isPointForbidden({20, 20}));
+        QVERIFY_BOTH(lane->isFinished(), !m_scene->isPointForbidden({20, 20}));
     }
 
     void selectsByEntryWhenAsked()
@@ -181,7 +181,7 @@ private slots:
         m_scene->setSelected(first->itemId(), 2);
         QVERIFY(!m_scene->selectedItem(-1));
         m_scene->setSelected(second->itemId(), 2);
-        QVERIFY(m_scene->selectedItem(2) == second && !m_scene->selectedItem(1));
+        QVERIFY_BOTH(m_scene->selectedItem(2) == second, !m_scene->selectedItem(1));
     }
 
     void paintsShadeFiguresAndHint()
@@ -199,7 +199,7 @@ private slots:
         int margin = 0;
         while (margin < kCanvas / 2 && image.pixel(kCanvas - 1 - margin, y) == qRgb(255, 255, 255))
             ++margin;
-        QVERIFY(margin > 20 && image.pixel(margin - 2, y) == shaded);
+        QVERIFY_BOTH(margin > 20, image.pixel(margin - 2, y) == shaded);
         QVERIFY(qRed(image.pixel(margin + 1, y)) < qRed(shaded));
         m_scene->setSelected(0, 0);
         move(*m_scene, {0, 0});

@@ -73,8 +73,8 @@ class TextNotes : public QTranslator
 public:
     QString translate(const char* context, const char* text, const char*, int) const override
     {
-        if (QLatin1String(context).endsWith(QLatin1String("Draw")))
-            notes << QLatin1String(context) + QLatin1String("/") + QLatin1String(text);
+        if (QLatin1String(context).endsWith(QString("Draw")))
+            notes << QLatin1String(context) + QString("/") + QLatin1String(text);
         return {};
     }
     bool isEmpty() const override { return false; }
@@ -101,7 +101,7 @@ private slots:
             QCOMPARE(pointsOf(*figure), points);
             QCOMPARE(figure->isFinished(), isFinished);
             figure->clear();
-            QVERIFY(!figure->isFinished() && pointsOf(*figure).isEmpty());
+            QVERIFY_BOTH(!figure->isFinished(), pointsOf(*figure).isEmpty());
         };
         const Points corner{{0, 0}, {800, 10}, {700, 500}};
         const Points wedge{{0, 0}, {800, 10}, {400, 500}};
@@ -128,7 +128,7 @@ private slots:
         for (const QPoint& click : Points{{0, 0}, {800, 10}, {400, 500}, {1000, 200}})
             QVERIFY(!line->addPoint(click.x(), click.y()));
         QVERIFY(line->addPoint(390, 3));
-        QVERIFY(line->tryFinish() && line->addPoint(2000, 2000));
+        QVERIFY_BOTH(line->tryFinish(), line->addPoint(2000, 2000));
         QCOMPARE(line->pointCount(), 4);
     }
 
@@ -142,7 +142,7 @@ private slots:
         QCOMPARE(staff->movePoint().value(), QPoint(10, 60));
         const quint64 shown = staff->revision();
         staff->setMovePoint(std::nullopt);
-        QVERIFY(!staff->movePoint() && staff->revision() != shown);
+        QVERIFY_BOTH(!staff->movePoint(), staff->revision() != shown);
 
         // Upright in the device's coordinates, on a canvas that has no pixel for each of them.
         const auto small = makeFigure(Type::VerticalRuler, 833);
@@ -243,7 +243,7 @@ private slots:
         }
         const auto arrow = makeFigure(Type::Direction, kPixels, {{20, 64}, {108, 64}});
         const QImage head = painted(*arrow);
-        QVERIFY(inked(head, {101, 56, 7, 7}) > 8 && inked(head, {101, 65, 7, 7}) > 8);
+        QVERIFY_BOTH(inked(head, {101, 56, 7, 7}) > 8, inked(head, {101, 65, 7, 7}) > 8);
         QVERIFY(!inked(head, {20, 50, 70, 12}));
     }
 
@@ -266,10 +266,10 @@ private slots:
             const auto figure =
                 makeFigure(type, kPixels, {{5, 20}, {120, 20}, {120, 110}, {5, 110}});
             QCOMPARE(inked(painted(*figure), below), 0);
-            figure->setLabel(QStringLiteral("Rule1"));
+            figure->setLabel("Rule1");
             figure->tryFinish();
             const QImage image = painted(*figure);
-            QVERIFY(inked(image, below) > 30 && !inked(image, {10, 45, 60, 12}));
+            QVERIFY_BOTH(inked(image, below) > 30, !inked(image, {10, 45, 60, 12}));
             figure->setFinished(false);
             QCOMPARE(inked(painted(*figure), below), 0);
         }
@@ -285,13 +285,13 @@ private slots:
             QCoreApplication::installTranslator(&notes);
             painted(*figure);
             QCoreApplication::removeTranslator(&notes);
-            QCOMPARE(notes.notes.join(QLatin1Char(' ')), texts);
+            QCOMPARE(notes.notes.join(' '), texts);
         };
-        const QString left = QStringLiteral("VehicleLaneDraw/Left");
-        const QString right = QStringLiteral("VehicleLaneDraw/Right");
+        const QString left = QString("VehicleLaneDraw/Left");
+        const QString right = QString("VehicleLaneDraw/Right");
         const Points lane{{30, 99}, {35, 9}, {70, 99}, {60, 9}};
         check(Type::Polygon, {{9, 9}, {90, 9}, {90, 90}},
-              QStringLiteral("PolygonDraw/Length PolygonDraw/Width"));
+              QString("PolygonDraw/Length PolygonDraw/Width"));
         check(Type::VehicleLane, lane, left + " " + right);
         check(Type::VehicleLane, lane.mid(2) + lane.mid(0, 2), right + " " + left);
         check(Type::VehicleLane, lane.mid(0, 3), left);

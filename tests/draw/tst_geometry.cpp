@@ -43,7 +43,7 @@ private slots:
         check({1000, 300}, {1, 299}, {8, 8164}, {0, 298});
         check({1000, 300}, {-1, -1}, {-8, -27}, {0, 0});
         check({1, 1}, {INT_MAX, INT_MIN}, {INT_MAX, INT_MIN}, {262143, -262144});
-        QVERIFY(!toNormalized({5, 5}, {0, 100}) && !toNormalized({5, 5}, {100, 0}));
+        QVERIFY_BOTH(!toNormalized({5, 5}, {0, 100}), !toNormalized({5, 5}, {100, 0}));
         QCOMPARE(toCanvas({8192, 8192}, {0, 0}), QPoint(0, 0));
         QCOMPARE(toCanvas({INT_MAX, INT_MIN}, {32767, 32767}), QPoint(INT_MAX, INT_MIN));
     }

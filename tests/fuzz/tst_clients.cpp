@@ -1,12 +1,9 @@
 #include "fuzz/client/clientplace.h"
-#include "host/api/iabstractui.h"
-#include "host/api/iclientuipluginapi.h"
 #include "tests/support/clientwindow.h"
+#include "tests/support/loadedplugin.h"
 #include "tests/support/mailbox.h"
-#include "tests/support/rulestest.h"
 
 using namespace SampleDocuments;
-using KQPluginAPI::IClientUIPluginAPI;
 
 namespace
 {
@@ -43,16 +40,10 @@ class TstClients : public RulesTest
 {
     Q_OBJECT
 
-    void prepare() override
-    {
-        m_plugin = qobject_cast<IClientUIPluginAPI*>(m_loader.instance());
-        QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
-        m_plugin->Init();
-    }
-    KQPluginAPI::IAbstractWidget* widget() { return m_plugin->GetUI()->CreateWidget(); }
+    void prepare() override { m_plugin.load(); }
+    KQPluginAPI::IAbstractWidget* widget() { return m_plugin.widget(); }
 
-    QPluginLoader m_loader{RULES_BIN_DIR "/IntelligentRulesUI.so"};
-    IClientUIPluginAPI* m_plugin = nullptr;
+    LoadedPlugin m_plugin;
 
 private slots:
     void hiddenWindowsLeaveTheKeyboardAlone_data()
@@ -125,7 +116,7 @@ private slots:
         window.query("C1");
         QCOMPARE(edit->selectedText() + QApplication::focusWidget()->metaObject()->className(),
                  QString("7") + edit->metaObject()->className());
-        QVERIFY(edit->hasFocus() && edit->isModified());
+        QVERIFY_BOTH(edit->hasFocus(), edit->isModified());
     }
 
     /// Whatever the client hears of while a window goes, it may answer by a message to it.

@@ -29,10 +29,10 @@ private slots:
         QFETCH(QString, harness);
         QFETCH(QByteArray, input);
         const QHash<QString, void (*)(std::string_view)> harnesses{
-            {QStringLiteral("documents"), &Fuzz::documents},
-            {QStringLiteral("messages"), &Fuzz::messages},
-            {QStringLiteral("canvas"), &Fuzz::canvas},
-            {QStringLiteral("paths"), &Fuzz::paths}};
+            {QString("documents"), &Fuzz::documents},
+            {QString("messages"), &Fuzz::messages},
+            {QString("canvas"), &Fuzz::canvas},
+            {QString("paths"), &Fuzz::paths}};
         try {
             harnesses[harness]({input.constData(), std::size_t(input.size())});
         } catch (const Fuzz::Fault& fault) {

@@ -166,7 +166,7 @@ private slots:
 
     void textMatchesItsMeasure()
     {
-        const QString text = QStringLiteral("HIH");
+        const QString text = QString("HIH");
         const Font font(nullptr, 12);
         RectF box;
         const QImage image = painted([&](Graphics& g) {
@@ -184,7 +184,7 @@ private slots:
         const qreal left = 8 + 16 / 6.0 + tight.left();
         QVERIFY(qAbs(drawn.left() - left) <= 1.5);
         QVERIFY(qAbs(drawn.right() + 1 - (left + tight.width())) <= 1.5);
-        QVERIFY(drawn.top() > 20 && drawn.bottom() < 20 + box.Height);
+        QVERIFY_BOTH(drawn.top() > 20, drawn.bottom() < 20 + box.Height);
     }
 
     void layers()
@@ -216,8 +216,8 @@ private slots:
         Graphics(&fineLayer).FillRectangle(&m_brush, 0.5F, 0.5F, 2.0F, 2.0F);
         target.DrawImage(&fineLayer, 1, 1);
         QVERIFY((ink(fine) ^ QRegion(3, 3, 4, 4)).isEmpty());
-        QVERIFY(Bitmap(0, 5).GetLastStatus() != Ok &&
-                Bitmap(1 << 20, 1 << 20).GetLastStatus() != Ok);
+        QVERIFY_BOTH(Bitmap(0, 5).GetLastStatus() != Ok,
+                     Bitmap(1 << 20, 1 << 20).GetLastStatus() != Ok);
     }
 
 private:

@@ -57,8 +57,9 @@ private slots:
             QCOMPARE(value[0].asInt(), isArray ? 1 : 0);
             QCOMPARE(value["a"].asInt(), isObject ? 1 : 0);
             QCOMPARE(value.isMember("a"), isObject);
-            QVERIFY(value[-1].isNull() && value[1].isNull() && value["b"][3]["c"].isNull());
-            QVERIFY(value.memberName(1).empty() && value.memberValue(-1).isNull());
+            QVERIFY_BOTH(value[-1].isNull(), value[1].isNull());
+            QVERIFY(value["b"][3]["c"].isNull());
+            QVERIFY_BOTH(value.memberName(1).empty(), value.memberValue(-1).isNull());
             QCOMPARE(value.memberNames().size(), isObject ? 1 : 0);
         };
         row("null", "0 0 0 0 ''");
@@ -86,11 +87,13 @@ private slots:
             Value root(5);
             Reader reader;
             const std::string_view utf8(text.constData(), std::size_t(text.size()));
-            QVERIFY2(!reader.parse(utf8, root) && root.isNull(), name);
+            QVERIFY2(!reader.parse(utf8, root), name);
+            QVERIFY2(root.isNull(), name);
             QVERIFY2(!reader.errorText().isEmpty(), name);
-            QVERIFY2(reader.errorLine() == line && reader.errorColumn() == column, name);
+            QVERIFY2(reader.errorLine() == line, name);
+            QVERIFY2(reader.errorColumn() == column, name);
             QVERIFY(reader.parse(QStringLiteral("[]"), root));
-            QVERIFY(reader.errorText().isEmpty() && reader.errorLine() == 0);
+            QVERIFY_BOTH(reader.errorText().isEmpty(), reader.errorLine() == 0);
         };
         row("empty", "", 1, 1);
         row("comment alone", "/* [] */", 1, 9);
@@ -146,7 +149,7 @@ private slots:
         QVERIFY(parsed(QByteArray::fromStdString(deep.toStyledString())) == deep);
         const Value list = parsed(nested(500).insert(500, QByteArray("1,").repeated(1000) + '1'));
         const QString text = list.toStyledText();
-        QVERIFY(text.size() < 300000 && parsed(text.toUtf8()) == list);
+        QVERIFY_BOTH(text.size() < 300000, parsed(text.toUtf8()) == list);
         QCOMPARE(list.styledLength(), qint64(text.size()));
     }
 
@@ -167,7 +170,7 @@ private slots:
         list[std::size_t(-1)] = 5;
         QCOMPARE(list.size(), 2);
         list.clear();
-        QVERIFY(list.isArray() && list.empty());
+        QVERIFY_BOTH(list.isArray(), list.empty());
         value["a"]["b"]["now"] = 1;
         QVERIFY(value["a"]["b"] == parsed(R"({"now":1})"));
     }
@@ -190,11 +193,11 @@ private slots:
         for (int i = 0; i < count; ++i)
             built[name(i)] = i;
         Value value = parsed(QByteArray::fromStdString(built.toStyledString()));
-        QVERIFY(value == built && value.size() == count);
+        QVERIFY_BOTH(value == built, value.size() == count);
         value.removeMember(name(100));
         for (int i = 101; i < count; ++i)
             QCOMPARE(value[name(i)].asInt(), i);
-        QVERIFY(value.memberName(100) == name(101) && !value.isMember(name(100)));
+        QVERIFY_BOTH(value.memberName(100) == name(101), !value.isMember(name(100)));
     }
 
     /// All begin to look for their place in an eighth of a table of known hashes, which fills it.
@@ -228,10 +231,12 @@ private slots:
     void comparesByKindAndName()
     {
         QVERIFY(parsed(R"({"a":1,"b":[2]})") == parsed(R"({"b":[2],"a":1})"));
-        QVERIFY(parsed(R"({"a":1})") != parsed(R"({"b":1})") && parsed("[1,2]") != parsed("[2,1]"));
-        QVERIFY(Value(2) != Value(2.0) && Value(1) != Value(true) && Value("1") != Value(1));
-        QVERIFY(Value(-0.0) == Value(0.0) && Value(ValueType::String) == Value(""));
-        QVERIFY(Value() != Value(ValueType::Array) && Value(ValueType::Object) != Value());
+        QVERIFY_BOTH(parsed(R"({"a":1})") != parsed(R"({"b":1})"),
+                     parsed("[1,2]") != parsed("[2,1]"));
+        QVERIFY_BOTH(Value(2) != Value(2.0), Value(1) != Value(true));
+        QVERIFY(Value("1") != Value(1));
+        QVERIFY_BOTH(Value(-0.0) == Value(0.0), Value(ValueType::String) == Value(""));
+        QVERIFY_BOTH(Value() != Value(ValueType::Array), Value(ValueType::Object) != Value());
     }
 
     void partsReplaceTheirWhole()

@@ -66,8 +66,8 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(shown() != held, kTryFor);
         m_surface->setFrozen(true);
         QVERIFY(child<QToolButton>("freeze")->isChecked());
-        QVERIFY(m_surface->openLivePicture(QStringLiteral("channel")));
-        QVERIFY(!m_surface->isFrozen() && !child<QToolButton>("freeze")->isChecked());
+        QVERIFY(m_surface->openLivePicture(QString("channel")));
+        QVERIFY_BOTH(!m_surface->isFrozen(), !child<QToolButton>("freeze")->isChecked());
     }
 
     void tellsStatistics()
@@ -76,8 +76,8 @@ private slots:
         QVERIFY(!text->isVisible());
         child<QToolButton>("statistics")->click();
         QVERIFY(text->isVisible());
-        QVERIFY(text->text().contains(QStringLiteral("Size: 1280 x 720")));
-        QTRY_VERIFY_WITH_TIMEOUT(!text->text().contains(QStringLiteral("second: 0.0")), kTryFor);
+        QVERIFY(text->text().contains("Size: 1280 x 720"));
+        QTRY_VERIFY_WITH_TIMEOUT(!text->text().contains("second: 0.0"), kTryFor);
         m_surface->resetToolBar(0);
         QVERIFY(!text->isVisible());
     }
@@ -85,7 +85,7 @@ private slots:
     void savesSnapshots()
     {
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("picture.png"));
+        const QString path = folder.filePath(QString("picture.png"));
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QTimer::singleShot(0, this, [path]() {
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -103,7 +103,7 @@ protected:
         m_surface = std::make_unique<QRtspVideoWnd>();
         m_surface->resize(640, 360);
         m_surface->show();
-        QVERIFY(m_surface->openLivePicture(QStringLiteral("channel")));
+        QVERIFY(m_surface->openLivePicture(QString("channel")));
         QVERIFY(!m_surface->paneRect(0).isEmpty());
     }
 

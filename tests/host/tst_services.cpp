@@ -28,9 +28,8 @@ void atNextBox(const std::function<void(QMessageBox*)>& act)
 
 QMessageBox::StandardButton ask(QWidget* parent)
 {
-    return KQMessageBox::ShowInformation(parent, KQMessageBox::kQuestion, QStringLiteral("Prompt"),
-                                         QStringLiteral("Sure?"),
-                                         QMessageBox::Yes | QMessageBox::No);
+    return KQMessageBox::ShowInformation(parent, KQMessageBox::kQuestion, QString("Prompt"),
+                                         QString("Sure?"), QMessageBox::Yes | QMessageBox::No);
 }
 
 } // namespace
@@ -55,7 +54,7 @@ private slots:
         QList<int> expected;
         const auto post = [&](int from, int to) {
             for (int id = from; id < to; ++id) {
-                bus.PostEvent({id, QStringLiteral("widget"), {}});
+                bus.PostEvent({id, QString("widget"), {}});
                 expected.append(id);
             }
         };
@@ -73,22 +72,21 @@ private slots:
     void skinIsFound()
     {
         const auto path = [] {
-            return UICommonMdl::GetSkinPath(QStringLiteral("SkinTest"),
-                                            QStringLiteral("Window.qss"));
+            return UICommonMdl::GetSkinPath(QString("SkinTest"), QString("Window.qss"));
         };
-        QCOMPARE(path(), QStringLiteral(":/skin/SkinTest/Window.qss"));
+        QCOMPARE(path(), QString(":/skin/SkinTest/Window.qss"));
         const QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("skin/SkinTest")));
-        QFile sheet(folder.filePath(QStringLiteral("skin/SkinTest/Window.qss")));
+        QVERIFY(QDir(folder.path()).mkpath(QString("skin/SkinTest")));
+        QFile sheet(folder.filePath(QString("skin/SkinTest/Window.qss")));
         QVERIFY(sheet.open(QIODevice::WriteOnly));
         sheet.write("QLabel { color: red; /* \xC3\xA9 */ }");
         sheet.close();
         QCoreApplication::addLibraryPath(folder.path());
         const QString beside = path();
         QCoreApplication::removeLibraryPath(folder.path());
-        QVERIFY(beside.endsWith(QStringLiteral("/skin/SkinTest/Window.qss")));
-        QVERIFY(!beside.startsWith(QLatin1Char(':')));
-        qputenv("KQ_SKIN_DIR", folder.filePath(QStringLiteral("skin")).toUtf8());
+        QVERIFY(beside.endsWith(QString("/skin/SkinTest/Window.qss")));
+        QVERIFY(!beside.startsWith(':'));
+        qputenv("KQ_SKIN_DIR", folder.filePath(QString("skin")).toUtf8());
         QCOMPARE(path(), sheet.fileName());
         qunsetenv("KQ_SKIN_DIR");
 
@@ -100,24 +98,24 @@ private slots:
 
     void boxShowsPlainText()
     {
-        const auto text = QStringLiteral("<b>Name</b> & <img src=\"x\">");
+        const auto text = QString("<b>Name</b> & <img src=\"x\">");
         int boxes = 0;
         atNextBox([&](QMessageBox* box) {
             ++boxes;
-            QCOMPARE(box->windowTitle() + box->text(), QStringLiteral("Error") + text);
+            QCOMPARE(box->windowTitle() + box->text(), QString("Error") + text);
             QCOMPARE(box->textFormat(), Qt::PlainText);
             QCOMPARE(box->icon(), QMessageBox::Critical);
             box->accept();
         });
-        KQMessageBox::ShowError(nullptr, QStringLiteral("Error"), text);
+        KQMessageBox::ShowError(nullptr, QString("Error"), text);
         atNextBox([&](QMessageBox* box) {
             ++boxes;
-            QVERIFY(box->text().size() < 5000 && box->text().count('\n') < 30 &&
-                    !box->text().contains(QChar(0x2028)));
+            QVERIFY_BOTH(box->text().size() < 5000, box->text().count('\n') < 30);
+            QVERIFY(!box->text().contains(QChar(0x2028)));
             QCOMPARE(box->icon(), QMessageBox::Information);
             box->accept();
         });
-        KQMessageBox::ShowNotice(nullptr, QStringLiteral("Notice"),
+        KQMessageBox::ShowNotice(nullptr, QString("Notice"),
                                  QString("x\n\u2028").repeated(9000) + QString(9000, 'x'));
         QCOMPARE(boxes, 2);
     }
@@ -137,7 +135,7 @@ private slots:
             parent.reset();
         });
         QCOMPARE(ask(parent.get()), QMessageBox::NoButton);
-        QVERIFY(!parent && !open);
+        QVERIFY_BOTH(!parent, !open);
     }
 
     void addressesHideTheirLogin_data() { Fixtures::addRows("addresses.json"); }

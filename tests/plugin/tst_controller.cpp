@@ -1,12 +1,11 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "fuzz/onepicture.h"
 #include "host/video/channelsources.h"
-#include "host/video/picturesource.h"
 #include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
 #include "tabel/titlelabel.h"
-#include "tests/support/onepicture.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
@@ -104,7 +103,7 @@ class TstController : public RulesTest
     void showPicture(const QSize& size)
     {
         m_size = size;
-        sources().setDefaultAddress(QString("grey:%1").arg(size.width()));
+        sources().setDefaultAddress("grey:%1".arg(size.width()));
         m_opened.clear();
     }
 
@@ -155,8 +154,8 @@ private slots:
             for (const char* name : {"lblChnCode", "lblChnName"})
                 QCOMPARE(desk.find<QLabel>(name)->text(), QString());
             QCOMPARE(desk.panels(), QString());
-            QVERIFY(desk.find("wgtChannelInfo")->isEnabled() && desk.pictureRect().isEmpty());
-            QVERIFY(desk.find("btnSave")->isVisible() && desk.find("btnCancel")->isVisible());
+            QVERIFY_BOTH(desk.find("wgtChannelInfo")->isEnabled(), desk.pictureRect().isEmpty());
+            QVERIFY_BOTH(desk.find("btnSave")->isVisible(), desk.find("btnCancel")->isVisible());
             QCOMPARE(desk.save() + desk.mailbox.takeHeads(), QStringList());
         }
     }
@@ -213,7 +212,7 @@ private slots:
         QCOMPARE(drawn->pointCount(), 0);
         desk.press({300, 100});
         QCOMPARE(drawn->pointCount(), 1);
-        QVERIFY(isUnfinished() && isUnfinished("other", "crossing"));
+        QVERIFY_BOTH(isUnfinished(), isUnfinished("other", "crossing"));
         QVERIFY(!isUnfinished("other", "other"));
         QTest::mouseMove(desk.picture(), desk.pictureRect().topLeft() + QPoint(350, 120));
         const QPoint moved = drawn->movePoint().value_or(QPoint());
@@ -223,7 +222,8 @@ private slots:
         desk.press({400, 100});
         desk.press({400, 200});
         desk.press({0, 0}, Qt::RightButton);
-        QVERIFY(drawn->isFinished() && isUnfinished() && !isTold());
+        QVERIFY_BOTH(drawn->isFinished(), isUnfinished());
+        QVERIFY(!isTold());
         desk.click("btnSave");
         QVERIFY(!isUnfinished());
         // What was drawn before the save does not count for a press after it.
@@ -264,7 +264,7 @@ private slots:
         QVERIFY(fits());
         const QSize before = desk.pictureRect().size();
         desk.window->resize(1200, 700);
-        QVERIFY(desk.pictureRect().size() != before && fits());
+        QVERIFY_BOTH(desk.pictureRect().size() != before, fits());
         // Only a double click fits the canvas anew.
         desk.canvas()->setCanvasSize(1, 1);
         desk.window->OnWndClick(0, 5, 5);
@@ -272,7 +272,7 @@ private slots:
         desk.window->OnWndDbClick(1, 5, 5);
         QVERIFY(fits());
         showPicture({300, 300});
-        QVERIFY(desk.pictureRect().width() == desk.pictureRect().height() && fits());
+        QVERIFY_BOTH(desk.pictureRect().width() == desk.pictureRect().height(), fits());
         QCOMPARE(sizes, QList<QVariantList>({{640, 360}}));
 
         QTest::mouseClick(desk.panel("global"), Qt::LeftButton);
@@ -349,7 +349,7 @@ private slots:
                 panel->setFold(ending.isSelecting);
             desk.click("btnSave");
             QCOMPARE(desk.mailbox.takeHeads(), QStringList());
-            QVERIFY(hint->isVisible() && hint->visibleRegion().boundingRect() == hint->rect());
+            QVERIFY_BOTH(hint->isVisible(), hint->visibleRegion().boundingRect() == hint->rect());
             QCOMPARE(hint->text(), QString("Nothing was saved. The template has no "
                                            "\"configTemplate\" to write into."));
             ending.end(desk);
@@ -399,7 +399,7 @@ private slots:
         QCOMPARE(desk.find<QLabel>("lblHint")->text(),
                  QString("The configuration has 3001 entries under \"Rules[]\"; at most 3000 can "
                          "be edited."));
-        QVERIFY(!desk.find("rules") && !desk.pictureRect().isEmpty());
+        QVERIFY_BOTH(!desk.find("rules"), !desk.pictureRect().isEmpty());
         desk.click("btnSave");
         QCOMPARE(desk.mailbox.takeHeads(), QStringList());
         desk.load(QString(16 << 20, QChar::Space) + block(kChannel, config({})));
@@ -411,7 +411,7 @@ private slots:
         const QByteArray deep = QByteArray("[").repeated(400) + QByteArray("0,").repeated(1 << 20) +
                                 '0' + QByteArray("]").repeated(400);
         desk.load(rule("Gate", ", \"More\": " + deep));
-        QVERIFY(desk.find("rules") && !desk.find("lblHint")->isVisible());
+        QVERIFY_BOTH(desk.find("rules"), !desk.find("lblHint")->isVisible());
     }
 };
 

@@ -150,7 +150,7 @@ private slots:
         config[std::string(1 << 20, 'p')] = Mailbox::json('[' + SampleDocuments::rule("A") + ']');
         rules.window->setData(foreignBlock(unwritable, config), 1);
         rules.save();
-        QVERIFY(hint->isVisible() && hint->text().size() < 400);
+        QVERIFY_BOTH(hint->isVisible(), hint->text().size() < 400);
         QVERIFY(hint->height() < rules.window->height() / 2);
         QCOMPARE(rules.mailbox.takeHeads(), QStringList());
     }

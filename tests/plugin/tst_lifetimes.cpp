@@ -1,15 +1,11 @@
-#include "host/api/iabstractui.h"
-#include "host/api/iclientuipluginapi.h"
+#include "fuzz/onepicture.h"
 #include "host/video/channelsources.h"
-#include "host/video/picturesource.h"
 #include "tests/stream/server.h"
 #include "tests/support/boxanswerer.h"
 #include "tests/support/clientwindow.h"
 #include "tests/support/examplefiles.h"
+#include "tests/support/loadedplugin.h"
 #include "tests/support/mailbox.h"
-#include "tests/support/onepicture.h"
-#include "tests/support/rulestest.h"
-#include "tests/support/sampledocuments.h"
 
 #include <functional>
 #include <limits>
@@ -18,7 +14,6 @@
 using namespace SampleDocuments;
 using kql::Json::Value;
 using KQPluginAPI::IAbstractWidget;
-using KQPluginAPI::IClientUIPluginAPI;
 
 namespace
 {
@@ -77,21 +72,8 @@ private:
         });
     }
 
-    /// Loaded anew for each test: nothing of the plug-in that went may be called any more.
-    void prepareTest() override
-    {
-        if (m_loader.isLoaded()) {
-            m_plugin->UnInit();
-            QVERIFY2(m_loader.unload(), qPrintable(m_loader.errorString()));
-            QCoreApplication::sendPostedEvents();
-            QCoreApplication::processEvents();
-        }
-        m_plugin = qobject_cast<IClientUIPluginAPI*>(m_loader.instance());
-        QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
-        m_plugin->Init();
-    }
-
-    IAbstractWidget* widget() { return m_plugin->GetUI()->CreateWidget(); }
+    void prepareTest() override { m_plugin.load(); }
+    IAbstractWidget* widget() { return m_plugin.widget(); }
 
     /// A button that opens a box; posted before the click, the happening comes before the answer.
     static Moment box(const char* name, const QByteArray& rules, const char* button,
@@ -148,7 +130,7 @@ private:
                 QApplication::setActiveWindow(&client);
                 window.find<QWidget>(name)->setFocus();
                 QWidget* const focused = QApplication::focusWidget();
-                QVERIFY(focused && window.content->isAncestorOf(focused));
+                QVERIFY_BOTH(focused, window.content->isAncestorOf(focused));
                 QTest::keyClick(focused, Qt::Key_7);
                 m_whileFocusing = happen;
                 act(window);
@@ -216,8 +198,7 @@ private:
     }
 
     Server m_silent{{"--silent"}};
-    QPluginLoader m_loader{RULES_BIN_DIR "/IntelligentRulesUI.so"};
-    IClientUIPluginAPI* m_plugin = nullptr;
+    LoadedPlugin m_plugin; ///< anew for each test
     Happening m_whileMaking = [] {};
     Happening m_whileReporting = [] {};
     Happening m_whileFocusing = [] {};
@@ -255,7 +236,7 @@ private slots:
         if (what == LoadedAnew || what == Queried)
             QCOMPARE(window.channel(), QString(what == Queried ? "C1" : "C2"));
         else if (window.content)
-            QVERIFY(window.channel().isEmpty() && window.picture().isEmpty());
+            QVERIFY_BOTH(window.channel().isEmpty(), window.picture().isEmpty());
 
         const QList<Mailbox::Message> messages = mailbox.take();
         QStringList ids;
@@ -370,7 +351,8 @@ private slots:
             window->setParent(nullptr);
         for (int i = 0; i < 2; ++i) {
             m_plugin->UnInit();
-            QVERIFY(!ownerless && !m_plugin->GetUI() && again.content);
+            QVERIFY_BOTH(!ownerless, !m_plugin->GetUI());
+            QVERIFY(again.content);
         }
         for (QWidget* window : takenOut) {
             QVERIFY(window);
@@ -379,7 +361,7 @@ private slots:
         again.click("btnSave");
         again.press({5, 5});
         again.parent->resize(800, 600);
-        QVERIFY(again.channel().isEmpty() && !again.parent->grab().isNull());
+        QVERIFY_BOTH(again.channel().isEmpty(), !again.parent->grab().isNull());
     }
 
     void doesNotGrow()

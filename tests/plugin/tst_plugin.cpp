@@ -1,9 +1,7 @@
-#include "host/api/iabstractui.h"
 #include "host/api/iabstractwidget.h"
 #include "host/api/iclientlogicalpluginapi.h"
-#include "host/api/iclientuipluginapi.h"
+#include "tests/support/loadedplugin.h"
 #include "tests/support/mailbox.h"
-#include "tests/support/rulestest.h"
 #include "tests/support/sampledocuments.h"
 
 #include <QJsonArray>
@@ -12,12 +10,10 @@
 using namespace SampleDocuments;
 using kql::Json::Value;
 using KQPluginAPI::IAbstractWidget;
-using KQPluginAPI::IClientUIPluginAPI;
 
 namespace
 {
 
-const QString kFile = RULES_BIN_DIR "/IntelligentRulesUI.so";
 const char kMe[] = "IntelligentRulesUI1";
 
 enum Message { CloseRules = 0, OpenRules = 160, QueryDraw = 222, OpenRulesAlt = 566 };
@@ -45,7 +41,7 @@ class TstPlugin : public RulesTest
 {
     Q_OBJECT
 
-    IAbstractWidget* widget() { return m_plugin->GetUI()->CreateWidget(); }
+    IAbstractWidget* widget() { return m_plugin.widget(); }
 
     static bool isLoaded(const QWidget* window) { return window->findChild<QWidget*>("rules"); }
 
@@ -53,28 +49,15 @@ class TstPlugin : public RulesTest
     void prepareTest() override
     {
         QLocale::setDefault(QLocale::c());
-        reload();
+        m_plugin.load();
     }
 
-    void reload()
-    {
-        if (m_loader.isLoaded()) {
-            m_plugin->UnInit();
-            QVERIFY2(m_loader.unload(), qPrintable(m_loader.errorString()));
-        }
-        m_plugin = qobject_cast<IClientUIPluginAPI*>(m_loader.instance());
-        QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
-        QVERIFY(!m_plugin->GetUI());
-        m_plugin->Init();
-    }
-
-    QPluginLoader m_loader{kFile};
-    IClientUIPluginAPI* m_plugin = nullptr;
+    LoadedPlugin m_plugin;
 
 private slots:
     void showsOnlyWhatTheHostLooksFor()
     {
-        const QJsonObject data = m_loader.metaData();
+        const QJsonObject data = m_plugin.loader.metaData();
         QCOMPARE(data["IID"].toString(), QString("com.KQPluginAPI.IClientUIPluginAPI(1.0)"));
         QCOMPARE(data["className"].toString(), QString("CIntelligentRulesUIPlugin"));
         QCOMPARE(data["MetaData"].toObject(),
@@ -82,7 +65,7 @@ private slots:
         const QString nm = QStandardPaths::findExecutable("nm");
         QVERIFY2(!nm.isEmpty(), "nm is not installed");
         QProcess process;
-        process.start(nm, {"-D", "-P", "--defined-only", kFile});
+        process.start(nm, {"-D", "-P", "--defined-only", m_plugin.loader.fileName()});
         QVERIFY(process.waitForFinished());
         QStringList names;
         for (const QByteArray& line : process.readAllStandardOutput().trimmed().split('\n'))
@@ -98,7 +81,7 @@ private slots:
         QVERIFY(m_plugin->IsAvailable());
         LogicalPlugin logical;
         QVERIFY(!m_plugin->AddLogicalPlugin(nullptr));
-        QVERIFY(m_plugin->AddLogicalPlugin(&logical) && !m_plugin->AddLogicalPlugin(&logical));
+        QVERIFY_BOTH(m_plugin->AddLogicalPlugin(&logical), !m_plugin->AddLogicalPlugin(&logical));
         QVERIFY(m_plugin->RemoveLogicalPlugin(&logical));
         QVERIFY(!m_plugin->RemoveLogicalPlugin(&logical));
         auto* const ui = m_plugin->GetUI();
@@ -123,7 +106,7 @@ private slots:
     void speaksTheOperatorsLanguage()
     {
         QLocale::setDefault(QLocale(QLocale::German));
-        reload();
+        m_plugin.load();
         const auto title = [] {
             return QCoreApplication::translate("IntelligentRulesUI::CIntelligentRulesWidget",
                                                "IntelligentRules");

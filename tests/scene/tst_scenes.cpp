@@ -39,12 +39,12 @@ private slots:
         const int openHeight = panel.height();
 
         QTest::mouseClick(titleBar, Qt::LeftButton);
-        QVERIFY(panel.getFold() && titleBar->property("bFold").toBool());
+        QVERIFY_BOTH(panel.getFold(), titleBar->property("bFold").toBool());
         QCOMPARE(panel.height(), titleBar->height() + 2);
-        QVERIFY(!bench.isShown("actions") && !mask->isVisible());
+        QVERIFY_BOTH(!bench.isShown("actions"), !mask->isVisible());
         QTest::mouseClick(titleBar, Qt::LeftButton);
         QCOMPARE(panel.height(), openHeight);
-        QVERIFY(bench.isShown("actions") && bench.isShown("hint"));
+        QVERIFY_BOTH(bench.isShown("actions"), bench.isShown("hint"));
 
         panel.setSelected(false);
         QVERIFY(mask->isVisible());
@@ -133,24 +133,24 @@ private slots:
         QCoreApplication::sendPostedEvents(); // a widget looks for its own when it goes
         RuleDataInfo entry;
         EntryRows::load(rows, chain, &entry);
-        entry.setValue(QString("0"), true);
+        entry.setValue("0", true);
         EntryRows::updateDependents(rows, links, QString("0"), entry);
         QCOMPARE(entry.value(QString::number(count - 1)), QVariant(true));
-        entry.setValue(QString("0"), false);
+        entry.setValue("0", false);
         EntryRows::updateDependents(rows, links, QString("0"), entry);
-        QVERIFY(!entry.isValid(QString("1")) && entry.isValid(QString("2")));
+        QVERIFY_BOTH(!entry.isValid(QString("1")), entry.isValid(QString("2")));
         EntryRows::release(rows, &links);
 
         // Widgets measure what they are given, so they get what can be seen.
-        const QString text = QString(1 << 20, QLatin1Char('&')) + QString("<b>");
+        const QString text = QString(1 << 20, '&') + QString("<b>");
         RuleProtocolItem item;
         item.setFacade(FacadeType::RadioButton);
         item.setCaption(text);
         item.setEnumeration({{text, text, text, text, false}});
         const std::unique_ptr<ControlTabel> row(createControlTabel(&item, nullptr));
-        QVERIFY(row->titleLabel()->text().size() < 5000 && row->titleLabel()->isElided());
+        QVERIFY_BOTH(row->titleLabel()->text().size() < 5000, row->titleLabel()->isElided());
         const auto* box = row->findChild<QAbstractButton*>();
-        QVERIFY(box->text().size() < 5000 && box->toolTip().size() < 5000);
+        QVERIFY_BOTH(box->text().size() < 5000, box->toolTip().size() < 5000);
         row->loadValue(text);
         QCOMPARE(row->value(), QVariant(text));
     }

@@ -36,6 +36,14 @@ StreamRequest request(const QString& address, bool isFile = false, StreamOptions
     return request;
 }
 
+/// Of one that gives no picture: it is not waited for long.
+StreamRequest vainRequest(const QString& address)
+{
+    StreamRequest asked = request(address);
+    asked.firstPictureLimit = 2s;
+    return asked;
+}
+
 /// What the process writes to the standard error stream meanwhile.
 class ErrorOutput
 {
@@ -259,22 +267,19 @@ private slots:
         QFETCH(const QString, path);
         QFETCH(const QString, reason);
         Server camera(server);
-        StreamRequest asked = request(camera.address(user, path));
-        asked.firstPictureLimit = 2s;
-        StreamSource source(asked);
+        StreamSource source(vainRequest(camera.address(user, path)));
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
         QVERIFY2(source.status().reason.contains(reason), qPrintable(source.status().reason));
-        QVERIFY(source.picture().isNull() && !source.status().lastPicture.isValid());
+        QVERIFY_BOTH(source.picture().isNull(), !source.status().lastPicture.isValid());
     }
 
     void takesAWebServerForNoCamera()
     {
         Server server({"--web"});
         for (const char* login : {"", "u:/#?p@", "u:?x@"}) {
-            StreamRequest asked = request(server.address().replace("://", "://" + QString(login)));
-            asked.firstPictureLimit = 2s;
-            StreamSource source(asked);
+            StreamSource source(
+                vainRequest(server.address().replace("://", "://" + QString(login))));
             source.start();
             QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
             QVERIFY2(source.status().reason.contains("web server"), login);
@@ -578,7 +583,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kPatience);
         QVERIFY2(source.status().reason.contains(reason), qPrintable(source.status().reason));
         QVERIFY(!source.status().reason.isEmpty());
-        QVERIFY(source.picture().isNull() && source.pictureSize().isEmpty());
+        QVERIFY_BOTH(source.picture().isNull(), source.pictureSize().isEmpty());
     }
 
     void refusesOtherAddresses()
@@ -639,9 +644,8 @@ private slots:
         std::vector<std::unique_ptr<StreamSource>> sources;
         for (const auto& [path, text, reason] : answers) {
             file(path, text);
-            StreamRequest asked = request(camera.address({}, path));
-            asked.firstPictureLimit = 2s;
-            sources.push_back(std::make_unique<StreamSource>(asked));
+            sources.push_back(
+                std::make_unique<StreamSource>(vainRequest(camera.address({}, path))));
             sources.back()->start();
         }
         for (std::size_t i = 0; i < sources.size(); ++i) {
@@ -653,7 +657,7 @@ private slots:
         for (const QByteArray& elsewhere : {"SETUP file://" + video, "SETUP " + http})
             QTRY_VERIFY_WITH_TIMEOUT(camera.printed().contains(elsewhere), kPatience);
         const QByteArray asked = camera.printed();
-        QVERIFY(!asked.contains("GET ") && !asked.contains("HTTP/"));
+        QVERIFY_BOTH(!asked.contains("GET "), !asked.contains("HTTP/"));
         const QByteArray parts = camera.address({}, "parts").toUtf8();
         QVERIFY(asked.count("SETUP " + parts) <= 16 * asked.count("DESCRIBE " + parts));
         std::array<char, 1024> event{};
@@ -663,15 +667,7 @@ private slots:
 
     void playsEncryptedStreams()
     {
-        const QString certificate = file("certificate.pem");
-        const QString key = file("key.pem");
-        QProcess openssl;
-        openssl.start(QString("openssl"),
-                      {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj",
-                       "/CN=127.0.0.1", "-keyout", key, "-out", certificate});
-        QVERIFY(openssl.waitForFinished(kPatience) && openssl.exitCode() == 0);
-        Server camera({"--certificate",
-                       file("both.pem", Files::contentOf(certificate) + Files::contentOf(key))});
+        Server camera({"--certificate", Fixtures::path("server.pem")});
         QString address = camera.address();
         StreamSource source(request(address.replace("rtsp:", "rtsps:")));
         source.start();

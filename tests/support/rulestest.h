@@ -3,6 +3,13 @@
 #include <QtTest>
 #include <QtWidgets>
 
+/// Two conditions that belong together; a failure names the one that does not hold.
+#define QVERIFY_BOTH(first, second)                                                                \
+    do {                                                                                           \
+        QVERIFY(first);                                                                            \
+        QVERIFY(second);                                                                           \
+    } while (false)
+
 /**
  * Base of every test case: a warning that a test does not expect fails that test. With it come the
  * widgets and the test library of Qt, which the tests do not include one by one.

@@ -24,9 +24,9 @@ public:
     explicit Bench(FacadeType facade, ValueType type, const QVariant& min = {},
                    const QVariant& max = {}, const QVariant& preset = {})
     {
-        item.setKey(QString("key"));
-        item.setCaption(QString("Caption"));
-        item.setUnits(QString("s"));
+        item.setKey("key");
+        item.setCaption("Caption");
+        item.setUnits("s");
         item.setFacade(facade);
         item.setValueType(type);
         item.setRange(min, max);
@@ -62,7 +62,7 @@ public:
         if (value.type() == QVariant::Size)
             return QString("%1..%2").arg(value.toSize().width()).arg(value.toSize().height());
         if (value.type() == QVariant::StringList)
-            return value.toStringList().join(QLatin1Char('+'));
+            return value.toStringList().join('+');
         return value.isValid() ? value.toString() : QString("none");
     }
 
@@ -93,7 +93,7 @@ public:
     void leave() const { other->setFocus(); }
 
     /// What was announced since the last call, joined by blanks.
-    QString take() { return QStringList(std::exchange(announced, {})).join(QLatin1Char(' ')); }
+    QString take() { return QStringList(std::exchange(announced, {})).join(' '); }
 
     RuleProtocolItem item;
     ControlItemWidgetTabel container;
@@ -197,12 +197,13 @@ private slots:
     void unitsLieInTheirEdits()
     {
         const Bench bench(FacadeType::InputBoxNumber, ValueType::Int);
-        auto* edit = bench.row->findChild<RowEdit*>(QString("edit"));
-        auto* unit = bench.row->findChild<QLabel*>(QString("unit"));
+        auto* edit = bench.row->findChild<RowEdit*>("edit");
+        auto* unit = bench.row->findChild<QLabel*>("unit");
         QCOMPARE(edit->textMargins().right(), unit->width() + 5);
         QCOMPARE(unit->geometry().right(), edit->width() - 6);
         bench.row->setControlEnable(false);
-        QVERIFY(!edit->isEnabled() && unit->isEnabled() && !bench.row->getControlEnable());
+        QVERIFY_BOTH(!edit->isEnabled(), unit->isEnabled());
+        QVERIFY(!bench.row->getControlEnable());
     }
 
     void typesIntoInputBoxes_data() { Fixtures::addRows("inputboxes.json"); }
@@ -281,16 +282,16 @@ private slots:
         QVERIFY(faces.at(faces.size() - 2).isLowSurrogate());
         QVERIFY(PlainText::toolTip(QString("a\nb")).contains('\n'));
         const QString label = ShortenedText::middle(QString(1000, 'x') + "12", 64);
-        QVERIFY(label.size() == 64 && label.endsWith("x12"));
+        QVERIFY_BOTH(label.size() == 64, label.endsWith("x12"));
     }
 
     void finishesWithinLimits()
     {
         Bench bench(FacadeType::InputBoxNumber, ValueType::Int, 10, 50);
-        auto* edit = bench.row->findChild<RowEdit*>(QString("edit"));
+        auto* edit = bench.row->findChild<RowEdit*>("edit");
         // Reached when text gets past the validator.
         bench.item.setRange(20, 10);
-        edit->setText(QString("15"));
+        edit->setText("15");
         emit edit->editingFinished();
         QCOMPARE(bench.take(), QString("20 10 15"));
     }
@@ -306,7 +307,7 @@ private slots:
     {
         Bench bench(FacadeType::InputBoxNumber, ValueType::Int);
         RuleProtocolItem second;
-        second.setKey(QString("second"));
+        second.setKey("second");
         second.setFacade(FacadeType::NumericalInterval);
         bench.container.setControlEnable(false);
         auto* row = createControlTabel(&second, &bench.container);
@@ -314,8 +315,8 @@ private slots:
         QVERIFY(!row->isEnabled());
         bench.container.setControlEnable(true);
         QCOMPARE(bench.container.findControl(QString("second")), row);
-        QVERIFY(bench.container.setControlValue(QString("second"), QSize(1, 2)));
-        QVERIFY(!bench.container.setControlValue(QString("third"), 1));
+        QVERIFY(bench.container.setControlValue("second", QSize(1, 2)));
+        QVERIFY(!bench.container.setControlValue("third", 1));
 
         // An announcement in the middle may take rows away.
         bench.type("edit", QString("5"));
@@ -342,8 +343,8 @@ private slots:
         const auto buttons = table.buttons();
         QVERIFY(!buttons[0]->isEnabled());
         table.setControlEnable(true);
-        buttons[0]->setText(QString("Rule1"));
-        buttons[1]->setText(QString("A&Rule1"));
+        buttons[0]->setText("Rule1");
+        buttons[1]->setText("A&Rule1");
         QCOMPARE(buttons[0]->text(), QString("Rule1"));
         QCOMPARE(buttons[1]->text(), QString("A&&Ru..."));
         QCOMPARE(buttons[1]->toolTip(), QString("A&Rule1"));
@@ -356,10 +357,10 @@ private slots:
         buttons[2]->click();
         QCOMPARE(changed.count(), 2);
         QCOMPARE(clicked.value(1).value(0).toInt(), 13);
-        QVERIFY(buttons[2]->isChecked() && !buttons[1]->isChecked());
+        QVERIFY_BOTH(buttons[2]->isChecked(), !buttons[1]->isChecked());
         QCOMPARE(table.currentButton(), buttons[2]);
         table.setCurrentButton(nullptr, true);
-        QVERIFY(!table.currentButton() && buttons[2]->isChecked());
+        QVERIFY_BOTH(!table.currentButton(), buttons[2]->isChecked());
         QCOMPARE(changed.count(), 2);
 
         table.setCurrentButton(buttons[0], false);
@@ -370,7 +371,7 @@ private slots:
         // Whoever hears of a press may refill the table.
         connect(&table, &RuleItemWidgetTabel::sgnCheckBtnChanged, this, [&] { table.deleteAll(); });
         buttons[1]->click();
-        QVERIFY(table.buttons().isEmpty() && table.isEmpty());
+        QVERIFY_BOTH(table.buttons().isEmpty(), table.isEmpty());
         QCOMPARE(clicked.value(2).value(0).toInt(), 12);
     }
 
@@ -386,7 +387,8 @@ private slots:
         table.show();
         const QString name = QString("enable");
         auto* box = table.findChild<QCheckBox*>(name);
-        QVERIFY(box && box->isVisible() && !box->isChecked());
+        QVERIFY_BOTH(box, box->isVisible());
+        QVERIFY(!box->isChecked());
         table.relayout(40, 0);
         QCOMPARE(box->geometry(), QRect(button->x() - 1, button->y() + 12 - 7, 17, 14));
         box->click();
@@ -400,7 +402,7 @@ private slots:
         QVERIFY(!box->isEnabled());
         const QPointer<QCheckBox> watched(box);
         table.deleteWidget(button);
-        QVERIFY(!table.findChild<QCheckBox*>(name) && !box->isVisible());
+        QVERIFY_BOTH(!table.findChild<QCheckBox*>(name), !box->isVisible());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!watched);
     }

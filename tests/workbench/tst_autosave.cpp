@@ -208,7 +208,7 @@ private slots:
             if (ending == Unwritable)
                 options.resultFile = m_home->filePath("missing/result.json");
             Bench bench(folder(), options);
-            QVERIFY(bench.isReady() && !bench.bar());
+            QVERIFY_BOTH(bench.isReady(), !bench.bar());
             QCOMPARE(namesIn(folder()), QStringList());
             QCOMPARE(bench.play(more), QString());
             QTRY_VERIFY_WITH_TIMEOUT(isKept(), kTryFor);
@@ -243,7 +243,7 @@ private slots:
             BoxWatcher boxes;
             boxes.begin(QString("No"));
             bench.answer("restore");
-            QVERIFY(boxes.lastText() && bench.bar());
+            QVERIFY_BOTH(boxes.lastText(), bench.bar());
             bench.answer("discard");
             QTRY_VERIFY_WITH_TIMEOUT(!bench.bar(), kTryFor);
         }
@@ -299,7 +299,7 @@ private slots:
         const QString folder = disk.path("autosave");
         Bench bench(folder, gate());
         const auto* const trouble = bench.window().findChild<QLabel*>("trouble");
-        QVERIFY(bench.isReady() && trouble);
+        QVERIFY_BOTH(bench.isReady(), trouble);
         QCOMPARE(bench.play(kWork), QString());
         const auto kept = [&] { return contentOf(folder).count("globalSensitivity"); };
         QTRY_COMPARE_WITH_TIMEOUT(kept(), 1, kTryFor);

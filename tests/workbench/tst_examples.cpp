@@ -133,7 +133,7 @@ private slots:
         for (const char* name : {"result.json", "screenshot.png", "record.jsonl"}) {
             const QString output = "--" + QString(name).section('.', 0, 0);
             const Outcome outcome = replay(session("savewait"), {output, disk.path(name)});
-            const bool isSession = output == QLatin1String("--record");
+            const bool isSession = output == QString("--record");
             QVERIFY2(outcome.said.contains(QRegularExpression(
                          QString(name) + ": (No space left|File too large).*; " +
                          (isSession ? "nothing more is recorded" : "the old file stands"))),

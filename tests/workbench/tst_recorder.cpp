@@ -119,8 +119,7 @@ private:
     {
         QFile file(m_path);
         file.open(QIODevice::ReadOnly);
-        QStringList lines =
-            QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
         return lines.mid(1);
     }
 
@@ -229,7 +228,7 @@ private slots:
             const Value& what = step[step.isMember("object") ? "object" : "do"];
             kinds.append(what.asString());
         }
-        QCOMPARE(kinds.join(QLatin1Char(' ')),
+        QCOMPARE(kinds.join(' '),
                  "addRule wait move press press double press press press press "
                  "move size redraw press press press press press press set set save");
         compareReplayed(Bench::example());

@@ -50,9 +50,9 @@ private slots:
             xml.readNext();
             if (!xml.isStartElement())
                 continue;
-            if (xml.name() == QLatin1String("source"))
+            if (xml.name() == QString("source"))
                 source = xml.readElementText();
-            if (xml.name() != QLatin1String("translation"))
+            if (xml.name() != QString("translation"))
                 continue;
             QVERIFY2(!xml.attributes().hasAttribute("type"), qPrintable(source));
             const QString translation = xml.readElementText();

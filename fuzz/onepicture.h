@@ -2,7 +2,9 @@
 
 #include "host/video/picturesource.h"
 
-/// A grey picture, which is there at once.
+#include <utility>
+
+/// One picture, grey by default, which is there at once.
 class OnePicture : public UICommonMdl::PictureSource
 {
 public:
@@ -10,6 +12,7 @@ public:
     {
         m_picture.fill(Qt::gray);
     }
+    explicit OnePicture(QImage picture) : m_picture(std::move(picture)) {}
 
     void start() override
     {
