@@ -24,7 +24,7 @@ DrawItem* add(DrawScene& scene, Type type, int dataId = 1, int parentId = 0,
     item->setDataId(dataId);
     item->setForbidenAreaType(forbid);
     item->setPointLimits(-1, -1);
-    item->setLabel("Rule%1".arg(dataId));
+    item->setLabel(QString("Rule%1").arg(dataId));
     return scene.addItem(std::move(item), parentId);
 }
 

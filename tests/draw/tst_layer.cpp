@@ -187,7 +187,7 @@ private:
         auto item = std::make_unique<DrawItem>(BaseDrawType(1 + random(9)));
         item->setDataId(1 + random(kDataIds));
         item->setPointLimits(-1, -1);
-        item->setLabel("Rule %1".arg(random(99)));
+        item->setLabel(QString("Rule %1").arg(random(99)));
         if (m_withForbidenAreas)
             item->setForbidenAreaType(DrawItemForbidenAreaType(random(4)));
         const int count = 2 + random(4);
