@@ -6,6 +6,7 @@
 #include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
 #include "tabel/titlelabel.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
@@ -28,12 +29,6 @@ const QString kSaved = R"({"result": 0, "algorithmId": "crossing", "channalId": 
     "channelId": "C7", "algorithmType": %1, "algorithmCode": "%2", "channelAbilityPO": %3})";
 const char kExited[] = R"({"result": -1, "algorithmId": "crossing", "channalId": "C7",
     "channelId": "C7", "algorithmType": 0, "algorithmCode": ""})";
-const QByteArray kEveryScene = R"({"configDescription": {
-    "lanes": {"parent": "Lanes[]", "countOfLane": [1, 4]},
-    "calibrateArea": {"parent": "Areas[]", "method": "Scene", "celibateArea": [1, 2]},
-    "fightCalibrate": {"parent": "Fights[]", "celibateArea": [1, 2]},
-    "ruleDescription": {"detectArea": {"parent": "D[]"}, "global": {"parent": "G"},
-                        "rules": {"parent": "R[]"}}}})";
 const char kExitPrompt[] = "Prompt: Do you want to exit the current configuration?";
 
 UICommonMdl::ChannelSources& sources()
@@ -103,7 +98,7 @@ class TstController : public RulesTest
     void showPicture(const QSize& size)
     {
         m_size = size;
-        sources().setDefaultAddress("grey:%1".arg(size.width()));
+        sources().setDefaultAddress(QString("grey:%1").arg(size.width()));
         m_opened.clear();
     }
 
@@ -183,7 +178,7 @@ private slots:
     void makesAPanelForEachScene()
     {
         Desk desk;
-        desk.load(block(kChannel, "{}", kEveryScene));
+        desk.load(block(kChannel, "{}", Fixtures::contentOf("templates/everyscene.json")));
         QCOMPARE(desk.panels(),
                  QString("[CalibrateAreaScene] FightCalibrateScene LanesScene RuleScene "
                          "GlobalScene DetectionScene"));

@@ -118,7 +118,27 @@ private:
             m_whileMaking = happen;
             window.load("C1", rule("Gate"));
         };
-        // The client hears of the focus that leaves a widget while something is done to it.
+        const auto reports = [this](const Window& window, const Happening& happen) {
+            m_whileReporting = happen;
+            connect(window.content, SIGNAL(sgnNotifyVideoSize(int, int)), this,
+                    SLOT(sltSizeReported()));
+            window.load("C1", rule("Gate"));
+        };
+        return {box("error", kBroken, "btnSave"),
+                box("error about names", kTwins, "btnSave"),
+                box("question before it saves", rule("Gate"), "btnSave", "996"),
+                box("question before it leaves", rule("Gate"), "btnCancel", "996", true),
+                box("notice", rule("Gate"), "delete"),
+                {"connecting", connects},
+                {"drawing", draws, "", true},
+                {"typing", types},
+                {"asking for the picture", loads},
+                {"told the picture's size", reports}};
+    }
+
+    /// The client hears of the focus that leaves a widget while something is done to it.
+    QList<Moment> focusMoments()
+    {
         const auto movesFocus = [this](const char* name, auto act) {
             return [=](const Window& window, const Happening& happen) {
                 window.load("C1", rule("Gate"));
@@ -150,23 +170,7 @@ private:
             QVERIFY(
                 QMetaObject::invokeMethod(window.find<QWidget>("global"), "sgnTrySelectedlScene"));
         };
-        const auto reports = [this](const Window& window, const Happening& happen) {
-            m_whileReporting = happen;
-            connect(window.content, SIGNAL(sgnNotifyVideoSize(int, int)), this,
-                    SLOT(sltSizeReported()));
-            window.load("C1", rule("Gate"));
-        };
-        return {box("error", kBroken, "btnSave"),
-                box("error about names", kTwins, "btnSave"),
-                box("question before it saves", rule("Gate"), "btnSave", "996"),
-                box("question before it leaves", rule("Gate"), "btnCancel", "996", true),
-                box("notice", rule("Gate"), "delete"),
-                {"connecting", connects},
-                {"drawing", draws, "", true},
-                {"typing", types},
-                {"asking for the picture", loads},
-                {"told the picture's size", reports},
-                {"focus leaves a row that goes", movesFocus("high", loadsLocked)},
+        return {{"focus leaves a row that goes", movesFocus("high", loadsLocked)},
                 {"focus leaves a button that hides", movesFocus("btnSave", loadsLocked)},
                 {"focus leaves a button that is disabled", movesFocus("addRule", adds)},
                 {"focus leaves a page that is turned", movesFocus("high", turnsPage)},
@@ -210,7 +214,7 @@ private slots:
         QTest::addColumn<int>("what");
         const char* const names[] = {"window deleted", "parent deleted", "module ended",
                                      "cleared",        "loaded anew",    "queried"};
-        const QList<Moment> all = moments();
+        const QList<Moment> all = moments() + focusMoments();
         for (int moment = 0; moment < all.size(); ++moment) {
             for (int what = WindowDeleted; what <= Queried; ++what)
                 QTest::addRow("%s: %s", all[moment].name, names[what]) << moment << what;
@@ -221,7 +225,7 @@ private slots:
     {
         QFETCH(const int, moment);
         QFETCH(const int, what);
-        const Moment during = moments().at(moment);
+        const Moment during = (moments() + focusMoments()).at(moment);
         Mailbox mailbox;
         BoxAnswerer boxes(QMessageBox::Yes);
         Window window(widget());

@@ -1,32 +1,14 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include "tests/support/fixtures.h"
 
 /// A small template with a rules and a global section, rules for it, and the parameter block in
 /// which a host hands template and configuration over.
 namespace SampleDocuments
 {
 
-inline const QByteArray kSections = R"({"configDescription": {"ruleDescription": {
-  "rules": {"count": [1, 3], "parent": "Rules[]", "controls": [
-    {"key": "region", "protocol": {"name": "Area[]", "type": "point"}},
-    {"key": "low", "protocol": {"name": "Low", "type": "int"}},
-    {"key": "high", "protocol": {"name": "High", "type": "int"}}],
-   "checkValueControls": [
-    {"firstKey": "low", "secondKey": "high", "rule": {"operator": "<"}}]},
-  "global": {"count": [1, 1], "parent": "Global", "controls": [
-    {"key": "span", "protocol": {"name": "Span[]", "type": "array int"}},
-    {"key": "level", "protocol": {"name": "Level", "type": "int"}}]}}},
- "configItems": {
-  "region": {"describe": "Region", "facade": "region", "range": [3, 4]},
-  "span": {"describe": "Span", "facade": "numericalInterval"},
-  "low": {"describe": "Low", "facade": "inputBoxNumber", "range": [0, 9]},
-  "high": {"describe": "High", "facade": "inputBoxNumber", "range": [0, 9]},
-  "level": {"describe": "Level", "facade": "inputBoxNumber", "range": [0, 9]}})";
-
-inline const QByteArray kTemplate = kSections + R"(, "configTemplate": {
-  "Rules": [{"Area": [], "Low": 0, "High": 0}], "Global": {"Span": [0, 0], "Level": 0}}})";
+inline const QByteArray kTemplate = Fixtures::contentOf(QStringLiteral("templates/sample.json"));
+inline const QByteArray kSections = kTemplate.left(kTemplate.indexOf(",\n  \"configTemplate\""));
 /// The sections without a document to write into.
 inline const QByteArray kUnwritableTemplate = kSections + "}";
 inline const QByteArray kNoScenes = R"({"configDescription": {}, "configTemplate": {}})";
