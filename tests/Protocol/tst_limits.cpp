@@ -21,6 +21,8 @@ namespace
 using AbsurdDocuments::areas;
 using AbsurdDocuments::oneRule;
 
+constexpr int kLong = 1 << 20;
+
 QByteArray number(const QByteArray& details, const QByteArray& type = "int")
 {
     return AbsurdDocuments::rules(
@@ -36,6 +38,12 @@ QByteArray oneArea(const QByteArray& points)
 QByteArray nested(int depth)
 {
     return QByteArray("[").repeated(depth) + QByteArray("]").repeated(depth);
+}
+
+/// Indented, it is a hundred times as long.
+QByteArray deep()
+{
+    return nested(400).insert(400, QByteArray("0,").repeated(kLong * 2) + '0');
 }
 
 /// Attributes of one key that share a place.
@@ -81,8 +89,6 @@ QByteArray laterElement()
         {}, R"({"N": null})");
 }
 
-constexpr int kLong = 1 << 20;
-
 } // namespace
 
 /// Documents that no device sends, and what becomes of them.
@@ -119,6 +125,80 @@ class TstLimits : public RulesTest
         return graphics.GetLastStatus();
     }
 
+    static void row(const char* name, const QByteArray& description, const QByteArray& config,
+                    const char* why)
+    {
+        QTest::newRow(name) << description << config << QString(why);
+    }
+
+    static void addTemplates()
+    {
+        const auto parts =
+            "The template has more than 1000 attributes or 5000 choices in one section.";
+        const auto many = AbsurdDocuments::crowded(1000);
+        row("attributes", AbsurdDocuments::crowded(1001)[0].description, "{}", parts);
+        row("choices", AbsurdDocuments::crowded(5001)[1].description, "{}", parts);
+        const QByteArray shared = R"({"key": "n", "protocol": {"name": "N", "type": "string"}})";
+        row("choices in many attributes",
+            QByteArray(many[1].description)
+                .replace(shared, shared + QByteArray(", " + shared).repeated(5)),
+            "{}", parts);
+        row("a choice that is long when it is indented",
+            number(R"(, "facade": "radioButton", "enumeration": [{"value": {"a": )" + deep() +
+                   "}}]"),
+            "{}", parts);
+    }
+
+    static void addEntries()
+    {
+        const auto many = AbsurdDocuments::crowded(1000);
+        const QByteArray empty = R"({"R": [)" + AbsurdDocuments::list(9000, "{}") + "]}";
+        const auto entries = "The configuration has 9000 entries under \"R[]\"; at most %1 can be "
+                             "edited.";
+        row("attributes in entries", many[0].description, empty, entries);
+        row("checks in entries", many[2].description, empty, entries);
+        row("a prototype in entries",
+            areas().replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'), empty,
+            entries);
+        row("elements in entries", laterElement(),
+            R"({"R": [)" + AbsurdDocuments::list(9000, R"({"N": []})") + "]}", entries);
+        row("entries of two sections",
+            areas()
+                .replace("\"rules\"", "\"detectArea\": {\"parent\": \"R[]\"}, \"rules\"")
+                .replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'),
+            R"({"R": [)" + AbsurdDocuments::list(2500, "{}") + "]}",
+            "The configuration has 2500 entries under \"R[]\"; at most %1 can be edited.");
+        row("entries", areas(), R"({"R": [)" + AbsurdDocuments::list(3001, "{}") + "]}",
+            "The configuration has 3001 entries under \"R[]\"; at most 3000 can be edited.");
+        row("figures in an entry",
+            R"({"configDescription": {"fightCalibrate": {"parent": "R"}}, "configTemplate": {}})",
+            R"({"R": {"CalibrateArea": {"Area": [[1, 1], [9, 1], [9, 9]], "Rects": [)" +
+                AbsurdDocuments::list(3000, "[[1, 1], [5, 5]]") + "]}}}",
+            "The configuration has 3001 entries under \"R\"; at most 3000 can be edited.");
+    }
+
+    /// What the attributes of few entries would read.
+    static void addReads()
+    {
+        const auto reads =
+            "The attributes read too much of what the configuration has under \"R[]\".";
+        row("attributes with one text", sharing("string", "inputBoxNumber"),
+            oneRule("\"N\": \"" + QByteArray(70'000, 'x') + '"'), reads);
+        row("an object that is long when it is indented", number({}, "object"),
+            oneRule("\"N\": " + deep()), reads);
+        const QByteArray points = '[' + AbsurdDocuments::list(200'000, "[%1, 7]") + ']';
+        row("points", areas(), oneRule("\"Area\": " + points), reads);
+        row("points of a calibrated area",
+            R"({"configDescription": {"calibrateArea": {"parent": "R[]"}}, "configTemplate": {}})",
+            R"({"R": [{"Area": )" + points + "}]}", reads);
+        row("attributes with one direction", sharing("point", "parallelogram"),
+            oneRule(R"("N": [[1, 1], [9, 1], [9, 9], [1, 9]], "Config": {"Direction": )" + points +
+                    '}'),
+            reads);
+        row("attributes with one figure", sharing("point", "region"),
+            oneRule("\"N\": [" + AbsurdDocuments::list(1100, "[%1, 7]") + ']'), reads);
+    }
+
 private slots:
     void crowds_data()
     {
@@ -150,64 +230,9 @@ private slots:
         QTest::addColumn<QByteArray>("description");
         QTest::addColumn<QByteArray>("config");
         QTest::addColumn<QString>("why");
-        const auto row = [](const char* name, const QByteArray& description,
-                            const QByteArray& config, const char* why) {
-            QTest::newRow(name) << description << config << QString(why);
-        };
-        const auto parts =
-            "The template has more than 1000 attributes or 5000 choices in one section.";
-        const QByteArray deep = nested(400).insert(400, QByteArray("0,").repeated(kLong * 2) + '0');
-        const auto many = AbsurdDocuments::crowded(1000);
-        row("attributes", AbsurdDocuments::crowded(1001)[0].description, "{}", parts);
-        row("choices", AbsurdDocuments::crowded(5001)[1].description, "{}", parts);
-        const QByteArray shared = R"({"key": "n", "protocol": {"name": "N", "type": "string"}})";
-        row("choices in many attributes",
-            QByteArray(many[1].description)
-                .replace(shared, shared + QByteArray(", " + shared).repeated(5)),
-            "{}", parts);
-        row("a choice that is long when it is indented",
-            number(R"(, "facade": "radioButton", "enumeration": [{"value": {"a": )" + deep + "}}]"),
-            "{}", parts);
-        const QByteArray empty = R"({"R": [)" + AbsurdDocuments::list(9000, "{}") + "]}";
-        const auto entries = "The configuration has 9000 entries under \"R[]\"; at most %1 can be "
-                             "edited.";
-        row("attributes in entries", many[0].description, empty, entries);
-        row("checks in entries", many[2].description, empty, entries);
-        row("a prototype in entries",
-            areas().replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'), empty,
-            entries);
-        row("elements in entries", laterElement(),
-            R"({"R": [)" + AbsurdDocuments::list(9000, R"({"N": []})") + "]}", entries);
-        const auto reads =
-            "The attributes read too much of what the configuration has under \"R[]\".";
-        row("attributes with one text", sharing("string", "inputBoxNumber"),
-            oneRule("\"N\": \"" + QByteArray(70'000, 'x') + '"'), reads);
-        row("an object that is long when it is indented", number({}, "object"),
-            oneRule("\"N\": " + deep), reads);
-        const QByteArray points = '[' + AbsurdDocuments::list(200'000, "[%1, 7]") + ']';
-        row("points", areas(), oneRule("\"Area\": " + points), reads);
-        row("points of a calibrated area",
-            R"({"configDescription": {"calibrateArea": {"parent": "R[]"}}, "configTemplate": {}})",
-            R"({"R": [{"Area": )" + points + "}]}", reads);
-        row("attributes with one direction", sharing("point", "parallelogram"),
-            oneRule(R"("N": [[1, 1], [9, 1], [9, 9], [1, 9]], "Config": {"Direction": )" + points +
-                    '}'),
-            reads);
-        row("attributes with one figure", sharing("point", "region"),
-            oneRule("\"N\": [" + AbsurdDocuments::list(1100, "[%1, 7]") + ']'), reads);
-        row("entries of two sections",
-            areas()
-                .replace("\"rules\"", "\"detectArea\": {\"parent\": \"R[]\"}, \"rules\"")
-                .replace("\"Area\": []", "\"a\": \"" + QByteArray(kLong / 64, 'x') + '"'),
-            R"({"R": [)" + AbsurdDocuments::list(2500, "{}") + "]}",
-            "The configuration has 2500 entries under \"R[]\"; at most %1 can be edited.");
-        row("entries", areas(), R"({"R": [)" + AbsurdDocuments::list(3001, "{}") + "]}",
-            "The configuration has 3001 entries under \"R[]\"; at most 3000 can be edited.");
-        row("figures in an entry",
-            R"({"configDescription": {"fightCalibrate": {"parent": "R"}}, "configTemplate": {}})",
-            R"({"R": {"CalibrateArea": {"Area": [[1, 1], [9, 1], [9, 9]], "Rects": [)" +
-                AbsurdDocuments::list(3000, "[[1, 1], [5, 5]]") + "]}}}",
-            "The configuration has 3001 entries under \"R\"; at most 3000 can be edited.");
+        addTemplates();
+        addEntries();
+        addReads();
     }
 
     /// Short documents that ask for very much together are refused before it is made.
