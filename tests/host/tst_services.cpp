@@ -126,18 +126,6 @@ private slots:
         QCOMPARE(ask(nullptr), QMessageBox::No);
     }
 
-    void boxSurvivesItsParent()
-    {
-        auto parent = std::make_unique<QWidget>();
-        QPointer<QMessageBox> open;
-        atNextBox([&](QMessageBox* box) {
-            open = box;
-            parent.reset();
-        });
-        QCOMPARE(ask(parent.get()), QMessageBox::NoButton);
-        QVERIFY_BOTH(!parent, !open);
-    }
-
     void addressesHideTheirLogin_data() { Fixtures::addRows("addresses.json"); }
 
     /// As an address is shown, kept and sent; by default as it is.
