@@ -2,12 +2,12 @@
 
 #include "host/api/cuipluginmessage.h"
 #include "host/api/kqsingleton.h"
+#include "host/api/pluginmessages.h"
 #include "host/api/pluginmsg_param.h"
 #include "host/json/reader.h"
 #include "host/json/value.h"
 #include "plugin/cintelligentrulesctrl.h"
 #include "plugin/modulelifetime.h"
-#include "plugin/pluginmessages.h"
 
 #include <QCoreApplication>
 #include <QEvent>

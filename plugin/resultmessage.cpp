@@ -2,9 +2,9 @@
 
 #include "host/api/cuipluginmessage.h"
 #include "host/api/kqsingleton.h"
+#include "host/api/pluginmessages.h"
 #include "host/api/pluginmsg_param.h"
 #include "host/json/value.h"
-#include "plugin/pluginmessages.h"
 
 namespace IntelligentRulesUI
 {

@@ -1,5 +1,6 @@
 #include "scene/scenesection.h"
 
+#include "host/api/rowcontract.h"
 #include "scene/scenetitlebar.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/focus.h"
@@ -23,7 +24,7 @@ constexpr int kTitleGap = 5;
 SceneSection::SceneSection(QWidget* parent)
     : WidgetTabel(parent), m_widgets(this), m_focused(QApplication::focusWidget())
 {
-    setProperty("selected", false);
+    setProperty(RowContract::kSelected, false);
     m_widgets.titleBar->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* old, QWidget* now) { focusMoved(old, now); });
@@ -46,7 +47,7 @@ void SceneSection::setSelected(bool selected)
     m_selected = selected;
     if (!selected && !dropFocus())
         return;
-    setProperty("selected", selected);
+    setProperty(RowContract::kSelected, selected);
     m_widgets.titleBar->setSelected(selected);
     updateMask();
 }

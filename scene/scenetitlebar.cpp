@@ -1,5 +1,6 @@
 #include "scene/scenetitlebar.h"
 
+#include "host/api/rowcontract.h"
 #include "scene/foldarrow.h"
 #include "tabel/titlelabel.h"
 
@@ -24,7 +25,7 @@ void repolish(QWidget* widget)
 SceneTitleBar::SceneTitleBar(QWidget* parent)
     : QWidget(parent), m_label(new TitleLabel(this)), m_arrow(new FoldArrow(this))
 {
-    setObjectName(QStringLiteral("titleBar"));
+    setObjectName(QString::fromLatin1(RowContract::kTitleBar));
     setAttribute(Qt::WA_StyledBackground);
     setFixedHeight(kHeight);
     setCursor(Qt::PointingHandCursor);

@@ -1,5 +1,6 @@
 #include "scene/scenewidgets.h"
 
+#include "host/api/rowcontract.h"
 #include "scene/scenetitlebar.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/ruleitemwidgettabel.h"
@@ -52,13 +53,13 @@ SceneWidgets::SceneWidgets(WidgetTabel* panel)
 void SceneWidgets::nameWidgets()
 {
     ruleFucBar->setObjectName(QStringLiteral("ruleFucBar"));
-    drawItems->setObjectName(QStringLiteral("drawItems"));
+    drawItems->setObjectName(QString::fromLatin1(RowContract::kEntries));
     actions->setObjectName(QStringLiteral("actions"));
-    hint->setObjectName(QStringLiteral("hint"));
+    hint->setObjectName(QString::fromLatin1(RowContract::kHint));
     childFucBar->setObjectName(QStringLiteral("childFucBar"));
-    childDrawItems->setObjectName(QStringLiteral("childDrawItems"));
+    childDrawItems->setObjectName(QString::fromLatin1(RowContract::kFigures));
     controls->setObjectName(QStringLiteral("controls"));
-    mask->setObjectName(QStringLiteral("mask"));
+    mask->setObjectName(QString::fromLatin1(RowContract::kMask));
 }
 
 void SceneWidgets::buildBar(RuleWidgetTabel* bar)

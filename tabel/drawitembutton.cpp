@@ -1,5 +1,6 @@
 #include "tabel/drawitembutton.h"
 
+#include "host/api/rowcontract.h"
 #include "tabel/plaintext.h"
 
 #include <QCheckBox>
@@ -74,7 +75,7 @@ void DrawItemButton::syncCheckBox()
     const bool shown = m_carriesCheckBox && !isHidden() && parentWidget();
     m_checkBox->setVisible(shown);
     // Named only while it shows, so that nobody finds the box of a button that is going away.
-    m_checkBox->setObjectName(shown ? QStringLiteral("enable") : QString());
+    m_checkBox->setObjectName(shown ? QString::fromLatin1(RowContract::kEnable) : QString());
     m_checkBox->raise();
 }
 

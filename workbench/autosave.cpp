@@ -1,6 +1,7 @@
 #include "workbench/autosave.h"
 
 #include "host/api/kqmessagebox.h"
+#include "host/api/rowcontract.h"
 #include "host/json/value.h"
 #include "host/video/qrtspvideownd.h"
 #include "workbench/messagerecord.h"
@@ -105,8 +106,8 @@ Autosave::Autosave(WorkbenchWindow& window, const QString& folder, int delay)
     connect(&m_window, &WorkbenchWindow::sgnMessage, this, &Autosave::takeMessage);
     connect(&m_window, &WorkbenchWindow::sgnResultKept, this, &Autosave::takeKept);
     // The module connected its own slot before, so that this one comes after what that did.
-    connect(m_finder.windowButton(QStringLiteral("btnSave")), &QAbstractButton::clicked, this,
-            &Autosave::keepAnswered);
+    connect(m_finder.windowButton(QString::fromLatin1(RowContract::kSave)),
+            &QAbstractButton::clicked, this, &Autosave::keepAnswered);
     auto* const recorder = new SessionRecorder(m_window, this);
     recorder->start(std::make_unique<Log>(*this));
     begin();

@@ -5,6 +5,7 @@
 #include "host/api/iabstractwidget.h"
 #include "host/api/iclientuipluginapi.h"
 #include "host/api/kqsingleton.h"
+#include "host/api/pluginmessages.h"
 #include "host/api/pluginmsg_param.h"
 #include "host/json/value.h"
 
@@ -13,10 +14,6 @@
 
 namespace
 {
-
-constexpr int kCloseRules = 0;
-constexpr int kOpenRules = 160;
-constexpr int kQueryUnfinishedDraw = 222;
 
 constexpr char kPluginName[] = "IntelligentRulesUI";
 
@@ -80,7 +77,7 @@ bool ModuleHost::open(const QString& parameterBlock)
     kql::Json::Value address(kql::Json::ValueType::Object);
     address["pluginWidgetID"] = widgetId();
     address["iSessionID"] = 1;
-    return send(kOpenRules, address.toStyledText(), parameterBlock);
+    return send(IntelligentRulesUI::PluginMsgOpenRules, address.toStyledText(), parameterBlock);
 }
 
 bool ModuleHost::queryUnfinishedDraw(const QString& algorithmId, const QString& channelId)
@@ -88,12 +85,12 @@ bool ModuleHost::queryUnfinishedDraw(const QString& algorithmId, const QString& 
     kql::Json::Value query(kql::Json::ValueType::Object);
     query["params"]["algorithmId"] = algorithmId;
     query["params"]["channalId"] = channelId;
-    return send(kQueryUnfinishedDraw, widgetId(), query.toStyledText());
+    return send(IntelligentRulesUI::PluginMsgQueryUnfinishedDraw, widgetId(), query.toStyledText());
 }
 
 bool ModuleHost::close()
 {
-    return send(kCloseRules, widgetId(), {});
+    return send(IntelligentRulesUI::PluginMsgCloseRules, widgetId(), {});
 }
 
 bool ModuleHost::send(int id, const QString& p1, const QString& p2)

@@ -53,7 +53,7 @@ QWidget* PanelFinder::panel(const QString& scene) const
 {
     const QList<QWidget*> all = panels();
     const auto found = std::find_if(all.begin(), all.end(), [&scene](const QWidget* panel) {
-        return scene.isEmpty() ? panel->property("selected").toBool()
+        return scene.isEmpty() ? panel->property(RowContract::kSelected).toBool()
                                : panel->objectName() == scene;
     });
     return found == all.end() ? nullptr : *found;
@@ -76,8 +76,8 @@ QAbstractButton* PanelFinder::buttonByText(QWidget* panel, const QString& text) 
 QList<QAbstractButton*> PanelFinder::entryButtons(QWidget* panel, bool children) const
 {
     QList<QAbstractButton*> result;
-    const QString name = children ? QStringLiteral("childDrawItems") : QStringLiteral("drawItems");
-    if (const QWidget* table = part(panel, name)) {
+    const char* const name = children ? RowContract::kFigures : RowContract::kEntries;
+    if (const QWidget* table = part(panel, QString::fromLatin1(name))) {
         for (QAbstractButton* button : table->findChildren<QAbstractButton*>()) {
             if (isEntryButton(*button) && !button->isHidden())
                 result.append(button);
@@ -89,8 +89,8 @@ QList<QAbstractButton*> PanelFinder::entryButtons(QWidget* panel, bool children)
 
 QAbstractButton* PanelFinder::enableBox(QWidget* panel, const QAbstractButton& button) const
 {
-    const auto boxes = panel->findChildren<QAbstractButton*>(QStringLiteral("enable"),
-                                                             Qt::FindChildrenRecursively);
+    const auto boxes = panel->findChildren<QAbstractButton*>(
+        QString::fromLatin1(RowContract::kEnable), Qt::FindChildrenRecursively);
     const auto found = std::find_if(boxes.begin(), boxes.end(), [&button](QAbstractButton* box) {
         const QPoint centre = box->mapTo(box->window(), box->rect().center());
         return !box->isHidden() && box != &button &&
@@ -123,6 +123,6 @@ QAbstractButton* PanelFinder::windowButton(const QString& name) const
 
 QString PanelFinder::notices() const
 {
-    const auto* label = m_window->findChild<QLabel*>(QStringLiteral("lblNotices"));
+    const auto* label = m_window->findChild<QLabel*>(QString::fromLatin1(RowContract::kNotices));
     return label && !label->isHidden() ? label->text() : QString();
 }

@@ -1,5 +1,6 @@
 #include "workbench/recordedstep.h"
 
+#include "host/api/rowcontract.h"
 #include "workbench/panelfinder.h"
 #include "workbench/rowhand.h"
 #include "workbench/sourcebook.h"
@@ -106,9 +107,9 @@ Value click(const QWidget& panel, const QAbstractButton& button)
 
 Value windowButton(const QAbstractButton& button)
 {
-    if (button.objectName() == QLatin1String("btnSave"))
+    if (button.objectName() == QLatin1String(RowContract::kSave))
         return step("save");
-    return button.objectName() == QLatin1String("btnCancel") ? step("cancel") : Value();
+    return button.objectName() == QLatin1String(RowContract::kCancel) ? step("cancel") : Value();
 }
 
 Value pathOf(const QString& file)
@@ -165,7 +166,7 @@ Value button(const PanelFinder& finder, const QAbstractButton& button)
         return {};
     if (PanelFinder::isEntryButton(button))
         return pick(finder, panel, button);
-    if (button.objectName() == QLatin1String("enable"))
+    if (button.objectName() == QLatin1String(RowContract::kEnable))
         return enable(finder, panel, button);
     return click(*panel, button);
 }

@@ -11,7 +11,7 @@ SectionState::SectionState(const PanelFinder& finder)
 {
     for (const QWidget* panel : finder.panels()) {
         m_folded[panel->objectName()] = panel->property(RowContract::kFolded).toBool();
-        if (panel->property("selected").toBool())
+        if (panel->property(RowContract::kSelected).toBool())
             m_selected = panel->objectName();
     }
 }

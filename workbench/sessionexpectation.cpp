@@ -1,5 +1,6 @@
 #include "workbench/sessionexpectation.h"
 
+#include "host/api/rowcontract.h"
 #include "host/json/reader.h"
 #include "workbench/eventwait.h"
 #include "workbench/panelfinder.h"
@@ -129,7 +130,8 @@ QString SessionExpectation::checkHint(QWidget& panel, const Value& step) const
 {
     if (!step.isMember("hint"))
         return {};
-    const auto* hint = qobject_cast<QLabel*>(m_finder.part(&panel, QStringLiteral("hint")));
+    const auto* hint =
+        qobject_cast<QLabel*>(m_finder.part(&panel, QString::fromLatin1(RowContract::kHint)));
     const Value shown = hint && !hint->isHidden() ? Value(hint->text()) : Value();
     return compare(say("the hint"), shown, step["hint"]);
 }

@@ -1,5 +1,6 @@
 #include "workbench/sessionplayer.h"
 
+#include "host/api/rowcontract.h"
 #include "host/video/maskedaddress.h"
 #include "host/video/qrtspvideownd.h"
 #include "workbench/boxwatcher.h"
@@ -253,20 +254,19 @@ QString SessionPlayer::doFold(const Value& step)
     QWidget* panel = why.isEmpty() ? panelOf(step, why) : nullptr;
     if (!panel)
         return why;
-    QWidget* titleBar = m_finder.part(panel, QStringLiteral("titleBar"));
-    if (titleBar && titleBar->property("bFold").toBool() == step["fold"].asBool())
+    if (panel->property(RowContract::kFolded).toBool() == step["fold"].asBool())
         return {};
-    return OperatorHand::click(titleBar);
+    return OperatorHand::click(m_finder.part(panel, QString::fromLatin1(RowContract::kTitleBar)));
 }
 
 QString SessionPlayer::doSelect(const Value& step)
 {
     QString why;
     QWidget* panel = panelOf(step, why);
-    if (!panel || panel->property("selected").toBool())
+    if (!panel || panel->property(RowContract::kSelected).toBool())
         return why;
-    QWidget* titleBar = m_finder.part(panel, QStringLiteral("titleBar"));
-    QWidget* mask = m_finder.part(panel, QStringLiteral("mask"));
+    QWidget* titleBar = m_finder.part(panel, QString::fromLatin1(RowContract::kTitleBar));
+    QWidget* mask = m_finder.part(panel, QString::fromLatin1(RowContract::kMask));
     OperatorHand::scrollIntoView(titleBar);
     const bool masked = mask && mask->isVisible();
     return OperatorHand::clickAt(masked ? mask : titleBar, QPoint(5, 5), Qt::LeftButton);
@@ -274,12 +274,12 @@ QString SessionPlayer::doSelect(const Value& step)
 
 QString SessionPlayer::doSave(const Value&)
 {
-    return OperatorHand::click(m_finder.windowButton(QStringLiteral("btnSave")));
+    return OperatorHand::click(m_finder.windowButton(QString::fromLatin1(RowContract::kSave)));
 }
 
 QString SessionPlayer::doCancel(const Value&)
 {
-    return OperatorHand::click(m_finder.windowButton(QStringLiteral("btnCancel")));
+    return OperatorHand::click(m_finder.windowButton(QString::fromLatin1(RowContract::kCancel)));
 }
 
 QString SessionPlayer::doQuery(const Value&)

@@ -171,10 +171,11 @@ void SessionRecorder::seePress(QWidget& widget, const QMouseEvent& event)
     const QWidget* panel = RecordedStep::panelAround(widget);
     if (!panel || event.type() != QEvent::MouseButtonPress)
         return;
-    if (widget.objectName() == QLatin1String("mask"))
+    if (widget.objectName() == QLatin1String(RowContract::kMask))
         record(RecordedStep::select(panel->objectName()));
-    else if (widget.objectName() == QLatin1String("titleBar"))
-        record(RecordedStep::fold(panel->objectName(), !widget.property("bFold").toBool()));
+    else if (widget.objectName() == QLatin1String(RowContract::kTitleBar))
+        record(RecordedStep::fold(panel->objectName(),
+                                  !panel->property(RowContract::kFolded).toBool()));
 }
 
 void SessionRecorder::pressPicture(const QMouseEvent& event)
@@ -222,13 +223,12 @@ void SessionRecorder::seeKey(QWidget& widget, const QKeyEvent& event)
 // The tabulator reaches rows of other sections, which are then selected and unfolded.
 void SessionRecorder::seeTab(QWidget& widget)
 {
-    QWidget* panel = RecordedStep::panelAround(widget);
+    const QWidget* panel = RecordedStep::panelAround(widget);
     if (!panel)
         return;
-    const QWidget* titleBar = m_finder.part(panel, QStringLiteral("titleBar"));
-    if (titleBar && titleBar->property("bFold").toBool())
+    if (panel->property(RowContract::kFolded).toBool())
         record(RecordedStep::fold(panel->objectName(), false));
-    else if (!panel->property("selected").toBool())
+    else if (!panel->property(RowContract::kSelected).toBool())
         record(RecordedStep::select(panel->objectName()));
 }
 

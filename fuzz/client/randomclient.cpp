@@ -5,11 +5,11 @@
 
 #include "host/api/iabstractui.h"
 #include "host/api/iabstractwidget.h"
+#include "host/api/pluginmessages.h"
 #include "host/video/channelsources.h"
 #include "host/video/picturesource.h"
 #include "host/video/qrtspvideownd.h"
 #include "plugin/cintelligentrulesuiplugin.h"
-#include "plugin/pluginmessages.h"
 
 #include <QAbstractButton>
 #include <QApplication>

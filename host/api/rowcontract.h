@@ -34,9 +34,25 @@ constexpr char kMaximum[] = "maximum";
 /// Property of an option's button, a QString: its stored value.
 constexpr char kOption[] = "value";
 
-/// Property that only sections have, a bool; their object name is the scene's.
+// Of sections, whose object name is the scene's: properties, bools, of which no other widget has
+// the first ...
 constexpr char kFolded[] = "folded";
+constexpr char kSelected[] = "selected";
+// ... and object names of what a press selects and folds, of the tables of entries' and figures'
+// buttons, and of an entry's check box.
+constexpr char kTitleBar[] = "titleBar";
+constexpr char kMask[] = "mask";
+constexpr char kEntries[] = "drawItems";
+constexpr char kFigures[] = "childDrawItems";
+constexpr char kEnable[] = "enable";
+/// Object name of a section's label for its hint.
+constexpr char kHint[] = "hint";
 /// Property that only the buttons of entries and figures have, an int.
 constexpr char kEntryId[] = "entryId";
+
+// Object names of the window's buttons, and of its label for notices.
+constexpr char kSave[] = "btnSave";
+constexpr char kCancel[] = "btnCancel";
+constexpr char kNotices[] = "lblNotices";
 
 } // namespace RowContract
