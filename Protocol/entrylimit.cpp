@@ -7,6 +7,7 @@
 #include "Protocol/sceneprotocol.h"
 #include "Protocol/sceneprotocols.h"
 #include "draw/drawscene.h"
+#include "host/api/limits.h"
 #include "host/json/value.h"
 
 #include <algorithm>
@@ -19,9 +20,8 @@ namespace
 // What an entry takes beside its text, and what a condition or a check of it takes, in the same.
 constexpr int kEntry = 256;
 constexpr int kTest = 16;
-// What an element takes that an entry may have beside its prototype, and how many it may have.
+// What an element takes that an entry may have beside its prototype.
 constexpr int kElement = 32;
-constexpr qint64 kMostElements = 1024;
 
 qint64 tests(const DataTemplate& dataTemplate)
 {
@@ -38,7 +38,7 @@ qint64 elements(const DataTemplate& dataTemplate)
     qint64 count = 0;
     for (const auto& item : dataTemplate.items())
         count += std::max(item->index(), 0);
-    return std::min(count, kMostElements);
+    return std::min(count, qint64{Limits::kElements});
 }
 
 } // namespace

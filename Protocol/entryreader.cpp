@@ -9,15 +9,13 @@
 #include "Protocol/valueconversion.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
+#include "host/api/limits.h"
 #include "host/json/value.h"
 
 using kql::Json::Value;
 
 namespace
 {
-
-/// What a value or a point counts beside its text, in characters.
-constexpr int kValue = 16;
 
 qint64 textIn(const QVariant& value)
 {
@@ -26,7 +24,7 @@ qint64 textIn(const QVariant& value)
     qint64 size = 0;
     if (value.userType() == QMetaType::QStringList) {
         for (const QString& text : value.toStringList())
-            size += kValue + text.size();
+            size += Limits::kValueText + text.size();
     }
     return size;
 }
@@ -105,7 +103,7 @@ QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& foun
 {
     // Styled text may be a hundred times as long as what it is made of.
     const qint64 styled = ValueConversion::styledLength(found, item);
-    if (!m_data.takeText(kValue + styled))
+    if (!m_data.takeText(Limits::kValueText + styled))
         return {};
     QVariant value = ValueConversion::parseJsonToValue(found, item);
     if (styled == 0 && !m_data.takeText(textIn(value)))
@@ -123,6 +121,6 @@ void EntryReader::addFigure(const RuleProtocolItem& item, const Value& json,
     if (!drawItem || drawItem->drawType() != BaseDrawType::Parallelogram)
         return;
     const QVector<QPoint> direction = directionPoints(json);
-    if (m_data.takeText(qint64{kValue} * direction.size()))
+    if (m_data.takeText(qint64{Limits::kValueText} * direction.size()))
         drawItem->figure()->setDirectionPoints(direction);
 }

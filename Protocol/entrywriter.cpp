@@ -10,6 +10,7 @@
 #include "Protocol/valueconversion.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
+#include "host/api/limits.h"
 
 #include <QMap>
 #include <algorithm>
@@ -37,9 +38,7 @@ public:
     }
 
 private:
-    // More than any device has in the fields of an entry; keeps absurd indexes, of which a
-    // template may give many, from filling the memory.
-    int m_room = 1024;
+    int m_room = Limits::kElements;
 };
 
 /// The field's path in one spelling.

@@ -8,16 +8,12 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "host/api/limits.h"
 
 namespace
 {
 
 constexpr int kNoParent = -1;
-
-// In characters of text, as a scene may take up so many: the memory, and mostly the time in which
-// figures are painted.
-constexpr int kFigureSize = 1024;
-constexpr int kPointSize = 512;
 
 } // namespace
 
@@ -25,7 +21,7 @@ DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& en
                             const QVector<QPoint>& points, const QString& label,
                             const DrawItem* parent) const
 {
-    if (!m_data.takeText(kFigureSize + qint64{kPointSize} * points.size()))
+    if (!m_data.takeText(Limits::kFigureText + qint64{Limits::kPointText} * points.size()))
         return nullptr;
     auto drawItem =
         FigureMaker::make(m_data, item, entry.id(), FigureMaker::forbiddenType(m_data, item));

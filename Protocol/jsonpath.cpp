@@ -1,6 +1,7 @@
 #include "Protocol/jsonpath.h"
 
 #include "host/api/dprintlog.h"
+#include "host/api/limits.h"
 #include "host/json/value.h"
 
 #include <QStringList>
@@ -12,9 +13,6 @@ namespace
 {
 
 constexpr int kLogLevel = 6;
-// A scene's path and an attribute's inside of it, both of this length, make a document that is
-// not too deep to be read again.
-constexpr std::size_t kMostParts = 100;
 
 JsonPath::Part toPart(QString text)
 {
@@ -99,7 +97,7 @@ Value* JsonPath::readPath(Value& root) const
 
 Value* JsonPath::create(Value& root) const
 {
-    if (m_parts.empty() || m_parts.size() > kMostParts)
+    if (m_parts.empty() || m_parts.size() > Limits::kCreatedParts)
         return nullptr;
     makeIfNull(root, ValueType::Object);
     Value* value = root.isObject() ? &root : nullptr;

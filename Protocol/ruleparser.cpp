@@ -13,6 +13,7 @@
 #include "Protocol/spelling.h"
 #include "Protocol/templatereader.h"
 #include "host/api/dprintlog.h"
+#include "host/api/limits.h"
 #include "host/json/reader.h"
 
 #include <algorithm>
@@ -85,8 +86,8 @@ bool RuleParser::parseTemplate(const QString& text, QString& why)
     auto scenes = reader.read();
     if (reader.isTooLarge()) {
         why = tr("The template has more than %1 attributes or %2 choices in one section.")
-                  .arg(EntryLimit::kMostAttributes)
-                  .arg(EntryLimit::kMostChoices);
+                  .arg(Limits::kAttributes)
+                  .arg(Limits::kChoices);
         return false;
     }
     m_templateDocument = std::move(document);
@@ -113,7 +114,7 @@ bool RuleParser::readData(const QString& text, QString& why)
         return false;
     }
     const auto isRoomFor = [&](const auto& countOf) {
-        qint64 textLeft = EntryLimit::kMostText;
+        qint64 textLeft = Limits::kSceneText;
         return std::all_of(m_data.begin(), m_data.end(), [&](const auto& scene) {
             return hasRoomFor(*scene, countOf(*scene), textLeft, why);
         });
@@ -122,7 +123,7 @@ bool RuleParser::readData(const QString& text, QString& why)
             [&](const RuleData& scene) { return EntryLimit::countEntries(scene, document); }))
         return false;
     for (const auto& scene : m_data) {
-        scene->setTextLeft(EntryLimit::kMostText);
+        scene->setTextLeft(Limits::kSceneText);
         sceneProtocol(scene->getSceneType()).read(*scene, document);
     }
     if (!isRoomFor(&EntryLimit::countInnerFigures) || !isReadWhole(why)) {
@@ -163,7 +164,7 @@ QStringList RuleParser::notices() const
 bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const
 {
     const qint64 text = EntryLimit::textPerEntry(scene, m_templateDocument["configTemplate"]);
-    const qint64 most = std::min<qint64>(EntryLimit::kMostEntries, textLeft / text);
+    const qint64 most = std::min<qint64>(Limits::kEntries, textLeft / text);
     textLeft -= count * text;
     if (count <= most)
         return true;

@@ -4,7 +4,6 @@
 #include "Protocol/calibration/calibrateareatemplate.h"
 #include "Protocol/calibration/calibratestaffs.h"
 #include "Protocol/configmember.h"
-#include "Protocol/entrylimit.h"
 #include "Protocol/fight/fightcalibratedata.h"
 #include "Protocol/fight/fightcalibratetemplate.h"
 #include "Protocol/lanes/lanesdata.h"
@@ -13,6 +12,7 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/spelling.h"
 #include "Protocol/templateitemreader.h"
+#include "host/api/limits.h"
 #include "host/json/value.h"
 
 #include <QMap>
@@ -58,7 +58,7 @@ QList<CheckRule> parseChecks(const Value& checks)
 /// Styled, an object may have a hundred times its length.
 qint64 countStyled(const Value& value)
 {
-    return value.isObject() ? value.styledLength() / EntryLimit::kChoiceText : 0;
+    return value.isObject() ? value.styledLength() / Limits::kChoiceText : 0;
 }
 
 /// How many choices the details of an attribute count as.
@@ -198,7 +198,7 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
     const QString parent = section["parent"].asString();
     const QStringList dependencies = TemplateItemReader::parseDependencies(controls);
     QMap<QPair<QString, int>, const RuleProtocolItem*> known;
-    qint64 room = controls.size() <= EntryLimit::kMostAttributes ? EntryLimit::kMostChoices : -1;
+    qint64 room = controls.size() <= Limits::kAttributes ? Limits::kChoices : -1;
     for (int i = 0; i < controls.size() && room >= 0; ++i) {
         auto item = TemplateItemReader::parseControl(controls[i]);
         if (controls[i]["depend"].isArray())

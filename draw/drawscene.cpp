@@ -7,6 +7,7 @@
 #include "draw/labelfont.h"
 #include "draw/shortenedtext.h"
 #include "draw/widetext.h"
+#include "host/api/limits.h"
 
 #include <QHash>
 #include <algorithm>
@@ -17,17 +18,12 @@ namespace
 
 const Gdiplus::ARGB kShade = 0x64000000;
 const Gdiplus::ARGB kMessageColor = 0xFFFFFFFF;
-const int kLongestMessage = 200;
-
-// Where they cross all over the picture, smoothing the lines of more points takes seconds.
-constexpr int kMostSmoothPoints = 8192;
-
 void paintFigures(Gdiplus::Graphics& graphics, const std::vector<BaseDraw*>& figures)
 {
     qint64 points = 0;
     for (const BaseDraw* figure : figures)
         points += figure->pointCount();
-    if (points > kMostSmoothPoints)
+    if (points > Limits::kSmoothPoints)
         graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
     for (BaseDraw* figure : figures)
         figure->draw(&graphics);
@@ -430,7 +426,7 @@ void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
         return;
     const Gdiplus::Font& font = LabelFont::font();
     Gdiplus::RectF text;
-    const QString shown = ShortenedText::of(m_message, kLongestMessage);
+    const QString shown = ShortenedText::of(m_message, Limits::kHint);
     graphics.MeasureString(wideText(shown), -1, &font, Gdiplus::PointF(0, 0), &text);
     text.X = std::trunc((float(m_canvasSize.width()) - text.Width) / 2);
     text.Y = std::trunc((float(m_canvasSize.height()) - text.Height) / 2);

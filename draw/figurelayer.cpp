@@ -1,16 +1,9 @@
 #include "draw/figurelayer.h"
 
+#include "host/api/limits.h"
 #include "host/gdiplus.h"
 
 #include <utility>
-
-namespace
-{
-
-/// More pixels than any screen has; a layer of them would take too much memory.
-constexpr qint64 kMostPixels = qint64{64} * 1024 * 1024;
-
-} // namespace
 
 FigureLayer::FigureLayer() = default;
 
@@ -48,7 +41,7 @@ void FigureLayer::keep(Gdiplus::Graphics& graphics, const QSize& size, Revisions
                        const Painter& paint)
 {
     m_kept.reset();
-    if (qint64{size.width()} * size.height() > kMostPixels)
+    if (qint64{size.width()} * size.height() > Limits::kPixels)
         return;
     auto bitmap = std::make_unique<Gdiplus::Bitmap>(size.width(), size.height(), &graphics);
     if (bitmap->GetLastStatus() != Gdiplus::Ok)

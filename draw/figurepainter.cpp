@@ -4,6 +4,7 @@
 #include "draw/labelfont.h"
 #include "draw/shortenedtext.h"
 #include "draw/widetext.h"
+#include "host/api/limits.h"
 
 #include <algorithm>
 
@@ -12,8 +13,6 @@ namespace
 
 const Gdiplus::ARGB kRefusedColor = 0xFFFF0000;
 const Gdiplus::REAL kPenWidth = 2.0F;
-// A text at an angle of its own is rendered letter by letter.
-const int kLongestLabel = 64;
 const float kHalfShaft = 20.0F;
 const float kWing = 10.0F;
 const float kLeftWingDegrees = -135.0F;
@@ -117,7 +116,7 @@ void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
     const StateScope scope(m_graphics);
     moveTo(m_graphics, segment.p1(), segment);
     const Gdiplus::SolidBrush brush(m_color);
-    const QString shown = ShortenedText::middle(text, kLongestLabel);
+    const QString shown = ShortenedText::middle(text, Limits::kLabel);
     m_graphics.DrawString(wideText(shown), -1, &LabelFont::font(), Gdiplus::PointF(0, 0), &brush);
 }
 

@@ -1,6 +1,7 @@
 #include "draw/forbidenarea.h"
 
 #include "draw/closedoutline.h"
+#include "host/api/limits.h"
 #include "host/gdiplus.h"
 
 #include <algorithm>
@@ -11,11 +12,6 @@ namespace
 {
 
 const Gdiplus::ARGB kShade = 0x64000000;
-
-// Where edges cross all over the canvas, more of them takes Qt's rasteriser seconds, a hundred
-// times as long when they are smooth.
-constexpr qint64 kMostSmooth = 32'768;
-constexpr qint64 kMostShaded = 524'288;
 
 } // namespace
 
@@ -69,10 +65,10 @@ bool ForbidenArea::contains(const QPoint& point) const
 
 void ForbidenArea::paint(Gdiplus::Graphics& graphics) const
 {
-    if (m_edgeLength > kMostShaded)
+    if (m_edgeLength > Limits::kShadedEdges)
         return;
     const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
-    if (m_edgeLength > kMostSmooth)
+    if (m_edgeLength > Limits::kSmoothEdges)
         graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
     graphics.FillPath(&shade, m_path.get());
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);

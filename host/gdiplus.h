@@ -39,7 +39,6 @@ using std::min;
 #include "host/gdiplus/pointf.h"
 #include "host/gdiplus/rect.h"
 #include "host/gdiplus/rectf.h"
-#include "host/gdiplus/solidbrush.h"
 #include "host/gdiplus/stringformat.h"
 
 #endif

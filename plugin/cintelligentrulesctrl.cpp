@@ -7,6 +7,7 @@
 #include "draw/drawscene.h"
 #include "draw/shortenedtext.h"
 #include "host/api/kqmessagebox.h"
+#include "host/api/limits.h"
 #include "host/api/skin.h"
 #include "host/gdiplus.h"
 #include "host/video/qrtspvideownd.h"
@@ -40,10 +41,6 @@ constexpr int kQuestionType = 1;
 constexpr char kPictureRectChanged[] = "sgnPictureRectChanged(int)";
 /// The surface's property that is true while presses on the picture draw.
 constexpr char kDrawing[] = "drawing";
-// In characters: dozens of times what a channel's documents have together.
-constexpr int kLongestBlock = 16 << 20;
-// Some lines of the narrow column; names from documents can be of any length.
-constexpr int kLongestHint = 300;
 // Of the button bar left of Save, in pixels.
 constexpr int kEmptyWidth = 804;
 
@@ -184,7 +181,7 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
     if (!leaveFocus())
         return;
     unload();
-    if (json.size() > kLongestBlock)
+    if (json.size() > Limits::kMessageText)
         return showHint(tr("The documents are too long."));
     const std::optional<RulesParameters> parameters = RulesParameters::parse(json, session);
     if (!parameters)
@@ -593,7 +590,7 @@ void CIntelligentRulesCtrl::showError(const QString& message)
 
 void CIntelligentRulesCtrl::showHint(const QString& text)
 {
-    m_form->lblHint->setText(ShortenedText::line(text, kLongestHint));
+    m_form->lblHint->setText(ShortenedText::line(text, Limits::kLine));
     m_form->lblHint->setVisible(!text.isEmpty());
 }
 

@@ -1,25 +1,18 @@
 #include "tabel/plaintext.h"
 
 #include "draw/shortenedtext.h"
+#include "host/api/limits.h"
 
 #include <QTextDocument>
 
-namespace
-{
-
-constexpr int kLongestLine = 300;
-constexpr int kLongestTip = 2000;
-
-} // namespace
-
 QString PlainText::line(const QString& text)
 {
-    return ShortenedText::line(text, kLongestLine);
+    return ShortenedText::line(text, Limits::kLine);
 }
 
 QString PlainText::toolTip(const QString& text)
 {
-    const QString shown = ShortenedText::of(text, kLongestTip);
+    const QString shown = ShortenedText::of(text, Limits::kTip);
     if (!Qt::mightBeRichText(shown))
         return shown;
     return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(shown.toHtmlEscaped());

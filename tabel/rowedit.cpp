@@ -1,6 +1,7 @@
 #include "tabel/rowedit.h"
 
 #include "draw/shortenedtext.h"
+#include "host/api/limits.h"
 #include "tabel/numberentry.h"
 
 #include <QClipboard>
@@ -14,9 +15,6 @@
 
 namespace
 {
-
-/// Laying out more takes longer than an operator waits; a panel can have a thousand edits.
-constexpr int kLongest = 2000;
 
 /// Whether a key types a letter, rather than being a shortcut. AltGr is Ctrl and Alt.
 bool isTyping(const QKeyEvent& event)
@@ -35,7 +33,7 @@ bool isReturn(const QKeyEvent& event)
 
 RowEdit::RowEdit(QWidget* parent) : QLineEdit(parent)
 {
-    setMaxLength(kLongest);
+    setMaxLength(Limits::kInput);
     connect(this, &QLineEdit::textChanged, this, &RowEdit::sltTextChanged);
     connect(this, &QLineEdit::selectionChanged, this, &RowEdit::sltSelectionChanged);
 }
@@ -45,10 +43,10 @@ void RowEdit::showValue(const QString& text)
     m_value = text;
     setRefusal(Refusal::None);
     // Where less can be typed anyway, as in names, a longer text is typed over.
-    const bool isTooLong = text.size() > kLongest && maxLength() == kLongest;
+    const bool isTooLong = text.size() > Limits::kInput && maxLength() == Limits::kInput;
     setReadOnly(isTooLong);
     setToolTip(isTooLong ? tr("The text is too long to be edited here.") : QString());
-    const QString shown = ShortenedText::of(text, kLongest);
+    const QString shown = ShortenedText::of(text, Limits::kInput);
     if (!isUntouchedWith(shown))
         setText(shown);
 }

@@ -1,5 +1,7 @@
 #include "host/api/kqmessagebox.h"
 
+#include "host/api/limits.h"
+
 #include <QPointer>
 
 namespace KQGUI
@@ -7,17 +9,12 @@ namespace KQGUI
 namespace
 {
 
-/// More than an operator reads; names from documents can be of any length.
-constexpr int kLongestText = 2000;
-/// The buttons have to stay on the screen.
-constexpr int kMostLines = 20;
-
 QString shortened(const QString& text)
 {
-    QString shown = text.left(kLongestText);
+    QString shown = text.left(Limits::kTip);
     shown.replace(QChar::LineSeparator, QLatin1Char('\n'));
     shown.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
-    shown = shown.section(QLatin1Char('\n'), 0, kMostLines - 1);
+    shown = shown.section(QLatin1Char('\n'), 0, Limits::kBoxLines - 1);
     return shown.size() < text.size() ? shown + QChar(0x2026) : shown;
 }
 

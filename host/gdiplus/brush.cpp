@@ -7,4 +7,6 @@ Brush::~Brush() = default;
 
 Brush::Brush(const QBrush& brush) : m_brush(brush) {}
 
+SolidBrush::SolidBrush(const Color& color) : Brush(QColor::fromRgba(color.GetValue())) {}
+
 } // namespace Gdiplus

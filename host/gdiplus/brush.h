@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/api/kqhostexport.h"
-#include "host/gdiplus/basetypes.h"
+#include "host/gdiplus/color.h"
 
 #include <QBrush>
 
@@ -23,6 +23,12 @@ private:
     friend class Graphics;
 
     QBrush m_brush;
+};
+
+class KQHOST_EXPORT SolidBrush : public Brush
+{
+public:
+    explicit SolidBrush(const Color& color);
 };
 
 } // namespace Gdiplus

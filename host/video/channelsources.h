@@ -2,7 +2,7 @@
 
 #include "host/api/kqhostexport.h"
 #include "host/api/kqsingleton.h"
-#include "host/video/streamoptions.h"
+#include "host/video/streamrequest.h"
 
 #include <QMap>
 #include <QObject>

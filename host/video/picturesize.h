@@ -2,7 +2,7 @@
 
 #include "host/api/kqhostexport.h"
 
-#include <QSize>
+#include <QRect>
 #include <QString>
 
 namespace UICommonMdl
@@ -14,5 +14,8 @@ KQHOST_EXPORT bool isPlausibleSize(const QSize& size);
 KQHOST_EXPORT QSize sizeUnasked(const QSize& size);
 /// Says to the operator that @p size is refused.
 KQHOST_EXPORT QString implausibleSizeText(const QSize& size);
+/// The largest rectangle of a picture's shape in the middle of @p bounds, at least one pixel wide
+/// and high; empty when either is empty.
+KQHOST_EXPORT QRect letterboxed(const QSize& picture, const QRect& bounds);
 
 } // namespace UICommonMdl

@@ -1,10 +1,11 @@
 #include "host/video/qrtspvideownd.h"
 
 #include "host/api/kqmessagebox.h"
+#include "host/api/limits.h"
 #include "host/api/rtspvideoparam.h"
 #include "host/video/channelsources.h"
-#include "host/video/letterbox.h"
 #include "host/video/picturefile.h"
+#include "host/video/picturesize.h"
 #include "host/video/picturesource.h"
 #include "host/video/picturestrip.h"
 
@@ -34,8 +35,6 @@ constexpr int kTextMargin = 16;
 constexpr int kStripMargin = 6;
 constexpr int kStatusFlags = Qt::AlignCenter | Qt::TextWordWrap;
 constexpr int kUdpMode = 1;
-/// More than any screen has. On a larger surface the picture is enlarged while it is painted.
-constexpr qreal kMostPixels = 64.0 * 1024 * 1024;
 
 ChannelSources& channelSources()
 {
@@ -57,7 +56,7 @@ QString noSignalText(const PictureStatus& status)
 QSize keptSize(const QSizeF& size)
 {
     const qreal pixels = size.width() * size.height();
-    return (pixels <= kMostPixels ? size : size * std::sqrt(kMostPixels / pixels)).toSize();
+    return (pixels <= Limits::kPixels ? size : size * std::sqrt(Limits::kPixels / pixels)).toSize();
 }
 
 /// Smooth scaling takes the longer the larger the picture is: one that is far too large is thinned

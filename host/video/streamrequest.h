@@ -1,13 +1,17 @@
 #pragma once
 
-#include "host/video/streamoptions.h"
-
 #include <QString>
 
 #include <chrono>
 
 namespace UICommonMdl
 {
+
+/// How a stream is to be fetched and shown.
+struct StreamOptions {
+    bool udp = false;  ///< ask for UDP first; otherwise TCP is first
+    int delayTime = 0; ///< jitter buffer in milliseconds
+};
 
 /// What a stream's thread is asked to play.
 struct StreamRequest {

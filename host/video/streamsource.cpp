@@ -3,7 +3,7 @@
 #include "host/api/dprintlog.h"
 #include "host/video/decodedpicture.h"
 #include "host/video/maskedaddress.h"
-#include "host/video/stillpicture.h"
+#include "host/video/picturefile.h"
 #include "host/video/streamlibrary.h"
 #include "host/video/streammailbox.h"
 #include "host/video/streamplayer.h"

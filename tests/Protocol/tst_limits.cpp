@@ -7,11 +7,15 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "host/api/limits.h"
 #include "host/gdiplus.h"
 #include "host/json/reader.h"
 #include "tests/support/absurddocuments.h"
 #include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
+
+#include <QFile>
+#include <QRegularExpression>
 
 using kql::Json::Value;
 
@@ -200,6 +204,42 @@ class TstLimits : public RulesTest
     }
 
 private slots:
+    /// The page's table names the numbers of host/api/limits.h, row by row.
+    void pageOfLimits()
+    {
+        using namespace Limits;
+        constexpr int kMillion = 1 << 20;
+        const QVector<QVector<qint64>> rows{
+            {kMessageText},
+            {kChoiceText, kAttributes, kChoices},
+            {kEntries},
+            {kSceneText},
+            {kFigureText, kPointText, kValueText, kSceneText},
+            {kStyledText, kIndentedLevels},
+            {kJsonText, kJsonDepth},
+            {kCreatedParts, kElements},
+            {kLine, kTip, kLabel, kHint, kBoxLines},
+            {kInput},
+            {kSmoothPoints, kSmoothEdges, kShadedEdges},
+        };
+        QFile page(QStringLiteral(RULES_SOURCE_DIR "/docs/reliability.md"));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(page.readAll());
+        const QString table = text.section(QStringLiteral("| Of | At most | Then |\n"), 1);
+        const QStringList lines = table.section(QStringLiteral("\n\n"), 0, 0).split('\n').mid(1);
+        QCOMPARE(lines.size(), rows.size());
+        const QRegularExpression number(QStringLiteral("(\\d[\\d,]*)( million| MB)?"));
+        for (int i = 0; i < lines.size(); ++i) {
+            QVector<qint64> told;
+            for (auto found = number.globalMatch(lines[i]); found.hasNext();) {
+                const auto match = found.next();
+                const qint64 value = match.captured(1).remove(',').toLongLong();
+                told.append(match.captured(2).isEmpty() ? value : value * kMillion);
+            }
+            QVERIFY2(told == rows[i], qPrintable(lines[i]));
+        }
+    }
+
     void crowds_data()
     {
         QTest::addColumn<QByteArray>("description");

@@ -1,6 +1,6 @@
 #include "host/api/rtspvideoparam.h"
 #include "host/video/channelsources.h"
-#include "host/video/letterbox.h"
+#include "host/video/picturesize.h"
 #include "host/video/picturewatch.h"
 #include "host/video/playoutclock.h"
 #include "host/video/qrtspvideownd.h"
