@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/datatemplate.h"
+#include "host/json/fwd.h"
 
 #include <QStringList>
 #include <map>
@@ -8,13 +9,6 @@
 #include <vector>
 
 class RuleData;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /**
  * Finds what a save changes or drops of a configuration, by comparing the two: so nothing is

@@ -1,15 +1,10 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QtGlobal>
 
 class RuleData;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /**
  * What a template lets a configuration hold. Each entry takes up the template's attributes, checks

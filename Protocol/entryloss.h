@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -8,13 +10,6 @@
 class RuleData;
 class RuleDataInfo;
 class RuleProtocolItem;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// Compares entries as they were read with what they are saved as, one after another.
 class EntryLoss

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/figurereader.h"
+#include "host/json/fwd.h"
 
 #include <QString>
 #include <QVariant>
@@ -11,13 +12,6 @@ class DrawItem;
 class RuleData;
 class RuleDataInfo;
 class RuleProtocolItem;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /**
  * Reads what a template's items name of one entry after another: values of control items into

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QPoint>
 #include <QString>
 #include <QVector>
@@ -8,13 +10,6 @@ class DrawItem;
 class RuleData;
 class RuleDataInfo;
 class RuleProtocolItem;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// Puts the figures that a document holds on a scene's canvas, as drawing them would.
 class FigureReader

@@ -1,16 +1,10 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QString>
 #include <string>
 #include <vector>
-
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 using JsonEntries = std::vector<const kql::Json::Value*>;
 

@@ -1,13 +1,8 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 class RuleData;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// Finds the attributes of a scene that are never written, because the skeleton has no place for
 /// them that fits.

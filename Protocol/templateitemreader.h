@@ -1,19 +1,13 @@
 #pragma once
 
 #include "Protocol/countrange.h"
+#include "host/json/fwd.h"
 
 #include <QStringList>
 #include <memory>
 #include <optional>
 
 class RuleProtocolItem;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// Reads single attributes of a template document.
 namespace TemplateItemReader

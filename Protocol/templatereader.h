@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/datatemplate.h"
+#include "host/json/fwd.h"
 
 #include <QList>
 #include <memory>
@@ -9,13 +10,6 @@
 class CalibrateAreaTemplate;
 class LanesTemplate;
 class RuleData;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /**
  * Builds the scenes that a template document describes. Reading is lenient: what is missing or

@@ -1,16 +1,11 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QVariant>
 #include <optional>
 
 class RuleProtocolItem;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /**
  * Values of control items between JSON and variants, by the item's value type and its index in

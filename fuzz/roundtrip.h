@@ -1,13 +1,8 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 class RuleParser;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /**
  * What is read, written and read again comes back, as far as a template gives each value one place

@@ -1,14 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "host/json/fwd.h"
 
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
+#include <QString>
 
 namespace IntelligentRulesUI
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/json/fwd.h"
 #include "workbench/autosavefile.h"
 #include "workbench/panelfinder.h"
 #include "workbench/sectionstate.h"
@@ -15,13 +16,6 @@ struct MessageRecord;
 class RestoreBar;
 class SessionPlayer;
 class WorkbenchWindow;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /**
  * Keeps the operator's work from a crash. The module is known by its messages only, so what the

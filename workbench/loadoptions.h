@@ -1,16 +1,11 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QString>
 #include <functional>
 
 struct WorkbenchOptions;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// The command line's options as members of a session's load step.
 namespace LoadOptions

@@ -1,15 +1,10 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QString>
 
 class QWidget;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// Sets and reads an attribute row as an operator does, whatever edits it.
 namespace RowHand

@@ -1,12 +1,6 @@
 #pragma once
 
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
+#include "host/json/fwd.h"
 
 /// Where a recorder puts the steps of a session.
 class SessionLog

@@ -1,13 +1,8 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 class QString;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// What the steps of a session must have, so that none does something that nobody wrote.
 namespace StepCheck

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QPoint>
 #include <QVariant>
 #include <QVector>
@@ -7,13 +9,6 @@
 
 class CalibrateAreaTemplate;
 class RuleProtocolItem;
-namespace kql
-{
-namespace Json
-{
-class Value;
-}
-} // namespace kql
 
 /// What a calibrate area's staffs look like in a configuration.
 namespace CalibrateStaffs

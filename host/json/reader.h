@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/api/kqhostexport.h"
+#include "host/json/fwd.h"
 
 #include <QString>
 
@@ -10,8 +11,6 @@ namespace kql
 {
 namespace Json
 {
-
-class Value;
 
 /**
  * Makes a Value of JSON text. A byte-order mark and comments in the manner of C++ are accepted;
