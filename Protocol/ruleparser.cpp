@@ -69,15 +69,26 @@ void RuleParser::setAlgorithmInfo(int id, const QString& name)
 
 bool RuleParser::parseTemplate(const QString& text, QString& why)
 {
+    Value document;
+    const bool isJson = Reader().parse(text, document);
+    const bool isBuilt = parseTemplate(std::move(document), why);
+    if (!isJson)
+        why = tr("The template is not valid JSON.");
+    return isBuilt;
+}
+
+bool RuleParser::parseTemplate(const QString& text)
+{
+    QString why;
+    return parseTemplate(text, why);
+}
+
+bool RuleParser::parseTemplate(Value document, QString& why)
+{
     m_data.clear();
     m_templateDocument = Value();
     m_configuration = Value();
     m_notices.clear();
-    Value document;
-    if (!Reader().parse(text, document)) {
-        why = tr("The template is not valid JSON.");
-        return false;
-    }
     if (!document.isMember("configDescription")) {
         why = tr("The template has no \"configDescription\".");
         return false;
@@ -95,12 +106,6 @@ bool RuleParser::parseTemplate(const QString& text, QString& why)
     return true;
 }
 
-bool RuleParser::parseTemplate(const QString& text)
-{
-    QString why;
-    return parseTemplate(text, why);
-}
-
 bool RuleParser::checkTemplate() const
 {
     return true;
@@ -109,10 +114,20 @@ bool RuleParser::checkTemplate() const
 bool RuleParser::readData(const QString& text, QString& why)
 {
     Value document;
-    if (!Reader().parse(text, document)) {
-        why = tr("The configuration is not valid JSON.");
-        return false;
-    }
+    if (Reader().parse(text, document))
+        return readData(std::move(document), why);
+    why = tr("The configuration is not valid JSON.");
+    return false;
+}
+
+bool RuleParser::readData(const QString& text)
+{
+    QString why;
+    return readData(text, why);
+}
+
+bool RuleParser::readData(Value document, QString& why)
+{
     const auto isRoomFor = [&](const auto& countOf) {
         qint64 textLeft = Limits::kSceneText;
         return std::all_of(m_data.begin(), m_data.end(), [&](const auto& scene) {
@@ -183,12 +198,6 @@ bool RuleParser::isReadWhole(QString& why) const
     why = tr("The attributes read too much of what the configuration has under \"%1\".")
               .arg((*cut)->getTemplate()->parent());
     return false;
-}
-
-bool RuleParser::readData(const QString& text)
-{
-    QString why;
-    return readData(text, why);
 }
 
 bool RuleParser::writeData(Value& config, QString& why) const

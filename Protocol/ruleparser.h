@@ -41,6 +41,8 @@ public:
     /// describes too much. @p why then says so in a sentence.
     bool parseTemplate(const QString& text, QString& why);
     bool parseTemplate(const QString& text);
+    /// As above, of the parsed text.
+    bool parseTemplate(kql::Json::Value document, QString& why);
     /// Always true: kept for hosts that ask before reading.
     bool checkTemplate() const;
     /// Fills the scenes from a configuration; false when the text is not JSON, with nothing
@@ -48,6 +50,8 @@ public:
     /// sentence.
     bool readData(const QString& text, QString& why);
     bool readData(const QString& text);
+    /// As above, of the parsed text.
+    bool readData(kql::Json::Value document, QString& why);
     /// The configuration with the edited data; false when the template carries no
     /// "configTemplate" to write into, or that has no place for the entries of a scene. @p why
     /// then says so in a sentence; @p config stays as it is.

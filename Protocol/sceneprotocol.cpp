@@ -2,6 +2,7 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/entrywriter.h"
+#include "Protocol/figurelabels.h"
 #include "Protocol/linedirections.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -16,6 +17,7 @@ void SceneProtocol::readEntries(RuleData& data, const Value& document,
 {
     const JsonPath parent(data.getTemplate()->parent());
     const JsonEntries listed = entriesAt(parent.readPath(document));
+    const RuleProtocolItem* const named = entryFigureItem(*data.getTemplate());
     for (std::size_t i = 0; i < listed.size(); ++i) {
         auto entry = newEntry(data, *listed[i]);
         if (!entry)
@@ -25,6 +27,7 @@ void SceneProtocol::readEntries(RuleData& data, const Value& document,
         Validity::update(*data.getTemplate(), *entry);
         LineDirections::apply(data, *entry);
         data.addDataInfo(std::move(entry));
+        FigureLabels::update(data, named, data.getDataCount() - 1);
     }
 }
 
@@ -64,6 +67,11 @@ bool SceneProtocol::put(std::vector<Value> entries, const TemplateSection& secti
                         Value& document) const
 {
     return EntryTarget(document, section.parent, whenMissing()).put(std::move(entries));
+}
+
+RuleProtocolItem* SceneProtocol::entryFigureItem(const DataTemplate& dataTemplate) const
+{
+    return dataTemplate.figureItems().value(0);
 }
 
 JsonEntries SceneProtocol::entriesAt(const Value* place) const

@@ -9,9 +9,11 @@
 #include <memory>
 #include <vector>
 
+class DataTemplate;
 class EntryWriter;
 class RuleData;
 class RuleDataInfo;
+class RuleProtocolItem;
 struct TemplateSection;
 
 /// What writing takes besides the scene's data.
@@ -51,6 +53,8 @@ public:
                                   const kql::Json::Value& document) const;
     /// What is made for the entries where the skeleton has no place for them.
     virtual EntryTarget::WhenMissing whenMissing() const { return EntryTarget::WhenMissing::List; }
+    /// The item whose first figure stands for an entry; null when none does.
+    virtual RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const;
     /// Whether it is one of the calibrations: the module names their attributes itself, makes their
     /// places, and the configuration decides how many figures there are inside of an area.
     virtual bool isCalibration() const { return false; }

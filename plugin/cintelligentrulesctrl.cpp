@@ -14,7 +14,6 @@
 #include "plugin/buttonstyle.h"
 #include "plugin/modulelifetime.h"
 #include "plugin/resultmessage.h"
-#include "plugin/rulesparameters.h"
 #include "scene/basetabelscene.h"
 #include "scene/scenefactory.h"
 #include "tabel/focus.h"
@@ -183,16 +182,17 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
     unload();
     if (json.size() > Limits::kMessageText)
         return showHint(tr("The documents are too long."));
-    const std::optional<RulesParameters> parameters = RulesParameters::parse(json, session);
+    std::optional<RulesParameters> parameters = RulesParameters::parse(json, session);
     if (!parameters)
         return;
+    m_parameters = *std::move(parameters);
     const LoadGuard guard(this);
-    showParameters(*parameters);
-    initScenes(*parameters);
+    showParameters();
+    initScenes();
     if (guard.holds())
         showNotices();
     if (guard.holds())
-        openPicture(*parameters);
+        openPicture();
     if (guard.holds())
         repaintPicture();
 }
@@ -200,14 +200,7 @@ void CIntelligentRulesCtrl::setData(const QString& json, int session)
 void CIntelligentRulesCtrl::resetToDefaults()
 {
     m_isFocusDue = false;
-    m_channelId.clear();
-    m_channelName.clear();
-    m_algorithmId.clear();
-    m_algorithmType = 0;
-    m_algorithmCode.clear();
-    m_channelSn.clear();
-    m_selectionMode = false;
-    m_editable = true;
+    m_parameters = {};
     m_form->lblChnCode->setTitle({});
     m_form->lblChnName->setTitle({});
     m_form->wgtChannelInfo->setEnabled(true);
@@ -215,30 +208,21 @@ void CIntelligentRulesCtrl::resetToDefaults()
     m_form->btnCancel->show();
 }
 
-void CIntelligentRulesCtrl::showParameters(const RulesParameters& parameters)
+void CIntelligentRulesCtrl::showParameters()
 {
-    m_algorithmId = parameters.algorithmId;
-    m_algorithmType = parameters.algorithmType;
-    m_algorithmCode = parameters.algorithmCode;
-    m_channelId = parameters.channelId;
-    m_channelSn = parameters.channelSn;
-    m_channelName = parameters.channelName;
-    m_selectionMode = parameters.selectionMode;
-    m_editable = parameters.editable;
-    m_form->lblChnCode->setTitle(parameters.hasChannelSn ? m_channelSn : m_channelId);
-    m_form->lblChnName->setTitle(m_channelName);
-    m_form->wgtChannelInfo->setEnabled(m_editable);
+    m_form->lblChnCode->setTitle(m_parameters.hasChannelSn ? m_parameters.channelSn
+                                                           : m_parameters.channelId);
+    m_form->lblChnName->setTitle(m_parameters.channelName);
+    m_form->wgtChannelInfo->setEnabled(m_parameters.editable);
 }
 
-void CIntelligentRulesCtrl::initScenes(const RulesParameters& parameters)
+void CIntelligentRulesCtrl::initScenes()
 {
-    // Without a configuration nothing is running that a save could affect.
-    m_skipModifyPrompt = !parameters.hasConfig;
-    if (!readDocuments(parameters.templateText, parameters.configText))
+    if (!readDocuments())
         return;
-    m_form->sceneView->changeHidden([this, &parameters] {
+    m_form->sceneView->changeHidden([this] {
         for (const auto& sceneData : m_parser->getAllData())
-            addPanel(*sceneData, parameters.selectionMode);
+            addPanel(*sceneData);
     });
     if (m_scenes.isEmpty())
         return;
@@ -256,25 +240,25 @@ void CIntelligentRulesCtrl::focusFirstScene()
 }
 
 /// What cannot be shown whole is not read at all: saved from here, the rest would be gone.
-bool CIntelligentRulesCtrl::readDocuments(const QString& templateText, const QString& configText)
+bool CIntelligentRulesCtrl::readDocuments()
 {
     auto parser = std::make_unique<RuleParser>();
-    parser->setAlgorithmInfo(m_algorithmType, m_algorithmCode);
+    parser->setAlgorithmInfo(m_parameters.algorithmType, m_parameters.algorithmCode);
     QString why;
-    const bool isRead =
-        parser->parseTemplate(templateText, why) && parser->readData(configText, why);
+    const bool isRead = parser->parseTemplate(std::move(m_parameters.templateDocument), why) &&
+                        parser->readData(std::move(m_parameters.configuration), why);
     showHint(why);
     if (isRead)
         m_parser = std::move(parser);
     return isRead;
 }
 
-void CIntelligentRulesCtrl::addPanel(RuleData& sceneData, bool selectionMode)
+void CIntelligentRulesCtrl::addPanel(RuleData& sceneData)
 {
     BaseTabelScene* panel = createScene(sceneData.getSceneType(), m_form->sceneView->content());
     if (!panel)
         return;
-    panel->setSelectMode(selectionMode);
+    panel->setSelectMode(m_parameters.selectionMode);
     panel->setRuleData(&sceneData);
     panel->SetDrawStatus(false);
     m_form->sceneView->addWidgetLayout(panel);
@@ -284,19 +268,17 @@ void CIntelligentRulesCtrl::addPanel(RuleData& sceneData, bool selectionMode)
     connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::sceneChanged);
 }
 
-void CIntelligentRulesCtrl::openPicture(const RulesParameters& parameters)
+void CIntelligentRulesCtrl::openPicture()
 {
     if (!m_playerWin)
         return;
-    if (!parameters.stream.rtspUrl.isEmpty()) {
-        m_rtspOpened = true;
-        m_playType = parameters.stream.playType;
-        m_sessionId = parameters.stream.sessionId;
-        m_playerWin->openByRtsp(parameters.stream);
-    } else if (!m_channelId.isEmpty()) {
-        m_rtspOpened = false;
-        m_playerWin->openLivePicture(m_channelId);
-    }
+    m_rtspOpened = !m_parameters.stream.rtspUrl.isEmpty();
+    // The host may load anew while it is opened.
+    const PreviewLogical::RtspVideoParam stream = m_parameters.stream;
+    if (m_rtspOpened)
+        m_playerWin->openByRtsp(stream);
+    else if (!m_parameters.channelId.isEmpty())
+        m_playerWin->openLivePicture(m_parameters.channelId);
 }
 
 void CIntelligentRulesCtrl::clearData()
@@ -318,7 +300,7 @@ void CIntelligentRulesCtrl::unload()
     showHint({});
     m_drawScene = nullptr;
     if (m_playerWin && m_rtspOpened)
-        m_playerWin->closeRtsp(m_sessionId, m_playType);
+        m_playerWin->closeRtsp(m_parameters.stream.sessionId, m_parameters.stream.playType);
     else if (m_playerWin)
         m_playerWin->resetToolBar(0);
     m_rtspOpened = false;
@@ -336,7 +318,8 @@ void CIntelligentRulesCtrl::unload()
 
 bool CIntelligentRulesCtrl::isDrawUnfinished(const QString& channel, const QString& algorithm) const
 {
-    return m_drawScene && (algorithm == m_algorithmId || channel == m_channelId) &&
+    return m_drawScene &&
+           (algorithm == m_parameters.algorithmId || channel == m_parameters.channelId) &&
            m_drawScene->HasDrawUnfinished();
 }
 
@@ -359,7 +342,7 @@ void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
         if (!guard.holds())
             return;
     }
-    if (!m_editable) {
+    if (!m_parameters.editable) {
         m_form->btnSave->hide();
         m_form->btnCancel->hide();
     }
@@ -374,7 +357,7 @@ void CIntelligentRulesCtrl::showSelected(BaseTabelScene& panel)
         m_drawScene = panel.getDrawScene();
         fitCanvas();
     }
-    if (!m_editable)
+    if (!m_parameters.editable)
         panel.setUIEditable(false);
     panel.setSelected(true);
 }
@@ -404,7 +387,7 @@ void CIntelligentRulesCtrl::repaintPicture()
 
 void CIntelligentRulesCtrl::tellSurface()
 {
-    const bool isDrawing = m_drawScene && !m_selectionMode && m_drawScene->isDrawing();
+    const bool isDrawing = m_drawScene && !m_parameters.selectionMode && m_drawScene->isDrawing();
     if (m_playerWin->property(kDrawing).toBool() != isDrawing)
         m_playerWin->setProperty(kDrawing, isDrawing);
 }
@@ -430,7 +413,7 @@ bool CIntelligentRulesCtrl::finishEdits()
 
 void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
 {
-    if (m_selectionMode || !m_drawScene)
+    if (m_parameters.selectionMode || !m_drawScene)
         return;
     followPicture();
     const LoadGuard guard(this);
@@ -449,7 +432,7 @@ void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
 
 void CIntelligentRulesCtrl::OnMouseMove(QMouseEvent* event)
 {
-    if (m_selectionMode || !m_drawScene)
+    if (m_parameters.selectionMode || !m_drawScene)
         return;
     followPicture();
     m_drawScene->addDrawPoint(DrawScene::DrawMouseMove, event->pos());
@@ -475,7 +458,8 @@ void CIntelligentRulesCtrl::sltSave()
         return;
     showHint({});
     const LoadGuard guard(this);
-    const bool allowed = m_selectionMode ? checkSelection() : checkScenes() && confirmChange();
+    const bool allowed =
+        m_parameters.selectionMode ? checkSelection() : checkScenes() && confirmChange();
     if (!guard.holds() || !allowed)
         return;
     if (postResult()) {
@@ -542,7 +526,8 @@ bool CIntelligentRulesCtrl::checkSelection()
 
 bool CIntelligentRulesCtrl::confirmChange()
 {
-    return m_skipModifyPrompt ||
+    // Without a configuration nothing is running that a save could affect.
+    return !m_parameters.hasConfig ||
            ask(tr("The current operation may affect the already running task. Please confirm "
                   "whether to modify it?"));
 }
@@ -563,7 +548,8 @@ bool CIntelligentRulesCtrl::postResult()
 
 ResultContext CIntelligentRulesCtrl::resultContext() const
 {
-    return {m_widgetId, m_algorithmId, m_algorithmType, m_algorithmCode, m_channelId};
+    return {m_widgetId, m_parameters.algorithmId, m_parameters.algorithmType,
+            m_parameters.algorithmCode, m_parameters.channelId};
 }
 
 void CIntelligentRulesCtrl::sltCancel()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plugin/rulesparameters.h"
+
 #include <QList>
 #include <QRect>
 #include <QWidget>
@@ -23,7 +25,6 @@ namespace IntelligentRulesUI
 {
 
 struct ResultContext;
-struct RulesParameters;
 
 /**
  * Content of one rules window: shows the channel's picture, the panels of the template's scenes,
@@ -85,13 +86,13 @@ private:
     void applySkin();
     void connectSurface();
     void resetToDefaults();
-    void showParameters(const RulesParameters& parameters);
-    void initScenes(const RulesParameters& parameters);
+    void showParameters();
+    void initScenes();
     /// Gives the first section the focus, once the window is seen.
     void focusFirstScene();
-    bool readDocuments(const QString& templateText, const QString& configText);
-    void addPanel(RuleData& sceneData, bool selectionMode);
-    void openPicture(const RulesParameters& parameters);
+    bool readDocuments();
+    void addPanel(RuleData& sceneData);
+    void openPicture();
     /// Takes over where the surface has its picture now, and fits the canvas to it.
     void followPicture();
     void fitCanvas();
@@ -124,23 +125,13 @@ private:
     std::unique_ptr<RuleParser> m_parser; ///< null while nothing is loaded
     QList<BaseTabelScene*> m_scenes;      ///< children of the form's scroll view
     QString m_widgetId;
-    QString m_algorithmId;
-    int m_algorithmType = 0;
-    QString m_algorithmCode;
-    QString m_channelId;
-    QString m_channelSn;
-    QString m_channelName;
-    bool m_selectionMode = false;
+    RulesParameters m_parameters;     ///< of the load; the parser has its documents
     DrawScene* m_drawScene = nullptr; ///< canvas of the selected scene; not owned
     // Read on whichever thread the surface reports from, stored on the GUI thread.
     std::atomic<int> m_videoWidth{0};
     std::atomic<int> m_videoHeight{0};
     QRect m_videoRect; ///< the picture inside playerWin, widget pixels
-    int m_sessionId = -1;
-    int m_playType = -1;
     bool m_rtspOpened = false;
-    bool m_skipModifyPrompt = false;
-    bool m_editable = true;
     bool m_isFocusDue = false; ///< a load's focus waits until the window is shown
     int m_loadNumber = 0;      ///< tells loads apart where the host could act in between
 };

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace IntelligentRulesUI
 {
@@ -28,6 +29,15 @@ bool hasRequiredMembers(const Value& block)
     const bool hasChannel = block.isMember(kChannelKey) || block.isMember(kChannelKeyAlt);
     return hasChannel && std::all_of(kRequired.begin(), kRequired.end(),
                                      [&block](const char* key) { return block.isMember(key); });
+}
+
+/// Whether the styled text of @p value is at least that long. A member, or a second element, makes
+/// it so, so that only short ones are written to know it.
+bool isLongConfig(const Value& value)
+{
+    if (value.isObject() || value.size() > 1)
+        return !value.empty();
+    return (value.size() == 1 && isLongConfig(value[0])) || value.styledLength() >= kShortestConfig;
 }
 
 PreviewLogical::RtspVideoParam streamOf(const Value& block, const QString& channelId, int session)
@@ -60,9 +70,9 @@ std::optional<RulesParameters> RulesParameters::parse(const QString& json, int s
     result.hasChannelSn = block.isMember("channelSn");
     result.channelSn = block["channelSn"].asString();
     result.channelName = block["channelName"].asString();
-    result.templateText = block["videoConfigRuleProperty"].toCompactText();
-    result.configText = block["channelAbilityPO"].toCompactText();
-    result.hasConfig = block["channelAbilityPO"].styledLength() >= kShortestConfig;
+    result.templateDocument = std::move(document["videoConfigRuleProperty"]);
+    result.configuration = std::move(document["channelAbilityPO"]);
+    result.hasConfig = isLongConfig(result.configuration);
     result.selectionMode = block["selectionMode"].asBool();
     // The mere presence of "editable" locks the window, unless rules are to be selected in it.
     result.editable = !block.isMember("editable") || result.selectionMode;

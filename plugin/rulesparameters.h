@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/api/rtspvideoparam.h"
+#include "host/json/value.h"
 
 #include <QString>
 #include <optional>
@@ -17,8 +18,8 @@ struct RulesParameters {
     QString channelSn; ///< shown in place of the channel id when hasChannelSn
     bool hasChannelSn = false;
     QString channelName;
-    QString templateText;   ///< compact JSON
-    QString configText;     ///< compact JSON
+    kql::Json::Value templateDocument;
+    kql::Json::Value configuration;
     bool hasConfig = false; ///< whether there is more in it than an empty object
     bool selectionMode = false;
     bool editable = true;

@@ -1,11 +1,14 @@
 #include "scene/basetabelscene.h"
 
 #include "Protocol/datatemplate.h"
+#include "Protocol/figurelabels.h"
 #include "Protocol/figuremaker.h"
 #include "Protocol/linedirections.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/sceneprotocol.h"
+#include "Protocol/sceneprotocols.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "scene/entrybuttons.h"
@@ -274,14 +277,9 @@ void BaseTabelScene::addEntry(BaseDrawType pressed)
 
 void BaseTabelScene::prepareNewEntry(RuleDataInfo&) {}
 
-QList<RuleProtocolItem*> BaseTabelScene::ruleFigureItems() const
+RuleProtocolItem* BaseTabelScene::entryFigureItem() const
 {
-    QList<RuleProtocolItem*> items;
-    for (const BaseDrawType type : widgets().ruleFucBar->drawTypes()) {
-        if (RuleProtocolItem* item = m_data->getTemplate()->figureItem(type))
-            items.append(item);
-    }
-    return items;
+    return sceneProtocol(m_data->getSceneType()).entryFigureItem(*m_data->getTemplate());
 }
 
 RuleProtocolItem* BaseTabelScene::firstFigureItem(BaseDrawType pressed) const
@@ -445,7 +443,7 @@ QList<int> BaseTabelScene::dropsOnRedraw(const DrawItem& figure) const
 
 RuleProtocolItem* BaseTabelScene::missingFigureItem(int dataId) const
 {
-    return SceneFigures::firstMissing(*m_data, ruleFigureItems(), dataId);
+    return SceneFigures::firstMissing(*m_data, {entryFigureItem()}, dataId);
 }
 
 void BaseTabelScene::sltDrawItemSelected()
@@ -488,7 +486,8 @@ void BaseTabelScene::refreshTabelDrawItem()
         return;
     }
     const bool hasCheckBoxes = m_data->getSceneType() == SceneType::Rules && getSelectMode();
-    EntryButtons::fillEntries(*widgets().drawItems, *m_data, {ruleFigureItems(), hasCheckBoxes});
+    FigureLabels::update(*m_data, entryFigureItem());
+    EntryButtons::fillEntries(*widgets().drawItems, *m_data, {entryFigureItem(), hasCheckBoxes});
     TabOrder::fromTopToBottom(this);
 }
 
@@ -499,8 +498,14 @@ void BaseTabelScene::refreshChildTabelDrawItem()
         widgets().childDrawItems->deleteAll();
         return;
     }
-    EntryButtons::fillChildren(*widgets().childDrawItems, *m_data, button->dataId(),
-                               widgets().childFucBar->drawTypes());
+    QList<RuleProtocolItem*> items;
+    for (RuleProtocolItem* item : m_data->getTemplate()->figureItems()) {
+        if (!widgets().childFucBar->drawTypes().contains(item->drawType()))
+            continue;
+        FigureLabels::number(*m_data, button->dataId(), *item);
+        items.append(item);
+    }
+    EntryButtons::fillChildren(*widgets().childDrawItems, *m_data, button->dataId(), items);
     if (!widgets().childDrawItems->isEmpty())
         TabOrder::fromTopToBottom(this);
 }

@@ -86,8 +86,6 @@ protected:
     virtual bool wantsRow(const RuleProtocolItem& item) const;
     /// Shows the current entry in rows that stand for no value of it.
     virtual void loadFixedRows(const RuleDataInfo* entry);
-    /// The figure items that entries start with, one for each rule-function button.
-    virtual QList<RuleProtocolItem*> ruleFigureItems() const;
     /// The item to draw first for a new entry; null for an entry without a figure.
     virtual RuleProtocolItem* firstFigureItem(BaseDrawType pressed) const;
     virtual bool canAddEntry(BaseDrawType pressed) const;
@@ -101,6 +99,8 @@ protected:
 
     /// Whether data, template and canvas are there.
     bool isBound() const;
+    /// The item whose first figure stands for an entry; null when none does.
+    RuleProtocolItem* entryFigureItem() const;
     /// Whether one figure may lead on to the next by itself.
     bool mayFollow() const;
     /// Adds a figure of @p item to the entry and starts drawing it.

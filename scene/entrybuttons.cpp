@@ -1,6 +1,5 @@
 #include "scene/entrybuttons.h"
 
-#include "Protocol/datatemplate.h"
 #include "Protocol/entryname.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -17,7 +16,8 @@ void addEntry(RuleItemWidgetTabel& table, const RuleData& data, int position,
               const EntryButtons::Options& options)
 {
     const RuleDataInfo& entry = *data.getAllData()[static_cast<std::size_t>(position)];
-    const DrawItem* figure = EntryButtons::labelFigures(data, position, options.figureItems);
+    const DrawItem* figure =
+        options.figureItem ? data.figuresOf(entry.id(), *options.figureItem).value(0) : nullptr;
     auto* button = new DrawItemButton(figure ? figure->itemId() : 0, entry.id(),
                                       figure ? figure->drawType() : BaseDrawType::None, &table);
     button->setText(EntryName::button(data, position));
@@ -40,40 +40,15 @@ void EntryButtons::fillEntries(RuleItemWidgetTabel& table, const RuleData& data,
     table.relayout(0, 0);
 }
 
-DrawItem* EntryButtons::labelFigures(const RuleData& data, int position,
-                                     const QList<RuleProtocolItem*>& figureItems)
-{
-    const int dataId = data.getAllData()[static_cast<std::size_t>(position)]->id();
-    const QString text = EntryName::button(data, position);
-    DrawItem* first = nullptr;
-    for (const RuleProtocolItem* item : figureItems) {
-        DrawItem* figure = data.figuresOf(dataId, *item).value(0);
-        if (!figure)
-            continue;
-        const bool several = item->countRange().max >= 2;
-        figure->setLabel(several ? text + QString::number(position + 1) : text);
-        if (!first)
-            first = figure;
-    }
-    return first;
-}
-
 void EntryButtons::fillChildren(RuleItemWidgetTabel& table, const RuleData& data, int dataId,
-                                const QList<BaseDrawType>& types)
+                                const QList<RuleProtocolItem*>& items)
 {
     const LayoutHold hold(&table);
     table.deleteAll();
-    const QList<RuleProtocolItem*> items = data.getTemplate()->figureItems();
     for (const RuleProtocolItem* item : items) {
-        if (!types.contains(item->drawType()))
-            continue;
-        int number = 0;
         const auto figures = data.figuresOf(dataId, *item);
-        for (DrawItem* figure : figures) {
-            const QString label = EntryName::child(*item, ++number);
-            figure->setLabel(label);
-            addChild(table, label, figure);
-        }
+        for (const DrawItem* figure : figures)
+            addChild(table, figure->label(), figure);
     }
     table.relayout(0, 0);
 }

@@ -2,6 +2,7 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/entryname.h"
+#include "Protocol/figurelabels.h"
 #include "Protocol/misfit.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -9,7 +10,6 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "host/api/kqmessagebox.h"
-#include "scene/entrybuttons.h"
 #include "scene/scenefigures.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/drawfucbutton.h"
@@ -82,19 +82,14 @@ void RuleScene::sltRuleNameChanged(const QString&)
     m_nameRow->setMark({});
     if (DrawItemButton* button = widgets().drawItems->findDataButton(entry->id()))
         button->setText(name);
-    EntryButtons::labelFigures(*ruleData(), ruleData()->indexOf(entry->id()), ruleFigureItems());
+    FigureLabels::update(*ruleData(), entryFigureItem(), ruleData()->indexOf(entry->id()));
     getDrawScene()->refreshMessage();
     emit sgnRepaintCanvas();
 }
 
-QList<RuleProtocolItem*> RuleScene::ruleFigureItems() const
-{
-    return ruleData()->getTemplate()->figureItems().mid(0, 1);
-}
-
 RuleProtocolItem* RuleScene::firstFigureItem(BaseDrawType) const
 {
-    return ruleFigureItems().value(0);
+    return entryFigureItem();
 }
 
 void RuleScene::prepareNewEntry(RuleDataInfo& entry)

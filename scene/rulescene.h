@@ -25,7 +25,6 @@ protected:
     QString heading() const override;
     void bindFixedRows() override;
     void loadFixedRows(const RuleDataInfo* entry) override;
-    QList<RuleProtocolItem*> ruleFigureItems() const override;
     RuleProtocolItem* firstFigureItem(BaseDrawType pressed) const override;
     void prepareNewEntry(RuleDataInfo& entry) override;
     int pickedFigure(int dataId) const override;

@@ -34,7 +34,7 @@ RuleProtocolItem* SceneFigures::firstMissing(const RuleData& data,
                                              const QList<RuleProtocolItem*>& items, int dataId)
 {
     const auto found = std::find_if(items.begin(), items.end(), [&](const RuleProtocolItem* item) {
-        return data.figuresOf(dataId, *item).isEmpty();
+        return item && data.figuresOf(dataId, *item).isEmpty();
     });
     return found == items.end() ? nullptr : *found;
 }

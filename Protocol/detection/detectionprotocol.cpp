@@ -45,6 +45,11 @@ JsonEntries DetectionProtocol::entriesAt(const Value* place) const
     return isBareList(place) ? JsonEntries{place} : getJsonItemList(place);
 }
 
+RuleProtocolItem* DetectionProtocol::entryFigureItem(const DataTemplate& dataTemplate) const
+{
+    return dataTemplate.figureItem(BaseDrawType::Polygon);
+}
+
 std::unique_ptr<RuleDataInfo> DetectionProtocol::newEntry(const RuleData& data,
                                                           const Value& json) const
 {

@@ -14,6 +14,8 @@ public:
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
                kql::Json::Value& document) const override;
     JsonEntries entriesAt(const kql::Json::Value* place) const override;
+    /// The areas are what is drawn here.
+    RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override;
 
 protected:
     std::unique_ptr<RuleDataInfo> newEntry(const RuleData& data,

@@ -13,6 +13,7 @@ public:
     {
         return EntryTarget::WhenMissing::Object;
     }
+    RuleProtocolItem* entryFigureItem(const DataTemplate&) const override { return nullptr; }
 
 protected:
     std::unique_ptr<RuleDataInfo> newEntry(const RuleData& data,
@@ -27,6 +28,10 @@ public:
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
                kql::Json::Value& document) const override;
     EntryTarget::WhenMissing whenMissing() const override { return EntryTarget::WhenMissing::List; }
+    RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override
+    {
+        return SceneProtocol::entryFigureItem(dataTemplate);
+    }
 
     /// Sets in @p entries, one for each entry of @p data, what every rule has besides its
     /// attributes.
