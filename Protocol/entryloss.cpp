@@ -20,26 +20,6 @@ constexpr int kNoIndex = -1;
 
 using Comparison = bool (*)(const Value& read, const Value& written);
 
-bool areKept(const Value& read, const Value& written, Comparison isKept)
-{
-    const int count = std::max(read.size(), written.size());
-    for (int i = 0; i < count; ++i) {
-        const bool isAdded = i >= read.size() && !written[i].isNull();
-        if (isAdded || !isKept(read[i], written[i]))
-            return false;
-    }
-    return true;
-}
-
-bool membersAreKept(const Value& read, const Value& written, Comparison isKept)
-{
-    for (int i = 0; i < read.size(); ++i) {
-        if (!isKept(read.memberValue(i), written[read.memberName(i)]))
-            return false;
-    }
-    return true;
-}
-
 bool isSameAlone(const Value& read, const Value& written)
 {
     const bool isByValue =
@@ -56,17 +36,27 @@ bool isKeptAlone(const Value& read, const Value& written)
     return isSameAlone(read, written);
 }
 
-/// As isKept(), with no list added or missing: to look for one on each level would take as many
-/// ways as there are levels of both.
-bool isKeptAsItIs(const Value& read, const Value& written)
+/// Whether @p written has all that @p read has, lists as long as they were, where @p areAlike
+/// compares what is neither.
+bool hasAll(const Value& read, const Value& written, Comparison areAlike)
 {
     if (read.isNull())
         return true;
-    if (read.isObject() && written.isObject())
-        return membersAreKept(read, written, &isKeptAsItIs);
-    if (read.isArray() && written.isArray())
-        return areKept(read, written, &isKeptAsItIs);
-    return isKeptAlone(read, written);
+    const bool areObjects = read.isObject() && written.isObject();
+    if (!areObjects && !(read.isArray() && written.isArray()))
+        return areAlike(read, written);
+    for (int i = 0; i < read.size(); ++i) {
+        const bool isIn = areObjects
+                              ? hasAll(read.memberValue(i), written[read.memberName(i)], areAlike)
+                              : hasAll(read[i], written[i], areAlike);
+        if (!isIn)
+            return false;
+    }
+    for (int i = read.size(); written.isArray() && i < written.size(); ++i) {
+        if (!written[i].isNull())
+            return false;
+    }
+    return true;
 }
 
 /// Lines of a lane that were drawn right to left change their sides when they are saved.
@@ -116,24 +106,24 @@ const RuleProtocolItem* itemAt(const QVector<const RuleProtocolItem*>& items, in
 
 bool EntryLoss::isSame(const Value& read, const Value& written)
 {
-    if (read.isNull())
-        return true;
-    if (read.isObject() && written.isObject())
-        return membersAreKept(read, written, &isSame);
-    if (read.isArray() && written.isArray())
-        return areKept(read, written, &isSame);
-    return isSameAlone(read, written);
+    return hasAll(read, written, &isSameAlone);
 }
 
+/// A list added or missing is looked for on the first level that is no object alone: on each it
+/// would take as many ways as there are levels of both.
 bool EntryLoss::isKept(const Value& read, const Value& written)
 {
-    if (read.isObject() && written.isObject())
-        return membersAreKept(read, written, &isKept);
-    if (isKeptAsItIs(read, written))
+    if (read.isObject() && written.isObject()) {
+        bool areKept = true;
+        for (int i = 0; areKept && i < read.size(); ++i)
+            areKept = isKept(read.memberValue(i), written[read.memberName(i)]);
+        return areKept;
+    }
+    if (hasAll(read, written, &isKeptAlone))
         return true;
     if (written.isArray() && written.size() == 1)
-        return isKeptAsItIs(read, written[0]);
-    return read.isArray() && read.size() == 1 && isKeptAsItIs(read[0], written);
+        return hasAll(read, written[0], &isKeptAlone);
+    return read.isArray() && read.size() == 1 && hasAll(read[0], written, &isKeptAlone);
 }
 
 EntryLoss::EntryLoss(RuleData& data, const QString& section) : m_data(data)

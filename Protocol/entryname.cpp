@@ -10,7 +10,7 @@
 namespace
 {
 
-QString ownName(const RuleData& data, int position)
+QString nameAt(const RuleData& data, int position)
 {
     const bool exists = position >= 0 && position < data.getDataCount();
     return exists ? data.getAllData()[static_cast<std::size_t>(position)]->name() : QString();
@@ -20,7 +20,7 @@ QString ownName(const RuleData& data, int position)
 
 QString EntryName::written(const RuleData& data, int position)
 {
-    const QString name = ownName(data, position);
+    const QString name = nameAt(data, position);
     return name.isEmpty() ? RuleData::tr("Rule") + QString::number(position + 1) : name;
 }
 
@@ -37,7 +37,7 @@ QString EntryName::unused(const RuleData& data, const QString& wanted)
 
 QString EntryName::button(const RuleData& data, int position)
 {
-    const QString name = ownName(data, position);
+    const QString name = nameAt(data, position);
     if (!name.isEmpty())
         return name;
     const bool isOnlyOne = data.getTemplate() && data.getTemplate()->countRange().max < 2;

@@ -8,7 +8,7 @@ using kql::Json::Value;
 namespace
 {
 
-bool holdNothing(const std::vector<Value>& entries)
+bool areAllEmpty(const std::vector<Value>& entries)
 {
     return std::all_of(entries.begin(), entries.end(),
                        [](const Value& entry) { return entry.empty(); });
@@ -40,7 +40,7 @@ bool EntryTarget::put(std::vector<Value> entries)
     const bool isList = before && before->isArray();
     if (entries.empty() && !isList)
         return true;
-    const bool isNothing = holdNothing(entries);
+    const bool isNothing = areAllEmpty(entries);
     const bool isObject = before && before->isObject();
     if (isObject || (!isList && m_whenMissing == WhenMissing::Object))
         return putAlone(std::move(entries.front()));

@@ -31,14 +31,14 @@ public:
     void make(Value& field, int index)
     {
         const bool isElement = field.isArray() || (field.isNull() && index > 0);
-        if (!isElement || index < field.size() || index - field.size() >= m_room)
+        if (!isElement || index < field.size() || index - field.size() >= m_elementsLeft)
             return;
-        m_room -= index - field.size() + 1;
+        m_elementsLeft -= index - field.size() + 1;
         field[index] = Value();
     }
 
 private:
-    int m_room = Limits::kElements;
+    int m_elementsLeft = Limits::kElements;
 };
 
 /// The field's path in one spelling.
@@ -78,7 +78,7 @@ EntryWriter::EntryWriter(const RuleData& data, const QString& section)
             m_targets.push_back({item.get(), -1, false});
     }
     markSharedFields();
-    listElements();
+    collectElements();
 }
 
 void EntryWriter::markSharedFields()
@@ -97,7 +97,7 @@ void EntryWriter::markSharedFields()
     }
 }
 
-void EntryWriter::listElements()
+void EntryWriter::collectElements()
 {
     QMap<int, int> firstElements;
     const auto isElement = [](const Target& target) {
@@ -152,7 +152,7 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
     ElementMaker elements;
     const Pass pass{entry, asRead, json, elements};
     makeElements(pass);
-    const std::vector<Step> steps = listSteps(pass);
+    const std::vector<Step> steps = collectSteps(pass);
     const Weights heaviest = heaviestOf(steps, pass);
     for (const Step& step : steps) {
         if (!yields(step, heaviest))
@@ -161,13 +161,13 @@ void EntryWriter::write(const RuleDataInfo& entry, const Value* asRead, Value& j
 }
 
 /// What counts most goes last.
-std::vector<EntryWriter::Step> EntryWriter::listSteps(const Pass& pass) const
+std::vector<EntryWriter::Step> EntryWriter::collectSteps(const Pass& pass) const
 {
     const auto hidden = Validity::hiddenItems(m_template, pass.entry);
     std::vector<Step> steps;
     steps.reserve(m_targets.size());
     for (const Target& target : m_targets) {
-        if (hasNoRoom(target, pass.json))
+        if (lacksElement(target, pass.json))
             continue;
         const bool isHidden = hidden.contains(target.item);
         steps.push_back({&target, weigh(target, isHidden, pass), placeOf(target, pass.json)});
@@ -177,14 +177,14 @@ std::vector<EntryWriter::Step> EntryWriter::listSteps(const Pass& pass) const
     return steps;
 }
 
-bool EntryWriter::hasNoRoom(const RuleProtocolItem& item, const Value& entry) const
+bool EntryWriter::lacksElement(const RuleProtocolItem& item, const Value& entry) const
 {
     return std::any_of(m_targets.begin(), m_targets.end(), [&](const Target& target) {
-        return target.item == &item && hasNoRoom(target, entry);
+        return target.item == &item && lacksElement(target, entry);
     });
 }
 
-bool EntryWriter::hasNoRoom(const Target& target, const Value& entry)
+bool EntryWriter::lacksElement(const Target& target, const Value& entry)
 {
     const Value* field = target.isFurtherElement ? target.item->path().find(entry) : nullptr;
     return field && !field->isArray() && !field->isNull();

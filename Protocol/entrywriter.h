@@ -38,7 +38,7 @@ public:
                          kql::Json::Value& json) const;
 
     /// Whether @p item's value is one of several for a place that has but one in @p entry.
-    bool hasNoRoom(const RuleProtocolItem& item, const kql::Json::Value& entry) const;
+    bool lacksElement(const RuleProtocolItem& item, const kql::Json::Value& entry) const;
 
     const EntryFigures& figures() const { return m_figures; }
 
@@ -67,11 +67,11 @@ private:
     };
 
     void markSharedFields();
-    void listElements();
+    void collectElements();
     void makeElements(const Pass& pass) const;
-    static bool hasNoRoom(const Target& target, const kql::Json::Value& entry);
+    static bool lacksElement(const Target& target, const kql::Json::Value& entry);
     static Place placeOf(const Target& target, const kql::Json::Value& json);
-    std::vector<Step> listSteps(const Pass& pass) const;
+    std::vector<Step> collectSteps(const Pass& pass) const;
     static Weight weigh(const Target& target, bool isHidden, const Pass& pass);
     static Weights heaviestOf(const std::vector<Step>& steps, const Pass& pass);
     static bool yields(const Step& step, const Weights& heaviest);

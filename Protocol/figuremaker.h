@@ -4,20 +4,19 @@
 
 #include <memory>
 
+class DataTemplate;
 class DrawItem;
-class RuleData;
+class RuleDataInfo;
 class RuleProtocolItem;
 
 /// Makes figures for template items, the same way whether they are read or drawn.
 namespace FigureMaker
 {
 
-/// A new unfinished figure of @p item for the entry @p dataId: kind, point limits, template key,
-/// edge-label mode of the scene. Null when the item draws no figure.
-std::unique_ptr<DrawItem> make(const RuleData& data, const RuleProtocolItem& item, int dataId,
-                               DrawItemForbidenAreaType forbidden);
-
-/// The forbidden-area type that drawing a figure of @p item gives it.
-DrawItemForbidenAreaType forbiddenType(const RuleData& data, const RuleProtocolItem& item);
+/// A new unfinished figure of @p item for @p entry, not yet on the canvas: kind, point limits,
+/// template key, edge labels, the item's caption, the direction that the entry says. Null when the
+/// item draws no figure.
+std::unique_ptr<DrawItem> make(const DataTemplate& dataTemplate, const RuleProtocolItem& item,
+                               const RuleDataInfo& entry, DrawItemForbidenAreaType forbidden);
 
 } // namespace FigureMaker

@@ -1,5 +1,6 @@
 #include "Protocol/figurereader.h"
 
+#include "Protocol/datatemplate.h"
 #include "Protocol/figuremaker.h"
 #include "Protocol/pointconversion.h"
 #include "Protocol/ruledata.h"
@@ -23,8 +24,8 @@ DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& en
 {
     if (!m_data.takeText(Limits::kFigureText + qint64{Limits::kPointText} * points.size()))
         return nullptr;
-    auto drawItem =
-        FigureMaker::make(m_data, item, entry.id(), FigureMaker::forbiddenType(m_data, item));
+    const DataTemplate& dataTemplate = *m_data.getTemplate();
+    auto drawItem = FigureMaker::make(dataTemplate, item, entry, dataTemplate.forbiddenArea(item));
     if (!drawItem || !drawItem->figure())
         return nullptr;
     drawItem->setLabel(label);

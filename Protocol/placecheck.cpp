@@ -23,12 +23,6 @@ QString noPlace(const RuleProtocolItem& item, const JsonPath& path)
         .arg(SaveNotices::subject(item), path.text());
 }
 
-QString noType(const RuleProtocolItem& item)
-{
-    return SaveNotices::tr("%1 is not saved: it has no type that a row can have.")
-        .arg(SaveNotices::subject(item));
-}
-
 QString otherKind(const RuleProtocolItem& item)
 {
     return SaveNotices::tr("%1 is not saved: the template has something else in its place \"%2\".")
@@ -53,7 +47,8 @@ bool takes(const Value& target, ValueType type)
 QString whyControlIsUnsaved(const RuleProtocolItem& item, const Value& prototype)
 {
     if (item.valueType() == ValueType::None || item.valueType() == ValueType::Point)
-        return noType(item);
+        return SaveNotices::tr("%1 is not saved: it has no type that a row can have.")
+            .arg(SaveNotices::subject(item));
     const Value* const field = item.path().find(prototype);
     if (!field)
         return item.path().isPlainName() ? QString() : noPlace(item, item.path());
@@ -73,13 +68,6 @@ QString whyFigureIsUnsaved(const RuleProtocolItem& item, const Value& prototype)
     return lacksDirection ? noPlace(item, ConfigMember::directionPath()) : QString();
 }
 
-/// The areas of calibrations and what is in them are written by their kind: into places that are
-/// made where nothing else is.
-QString whyBuiltInIsUnsaved(const RuleProtocolItem& item, Value prototype)
-{
-    return item.path().create(prototype) ? QString() : otherKind(item);
-}
-
 QString whyUnsaved(const RuleProtocolItem& item, bool isBuiltIn, const Value& prototype)
 {
     // Without a row nobody can set what is lost; what the document has there is told by itself.
@@ -88,8 +76,10 @@ QString whyUnsaved(const RuleProtocolItem& item, bool isBuiltIn, const Value& pr
         return {};
     if (item.path().text().isEmpty())
         return noPlace(item, item.path());
-    if (isBuiltIn)
-        return whyBuiltInIsUnsaved(item, prototype);
+    if (isBuiltIn) {
+        Value made = prototype; // calibrations make their places, where nothing else is
+        return item.path().create(made) ? QString() : otherKind(item);
+    }
     return item.isFigure() ? whyFigureIsUnsaved(item, prototype)
                            : whyControlIsUnsaved(item, prototype);
 }
@@ -103,7 +93,7 @@ void tellSection(RuleData& data, const TemplateSection& section, const Value& sk
         if (item->templateName() != section.name)
             continue;
         QString why = whyUnsaved(*item, isBuiltIn, prototype);
-        if (why.isEmpty() && item->isControl() && writer.hasNoRoom(*item, prototype))
+        if (why.isEmpty() && item->isControl() && writer.lacksElement(*item, prototype))
             why = otherKind(*item);
         if (!why.isEmpty())
             data.saveNotices().addUnsaved(*item, why);

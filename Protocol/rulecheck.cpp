@@ -1,6 +1,5 @@
 #include "Protocol/rulecheck.h"
 
-#include "Protocol/comparabletext.h"
 #include "Protocol/controlrow.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/entryfigures.h"

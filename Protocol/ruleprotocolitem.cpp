@@ -1,7 +1,7 @@
 #include "Protocol/ruleprotocolitem.h"
 
-#include "Protocol/comparabletext.h"
 #include "Protocol/controlrow.h"
+#include "Protocol/valuecompare.h"
 
 #include <QObject>
 

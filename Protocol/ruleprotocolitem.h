@@ -1,10 +1,8 @@
 #pragma once
 
 #include "Protocol/countrange.h"
-#include "Protocol/enumoption.h"
 #include "Protocol/jsonpath.h"
 #include "Protocol/ruletypes.h"
-#include "Protocol/validcondition.h"
 
 #include <QList>
 #include <QPointer>
@@ -14,6 +12,22 @@
 #include <optional>
 
 class ControlRow;
+
+/// One choice of an attribute's enumeration.
+struct EnumOption {
+    QString key;
+    QString value;            ///< as stored in the configuration
+    QString text;             ///< as shown
+    QString description = {}; ///< tool tip
+    bool isAll = false;       ///< exclusive: checking it unchecks the other boxes
+};
+
+/// An attribute applies while its controlling attribute has one of these values.
+struct ValidCondition {
+    QString controlKey;
+    QStringList values;
+    QStringList comparable = {}; ///< the values for attributes of types with several spellings
+};
 
 /**
  * One attribute of a template: where its value lives in the configuration, its type, what edits

@@ -1,15 +1,13 @@
 #include "Protocol/templatereader.h"
 
-#include "Protocol/calibration/calibrateareadata.h"
 #include "Protocol/calibration/calibrateareatemplate.h"
 #include "Protocol/calibration/calibratestaffs.h"
 #include "Protocol/configmember.h"
-#include "Protocol/fight/fightcalibratedata.h"
 #include "Protocol/fight/fightcalibratetemplate.h"
-#include "Protocol/lanes/lanesdata.h"
 #include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/scenedata.h"
 #include "Protocol/spelling.h"
 #include "Protocol/templateitemreader.h"
 #include "host/api/limits.h"
@@ -198,8 +196,8 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
     const QString parent = section["parent"].asString();
     const QStringList dependencies = TemplateItemReader::parseDependencies(controls);
     QMap<QPair<QString, int>, const RuleProtocolItem*> known;
-    qint64 room = controls.size() <= Limits::kAttributes ? Limits::kChoices : -1;
-    for (int i = 0; i < controls.size() && room >= 0; ++i) {
+    qint64 choicesLeft = controls.size() <= Limits::kAttributes ? Limits::kChoices : -1;
+    for (int i = 0; i < controls.size() && choicesLeft >= 0; ++i) {
         auto item = TemplateItemReader::parseControl(controls[i]);
         if (controls[i]["depend"].isArray())
             item->setDependencies(dependencies);
@@ -207,17 +205,17 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
         item->setTemplateName(sectionName);
         if (const Value* const details = m_configItems.find(item->key().toStdString())) {
             // Many items may share one long list, so it is counted before it is read.
-            room -= countChoices(*details);
+            choicesLeft -= countChoices(*details);
             const RuleProtocolItem*& same =
                 known[{item->key(), static_cast<int>(item->valueType())}];
             if (same)
                 item->takeDetailsFrom(*same);
-            else if (room >= 0)
+            else if (choicesLeft >= 0)
                 TemplateItemReader::parseRuleProtocolItem(*item, *details);
             same = item.get();
         }
         items.push_back(std::move(item));
     }
-    m_isTooLarge = m_isTooLarge || room < 0;
+    m_isTooLarge = m_isTooLarge || choicesLeft < 0;
     return items;
 }

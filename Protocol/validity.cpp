@@ -1,9 +1,9 @@
 #include "Protocol/validity.h"
 
-#include "Protocol/comparabletext.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/valuecompare.h"
 
 #include <QHash>
 

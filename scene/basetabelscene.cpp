@@ -15,13 +15,12 @@
 #include "scene/entryrows.h"
 #include "scene/scenefigures.h"
 #include "scene/scenetitlebar.h"
-#include "scene/taborder.h"
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
 #include "tabel/drawfucbutton.h"
 #include "tabel/drawitembutton.h"
-#include "tabel/layouthold.h"
+#include "tabel/layoutpause.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tabel/rulewidgettabel.h"
 #include "tabel/titlelabel.h"
@@ -88,7 +87,7 @@ void BaseTabelScene::connectWidgets()
 
 void BaseTabelScene::setRuleData(RuleData* newData)
 {
-    const LayoutHold hold(this);
+    const LayoutPause pause(this);
     release();
     m_data = newData;
     if (isBound()) {
@@ -135,7 +134,7 @@ QString BaseTabelScene::heading() const
 
 void BaseTabelScene::bindRows()
 {
-    const LayoutHold hold(widgets().controls);
+    const LayoutPause pause(widgets().controls);
     bindFixedRows();
     m_direction.bind(*m_data, *widgets().controls);
     for (const auto& item : m_data->getTemplate()->items()) {
@@ -224,7 +223,7 @@ std::unique_ptr<DrawItem> BaseTabelScene::createDrawItem(BaseDrawType type,
     if (!isBound() || !entry)
         return nullptr;
     const RuleProtocolItem* item = m_data->getTemplate()->figureItem(type);
-    return item ? SceneFigures::make(*m_data, *item, *entry, forbidden) : nullptr;
+    return item ? FigureMaker::make(*m_data->getTemplate(), *item, *entry, forbidden) : nullptr;
 }
 
 DrawItemButton* BaseTabelScene::createChildDrawItemButton(const QString& label,
@@ -289,8 +288,8 @@ RuleProtocolItem* BaseTabelScene::firstFigureItem(BaseDrawType pressed) const
 
 DrawItem* BaseTabelScene::addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry)
 {
-    auto figure =
-        SceneFigures::make(*m_data, item, entry, FigureMaker::forbiddenType(*m_data, item));
+    const DataTemplate& dataTemplate = *m_data->getTemplate();
+    auto figure = FigureMaker::make(dataTemplate, item, entry, dataTemplate.forbiddenArea(item));
     if (!figure)
         return nullptr;
     m_direction.giveTo(*figure);
@@ -330,10 +329,10 @@ void BaseTabelScene::addChildFigure(BaseDrawType type, const QString& itemKey)
     const DataTemplate& dataTemplate = *m_data->getTemplate();
     const RuleProtocolItem* item =
         itemKey.isEmpty() ? dataTemplate.figureItem(type) : dataTemplate.findItem(itemKey);
-    if (!item || !SceneFigures::hasRoom(*m_data, *item, entry->id()))
+    if (!item || !SceneFigures::mayHaveMore(*m_data, *item, entry->id()))
         return;
-    auto figure =
-        SceneFigures::make(*m_data, *item, *entry, DrawItemForbidenAreaType::ForbidenOutsideParent);
+    auto figure = FigureMaker::make(dataTemplate, *item, *entry,
+                                    DrawItemForbidenAreaType::ForbidenOutsideParent);
     if (!figure)
         return;
     m_direction.giveTo(*figure);
@@ -488,7 +487,7 @@ void BaseTabelScene::refreshTabelDrawItem()
     const bool hasCheckBoxes = m_data->getSceneType() == SceneType::Rules && getSelectMode();
     FigureLabels::update(*m_data, entryFigureItem());
     EntryButtons::fillEntries(*widgets().drawItems, *m_data, {entryFigureItem(), hasCheckBoxes});
-    TabOrder::fromTopToBottom(this);
+    orderFocus();
 }
 
 void BaseTabelScene::refreshChildTabelDrawItem()
@@ -507,7 +506,7 @@ void BaseTabelScene::refreshChildTabelDrawItem()
     }
     EntryButtons::fillChildren(*widgets().childDrawItems, *m_data, button->dataId(), items);
     if (!widgets().childDrawItems->isEmpty())
-        TabOrder::fromTopToBottom(this);
+        orderFocus();
 }
 
 void BaseTabelScene::sltTabelAttrControlValueChange(const QString& key)

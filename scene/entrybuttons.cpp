@@ -6,7 +6,7 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/drawitem.h"
 #include "tabel/drawitembutton.h"
-#include "tabel/layouthold.h"
+#include "tabel/layoutpause.h"
 #include "tabel/ruleitemwidgettabel.h"
 
 namespace
@@ -32,7 +32,7 @@ void addEntry(RuleItemWidgetTabel& table, const RuleData& data, int position,
 void EntryButtons::fillEntries(RuleItemWidgetTabel& table, const RuleData& data,
                                const Options& options)
 {
-    const LayoutHold hold(&table);
+    const LayoutPause pause(&table);
     table.deleteAll();
     for (int i = 0; i < data.getDataCount(); ++i)
         addEntry(table, data, i, options);
@@ -43,7 +43,7 @@ void EntryButtons::fillEntries(RuleItemWidgetTabel& table, const RuleData& data,
 void EntryButtons::fillChildren(RuleItemWidgetTabel& table, const RuleData& data, int dataId,
                                 const QList<RuleProtocolItem*>& items)
 {
-    const LayoutHold hold(&table);
+    const LayoutPause pause(&table);
     table.deleteAll();
     for (const RuleProtocolItem* item : items) {
         const auto figures = data.figuresOf(dataId, *item);

@@ -8,7 +8,7 @@
 #include "Protocol/validity.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
-#include "tabel/layouthold.h"
+#include "tabel/layoutpause.h"
 
 #include <QMap>
 #include <vector>
@@ -109,7 +109,7 @@ private:
 
 void EntryRows::load(ControlItemWidgetTabel& rows, const RuleData& data, const RuleDataInfo* entry)
 {
-    const LayoutHold hold(&rows);
+    const LayoutPause pause(&rows);
     for (ControlTabel* row : rows.controls()) {
         if (entry && !row->protocolItem())
             continue;
@@ -125,7 +125,7 @@ void EntryRows::load(ControlItemWidgetTabel& rows, const RuleData& data, const R
 void EntryRows::showApplicable(ControlItemWidgetTabel& rows, const DataTemplate& dataTemplate,
                                const RuleDataInfo& entry)
 {
-    const LayoutHold hold(&rows);
+    const LayoutPause pause(&rows);
     const auto hidden = Validity::hiddenItems(dataTemplate, entry);
     for (ControlTabel* row : rows.controls()) {
         const RuleProtocolItem* item = row->protocolItem();

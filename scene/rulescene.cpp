@@ -152,10 +152,10 @@ RuleProtocolItem* RuleScene::nextFigureItem(const DrawItem& finished) const
 {
     const DataTemplate& rules = *ruleData()->getTemplate();
     const QList<RuleProtocolItem*> items = rules.figureItems();
-    const auto own = std::find_if(items.begin(), items.end(), [&](const RuleProtocolItem* item) {
+    const auto drawn = std::find_if(items.begin(), items.end(), [&](const RuleProtocolItem* item) {
         return rules.isFigureFor(finished, *item);
     });
-    const int later = static_cast<int>(own - items.begin()) + 1;
+    const int later = static_cast<int>(drawn - items.begin()) + 1;
     return SceneFigures::firstMissing(*ruleData(), items.mid(later), finished.dataId());
 }
 

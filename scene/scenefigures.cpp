@@ -1,29 +1,13 @@
 #include "scene/scenefigures.h"
 
-#include "Protocol/datatemplate.h"
-#include "Protocol/figuremaker.h"
-#include "Protocol/linedirections.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 
 #include <algorithm>
 
-std::unique_ptr<DrawItem> SceneFigures::make(const RuleData& data, const RuleProtocolItem& item,
-                                             const RuleDataInfo& entry,
-                                             DrawItemForbidenAreaType forbidden)
-{
-    auto figure = FigureMaker::make(data, item, entry.id(), forbidden);
-    if (!figure)
-        return nullptr;
-    figure->setLabel(item.caption());
-    LineDirections::giveTo(*figure, entry);
-    return figure;
-}
-
-bool SceneFigures::hasRoom(const RuleData& data, const RuleProtocolItem& item, int dataId)
+bool SceneFigures::mayHaveMore(const RuleData& data, const RuleProtocolItem& item, int dataId)
 {
     const CountRange range = item.countRange();
     const bool anyNumber = range == CountRange{0, 0};

@@ -4,7 +4,7 @@
 #include "scene/scenetitlebar.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/focus.h"
-#include "tabel/layouthold.h"
+#include "tabel/layoutpause.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tabel/rulewidgettabel.h"
 #include "tabel/titlelabel.h"
@@ -93,7 +93,7 @@ void SceneSection::updateMask()
 
 void SceneSection::checkLayout()
 {
-    const LayoutHold hold(this);
+    const LayoutPause pause(this);
     const auto hasButtons = [this](RuleWidgetTabel* bar) {
         return !m_selectMode && !bar->getVisibleItems().isEmpty();
     };
@@ -173,4 +173,17 @@ bool SceneSection::dropFocus()
     const QPointer<SceneSection> self(this);
     Focus::takeFrom(*this);
     return self;
+}
+
+void SceneSection::orderFocus()
+{
+    QWidget* previous = this;
+    // Qt lists children depth first, in the order in which they were added.
+    const QList<QWidget*> widgets = findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (!(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        QWidget::setTabOrder(previous, widget);
+        previous = widget;
+    }
 }

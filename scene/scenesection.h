@@ -46,6 +46,8 @@ protected:
     /// Whether there is an entry whose attributes can be shown.
     virtual bool hasCurrentEntry() const = 0;
 
+    /// Makes the focus go through the widgets from top to bottom, those made later included.
+    void orderFocus();
     /// Takes the focus from a widget in @p part, which is about to be disabled or hidden. False
     /// when whoever heard of it has deleted the section.
     bool takeFocusFrom(const QWidget& part);

@@ -18,15 +18,6 @@ namespace
 const auto kLeftToRight = QStringLiteral("LeftToRight");
 const auto kRightToLeft = QStringLiteral("RightToLeft");
 
-EnumOption option(const QString& key, const QString& value, const QString& text)
-{
-    EnumOption option;
-    option.key = key;
-    option.value = value;
-    option.text = text;
-    return option;
-}
-
 QList<DrawItem*> parallelograms(const RuleData& data, const RuleDataInfo& entry)
 {
     return data.getDrawScene()->getItemList(BaseDrawType::Parallelogram, entry.id());
@@ -49,9 +40,8 @@ std::unique_ptr<RuleProtocolItem> StatisticsDirection::makeItem()
     item->setValueType(ValueType::String);
     item->setFacade(FacadeType::RadioButton);
     item->setCaption(tr("Detection direction"));
-    item->setEnumeration(
-        {option(QStringLiteral("enumLeftToRight"), kLeftToRight, tr("Left to right")),
-         option(QStringLiteral("enumRightToLeft"), kRightToLeft, tr("Right to left"))});
+    item->setEnumeration({{QStringLiteral("enumLeftToRight"), kLeftToRight, tr("Left to right")},
+                          {QStringLiteral("enumRightToLeft"), kRightToLeft, tr("Right to left")}});
     item->setDefaultValue(kLeftToRight);
     return item;
 }

@@ -1,6 +1,6 @@
 #include "tabel/checkboxwidget.h"
 
-#include "Protocol/enumoption.h"
+#include "Protocol/ruleprotocolitem.h"
 #include "tabel/optionbox.h"
 
 #include <QStyleOptionButton>

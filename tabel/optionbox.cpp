@@ -1,6 +1,6 @@
 #include "tabel/optionbox.h"
 
-#include "Protocol/enumoption.h"
+#include "Protocol/ruleprotocolitem.h"
 #include "host/api/rowcontract.h"
 #include "tabel/plaintext.h"
 
@@ -19,7 +19,7 @@ void OptionBox::bind(QAbstractButton& box, const EnumOption& option)
 void OptionBox::elide(const QAbstractButton& box, bool isRadio, QStyleOptionButton& option)
 {
     const auto contents = isRadio ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents;
-    const int room = box.style()->subElementRect(contents, &option, &box).width();
+    const int width = box.style()->subElementRect(contents, &option, &box).width();
     option.text =
-        box.fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+        box.fontMetrics().elidedText(option.text, Qt::ElideRight, width, Qt::TextShowMnemonic);
 }

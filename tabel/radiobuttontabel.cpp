@@ -1,7 +1,7 @@
 #include "tabel/radiobuttontabel.h"
 
-#include "Protocol/comparabletext.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/valuecompare.h"
 #include "tabel/radiobuttonwidget.h"
 
 #include <QButtonGroup>

@@ -1,7 +1,7 @@
 #include "tabel/radiobuttonwidget.h"
 
-#include "Protocol/comparabletext.h"
-#include "Protocol/enumoption.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "Protocol/valuecompare.h"
 #include "tabel/optionbox.h"
 
 #include <QStyleOptionButton>

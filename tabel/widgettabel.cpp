@@ -98,10 +98,10 @@ void WidgetTabel::deleteWidget(QWidget* widget)
 
 void WidgetTabel::deleteAll()
 {
-    holdLayout();
+    pauseLayout();
     while (!m_items.isEmpty())
         deleteWidget(m_items.first());
-    releaseLayout();
+    resumeLayout();
 }
 
 void WidgetTabel::forgetWidget(const QObject* child)
@@ -136,12 +136,12 @@ QList<QWidget*> WidgetTabel::getVisibleItems() const
     return visible;
 }
 
-void WidgetTabel::holdLayout()
+void WidgetTabel::pauseLayout()
 {
     ++m_holds;
 }
 
-void WidgetTabel::releaseLayout()
+void WidgetTabel::resumeLayout()
 {
     if (--m_holds > 0 || !m_layoutPending)
         return;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "tabel/iteminfo.h"
-#include "tabel/itemsizetype.h"
 #include "tabel/widgetlayout.h"
 
 #include <QHash>
@@ -12,6 +10,20 @@
 #include <optional>
 
 class TitleLabel;
+
+/// How a table arranges its children.
+enum class ItemSizeType : int {
+    ItemFixCount = 0, ///< columns of equal width
+    ItemFlow = 1,     ///< one after the other, wrapping at the right edge
+    ItemFixSize = 2,  ///< cells of one size, as many columns as fit
+};
+
+/// What a table remembers of a child, to tell its own changes from others'.
+struct ItemInfo {
+    bool isLayout = false; ///< a WidgetLayout, laid out again after its width is set
+    bool visible = false;  ///< last seen own visibility, whatever the parents' is
+    QRect geometry;        ///< as the table last gave it
+};
 
 /**
  * A container that places its visible children itself, in one of three modes, with an optional
@@ -68,9 +80,9 @@ public:
     const QList<QWidget*>& items() const { return m_items; }
     QList<QWidget*> getVisibleItems() const;
 
-    // LayoutHold's calls; they nest.
-    void holdLayout();
-    void releaseLayout();
+    // LayoutPause's calls; they nest.
+    void pauseLayout();
+    void resumeLayout();
 
 protected:
     bool contains(const QObject* child) const { return m_itemInfo.contains(child); }

@@ -2,7 +2,11 @@
 
 #include "Protocol/sceneprotocol.h"
 
-/// Calibrate areas and their staffs.
+/**
+ * Calibrate areas and their staffs: an entry is {"Area": [[x, y], ...], "Method": "Lane" or
+ * "Scene", "Staffs": [{"Type": "Vertical" or "Horizontal", "Length": metres, "Start": [x, y],
+ * "End": [x, y]}, ...]}. The length that is shown for a type is that of its first staff.
+ */
 class CalibrateAreaProtocol final : public SceneProtocol
 {
 public:

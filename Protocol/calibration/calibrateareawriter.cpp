@@ -140,12 +140,12 @@ bool StaffsWriter::isLengthAsRead(const CalibrateStaffs::Kind& kind) const
 Value StaffsWriter::lengthOf(const CalibrateStaffs::Kind& kind, const DrawItem& staff) const
 {
     const QVariant shown = m_entry.value(kind.length->key());
-    const Value& own = staffsAsRead()[staff.sourceIndex()][ConfigMember::kLength];
-    if (!own.isNull() && isLengthAsRead(kind))
-        return own;
+    const Value& lengthAsRead = staffsAsRead()[staff.sourceIndex()][ConfigMember::kLength];
+    if (!lengthAsRead.isNull() && isLengthAsRead(kind))
+        return lengthAsRead;
     if (!shown.isValid())
         return {};
-    return ValueConversion::numberLike(shown.toDouble(), own);
+    return ValueConversion::numberLike(shown.toDouble(), lengthAsRead);
 }
 
 } // namespace

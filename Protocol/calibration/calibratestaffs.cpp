@@ -70,7 +70,7 @@ void CalibrateStaffs::takeSampleLengths(CalibrateAreaTemplate& dataTemplate, con
         if (length->defaultValue().isValid())
             continue;
         const Value& first = skeleton[0][ConfigMember::kLength];
-        const QVariant own = shownLength(skeleton, kind);
-        length->setDefaultValue(own.isValid() || !first.isNumeric() ? own : first.asDouble());
+        const QVariant ofType = shownLength(skeleton, kind);
+        length->setDefaultValue(ofType.isValid() || !first.isNumeric() ? ofType : first.asDouble());
     }
 }

@@ -2,7 +2,11 @@
 
 #include "Protocol/sceneprotocol.h"
 
-/// The areas that fights are calibrated in, and the rectangles inside them.
+/**
+ * The areas that fights are calibrated in, and the rectangles inside them: an entry is
+ * {"CalibrateArea": {"Area": [[x, y], ...], "Rects": [[[x, y], [x, y]], ...]}}. A single rectangle
+ * may stand there without the list around it.
+ */
 class FightCalibrateProtocol final : public SceneProtocol
 {
 public:

@@ -2,7 +2,11 @@
 
 #include "Protocol/sceneprotocol.h"
 
-/// Vehicle lanes, and their rules where these are edited per lane.
+/**
+ * Vehicle lanes, and their rules where these are edited per lane: a lane is {"LeftLine": [[x, y],
+ * [x, y]], "RightLine": [[x, y], [x, y]], ...} with its attributes, its rule lies in a list of its
+ * own, see LaneRules.
+ */
 class LanesProtocol final : public SceneProtocol
 {
 public:

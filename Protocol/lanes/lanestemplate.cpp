@@ -19,15 +19,6 @@ bool isRuleItem(const std::unique_ptr<RuleProtocolItem>& item)
     return item->templateName() == ConfigMember::kRuleSection;
 }
 
-EnumOption lineType(const char* key, const char* value, const QString& text)
-{
-    EnumOption option;
-    option.key = QLatin1String(key);
-    option.value = QLatin1String(value);
-    option.text = text;
-    return option;
-}
-
 void initLineType(RuleProtocolItem* item, const QList<EnumOption>& options)
 {
     item->setValueType(ValueType::String);
@@ -46,9 +37,9 @@ LanesTemplate::LanesTemplate()
     addBuiltIn(kNumber, QStringLiteral("Number"), FacadeType::InputBoxNumber, tr("Lanes num"))
         ->setValueType(ValueType::Int);
     const QList<EnumOption> lineTypes = {
-        lineType("enumWhiteSolid", "WhiteSolid", tr("White solid")),
-        lineType("enumWhiteDotted", "WhiteDotted", tr("White dotted")),
-        lineType("enumYellow", "Yellow", tr("Yellow")),
+        {QStringLiteral("enumWhiteSolid"), QStringLiteral("WhiteSolid"), tr("White solid")},
+        {QStringLiteral("enumWhiteDotted"), QStringLiteral("WhiteDotted"), tr("White dotted")},
+        {QStringLiteral("enumYellow"), QStringLiteral("Yellow"), tr("Yellow")},
     };
     initLineType(addBuiltIn(kLeftLineType, QStringLiteral("LeftLineType"), FacadeType::RadioButton,
                             tr("left line")),

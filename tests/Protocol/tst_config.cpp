@@ -85,7 +85,7 @@ private:
     void draw(int item, const RuleDataInfo& entry, const Value& points) const
     {
         const auto& protocolItem = scene().getTemplate()->items()[static_cast<std::size_t>(item)];
-        auto drawn = FigureMaker::make(scene(), *protocolItem, entry.id(),
+        auto drawn = FigureMaker::make(*scene().getTemplate(), *protocolItem, entry,
                                        DrawItemForbidenAreaType::ForbidenNone);
         for (int i = 0; i < points.size(); ++i)
             drawn->figure()->appendPoint({points[i][0].asInt(), points[i][1].asInt()});

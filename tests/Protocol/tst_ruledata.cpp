@@ -1,4 +1,3 @@
-#include "Protocol/calibration/calibrateareadata.h"
 #include "Protocol/calibration/calibrateareatemplate.h"
 #include "Protocol/controlrow.h"
 #include "Protocol/figuremaker.h"
@@ -6,6 +5,7 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/scenedata.h"
 #include "Protocol/validity.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
@@ -58,7 +58,8 @@ public:
                    int parentId = -1) const
     {
         DrawItem* const figure = data.getDrawScene()->addItem(
-            FigureMaker::make(data, *item, entry->id(), FigureMaker::forbiddenType(data, *item)),
+            FigureMaker::make(*data.getTemplate(), *item, *entry,
+                              data.getTemplate()->forbiddenArea(*item)),
             parentId);
         figure->setLabel("figure");
         figure->figure()->setFinished(finished);
@@ -258,7 +259,7 @@ private slots:
         items.setAreaPointCount({4, 5});
         for (const auto& [method, mode] : modes) {
             items.setMethod(method);
-            const auto made = FigureMaker::make(area, *items.regionItem(), 7,
+            const auto made = FigureMaker::make(items, *items.regionItem(), RuleDataInfo(7),
                                                 DrawItemForbidenAreaType::ForbidenSelf);
             QCOMPARE(made->figure()->edgeLabelMode(), mode);
             QCOMPARE(made->figure()->minimumPointCount(), 4);

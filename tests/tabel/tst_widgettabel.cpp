@@ -1,4 +1,4 @@
-#include "tabel/layouthold.h"
+#include "tabel/layoutpause.h"
 #include "tabel/titlelabel.h"
 #include "tabel/widgettabel.h"
 #include "tabel/widgettabelview.h"
@@ -168,8 +168,8 @@ private slots:
             table.show();
             QCOMPARE(probe->passes, 1);
             {
-                const LayoutHold hold(&table);
-                const LayoutHold nested(&table);
+                const LayoutPause pause(&table);
+                const LayoutPause nested(&table);
                 for (QWidget* row : table.items().mid(0, count))
                     row->hide();
                 QCOMPARE(probe->passes, 1);

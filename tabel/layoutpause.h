@@ -5,13 +5,13 @@
 class WidgetTabel;
 
 /// While it lives, a table does not lay out; it does so once at the end if it was asked to.
-class LayoutHold
+class LayoutPause
 {
 public:
-    explicit LayoutHold(WidgetTabel* table);
-    ~LayoutHold();
-    LayoutHold(const LayoutHold&) = delete;
-    LayoutHold& operator=(const LayoutHold&) = delete;
+    explicit LayoutPause(WidgetTabel* table);
+    ~LayoutPause();
+    LayoutPause(const LayoutPause&) = delete;
+    LayoutPause& operator=(const LayoutPause&) = delete;
 
 private:
     QPointer<WidgetTabel> m_table;

@@ -14,3 +14,17 @@ public:
     /// Names each area that lacks a length.
     void collectNotices(QStringList& notices) const override;
 };
+
+/// The fight-calibrate scene's data; makes its own template.
+class FightCalibrateData : public RuleData
+{
+public:
+    FightCalibrateData();
+};
+
+/// The lanes scene's data; makes its own template.
+class LanesData : public RuleData
+{
+public:
+    LanesData();
+};

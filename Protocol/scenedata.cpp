@@ -1,6 +1,8 @@
-#include "Protocol/calibration/calibrateareadata.h"
+#include "Protocol/scenedata.h"
 
 #include "Protocol/calibration/calibrateareatemplate.h"
+#include "Protocol/fight/fightcalibratetemplate.h"
+#include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
@@ -32,4 +34,18 @@ void CalibrateAreaData::collectNotices(QStringList& notices) const
                 notices.append(notice.arg(name));
         }
     }
+}
+
+FightCalibrateData::FightCalibrateData()
+{
+    setSceneType(SceneType::FightCalibrate);
+    setTemplate(std::make_unique<FightCalibrateTemplate>());
+    setRuleFucTitle(RuleData::tr("Area"));
+}
+
+LanesData::LanesData()
+{
+    setSceneType(SceneType::Lanes);
+    setTemplate(std::make_unique<LanesTemplate>());
+    setRuleFucTitle(RuleData::tr("Lanes"));
 }
