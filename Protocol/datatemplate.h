@@ -2,8 +2,7 @@
 
 #include "Protocol/countrange.h"
 #include "Protocol/ruletypes.h"
-#include "draw/drawitemforbidenareatype.h"
-#include "draw/edgelabelmode.h"
+#include "draw/figuretypes.h"
 
 #include <QList>
 #include <QMap>

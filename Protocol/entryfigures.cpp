@@ -3,15 +3,15 @@
 #include "Protocol/datatemplate.h"
 #include "draw/drawscene.h"
 
-DrawItemRange EntryFigures::of(int dataId) const
+EntryFigures::Figures EntryFigures::of(int dataId) const
 {
-    return m_scene.itemsOf(dataId);
+    return m_scene.getItemListByDataId(dataId);
 }
 
 EntryFigures::Figures EntryFigures::of(int dataId, const RuleProtocolItem& item) const
 {
     Figures matching;
-    for (const auto& [id, figure] : of(dataId)) {
+    for (DrawItem* figure : of(dataId)) {
         if (m_template.isFigureFor(*figure, item))
             matching.append(figure);
     }
@@ -20,7 +20,7 @@ EntryFigures::Figures EntryFigures::of(int dataId, const RuleProtocolItem& item)
 
 DrawItem* EntryFigures::first(int dataId, const RuleProtocolItem& item) const
 {
-    for (const auto& [id, figure] : of(dataId)) {
+    for (DrawItem* figure : of(dataId)) {
         if (m_template.isFigureFor(*figure, item))
             return figure;
     }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "draw/drawitemrange.h"
-
-#include <QVector>
+#include <QList>
 
 class DataTemplate;
 class DrawItem;
@@ -13,7 +11,7 @@ class RuleProtocolItem;
 class EntryFigures
 {
 public:
-    using Figures = QVector<DrawItem*>;
+    using Figures = QList<DrawItem*>;
 
     /// Neither is owned; the canvas must not change while this lives.
     EntryFigures(const DataTemplate& dataTemplate, const DrawScene& scene)
@@ -22,7 +20,7 @@ public:
     }
 
     /// The figures of the entry @p dataId in the scene's order.
-    DrawItemRange of(int dataId) const;
+    Figures of(int dataId) const;
     /// Those that the entry has for @p item.
     Figures of(int dataId, const RuleProtocolItem& item) const;
     /// The first of them; null when there is none.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "draw/drawitemforbidenareatype.h"
+#include "draw/figuretypes.h"
 
 #include <memory>
 

@@ -28,8 +28,11 @@ DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& en
     auto drawItem = FigureMaker::make(dataTemplate, item, entry, dataTemplate.forbiddenArea(item));
     if (!drawItem || !drawItem->figure())
         return nullptr;
-    drawItem->setLabel(label);
-    drawItem->figure()->setFinishedPoints(points);
+    Figure figure = drawItem->figure()->figure();
+    figure.setLabel(label);
+    figure.setPoints(points);
+    figure.setFinished(true);
+    drawItem->figure()->setFigure(figure);
     return m_data.getDrawScene()->addItem(std::move(drawItem),
                                           parent ? parent->itemId() : kNoParent);
 }

@@ -143,7 +143,7 @@ Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolIt
 {
     int count = 0;
     const DrawItem* unfinished = nullptr;
-    for (const auto& [id, figure] : m_figures.of(entry.id())) {
+    for (const DrawItem* figure : m_figures.of(entry.id())) {
         if (!m_template.isFigureFor(*figure, item))
             continue;
         ++count;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "draw/basedrawdirectiontype.h"
-#include "draw/basedrawtype.h"
+#include "draw/figuretypes.h"
 
 /// Scenes of a template; selects the panel of a scene.
 enum class SceneType : int {

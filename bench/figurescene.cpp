@@ -20,7 +20,7 @@ namespace
 constexpr int kCorners = 6;
 constexpr int kExtent = 8192;
 
-std::unique_ptr<DrawItem> item(const FigureScene::Figure& figure, bool finished)
+std::unique_ptr<DrawItem> item(const FigureScene::Shape& figure, bool finished)
 {
     auto made = std::make_unique<DrawItem>(BaseDrawType::Polygon);
     made->setPointLimits(3, 16);
@@ -37,15 +37,15 @@ std::unique_ptr<DrawItem> item(const FigureScene::Figure& figure, bool finished)
 
 } // namespace
 
-std::vector<FigureScene::Figure> FigureScene::figures(int count)
+std::vector<FigureScene::Shape> FigureScene::figures(int count)
 {
     QRandomGenerator random(7);
-    std::vector<Figure> made;
+    std::vector<Shape> made;
     for (int number = 1; number <= count; ++number) {
         const QPoint centre(random.bounded(100, kPicture.width() - 100),
                             random.bounded(100, kPicture.height() - 100));
         const int radius = random.bounded(20, 90);
-        Figure figure{{}, QStringLiteral("Rule %1").arg(number)};
+        Shape figure{{}, QStringLiteral("Rule %1").arg(number)};
         for (int i = 0; i < kCorners; ++i) {
             const double angle = i * 2 * std::acos(-1.0) / kCorners + number;
             figure.outline.append(
@@ -56,7 +56,7 @@ std::vector<FigureScene::Figure> FigureScene::figures(int count)
     return made;
 }
 
-void FigureScene::fill(DrawScene& scene, const std::vector<Figure>& figures, int unfinished)
+void FigureScene::fill(DrawScene& scene, const std::vector<Shape>& figures, int unfinished)
 {
     scene.setCanvasSize(kPicture.width(), kPicture.height());
     for (int i = 0; i < int(figures.size()); ++i) {
@@ -67,7 +67,7 @@ void FigureScene::fill(DrawScene& scene, const std::vector<Figure>& figures, int
     }
 }
 
-QGraphicsPolygonItem* FigureScene::fill(QGraphicsScene& scene, const std::vector<Figure>& figures)
+QGraphicsPolygonItem* FigureScene::fill(QGraphicsScene& scene, const std::vector<Shape>& figures)
 {
     QFont font = QGuiApplication::font();
     font.setPixelSize(16);

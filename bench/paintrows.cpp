@@ -11,8 +11,8 @@
 #include <map>
 #include <memory>
 
-using FigureScene::Figure;
 using FigureScene::kPicture;
+using FigureScene::Shape;
 
 namespace
 {
@@ -113,7 +113,7 @@ void paintFirst(benchmark::State& state, int size)
 
 void paintStraight(benchmark::State& state, int size)
 {
-    const std::vector<Figure> figures = FigureScene::figures(size);
+    const std::vector<Shape> figures = FigureScene::figures(size);
     QFont font = QGuiApplication::font();
     font.setPixelSize(16);
     QImage image = picture();
@@ -123,7 +123,7 @@ void paintStraight(benchmark::State& state, int size)
         painter.setPen(QPen(QColor(0, 125, 255), 2, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         painter.setFont(font);
         const int ascent = painter.fontMetrics().ascent();
-        for (const Figure& figure : figures) {
+        for (const Shape& figure : figures) {
             for (int i = 0; i < figure.outline.size(); ++i)
                 painter.drawLine(figure.outline[i],
                                  figure.outline[(i + 1) % figure.outline.size()]);

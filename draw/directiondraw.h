@@ -2,13 +2,15 @@
 
 #include "draw/basedraw.h"
 
-/// An arrow that shows a direction of movement.
+/**
+ * An arrow that shows a direction of movement: from its first point to its second one, where the
+ * head is. It has no label.
+ */
 class DirectionDraw final : public BaseDraw
 {
 public:
-    DirectionDraw();
+    using BaseDraw::BaseDraw;
 
 protected:
-    void paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-               const std::optional<QPoint>& canvasMovePoint) const override;
+    void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;
 };

@@ -1,51 +1,37 @@
 #include "draw/directionlinedraw.h"
 
+#include "draw/canvasfigure.h"
 #include "draw/drawgeometry.h"
 #include "draw/figurepainter.h"
-
-#include <QMutexLocker>
 
 namespace
 {
 
 void paintArrow(const FigurePainter& painter, const QLine& segment, BaseDrawDirectionType direction)
 {
-    switch (direction) {
-    case BaseDrawDirectionType::None:
-        break;
-    case BaseDrawDirectionType::RightToLeft:
-        painter.drawArrow(segment, false);
-        break;
-    case BaseDrawDirectionType::LeftToRight:
+    if (direction == BaseDrawDirectionType::LeftToRight)
         painter.drawArrow({segment.p2(), segment.p1()}, false);
-        break;
-    case BaseDrawDirectionType::Both:
-        painter.drawArrow(segment, true);
-        break;
-    }
+    else if (direction != BaseDrawDirectionType::None)
+        painter.drawArrow(segment, direction == BaseDrawDirectionType::Both);
 }
 
 } // namespace
 
-DirectionLineDraw::DirectionLineDraw() : BaseDraw(BaseDrawType::DirectionLine, 2, 2) {}
-
-bool DirectionLineDraw::addPoint(int x, int y)
+QVector<QPoint> DirectionLineDraw::clicked(const CanvasFigure& drawn,
+                                           const QPoint& canvasPoint) const
 {
-    const QMutexLocker lock(&mutex());
-    if (!DrawGeometry::newEdgeCrossings(points(), normalized({x, y})).isEmpty())
-        return true;
-    return appendCanvasPoint({x, y});
+    const QPoint next = drawn.normalized(canvasPoint);
+    const auto crossings = DrawGeometry::newEdgeCrossings(drawn.figure().points(), next);
+    return crossings.isEmpty() ? QVector<QPoint>{next} : QVector<QPoint>();
 }
 
-void DirectionLineDraw::paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-                              const std::optional<QPoint>& canvasMovePoint) const
+void DirectionLineDraw::paint(const FigurePainter& painter, const CanvasFigure& shown) const
 {
-    painter.polyline(canvasPoints);
-    for (int i = 0; i + 1 < canvasPoints.size(); ++i)
-        paintArrow(painter, {canvasPoints[i], canvasPoints[i + 1]}, direction());
-    if (canvasMovePoint)
-        painter.rubberBand({canvasPoints.last(), *canvasMovePoint},
-                           DrawGeometry::newEdgeCrossings(canvasPoints, *canvasMovePoint));
-    if (isFinishedLocked())
-        painter.drawLabel(label(), {canvasPoints[0], canvasPoints[1]});
+    const QVector<QPoint>& points = shown.points();
+    painter.polyline(points);
+    for (int i = 0; i + 1 < points.size(); ++i)
+        paintArrow(painter, {points[i], points[i + 1]}, shown.figure().direction());
+    if (const std::optional<QPoint>& next = shown.movePoint())
+        painter.rubberBand({points.last(), *next}, DrawGeometry::newEdgeCrossings(points, *next));
+    painter.name(shown);
 }

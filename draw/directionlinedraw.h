@@ -2,15 +2,16 @@
 
 #include "draw/basedraw.h"
 
-/// A trip line with an arrow across each segment for the crossing direction.
+/**
+ * A trip line, open at its ends, with an arrow across each segment for the crossing direction. A
+ * point is refused when the line would cross itself.
+ */
 class DirectionLineDraw final : public BaseDraw
 {
 public:
-    DirectionLineDraw();
-
-    bool addPoint(int x, int y) override;
+    using BaseDraw::BaseDraw;
 
 protected:
-    void paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-               const std::optional<QPoint>& canvasMovePoint) const override;
+    QVector<QPoint> clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const override;
+    void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;
 };

@@ -1,8 +1,7 @@
 #include "draw/drawitem.h"
 
 #include "draw/basedraw.h"
-#include "draw/drawfactory.h"
-#include "draw/drawitemlistener.h"
+#include "draw/figurekinds.h"
 
 #include <algorithm>
 #include <atomic>
@@ -11,24 +10,16 @@
 namespace
 {
 
-constexpr int kAnyNumber = std::numeric_limits<int>::max();
-constexpr int kPolygonMinimum = 3;
-
 int createItemId()
 {
     static std::atomic<unsigned> used{0};
     return int(used++ % unsigned(std::numeric_limits<int>::max())) + 1;
 }
 
-int ownMinimum(BaseDrawType type)
+void showAs(const BaseDraw& shown, BaseDraw& figure)
 {
-    return type == BaseDrawType::Polygon ? kPolygonMinimum : createDraw(type)->minimumPointCount();
-}
-
-int ownMaximum(BaseDrawType type)
-{
-    const bool open = type == BaseDrawType::Polygon || type == BaseDrawType::DirectionLine;
-    return open ? kAnyNumber : createDraw(type)->maximumPointCount();
+    figure.setCanvasSize(shown.canvasSize().width(), shown.canvasSize().height());
+    figure.setSelected(shown.isSelected());
 }
 
 } // namespace
@@ -41,38 +32,38 @@ DrawItem::~DrawItem()
         m_listener->itemGone(*this);
 }
 
-std::unique_ptr<DrawItem> DrawItem::clone() const
+std::unique_ptr<DrawItem> DrawItem::clone(QHash<const DrawItem*, DrawItem*>& copies) const
 {
     auto copy = std::make_unique<DrawItem>(drawType());
-    if (m_figure)
-        copy->m_figure->copyStateFrom(*m_figure);
+    if (m_figure) {
+        copy->m_figure->setFigure(m_figure->figure());
+        copy->m_figure->setDrawOver(m_figure->isDrawOver());
+        showAs(*m_figure, *copy->m_figure);
+    }
     copy->m_templateKey = m_templateKey;
     copy->m_forbidenAreaType = m_forbidenAreaType;
     copy->m_dataId = m_dataId;
     copy->m_sourceIndex = m_sourceIndex;
     for (const auto& child : m_children) {
-        copy->m_children.push_back(child->clone());
+        copy->m_children.push_back(child->clone(copies));
         copy->m_children.back()->m_parent = copy.get();
     }
+    copies.insert(this, copy.get());
     return copy;
 }
 
 void DrawItem::setItemId(int id)
 {
-    if (m_itemId == id)
-        return;
     m_itemId = id;
     if (m_listener)
-        m_listener->itemIdsChanged(*this);
+        m_listener->itemIdsChanged();
 }
 
 void DrawItem::setDataId(int id)
 {
-    if (m_dataId == id)
-        return;
     m_dataId = id;
     if (m_listener)
-        m_listener->itemIdsChanged(*this);
+        m_listener->itemIdsChanged();
 }
 
 DrawItem* DrawItem::addChild(std::unique_ptr<DrawItem> child)
@@ -126,20 +117,20 @@ void DrawItem::replaceFigure(BaseDrawType type)
     const std::shared_ptr<BaseDraw> figure = createDraw(type);
     if (!m_figure || !figure)
         return;
-    const QSize canvas = m_figure->canvasSize();
-    figure->setCanvasSize(canvas.width(), canvas.height());
     figure->setLabel(m_figure->label());
     figure->setDirection(m_figure->direction());
-    figure->setSelected(m_figure->isSelected());
+    showAs(*m_figure, *figure);
     m_replacedFigures.push_front(m_figure);
     m_figure = figure;
 }
 
 void DrawItem::setPointLimits(int minimum, int maximum)
 {
-    if (m_figure)
-        m_figure->setPointLimits(minimum < 0 ? ownMinimum(drawType()) : minimum,
-                                 maximum < 0 ? ownMaximum(drawType()) : maximum);
+    if (!m_figure)
+        return;
+    const PointLimits& open = FigureKind::find(drawType())->openLimits;
+    m_figure->setPointLimits(minimum < 0 ? open.minimum : minimum,
+                             maximum < 0 ? open.maximum : maximum);
 }
 
 void DrawItem::setCanvasSize(int width, int height)
@@ -150,14 +141,9 @@ void DrawItem::setCanvasSize(int width, int height)
         child->setCanvasSize(width, height);
 }
 
-BaseDrawType DrawItem::drawType() const
+Figure DrawItem::value() const
 {
-    return m_figure ? m_figure->type() : BaseDrawType::None;
-}
-
-bool DrawItem::isFinished() const
-{
-    return m_figure && m_figure->isFinished();
+    return m_figure ? m_figure->figure() : Figure();
 }
 
 bool DrawItem::isSelected() const
@@ -168,11 +154,6 @@ bool DrawItem::isSelected() const
 bool DrawItem::isDrawOver() const
 {
     return m_figure && m_figure->isDrawOver();
-}
-
-QString DrawItem::label() const
-{
-    return m_figure ? m_figure->label() : QString();
 }
 
 void DrawItem::setLabel(const QString& label)

@@ -1,23 +1,37 @@
 #pragma once
 
-#include "draw/basedrawdirectiontype.h"
-#include "draw/basedrawtype.h"
-#include "draw/drawitemforbidenareatype.h"
+#include "draw/figure.h"
 
-#include <QPoint>
-#include <QSize>
-#include <QString>
-#include <QVector>
+#include <QHash>
 #include <forward_list>
 #include <memory>
 #include <vector>
 
 class BaseDraw;
-class DrawItemListener;
+class DrawItem;
 namespace Gdiplus
 {
 class Graphics;
 }
+
+/// Hears of changes in trees of items, so that lists of them never hold one that is gone.
+class DrawItemListener
+{
+public:
+    DrawItemListener(const DrawItemListener&) = delete;
+    DrawItemListener& operator=(const DrawItemListener&) = delete;
+
+    /// @p item became a child of an item listened to.
+    virtual void itemAdded(DrawItem& item) = 0;
+    /// @p item is being deleted; its figure and children still exist.
+    virtual void itemGone(DrawItem& item) = 0;
+    /// An item listened to has got another item id or data id.
+    virtual void itemIdsChanged() = 0;
+
+protected:
+    DrawItemListener() = default;
+    ~DrawItemListener() = default;
+};
 
 /**
  * One figure's place on the canvas: its item id, the data entry that it belongs to, the rule
@@ -32,8 +46,9 @@ public:
     DrawItem(const DrawItem&) = delete;
     DrawItem& operator=(const DrawItem&) = delete;
 
-    /// A copy of figure, tags and children with item ids of its own and no parent.
-    std::unique_ptr<DrawItem> clone() const;
+    /// A copy of figure, tags and children with item ids of its own, no parent and no rubber
+    /// bands. @p copies gets the copy of each item in it.
+    std::unique_ptr<DrawItem> clone(QHash<const DrawItem*, DrawItem*>& copies) const;
 
     int itemId() const { return m_itemId; }
     void setItemId(int id);
@@ -76,11 +91,12 @@ public:
     void setCanvasSize(int width, int height);
 
     // State of the figure; None, false or empty without one.
-    BaseDrawType drawType() const;
-    bool isFinished() const;
+    Figure value() const;
+    BaseDrawType drawType() const { return value().kind(); }
+    bool isFinished() const { return value().isFinished(); }
     bool isSelected() const;
     bool isDrawOver() const;
-    QString label() const;
+    QString label() const { return value().label(); }
     void setLabel(const QString& label);
     void setDirection(BaseDrawDirectionType direction);
     /// The figure's points in normalized space.

@@ -1,15 +1,13 @@
 #include "draw/drawscene.h"
 
 #include "draw/basedraw.h"
+#include "draw/canvasfigure.h"
 #include "draw/drawgeometry.h"
-#include "draw/drawitem.h"
 #include "draw/forbidenarea.h"
 #include "draw/labelfont.h"
 #include "draw/shortenedtext.h"
-#include "draw/widetext.h"
 #include "host/api/limits.h"
 
-#include <QHash>
 #include <algorithm>
 #include <cmath>
 
@@ -30,23 +28,13 @@ void paintFigures(Gdiplus::Graphics& graphics, const std::vector<BaseDraw*>& fig
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
 }
 
-/// Maps the items of @p source's tree to those of @p copy's, a clone of it.
-void pairTrees(DrawItem* source, DrawItem* copy, QHash<const DrawItem*, DrawItem*>& pairs)
-{
-    pairs.insert(source, copy);
-    for (std::size_t i = 0; i < source->children().size(); ++i)
-        pairTrees(source->children()[i].get(), copy->children()[i].get(), pairs);
-}
-
 } // namespace
 
 DrawScene::DrawScene(QObject* parent) : QObject(parent) {}
 
 DrawScene::~DrawScene()
 {
-    // The items report their end to this scene, so they go while all of it still exists.
-    m_items.clear();
-    m_roots.clear();
+    removeAll(); // the items report their end to this scene
 }
 
 void DrawScene::copyItemsFrom(const DrawScene& other)
@@ -55,14 +43,20 @@ void DrawScene::copyItemsFrom(const DrawScene& other)
         return;
     calcDrawForbidenArea(nullptr);
     m_message.clear();
-    m_items.clear();
-    m_roots.clear();
+    removeAll();
     m_canvasSize = other.m_canvasSize;
     QHash<const DrawItem*, DrawItem*> copies;
     for (const auto& original : other.m_roots)
-        pairTrees(original.get(), own(original->clone()), copies);
-    for (const DrawItem* item : other.m_items.all())
+        own(original->clone(copies));
+    for (const DrawItem* item : other.m_items)
         list(*copies.value(item));
+}
+
+void DrawScene::removeAll()
+{
+    m_items.clear();
+    m_byDataId.clear();
+    m_roots.clear();
 }
 
 void DrawScene::setCanvasSize(int width, int height)
@@ -70,8 +64,11 @@ void DrawScene::setCanvasSize(int width, int height)
     m_canvasSize = QSize(std::max(width, 0), std::max(height, 0));
     for (const auto& root : m_roots)
         root->setCanvasSize(width, height);
-    if (m_forbidenArea)
-        resizeForbidenArea();
+    if (!m_forbidenArea)
+        return;
+    const DrawItem& item = *m_forbidenFor;
+    const bool isOwn = item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf;
+    setForbidenArea(isOwn ? ownForbidenArea(item) : forbidenArea(item, &item), &item);
 }
 
 DrawItem* DrawScene::addItem(std::unique_ptr<DrawItem> item, int parentId)
@@ -88,12 +85,14 @@ DrawItem* DrawScene::addItem(std::unique_ptr<DrawItem> item, int parentId)
 
 DrawItem* DrawScene::findItem(int id) const
 {
-    return id < 1 ? nullptr : m_items.byItemId(id);
+    const auto found = std::find_if(m_items.begin(), m_items.end(),
+                                    [id](const DrawItem* item) { return item->itemId() == id; });
+    return id < 1 || found == m_items.end() ? nullptr : *found;
 }
 
 void DrawScene::removeItem(int id)
 {
-    DrawItem* item = m_items.byItemId(id);
+    const DrawItem* item = findItem(id);
     if (!item)
         return;
     if (DrawItem* parent = item->parent())
@@ -106,8 +105,8 @@ void DrawScene::removeItem(int id)
 QList<DrawItem*> DrawScene::getItemList(BaseDrawType type, int dataId) const
 {
     if (type == BaseDrawType::None && dataId < 1)
-        return m_items.all();
-    QList<DrawItem*> items = dataId < 1 ? m_items.all() : getItemListByDataId(dataId);
+        return m_items;
+    QList<DrawItem*> items = dataId < 1 ? m_items : getItemListByDataId(dataId);
     const auto isOther = [type](const DrawItem* item) { return item->drawType() != type; };
     items.erase(std::remove_if(items.begin(), items.end(), isOther), items.end());
     return items;
@@ -120,36 +119,35 @@ int DrawScene::itemCount(BaseDrawType type, int dataId) const
 
 QList<DrawItem*> DrawScene::getItemListByDataId(int dataId) const
 {
+    if (m_byDataId.empty()) {
+        for (DrawItem* item : m_items)
+            m_byDataId.emplace(item->dataId(), item);
+    }
     QList<DrawItem*> items;
-    for (const auto& [id, item] : itemsOf(dataId))
-        items.append(item);
+    const auto [first, last] = m_byDataId.equal_range(dataId);
+    for (auto entry = first; entry != last; ++entry)
+        items.append(entry->second);
     return items;
 }
 
 DrawItem* DrawScene::getFirstDrawItem() const
 {
-    return m_items.all().value(0);
+    return m_items.value(0);
 }
 
 void DrawScene::setSelected(int itemId, int dataId)
 {
     calcDrawForbidenArea(nullptr);
-    DrawItem* selected = nullptr;
-    const QList<DrawItem*> items = changedBySelecting(itemId);
-    for (DrawItem* item : items) {
+    for (DrawItem* item : qAsConst(m_items)) {
         bool finished = false;
         if (isSkipped(*item, dataId) || !item->figure() || !item->selectById(itemId, &finished))
             continue;
-        selected = item;
-        if (finished) {
-            m_message.clear();
-        } else {
+        m_message.clear();
+        if (!finished) {
             m_message = getBeginDrawMsg(item);
             calcDrawForbidenArea(item);
         }
     }
-    if (!m_drawByDataId && !m_items.hasSharedIds())
-        noteSelected(selected, true);
     emit sgnSelectedStatusChange();
 }
 
@@ -157,32 +155,11 @@ DrawItem* DrawScene::selectedItem(int dataId) const
 {
     if (m_drawByDataId && dataId >= 1)
         return findSelected(dataId);
-    if (m_foundAtRevision != BaseDraw::selectionRevision())
-        noteSelected(findSelected(dataId), false);
+    if (m_foundAtRevision != BaseDraw::selectionRevision()) {
+        m_foundSelected = findSelected(dataId);
+        m_foundAtRevision = BaseDraw::selectionRevision();
+    }
     return m_foundSelected;
-}
-
-void DrawScene::noteSelected(DrawItem* item, bool isOnly) const
-{
-    m_foundSelected = item;
-    m_foundAtRevision = BaseDraw::selectionRevision();
-    m_isFoundOnly = isOnly;
-}
-
-/// The items that selecting that one may change: where it is known that a single one is selected,
-/// that and the new one.
-QList<DrawItem*> DrawScene::changedBySelecting(int itemId) const
-{
-    const bool isKnown = m_foundAtRevision == BaseDraw::selectionRevision() && m_isFoundOnly;
-    if (!isKnown || m_items.hasSharedIds())
-        return m_items.all();
-    QList<DrawItem*> items;
-    if (m_foundSelected)
-        items.append(m_foundSelected);
-    DrawItem* item = m_items.byItemId(itemId);
-    if (item && item != m_foundSelected)
-        items.append(item);
-    return items;
 }
 
 void DrawScene::addDrawPoint(DrawMouseType type, const QPoint& point)
@@ -197,7 +174,8 @@ void DrawScene::addDrawPoint(DrawMouseType type, const QPoint& point)
         pressLeft(*item, point);
         break;
     case DrawMouseRightPress:
-        pressRight(*item);
+        if (!item->isFinished() && item->figure()->tryFinish())
+            finishDrawing(*item);
         break;
     case DrawMouseMove:
         item->figure()->setMovePoint(point.x(), point.y());
@@ -219,15 +197,14 @@ void DrawScene::redrawItem(int id)
 
 bool DrawScene::HasDrawUnfinished() const
 {
-    const QList<DrawItem*>& items = m_items.all();
-    return std::any_of(items.begin(), items.end(), [](const DrawItem* item) {
+    return std::any_of(m_items.begin(), m_items.end(), [](const DrawItem* item) {
         return item->isSelected() && !item->isDrawOver();
     });
 }
 
 void DrawScene::SetDrawOver(bool over)
 {
-    for (DrawItem* item : m_items.all()) {
+    for (DrawItem* item : qAsConst(m_items)) {
         if (item->isSelected())
             item->figure()->setDrawOver(over);
     }
@@ -242,7 +219,7 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
     std::vector<BaseDraw*> below;
     std::vector<BaseDraw*> above;
     BaseDraw* live = nullptr;
-    for (const DrawItem* item : m_items.all()) {
+    for (const DrawItem* item : qAsConst(m_items)) {
         if (!item->figure() || isSkipped(*item, m_currentDataId))
             continue;
         if (item == drawn)
@@ -277,21 +254,24 @@ void DrawScene::itemAdded(DrawItem& item)
 
 void DrawScene::itemGone(DrawItem& item)
 {
-    m_items.remove(&item);
+    m_items.removeOne(&item);
+    m_byDataId.clear();
     m_foundAtRevision.reset();
     if (m_forbidenFor == &item)
         calcDrawForbidenArea(nullptr);
 }
 
-void DrawScene::itemIdsChanged(DrawItem&)
+void DrawScene::itemIdsChanged()
 {
-    m_items.invalidate();
+    m_byDataId.clear();
 }
 
 void DrawScene::list(DrawItem& item)
 {
     item.setListener(this);
     m_items.append(&item);
+    if (!m_byDataId.empty())
+        m_byDataId.emplace(item.dataId(), &item);
     m_foundAtRevision.reset();
 }
 
@@ -308,7 +288,7 @@ bool DrawScene::isSkipped(const DrawItem& item, int dataId) const
 
 DrawItem* DrawScene::findSelected(int dataId) const
 {
-    for (DrawItem* item : m_items.all()) {
+    for (DrawItem* item : m_items) {
         if (isSkipped(*item, dataId))
             continue;
         if (DrawItem* selected = item->selectedItem())
@@ -327,16 +307,8 @@ void DrawScene::pressLeft(DrawItem& item, const QPoint& point)
         finishDrawing(item);
     } else if (item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
                !m_forbidenArea) {
-        m_forbidenArea = ForbidenArea::of(figure->getForbidenArea());
-        m_forbidenFor = &item;
-        ++m_forbidenRevision;
+        setForbidenArea(ownForbidenArea(item), &item);
     }
-}
-
-void DrawScene::pressRight(DrawItem& item)
-{
-    if (!item.isFinished() && item.figure()->tryFinish())
-        finishDrawing(item);
 }
 
 void DrawScene::finishDrawing(const DrawItem& item)
@@ -348,52 +320,45 @@ void DrawScene::finishDrawing(const DrawItem& item)
 
 void DrawScene::calcDrawForbidenArea(const DrawItem* item)
 {
-    m_forbidenArea.reset();
+    setForbidenArea(item ? forbidenArea(*item, nullptr) : nullptr, item);
+}
+
+void DrawScene::setForbidenArea(std::unique_ptr<ForbidenArea> area, const DrawItem* item)
+{
+    m_forbidenArea = std::move(area);
     m_forbidenFor = item;
     ++m_forbidenRevision;
-    if (!item)
-        return;
-    if (item->forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOtherItems)
-        keepOutOfItems(nullptr);
-    else if (item->forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOutsideParent)
-        keepInsideParent(*item);
 }
 
-void DrawScene::resizeForbidenArea()
+std::unique_ptr<ForbidenArea> DrawScene::ownForbidenArea(const DrawItem& item) const
 {
-    ++m_forbidenRevision;
-    switch (m_forbidenFor->forbidenAreaType()) {
-    case DrawItemForbidenAreaType::ForbidenNone:
-        break;
-    case DrawItemForbidenAreaType::ForbidenOtherItems:
-        keepOutOfItems(m_forbidenFor);
-        break;
-    case DrawItemForbidenAreaType::ForbidenOutsideParent:
-        keepInsideParent(*m_forbidenFor);
-        break;
-    case DrawItemForbidenAreaType::ForbidenSelf:
-        m_forbidenArea = ForbidenArea::of(m_forbidenFor->figure()->getForbidenArea());
-        break;
+    auto path = item.figure()->getForbidenArea();
+    return path ? std::make_unique<ForbidenArea>(std::move(path), m_canvasSize) : nullptr;
+}
+
+/// What other figures than @p except forbid to the one of @p item, which has no points yet or is
+/// that one; null for nothing.
+std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item,
+                                                      const DrawItem* except) const
+{
+    const bool isOutside =
+        item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOutsideParent;
+    if (!isOutside && item.forbidenAreaType() != DrawItemForbidenAreaType::ForbidenOtherItems)
+        return nullptr;
+    auto area = std::make_unique<ForbidenArea>(
+        std::make_unique<Gdiplus::GraphicsPath>(isOutside ? Gdiplus::FillModeAlternate
+                                                          : Gdiplus::FillModeWinding),
+        m_canvasSize);
+    const DrawItem* parent = isOutside ? item.parent() : nullptr;
+    if (parent && parent->figure() && parent->drawType() != BaseDrawType::VehicleLane) {
+        area->addCanvas();
+        area->addOutline(parent->figure()->canvasFigure().outline());
     }
-}
-
-void DrawScene::keepOutOfItems(const DrawItem* except)
-{
-    m_forbidenArea = ForbidenArea::inside(m_canvasSize);
-    for (const DrawItem* item : m_items.all()) {
-        if (item->figure() && item != except)
-            m_forbidenArea->addOutline(DrawGeometry::clockwise(item->figure()->canvasPoints()));
+    for (const DrawItem* other : m_items) {
+        if (!isOutside && other->figure() && other != except)
+            area->addOutline(DrawGeometry::clockwise(other->figure()->canvasFigure().outline()));
     }
-}
-
-void DrawScene::keepInsideParent(const DrawItem& item)
-{
-    m_forbidenArea = ForbidenArea::between(m_canvasSize);
-    const DrawItem* parent = item.parent();
-    if (!parent || !parent->figure() || parent->drawType() == BaseDrawType::VehicleLane)
-        return;
-    m_forbidenArea->addCanvas();
-    m_forbidenArea->addOutline(parent->figure()->canvasPoints());
+    return area;
 }
 
 DrawItem* DrawScene::itemBeingDrawn() const
@@ -427,14 +392,14 @@ void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
     const Gdiplus::Font& font = LabelFont::font();
     Gdiplus::RectF text;
     const QString shown = ShortenedText::of(m_message, Limits::kHint);
-    graphics.MeasureString(wideText(shown), -1, &font, Gdiplus::PointF(0, 0), &text);
+    graphics.MeasureString(LabelFont::wide(shown), -1, &font, Gdiplus::PointF(0, 0), &text);
     text.X = std::trunc((float(m_canvasSize.width()) - text.Width) / 2);
     text.Y = std::trunc((float(m_canvasSize.height()) - text.Height) / 2);
     const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
     graphics.FillRectangle(&shade, text.X, text.Y, text.Width, text.Height);
     const Gdiplus::StringFormat format;
     const Gdiplus::SolidBrush ink{Gdiplus::Color(kMessageColor)};
-    graphics.DrawString(wideText(shown), -1, &font, text, &format, &ink);
+    graphics.DrawString(LabelFont::wide(shown), -1, &font, text, &format, &ink);
 }
 
 void DrawScene::refreshMessage()

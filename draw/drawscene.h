@@ -1,8 +1,6 @@
 #pragma once
 
-#include "draw/basedrawtype.h"
-#include "draw/drawitemindex.h"
-#include "draw/drawitemlistener.h"
+#include "draw/drawitem.h"
 #include "draw/figurelayer.h"
 
 #include <QList>
@@ -10,17 +8,12 @@
 #include <QPoint>
 #include <QSize>
 #include <QString>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
 
-class BaseDraw;
-class DrawItem;
 class ForbidenArea;
-namespace Gdiplus
-{
-class Graphics;
-} // namespace Gdiplus
 
 /**
  * The canvas of one scene: holds every figure of it, turns mouse events into points of the
@@ -59,10 +52,8 @@ public:
     /// for data ids from 1, of that entry; so None with a data id lists figureless items only.
     QList<DrawItem*> getItemList(BaseDrawType type, int dataId) const;
     int itemCount(BaseDrawType type, int dataId) const;
+    /// The items of one entry, of all kinds, in the order added.
     QList<DrawItem*> getItemListByDataId(int dataId) const;
-    /// As getItemListByDataId(), without a list of its own; good until items are added or removed
-    /// or their ids change.
-    DrawItemRange itemsOf(int dataId) const { return m_items.byDataId(dataId); }
     DrawItem* getFirstDrawItem() const;
 
     /// On: only figures of the current data id are painted and selectable.
@@ -102,21 +93,19 @@ signals:
 private:
     void itemAdded(DrawItem& item) override;
     void itemGone(DrawItem& item) override;
-    void itemIdsChanged(DrawItem& item) override;
+    void itemIdsChanged() override;
 
+    void removeAll();
     DrawItem* own(std::unique_ptr<DrawItem> item);
     void list(DrawItem& item);
-    void noteSelected(DrawItem* item, bool isOnly) const;
-    QList<DrawItem*> changedBySelecting(int itemId) const;
     bool isSkipped(const DrawItem& item, int dataId) const;
     DrawItem* findSelected(int dataId) const;
     void pressLeft(DrawItem& item, const QPoint& point);
-    void pressRight(DrawItem& item);
     void finishDrawing(const DrawItem& item);
     void calcDrawForbidenArea(const DrawItem* item);
-    void resizeForbidenArea();
-    void keepOutOfItems(const DrawItem* except);
-    void keepInsideParent(const DrawItem& item);
+    void setForbidenArea(std::unique_ptr<ForbidenArea> area, const DrawItem* item);
+    std::unique_ptr<ForbidenArea> ownForbidenArea(const DrawItem& item) const;
+    std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item, const DrawItem* except) const;
     DrawItem* itemBeingDrawn() const;
     void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
                    const std::vector<BaseDraw*>& figures, bool withForbidenArea) const;
@@ -124,7 +113,9 @@ private:
     QString getBeginDrawMsg(const DrawItem* item) const;
     QString getEndDrawMsg(const DrawItem* item) const;
 
-    DrawItemIndex m_items;                          ///< all items, children too, as added
+    QList<DrawItem*> m_items; ///< all items, children too, as added; not owned
+    /// The same by data id, of equal ids in the order added; empty until they are asked for.
+    mutable std::multimap<int, DrawItem*> m_byDataId;
     std::vector<std::unique_ptr<DrawItem>> m_roots; ///< the items without a parent
     QSize m_canvasSize{0, 0};
     QString m_message;
@@ -139,5 +130,4 @@ private:
     // The first selected item, good until the revision changes.
     mutable DrawItem* m_foundSelected = nullptr; ///< not owned
     mutable std::optional<quint64> m_foundAtRevision;
-    mutable bool m_isFoundOnly = false; ///< no other is selected
 };

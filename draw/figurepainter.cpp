@@ -1,9 +1,9 @@
 #include "draw/figurepainter.h"
 
+#include "draw/canvasfigure.h"
 #include "draw/drawgeometry.h"
 #include "draw/labelfont.h"
 #include "draw/shortenedtext.h"
-#include "draw/widetext.h"
 #include "host/api/limits.h"
 
 #include <algorithm>
@@ -71,6 +71,13 @@ void FigurePainter::polyline(const QVector<QPoint>& points) const
         line({points[i], points[i + 1]});
 }
 
+void FigurePainter::twoLines(const QVector<QPoint>& points) const
+{
+    line({points[0], points[1]});
+    if (points.size() >= 4)
+        line({points[2], points[3]});
+}
+
 void FigurePainter::rectangle(const QPoint& corner, const QPoint& opposite) const
 {
     const auto [left, right] = std::minmax({corner.x(), opposite.x()});
@@ -84,22 +91,19 @@ void FigurePainter::drawArrow(const QLine& segment, bool bothEnds) const
     const StateScope scope(m_graphics);
     moveTo(m_graphics, DrawGeometry::middle(segment.p1(), segment.p2()), segment);
     stroke(0, -kHalfShaft, 0, kHalfShaft);
-    wings(-kHalfShaft, -kWing);
-    if (bothEnds)
-        wings(kHalfShaft, kWing);
+    for (const float degrees : {kLeftWingDegrees, kRightWingDegrees}) {
+        wing(-kHalfShaft, degrees, -kWing);
+        if (bothEnds)
+            wing(kHalfShaft, degrees, kWing);
+    }
 }
 
 void FigurePainter::arrowhead(const QLine& segment) const
 {
     const StateScope scope(m_graphics);
     moveTo(m_graphics, segment.p2(), segment);
-    {
-        const StateScope wing(m_graphics);
-        m_graphics.RotateTransform(kLeftWingDegrees);
-        stroke(0, 0, 0, -kWing);
-    }
-    m_graphics.RotateTransform(kRightWingDegrees);
-    stroke(0, 0, 0, kWing);
+    wing(0, kLeftWingDegrees, -kWing);
+    wing(0, kRightWingDegrees, kWing);
 }
 
 void FigurePainter::tick(const QPoint& at, const QLine& segment) const
@@ -117,7 +121,14 @@ void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
     moveTo(m_graphics, segment.p1(), segment);
     const Gdiplus::SolidBrush brush(m_color);
     const QString shown = ShortenedText::middle(text, Limits::kLabel);
-    m_graphics.DrawString(wideText(shown), -1, &LabelFont::font(), Gdiplus::PointF(0, 0), &brush);
+    m_graphics.DrawString(LabelFont::wide(shown), -1, &LabelFont::font(), Gdiplus::PointF(0, 0),
+                          &brush);
+}
+
+void FigurePainter::name(const CanvasFigure& shown) const
+{
+    if (shown.figure().isFinished())
+        drawLabel(shown.figure().label(), shown.firstEdge());
 }
 
 void FigurePainter::stroke(float x1, float y1, float x2, float y2) const
@@ -125,12 +136,10 @@ void FigurePainter::stroke(float x1, float y1, float x2, float y2) const
     m_graphics.DrawLine(&m_pen, x1, y1, x2, y2);
 }
 
-void FigurePainter::wings(float tipY, float wingY) const
+void FigurePainter::wing(float tipY, float degrees, float endY) const
 {
-    for (const float degrees : {kLeftWingDegrees, kRightWingDegrees}) {
-        const StateScope scope(m_graphics);
-        m_graphics.TranslateTransform(0, tipY);
-        m_graphics.RotateTransform(degrees);
-        stroke(0, 0, 0, wingY);
-    }
+    const StateScope scope(m_graphics);
+    m_graphics.TranslateTransform(0, tipY);
+    m_graphics.RotateTransform(degrees);
+    stroke(0, 0, 0, endY);
 }

@@ -7,8 +7,12 @@
 #include <QString>
 #include <QVector>
 
-/// The strokes that figures are made of, in one figure's colour. Lives for one painting; all
-/// positions are canvas pixels.
+class CanvasFigure;
+
+/**
+ * The strokes that figures are made of, in one figure's colour. Lives for one painting; all
+ * positions are canvas pixels.
+ */
 class FigurePainter
 {
 public:
@@ -21,6 +25,8 @@ public:
     void rubberBand(const QLine& line, const QVector<QPoint>& crossings) const;
     /// Lines between consecutive points.
     void polyline(const QVector<QPoint>& points) const;
+    /// The line from the first of @p points to the second, and from the third to the fourth.
+    void twoLines(const QVector<QPoint>& points) const;
     /// The outline of the rectangle between two opposite corners.
     void rectangle(const QPoint& corner, const QPoint& opposite) const;
     /// An arrow across the middle of @p segment, pointing to its left as seen along it, and
@@ -32,10 +38,12 @@ public:
     void tick(const QPoint& at, const QLine& segment) const;
     /// @p text along @p segment from its first point on.
     void drawLabel(const QString& text, const QLine& segment) const;
+    /// The label of @p shown along its first edge, once the figure is finished.
+    void name(const CanvasFigure& shown) const;
 
 private:
     void stroke(float x1, float y1, float x2, float y2) const;
-    void wings(float tipY, float wingY) const;
+    void wing(float tipY, float degrees, float endY) const;
 
     Gdiplus::Graphics& m_graphics; ///< not owned
     Gdiplus::Color m_color;

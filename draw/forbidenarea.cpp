@@ -1,12 +1,13 @@
 #include "draw/forbidenarea.h"
 
-#include "draw/closedoutline.h"
 #include "host/api/limits.h"
 #include "host/gdiplus.h"
 
+#include <QPolygon>
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -22,40 +23,39 @@ ForbidenArea::ForbidenArea(std::unique_ptr<Gdiplus::GraphicsPath> path, const QS
 
 ForbidenArea::~ForbidenArea() = default;
 
-std::unique_ptr<ForbidenArea> ForbidenArea::inside(const QSize& canvasSize)
-{
-    auto path = std::make_unique<Gdiplus::GraphicsPath>(Gdiplus::FillModeWinding);
-    return std::unique_ptr<ForbidenArea>(new ForbidenArea(std::move(path), canvasSize));
-}
-
-std::unique_ptr<ForbidenArea> ForbidenArea::between(const QSize& canvasSize)
-{
-    auto path = std::make_unique<Gdiplus::GraphicsPath>(Gdiplus::FillModeAlternate);
-    return std::unique_ptr<ForbidenArea>(new ForbidenArea(std::move(path), canvasSize));
-}
-
-std::unique_ptr<ForbidenArea> ForbidenArea::of(std::unique_ptr<Gdiplus::GraphicsPath> path)
-{
-    if (!path)
-        return nullptr;
-    return std::unique_ptr<ForbidenArea>(new ForbidenArea(std::move(path), {}));
-}
-
 void ForbidenArea::addCanvas()
 {
-    addCanvasOutline(*m_path, m_canvasSize);
+    addCanvas(*m_path, m_canvasSize);
 }
 
-void ForbidenArea::addOutline(const QVector<QPoint>& points)
+void ForbidenArea::addOutline(const QVector<QPoint>& outline)
 {
-    addClosedOutline(*m_path, points);
+    addOutline(*m_path, QPolygon(outline));
     const qint64 longest = qint64{m_canvasSize.width()} + m_canvasSize.height();
-    for (int i = 0; i < points.size(); ++i) {
-        const QPoint& from = points[i];
-        const QPoint& to = points[(i + 1) % points.size()];
+    for (int i = 0; i + 1 < outline.size(); ++i) {
+        const QPoint& from = outline[i];
+        const QPoint& to = outline[i + 1];
         m_edgeLength += std::min(longest, std::abs(qint64{to.x()} - from.x()) +
                                               std::abs(qint64{to.y()} - from.y()));
     }
+}
+
+void ForbidenArea::addCanvas(Gdiplus::GraphicsPath& path, const QSize& canvasSize)
+{
+    path.AddRectangle(Gdiplus::RectF(0, 0, float(canvasSize.width()), float(canvasSize.height())));
+}
+
+void ForbidenArea::addOutline(Gdiplus::GraphicsPath& path, const QPolygonF& corners)
+{
+    if (corners.size() < 2)
+        return;
+    std::vector<Gdiplus::PointF> outline;
+    outline.reserve(std::size_t(corners.size()) + 1);
+    for (const QPointF& corner : corners)
+        outline.emplace_back(float(corner.x()), float(corner.y()));
+    if (!corners.isClosed())
+        outline.push_back(outline.front());
+    path.AddPolygon(outline.data(), int(outline.size()));
 }
 
 bool ForbidenArea::contains(const QPoint& point) const

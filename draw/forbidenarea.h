@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QPolygonF>
 #include <QSize>
 #include <QVector>
 #include <memory>
@@ -11,24 +12,27 @@ class Graphics;
 class GraphicsPath;
 } // namespace Gdiplus
 
-/// Where on the canvas no point may be set. All coordinates are canvas pixels.
+/**
+ * Where on the canvas no point may be set: the inside of outlines that are added one by one. All
+ * coordinates are canvas pixels.
+ */
 class ForbidenArea
 {
 public:
-    /// What lies inside of at least one outline, on a canvas of @p canvasSize pixels.
-    static std::unique_ptr<ForbidenArea> inside(const QSize& canvasSize);
-    /// What lies inside of an odd number of outlines.
-    static std::unique_ptr<ForbidenArea> between(const QSize& canvasSize);
-    /// What a figure forbids for itself; null for null.
-    static std::unique_ptr<ForbidenArea> of(std::unique_ptr<Gdiplus::GraphicsPath> path);
-
+    /// What lies inside of @p path, by its fill mode, on a canvas of @p canvasSize pixels.
+    ForbidenArea(std::unique_ptr<Gdiplus::GraphicsPath> path, const QSize& canvasSize);
     ~ForbidenArea();
     ForbidenArea(const ForbidenArea&) = delete;
     ForbidenArea& operator=(const ForbidenArea&) = delete;
 
     void addCanvas();
-    /// Nothing for fewer than two points.
-    void addOutline(const QVector<QPoint>& points);
+    /// @p outline is closed.
+    void addOutline(const QVector<QPoint>& outline);
+
+    /// Adds the outline of the whole canvas to @p path; nothing when it has no area.
+    static void addCanvas(Gdiplus::GraphicsPath& path, const QSize& canvasSize);
+    /// Adds the polygon @p corners to @p path, closed where it is open; nothing for fewer than two.
+    static void addOutline(Gdiplus::GraphicsPath& path, const QPolygonF& corners);
 
     bool contains(const QPoint& point) const;
     /// Shades the area: with rough edges when these are long together, and not at all when they are
@@ -36,8 +40,6 @@ public:
     void paint(Gdiplus::Graphics& graphics) const;
 
 private:
-    ForbidenArea(std::unique_ptr<Gdiplus::GraphicsPath> path, const QSize& canvasSize);
-
     std::unique_ptr<Gdiplus::GraphicsPath> m_path;
     QSize m_canvasSize;
     qint64 m_edgeLength = 0; ///< of all outlines, in pixels

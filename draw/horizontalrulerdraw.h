@@ -2,13 +2,15 @@
 
 #include "draw/basedraw.h"
 
-/// A labelled line that measures a width.
+/**
+ * A labelled line without ticks that measures a width. It may be drawn at any angle: only its
+ * ends count.
+ */
 class HorizontalRulerDraw final : public BaseDraw
 {
 public:
-    HorizontalRulerDraw();
+    using BaseDraw::BaseDraw;
 
 protected:
-    void paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-               const std::optional<QPoint>& canvasMovePoint) const override;
+    void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;
 };

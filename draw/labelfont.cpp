@@ -1,8 +1,5 @@
 #include "draw/labelfont.h"
 
-#include "draw/widetext.h"
-#include "host/gdiplus.h"
-
 #include <QFont>
 #include <QGuiApplication>
 #include <memory>
@@ -25,10 +22,16 @@ const Gdiplus::Font& LabelFont::font()
     std::unique_ptr<Gdiplus::Font>& font = sharedFont();
     if (!font) {
         const QString family = QGuiApplication::font().family();
-        font = std::make_unique<Gdiplus::Font>(wideText(family), kPointSize,
-                                               Gdiplus::FontStyleRegular, Gdiplus::UnitPoint);
+        font = std::make_unique<Gdiplus::Font>(wide(family), kPointSize, Gdiplus::FontStyleRegular,
+                                               Gdiplus::UnitPoint);
     }
     return *font;
+}
+
+const WCHAR* LabelFont::wide(const QString& text)
+{
+    static_assert(sizeof(WCHAR) == sizeof(ushort), "GDI+ texts are UTF-16");
+    return reinterpret_cast<const WCHAR*>(text.utf16());
 }
 
 void LabelFont::release()

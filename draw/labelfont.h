@@ -1,9 +1,8 @@
 #pragma once
 
-namespace Gdiplus
-{
-class Font;
-}
+#include "host/gdiplus.h"
+
+#include <QString>
 
 /**
  * The font of figure labels and hints: 12 points, in the family of the application's font.
@@ -14,6 +13,8 @@ class LabelFont
 public:
     /// Made on demand; holds until release().
     static const Gdiplus::Font& font();
+    /// @p text as GDI+ takes it, null-terminated; valid as long as @p text is.
+    static const WCHAR* wide(const QString& text);
     /// To be called before GDI+ is shut down, which must not outlive its fonts.
     static void release();
 };

@@ -2,18 +2,19 @@
 
 #include "draw/basedraw.h"
 
-/// A parallelogram over the edge of its first two points; the third click completes it.
+/**
+ * A parallelogram over the edge of its first two points; the third click completes it. An arrow
+ * through its middle says in which direction it is crossed.
+ */
 class ParallelogramDraw final : public BaseDraw
 {
 public:
-    ParallelogramDraw();
-
-    bool addPoint(int x, int y) override;
+    using BaseDraw::BaseDraw;
 
 protected:
-    void paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-               const std::optional<QPoint>& canvasMovePoint) const override;
+    QVector<QPoint> clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const override;
+    void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;
 
 private:
-    void paintDirection(const FigurePainter& painter, const QVector<QPoint>& canvasPoints) const;
+    static void paintDirection(const FigurePainter& painter, const CanvasFigure& shown);
 };

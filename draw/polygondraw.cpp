@@ -1,60 +1,53 @@
 #include "draw/polygondraw.h"
 
-#include "draw/closedoutline.h"
+#include "draw/canvasfigure.h"
 #include "draw/drawgeometry.h"
 #include "draw/figurepainter.h"
+#include "draw/forbidenarea.h"
 
-#include <QMutexLocker>
-
-PolygonDraw::PolygonDraw() : BaseDraw(BaseDrawType::Polygon) {}
-
-bool PolygonDraw::addPoint(int x, int y)
-{
-    const QMutexLocker lock(&mutex());
-    const QPoint next = normalized({x, y});
-    if (!DrawGeometry::newEdgeCrossings(points(), next).isEmpty() ||
-        !DrawGeometry::closingEdgeCrossings(points(), next).isEmpty())
-        return true;
-    return appendCanvasPoint({x, y});
-}
+using DrawGeometry::closingEdgeCrossings;
+using DrawGeometry::newEdgeCrossings;
 
 std::unique_ptr<Gdiplus::GraphicsPath> PolygonDraw::getForbidenArea() const
 {
-    const QMutexLocker lock(&mutex());
-    if (!isFinishedLocked())
+    const CanvasFigure shown = canvasFigure();
+    if (!shown.figure().isFinished())
         return nullptr;
     auto area = std::make_unique<Gdiplus::GraphicsPath>(Gdiplus::FillModeAlternate);
-    addCanvasOutline(*area, canvasSizeLocked());
-    addClosedOutline(*area, canvasPointsLocked());
+    ForbidenArea::addCanvas(*area, shown.canvasSize());
+    ForbidenArea::addOutline(*area, QPolygon(shown.outline()));
     return area;
 }
 
-void PolygonDraw::paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-                        const std::optional<QPoint>& canvasMovePoint) const
+QVector<QPoint> PolygonDraw::clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const
 {
-    painter.polyline(canvasPoints);
-    if (canvasMovePoint) {
-        painter.rubberBand({canvasPoints.last(), *canvasMovePoint},
-                           DrawGeometry::newEdgeCrossings(canvasPoints, *canvasMovePoint));
-        if (canvasPoints.size() > 1)
-            painter.rubberBand({*canvasMovePoint, canvasPoints.first()},
-                               DrawGeometry::closingEdgeCrossings(canvasPoints, *canvasMovePoint));
-    }
-    if (!isFinishedLocked())
-        return;
-    painter.line({canvasPoints.last(), canvasPoints.first()});
-    paintLabels(painter, canvasPoints);
+    const QPoint next = drawn.normalized(canvasPoint);
+    const QVector<QPoint>& points = drawn.figure().points();
+    const bool crosses =
+        !newEdgeCrossings(points, next).isEmpty() || !closingEdgeCrossings(points, next).isEmpty();
+    return crosses ? QVector<QPoint>() : QVector<QPoint>{next};
 }
 
-void PolygonDraw::paintLabels(const FigurePainter& painter,
-                              const QVector<QPoint>& canvasPoints) const
+void PolygonDraw::paint(const FigurePainter& painter, const CanvasFigure& shown) const
 {
-    const QLine firstEdge(canvasPoints[0], canvasPoints[1]);
-    if (edgeLabelMode() != EdgeLabelMode::LengthAndWidth) {
-        painter.drawLabel(label(), firstEdge);
-        return;
+    const QVector<QPoint>& points = shown.points();
+    if (shown.figure().isFinished()) {
+        painter.polyline(shown.outline());
+        return paintLabels(painter, shown);
     }
-    painter.drawLabel(tr("Length"), firstEdge);
-    if (canvasPoints.size() > 2)
-        painter.drawLabel(tr("Width"), {canvasPoints[1], canvasPoints[2]});
+    painter.polyline(points);
+    if (const std::optional<QPoint>& next = shown.movePoint()) {
+        painter.rubberBand({points.last(), *next}, newEdgeCrossings(points, *next));
+        if (points.size() > 1)
+            painter.rubberBand({*next, points.first()}, closingEdgeCrossings(points, *next));
+    }
+}
+
+void PolygonDraw::paintLabels(const FigurePainter& painter, const CanvasFigure& shown)
+{
+    if (shown.figure().edgeLabelMode() != EdgeLabelMode::LengthAndWidth)
+        return painter.name(shown);
+    painter.drawLabel(tr("Length"), shown.firstEdge());
+    if (shown.points().size() > 2)
+        painter.drawLabel(tr("Width"), {shown.points()[1], shown.points()[2]});
 }

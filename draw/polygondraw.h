@@ -4,21 +4,22 @@
 
 #include <QCoreApplication>
 
-/// A region. Refuses points whose edges would cross others; takes none until it has limits.
+/**
+ * A region. A point is refused when its edge or the closing one would cross another edge. Without
+ * limits of a template it takes no point at all.
+ */
 class PolygonDraw final : public BaseDraw
 {
     Q_DECLARE_TR_FUNCTIONS(PolygonDraw)
 
 public:
-    PolygonDraw();
-
-    bool addPoint(int x, int y) override;
+    using BaseDraw::BaseDraw;
     std::unique_ptr<Gdiplus::GraphicsPath> getForbidenArea() const override;
 
 protected:
-    void paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-               const std::optional<QPoint>& canvasMovePoint) const override;
+    QVector<QPoint> clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const override;
+    void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;
 
 private:
-    void paintLabels(const FigurePainter& painter, const QVector<QPoint>& canvasPoints) const;
+    static void paintLabels(const FigurePainter& painter, const CanvasFigure& shown);
 };

@@ -1,12 +1,10 @@
 #include "draw/rectangledraw.h"
 
+#include "draw/canvasfigure.h"
 #include "draw/figurepainter.h"
 
-RectangleDraw::RectangleDraw() : BaseDraw(BaseDrawType::Rectangle, 2, 2) {}
-
-void RectangleDraw::paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-                          const std::optional<QPoint>& canvasMovePoint) const
+void RectangleDraw::paint(const FigurePainter& painter, const CanvasFigure& shown) const
 {
-    const QLine diagonal = firstSegment(canvasPoints, canvasMovePoint);
+    const QLine diagonal = shown.firstEdge();
     painter.rectangle(diagonal.p1(), diagonal.p2());
 }

@@ -2,13 +2,15 @@
 
 #include "draw/basedraw.h"
 
-/// An upright rectangle between two corners.
+/**
+ * An upright rectangle, painted as the outline between its two points, which are opposite
+ * corners in either order.
+ */
 class RectangleDraw final : public BaseDraw
 {
 public:
-    RectangleDraw();
+    using BaseDraw::BaseDraw;
 
 protected:
-    void paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-               const std::optional<QPoint>& canvasMovePoint) const override;
+    void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;
 };

@@ -2,14 +2,15 @@
 
 #include "draw/basedraw.h"
 
-/// A staff of known length: a line with a tick at each end.
+/**
+ * A staff of known length: a line with a tick across each of its two ends, and its label along
+ * it. The length is a value of the entry, not the figure's.
+ */
 class RulerDraw : public BaseDraw
 {
 public:
-    RulerDraw();
+    using BaseDraw::BaseDraw;
 
 protected:
-    explicit RulerDraw(BaseDrawType type);
-    void paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-               const std::optional<QPoint>& canvasMovePoint) const override;
+    void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;
 };

@@ -7,17 +7,7 @@ namespace
 
 bool isLineBreak(QChar character)
 {
-    switch (character.unicode()) {
-    case '\n':
-    case '\r':
-    case '\v':
-    case '\f':
-    case QChar::LineSeparator:
-    case QChar::ParagraphSeparator:
-        return true;
-    default:
-        return false;
-    }
+    return QStringLiteral("\n\r\v\f\u2028\u2029").contains(character);
 }
 
 } // namespace

@@ -1,55 +1,46 @@
 #include "draw/vehiclelanedraw.h"
 
-#include "draw/closedoutline.h"
+#include "draw/canvasfigure.h"
 #include "draw/drawgeometry.h"
 #include "draw/figurepainter.h"
-
-#include <QMutexLocker>
-
-VehicleLaneDraw::VehicleLaneDraw() : BaseDraw(BaseDrawType::VehicleLane, 4, 4) {}
+#include "draw/forbidenarea.h"
 
 std::unique_ptr<Gdiplus::GraphicsPath> VehicleLaneDraw::getForbidenArea() const
 {
-    const QMutexLocker lock(&mutex());
-    if (points().size() != 3)
+    const CanvasFigure drawn = canvasFigure();
+    const QVector<QPoint>& lane = drawn.points();
+    if (lane.size() != 3)
         return nullptr;
-    const QVector<QPoint> lane = canvasPointsLocked();
     auto area = std::make_unique<Gdiplus::GraphicsPath>(Gdiplus::FillModeAlternate);
-    addClosedOutline(
-        *area, DrawGeometry::laneForbiddenPolygon(lane[0], lane[1], lane[2], canvasSizeLocked()));
+    ForbidenArea::addOutline(
+        *area, DrawGeometry::laneForbiddenPolygon(lane[0], lane[1], lane[2], drawn.canvasSize()));
     return area;
 }
 
-void VehicleLaneDraw::getPoints(QVector<QPoint>& reported) const
+void VehicleLaneDraw::getPoints(QVector<QPoint>& points) const
 {
-    const QMutexLocker lock(&mutex());
-    const QVector<QPoint>& lane = points();
+    const QVector<QPoint> lane = figure().points();
     if (lane.size() == 4 && DrawGeometry::side(lane[0], lane[1], lane[2]) < 0)
-        reported += QVector<QPoint>{lane[2], lane[3], lane[0], lane[1]};
+        points += lane.mid(2) + lane.mid(0, 2);
     else
-        reported += lane;
+        points += lane;
 }
 
-void VehicleLaneDraw::paint(const FigurePainter& painter, const QVector<QPoint>& canvasPoints,
-                            const std::optional<QPoint>& canvasMovePoint) const
+void VehicleLaneDraw::paint(const FigurePainter& painter, const CanvasFigure& shown) const
 {
-    const QVector<QPoint> known = withMovePoint(canvasPoints, canvasMovePoint);
-    painter.line({known[0], known[1]});
-    if (known.size() >= 4)
-        painter.line({known[2], known[3]});
-    if (canvasPoints.size() >= 3)
-        paintSideLabels(painter, canvasPoints);
+    painter.twoLines(shown.shownPoints());
+    if (shown.points().size() >= 3)
+        paintSideLabels(painter, shown);
 }
 
-void VehicleLaneDraw::paintSideLabels(const FigurePainter& painter,
-                                      const QVector<QPoint>& canvasPoints) const
+void VehicleLaneDraw::paintSideLabels(const FigurePainter& painter, const CanvasFigure& shown)
 {
-    const int side = DrawGeometry::side(canvasPoints[0], canvasPoints[1], canvasPoints[2]);
-    const QLine first(canvasPoints[0], canvasPoints[1]);
-    if (canvasPoints.size() == 3) {
-        painter.drawLabel(side >= 0 ? tr("Left") : tr("Right"), first);
+    const QVector<QPoint>& points = shown.points();
+    const int side = DrawGeometry::side(points[0], points[1], points[2]);
+    if (points.size() == 3) {
+        painter.drawLabel(side >= 0 ? tr("Left") : tr("Right"), shown.firstEdge());
     } else if (side != 0) {
-        painter.drawLabel(side > 0 ? tr("Left") : tr("Right"), first);
-        painter.drawLabel(side > 0 ? tr("Right") : tr("Left"), {canvasPoints[2], canvasPoints[3]});
+        painter.drawLabel(side > 0 ? tr("Left") : tr("Right"), shown.firstEdge());
+        painter.drawLabel(side > 0 ? tr("Right") : tr("Left"), {points[2], points[3]});
     }
 }

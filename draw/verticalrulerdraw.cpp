@@ -1,26 +1,20 @@
 #include "draw/verticalrulerdraw.h"
 
-#include <QMutexLocker>
+#include "draw/canvasfigure.h"
 
-VerticalRulerDraw::VerticalRulerDraw() : RulerDraw(BaseDrawType::VerticalRuler) {}
-
-bool VerticalRulerDraw::addPoint(int x, int y)
+QVector<QPoint> VerticalRulerDraw::clicked(const CanvasFigure& drawn,
+                                           const QPoint& canvasPoint) const
 {
-    const QMutexLocker lock(&mutex());
-    if (points().size() >= 2)
-        return true;
-    return appendNormalizedPoint(points().isEmpty() ? normalized({x, y}) : inColumn(y));
+    if (drawn.points().isEmpty())
+        return BaseDraw::clicked(drawn, canvasPoint);
+    const std::optional<QPoint> second = moved(drawn.figure(), drawn.normalized(canvasPoint));
+    return second ? QVector<QPoint>{*second} : QVector<QPoint>();
 }
 
-void VerticalRulerDraw::setMovePoint(int, int y)
+std::optional<QPoint> VerticalRulerDraw::moved(const Figure& figure, const QPoint& mouse) const
 {
-    const QMutexLocker lock(&mutex());
-    if (points().size() == 1)
-        storeNormalizedMovePoint(inColumn(y));
-}
-
-QPoint VerticalRulerDraw::inColumn(int canvasY) const
-{
+    if (figure.pointCount() != 1)
+        return std::nullopt;
     // Taken over canvas pixels, the column would come out beside that of the first point.
-    return {points().first().x(), normalized({0, canvasY}).y()};
+    return QPoint(figure.points().first().x(), mouse.y());
 }

@@ -2,17 +2,16 @@
 
 #include "draw/rulerdraw.h"
 
-/// A staff that stands upright: its second point is kept above or below the first.
+/**
+ * A staff that stands upright: its second point and its rubber band are kept above or below the
+ * first, in the device's coordinates, whatever the canvas has pixels for.
+ */
 class VerticalRulerDraw final : public RulerDraw
 {
 public:
-    VerticalRulerDraw();
+    using RulerDraw::RulerDraw;
 
-    bool addPoint(int x, int y) override;
-    using BaseDraw::setMovePoint;
-    void setMovePoint(int x, int y) override;
-
-private:
-    /// @p canvasY in normalized space, in the first point's column.
-    QPoint inColumn(int canvasY) const;
+protected:
+    QVector<QPoint> clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const override;
+    std::optional<QPoint> moved(const Figure& figure, const QPoint& mouse) const override;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "draw/basedrawtype.h"
-#include "draw/drawitemforbidenareatype.h"
+#include "draw/figuretypes.h"
 #include "scene/scenesection.h"
 #include "scene/statisticsdirection.h"
 

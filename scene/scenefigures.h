@@ -1,5 +1,7 @@
 #pragma once
 
+#include "draw/figuretypes.h"
+
 #include <QList>
 
 class DrawItem;

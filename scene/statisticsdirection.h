@@ -1,6 +1,6 @@
 #pragma once
 
-#include "draw/basedrawdirectiontype.h"
+#include "draw/figuretypes.h"
 
 #include <QCoreApplication>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "draw/basedrawtype.h"
+#include "draw/figuretypes.h"
 #include "tabel/widgettabel.h"
 
 class DrawFucButton;

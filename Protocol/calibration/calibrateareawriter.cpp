@@ -96,7 +96,7 @@ const Value& StaffsWriter::staffsAsRead() const
 Value StaffsWriter::drawnStaffs(const Value& prototype) const
 {
     Value staffs(kql::Json::ValueType::Array);
-    for (const auto& [id, figure] : m_figures.of(m_entry.id())) {
+    for (const DrawItem* figure : m_figures.of(m_entry.id())) {
         for (const CalibrateStaffs::Kind& kind : m_kinds) {
             const bool isOfKind = figure->drawType() == kind.staff->drawType();
             const auto points = isOfKind ? figure->getPoints() : QVector<QPoint>();

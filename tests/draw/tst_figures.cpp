@@ -1,6 +1,6 @@
 #include "draw/basedraw.h"
 #include "draw/crosstestdraw.h"
-#include "draw/drawfactory.h"
+#include "draw/figurekinds.h"
 #include "draw/labelfont.h"
 #include "tests/support/rulestest.h"
 
@@ -121,6 +121,34 @@ private slots:
               {{100, 100}, {500, 200}, {600, 800}, {200, 700}});
     }
 
+    void valuesTellWhatTheyRefuse()
+    {
+        Figure figure(Type::Polygon, {3, 4});
+        const Points corners{{0, 0}, {8, 0}, {8, 8}};
+        for (const QPoint& corner : corners)
+            QVERIFY(figure.addPoint(corner));
+        figure.setDirectionPoints({{1, 1}, {2, 2}});
+        const Figure before = figure;
+        figure.setFinished(true);
+        for (const int index : {-1, 3})
+            QVERIFY(!figure.pointAt(index) && !figure.setPoint(index, {}));
+        QVERIFY(!figure.addPoint({5, 5}));   // finished
+        QVERIFY(!figure.removePoint(0));     // needs all it has
+        QVERIFY(!figure.insertPoint(4, {})); // no such place
+        figure.setFinished(false);
+        QVERIFY(figure == before);
+
+        QVERIFY(figure.insertPoint(1, {4, 4}) && figure.setPoint(3, {9, 9}));
+        QCOMPARE(figure.points(), (Points{{0, 0}, {4, 4}, {8, 0}, {9, 9}}));
+        QVERIFY(!figure.insertPoint(0, {})); // full
+        QVERIFY(figure.directionPoints() != before.directionPoints() && figure != before);
+        QVERIFY(figure.removePoint(1) && figure.setPoint(2, {8, 8}));
+        QCOMPARE(figure.outline(), (corners + Points{{0, 0}}));
+        const auto draw = createDraw(Type::Polygon);
+        QVERIFY(draw->setFigure(figure) && draw->figure() == figure);
+        QVERIFY(!draw->setFigure(Figure(Type::Ruler)) && draw->figure() == figure);
+    }
+
     void openLinesMayCloseOverThemselves()
     {
         const auto line = makeFigure(Type::DirectionLine, kExtent);
@@ -164,7 +192,7 @@ private slots:
         figure->setDirection(Direction::RightToLeft);
         QCOMPARE(figure->directionPoints(), read);
         const auto copy = createDraw(Type::Parallelogram);
-        copy->copyStateFrom(*figure);
+        QVERIFY(copy->setFigure(figure->figure()));
         QCOMPARE(copy->directionPoints(), read);
         figure->setDirection(Direction::LeftToRight);
         QCOMPARE(figure->directionPoints(), (Points{{0, 100}, {400, 100}}));

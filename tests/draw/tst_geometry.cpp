@@ -1,5 +1,5 @@
-#include "draw/closedoutline.h"
 #include "draw/drawgeometry.h"
+#include "draw/forbidenarea.h"
 #include "host/gdiplus.h"
 #include "tests/support/rulestest.h"
 
@@ -91,7 +91,7 @@ private slots:
             if (p0 == p1 || allowed == 0)
                 continue;
             Gdiplus::GraphicsPath path;
-            addClosedOutline(path, laneForbiddenPolygon(p0, p1, p2, canvas));
+            ForbidenArea::addOutline(path, laneForbiddenPolygon(p0, p1, p2, canvas));
             for (int k = 0; k < 100; ++k) {
                 const QPoint p3 = randomPoint(random, canvas);
                 if (distanceToLine(p0, p1, p3) < 0.01)

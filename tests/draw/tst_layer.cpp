@@ -153,6 +153,14 @@ private:
     QPoint anywhere() { return {random(8192), random(8192)}; }
     QVector<QPoint> twoPoints() { return {anywhere(), anywhere()}; }
 
+    static void finish(BaseDraw& draw, const QVector<QPoint>& points)
+    {
+        Figure figure = draw.figure();
+        figure.setPoints(points);
+        figure.setFinished(true);
+        draw.setFigure(figure);
+    }
+
     /// Finished, if it has points; no other one may be drawn over it.
     DrawItem* addPolygon(int dataId, const QVector<QPoint>& points)
     {
@@ -160,7 +168,7 @@ private:
         item->setDataId(dataId);
         item->setForbidenAreaType(DrawItemForbidenAreaType::ForbidenOtherItems);
         if (!points.isEmpty())
-            item->figure()->setFinishedPoints(points);
+            finish(*item->figure(), points);
         return m_scene->addItem(std::move(item), 0);
     }
 
@@ -273,11 +281,12 @@ private:
             figure.addPoint(random(kCanvas), random(kCanvas));
             return;
         case 9:
-            return figure.setFinishedPoints(twoPoints());
+            return finish(figure, twoPoints());
         case 10:
             return figure.setDirectionPoints(twoPoints());
         default:
-            return figure.copyStateFrom(*some()->figure());
+            figure.setFigure(some()->figure()->figure());
+            figure.setSelected(random(2));
         }
     }
 
