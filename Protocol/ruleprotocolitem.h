@@ -3,6 +3,7 @@
 #include "Protocol/countrange.h"
 #include "Protocol/jsonpath.h"
 #include "Protocol/ruletypes.h"
+#include "Protocol/spelling.h"
 
 #include <QList>
 #include <QPointer>
@@ -93,7 +94,7 @@ public:
 
     bool isFigure() const;
     bool isControl() const { return !isFigure() && m_facade != FacadeType::None; }
-    BaseDrawType drawType() const { return toDrawType(m_facade); }
+    BaseDrawType drawType() const { return Spelling::toDrawType(m_facade); }
 
     /// Takes over what @p other was given beside its own place: caption, facade, limits, choices.
     /// The texts are shared.

@@ -52,6 +52,3 @@ enum class CheckRuleOperatorType : int {
     GreaterOrEqual = 4,
     LessOrEqual = 5,
 };
-
-/// Kind of figure that @p facade draws; None for control rows and unknown facades.
-BaseDrawType toDrawType(FacadeType facade);

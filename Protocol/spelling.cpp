@@ -11,17 +11,26 @@ struct Spelled {
     Type type;
 };
 
-constexpr Spelled<FacadeType> kFacades[] = {
-    {"region", FacadeType::Region},
-    {"line", FacadeType::Line},
-    {"directLine", FacadeType::DirectLine},
-    {"rect", FacadeType::Rect},
-    {"parallelogram", FacadeType::Parallelogram},
-    {"inputBoxNumber", FacadeType::InputBoxNumber},
-    {"checkbox", FacadeType::CheckBox},
-    {"radioButton", FacadeType::RadioButton},
-    {"bool", FacadeType::Bool},
-    {"numericalInterval", FacadeType::NumericalInterval},
+struct Facade {
+    const char* text; ///< empty: made by the module, never asked for by a template
+    FacadeType type;
+    BaseDrawType figure; ///< None for control rows
+};
+
+constexpr Facade kFacades[] = {
+    {"region", FacadeType::Region, BaseDrawType::Polygon},
+    {"line", FacadeType::Line, BaseDrawType::DirectionLine},
+    {"directLine", FacadeType::DirectLine, BaseDrawType::Direction},
+    {"rect", FacadeType::Rect, BaseDrawType::Rectangle},
+    {"", FacadeType::VerticalStaff, BaseDrawType::VerticalRuler},
+    {"", FacadeType::HorizontalStaff, BaseDrawType::HorizontalRuler},
+    {"", FacadeType::Lane, BaseDrawType::VehicleLane},
+    {"parallelogram", FacadeType::Parallelogram, BaseDrawType::Parallelogram},
+    {"inputBoxNumber", FacadeType::InputBoxNumber, BaseDrawType::None},
+    {"checkbox", FacadeType::CheckBox, BaseDrawType::None},
+    {"radioButton", FacadeType::RadioButton, BaseDrawType::None},
+    {"bool", FacadeType::Bool, BaseDrawType::None},
+    {"numericalInterval", FacadeType::NumericalInterval, BaseDrawType::None},
 };
 
 constexpr Spelled<ValueType> kValueTypes[] = {
@@ -57,7 +66,20 @@ Type lookUp(const Spelled<Type> (&table)[Size], const QString& text)
 
 FacadeType Spelling::toFacadeType(const QString& text)
 {
-    return lookUp(kFacades, text);
+    for (const Facade& facade : kFacades) {
+        if (!text.isEmpty() && text == QLatin1String(facade.text))
+            return facade.type;
+    }
+    return FacadeType::None;
+}
+
+BaseDrawType Spelling::toDrawType(FacadeType type)
+{
+    for (const Facade& facade : kFacades) {
+        if (facade.type == type)
+            return facade.figure;
+    }
+    return BaseDrawType::None;
 }
 
 ValueType Spelling::toValueType(const QString& text)

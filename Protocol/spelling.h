@@ -10,6 +10,8 @@ namespace Spelling
 {
 
 FacadeType toFacadeType(const QString& text);
+/// Kind of figure that @p facade draws; None for control rows and unknown facades.
+BaseDrawType toDrawType(FacadeType facade);
 ValueType toValueType(const QString& text);
 BaseDrawDirectionType toDirectionType(const QString& text);
 CheckRuleOperatorType toOperatorType(const QString& text);

@@ -3,6 +3,8 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/spelling.h"
+#include "draw/figurekinds.h"
 #include "tests/support/fixtures.h"
 #include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"
@@ -76,6 +78,21 @@ private slots:
         QVERIFY(parser.parseTemplate(description(R"("calibrateArea": null, "lanes": null,
                                                     "ruleDescription": {"rules": null})")));
         QVERIFY(parser.getAllData().empty());
+    }
+
+    void facadesDrawTheKindsThereAre()
+    {
+        QList<BaseDrawType> drawn{BaseDrawType::Ruler}; // in no template
+        for (int facade = 0; facade < 110; ++facade) {
+            const BaseDrawType kind = Spelling::toDrawType(FacadeType(facade));
+            if (kind == BaseDrawType::None)
+                continue;
+            QVERIFY2(FigureKind::find(kind), qPrintable(QString::number(facade)));
+            drawn.append(kind);
+        }
+        for (int kind = 0; kind < 20; ++kind)
+            QVERIFY2(!FigureKind::find(BaseDrawType(kind)) || drawn.contains(BaseDrawType(kind)),
+                     qPrintable(QString::number(kind)));
     }
 
     void toleratesOtherKinds()
