@@ -1,5 +1,6 @@
 #include "workbench/documentfile.h"
 
+#include "host/api/limits.h"
 #include "host/api/wholefile.h"
 #include "host/json/reader.h"
 
@@ -16,8 +17,8 @@ namespace DocumentFile
 namespace
 {
 
-/// What is longer is no document; a part of a session would be another one.
-constexpr qint64 kLongest = qint64(128) << 20; // bytes
+/// In bytes: what is longer is no document; a part of a session would be another one.
+constexpr qint64 kLongest = Limits::kJsonText;
 
 QString say(const char* text)
 {

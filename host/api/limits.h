@@ -14,7 +14,7 @@ namespace Limits
 constexpr int kMessageText = 16 << 20;
 /// Of JSON: written again, even one text of this length fits into a QString.
 constexpr qint64 kJsonText = qint64{128} << 20;
-/// Of nested JSON: what reads and writes it calls itself.
+/// Of nested JSON: all who walk through a document call themselves for each level.
 constexpr int kJsonDepth = 512;
 /// Of JSON as indented text, which nesting makes many times as long.
 constexpr qint64 kStyledText = qint64{256} << 20;

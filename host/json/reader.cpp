@@ -1,5 +1,6 @@
 #include "host/json/reader.h"
 
+#include "host/api/limits.h"
 #include "host/json/value.h"
 
 #include <algorithm>
@@ -23,12 +24,6 @@ using Document = rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::CrtAll
 // Numbers come as text, because the parser's own conversion is not exact at the limits.
 constexpr unsigned kFlags = rapidjson::kParseInsituFlag | rapidjson::kParseCommentsFlag |
                             rapidjson::kParseNumbersAsStringsFlag;
-
-// Written again, even one text of this length fits into a QString.
-constexpr std::size_t kLongestText = std::size_t(128) << 20;
-
-// The parser and all who walk through a document call themselves for each level.
-constexpr int kDeepest = 512;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
@@ -105,11 +100,14 @@ public:
     /// Null when nothing was refused.
     const char* fault() const { return m_fault; }
     /// Whether the fault is that the last bracket goes too deep.
-    bool isTooDeep() const { return m_depth > kDeepest; }
+    bool isTooDeep() const { return m_depth > Limits::kJsonDepth; }
 
 private:
     bool addReal(std::string_view text);
-    bool enter() { return ++m_depth <= kDeepest || refuse("The document is nested too deeply."); }
+    bool enter()
+    {
+        return ++m_depth <= Limits::kJsonDepth || refuse("The document is nested too deeply.");
+    }
     bool leave() { return --m_depth >= 0; }
     bool refuse(const char* fault)
     {
@@ -185,7 +183,7 @@ bool Reader::parse(const QString& text, Value& root, bool)
 
 Reader::Fault Reader::parsed(std::string_view utf8, Value& root)
 {
-    if (utf8.size() > kLongestText)
+    if (utf8.size() > std::size_t(Limits::kJsonText))
         return {"The text is too long.", 0};
     const std::size_t invalid = firstInvalidUtf8(utf8);
     if (invalid < utf8.size())

@@ -1,5 +1,7 @@
 #include "host/json/value.h"
 
+#include "host/api/limits.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -15,8 +17,7 @@ namespace Json
 namespace
 {
 
-constexpr std::size_t kDeepestIndent = std::size_t(4) * 32;
-constexpr std::size_t kLongestText = std::size_t(256) << 20;
+constexpr std::size_t kDeepestIndent = std::size_t(4) * Limits::kIndentedLevels;
 
 /// What a writer writes, with the limits that Value::toStyledString() tells.
 class BoundedText : public rapidjson::StringBuffer
@@ -25,7 +26,7 @@ public:
     /// Makes room. Of a text that becomes too long what there was is forgotten.
     void reserve(std::size_t count)
     {
-        if (GetSize() + count > kLongestText) {
+        if (GetSize() + count > std::size_t(Limits::kStyledText)) {
             m_isTooLong = true;
             Clear();
         }
