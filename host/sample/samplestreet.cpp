@@ -106,7 +106,7 @@ QImage pictureFor(const QSize& size, std::initializer_list<int> widths, const QS
 {
     const auto isSharp = [&size](int width) {
         return size.width() <= width &&
-               qint64(size.height()) * kView.width() <= width * kView.height();
+               qint64(size.height()) * kView.width() <= qint64(width) * kView.height();
     };
     const auto* const found = std::find_if(widths.begin(), widths.end() - 1, isSharp);
     return QImage(QStringLiteral(":/sample/pictures/") + name.arg(*found));
