@@ -370,14 +370,14 @@ private slots:
             QVERIFY(surface.openByRtsp(param));
             QVERIFY(again->isHidden());
             QTRY_VERIFY_WITH_TIMEOUT(surface.statusText().contains("only when you ask"), kPatience);
-            QTRY_VERIFY(!again->isHidden());
+            QTRY_VERIFY_WITH_TIMEOUT(!again->isHidden(), kPatience);
             QVERIFY(surface.rect().contains(again->geometry()));
             const int tries = camera.printed().count("OPTIONS ");
             QVERIFY(tries > 0);
             QTest::qWait(1500); // the first wait is one second
             QCOMPARE(camera.printed().count("OPTIONS "), tries);
             again->click();
-            QTRY_VERIFY(again->isHidden());
+            QTRY_VERIFY_WITH_TIMEOUT(again->isHidden(), kPatience);
             QTRY_VERIFY_WITH_TIMEOUT(camera.printed().count("OPTIONS ") > tries, kPatience);
         }
     }

@@ -8,61 +8,40 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <string>
+#include <vector>
 
 namespace
 {
 
-struct Settings {
-    gint port = 0;
-    gint width = 320;
-    gint height = 240;
-    gchar* rate = nullptr;
-    gchar* aspect = nullptr;
-    gint pictures = 0;
-    gchar* user = nullptr;
-    gchar* password = nullptr;
-    gchar* codec = nullptr;
-    gboolean udpOnly = FALSE;
-    gboolean silent = FALSE;
-    gchar* location = nullptr;
-    gchar* refuse = nullptr;
-    gchar* describe = nullptr;
-    gboolean web = FALSE;
-    gchar* certificate = nullptr;
+/// What the program was asked for: "--name value", or "--name" alone.
+class Settings
+{
+public:
+    Settings(int argc, char** argv)
+    {
+        std::string name;
+        for (const std::string argument : std::vector<char*>(argv + 1, argv + argc)) {
+            if (argument.rfind("--", 0) == 0)
+                m_values[name = argument.substr(2)];
+            else
+                m_values[name] = argument;
+        }
+    }
+    bool has(const char* name) const { return m_values.count(name) > 0; }
+    std::string text(const char* name, const char* otherwise = "") const
+    {
+        return has(name) ? m_values.at(name) : otherwise;
+    }
+
+private:
+    std::map<std::string, std::string> m_values;
 };
 
-bool readSettings(int argc, char** argv, Settings& settings)
+std::string coding(const std::string& codec)
 {
-    const GOptionEntry entries[] = {
-        {"port", 0, 0, G_OPTION_ARG_INT, &settings.port, "0 for a free one", "N"},
-        {"width", 0, 0, G_OPTION_ARG_INT, &settings.width, "Of the picture", "N"},
-        {"height", 0, 0, G_OPTION_ARG_INT, &settings.height, "Of the picture", "N"},
-        {"rate", 0, 0, G_OPTION_ARG_STRING, &settings.rate, "Pictures a second", "N/N"},
-        {"aspect", 0, 0, G_OPTION_ARG_STRING, &settings.aspect, "Of a picture point", "N/N"},
-        {"pictures", 0, 0, G_OPTION_ARG_INT, &settings.pictures, "Sends no more of them", "N"},
-        {"user", 0, 0, G_OPTION_ARG_STRING, &settings.user, "Asked for when given", "NAME"},
-        {"password", 0, 0, G_OPTION_ARG_STRING, &settings.password, "Of the user", "TEXT"},
-        {"codec", 0, 0, G_OPTION_ARG_STRING, &settings.codec, "h264 or jpeg", "NAME"},
-        {"udp-only", 0, 0, G_OPTION_ARG_NONE, &settings.udpOnly, "Refuse TCP", nullptr},
-        {"silent", 0, 0, G_OPTION_ARG_NONE, &settings.silent, "Take connections, no more", nullptr},
-        {"location", 0, 0, G_OPTION_ARG_STRING, &settings.location, "Send all there", "URL"},
-        {"refuse", 0, 0, G_OPTION_ARG_STRING, &settings.refuse, "Answer all with it", "STATUS"},
-        {"describe", 0, 0, G_OPTION_ARG_STRING, &settings.describe,
-         "Answer DESCRIBE with the file there that the address names", "FOLDER"},
-        {"web", 0, 0, G_OPTION_ARG_NONE, &settings.web, "Be a web server", nullptr},
-        {"certificate", 0, 0, G_OPTION_ARG_STRING, &settings.certificate, "Speak TLS", "FILE"},
-        {nullptr, 0, 0, G_OPTION_ARG_NONE, nullptr, nullptr, nullptr}};
-    GOptionContext* const context = g_option_context_new(nullptr);
-    g_option_context_add_main_entries(context, entries, nullptr);
-    const bool read = g_option_context_parse(context, &argc, &argv, nullptr);
-    g_option_context_free(context);
-    return read;
-}
-
-std::string coding(const gchar* codec)
-{
-    if (g_strcmp0(codec, "jpeg") == 0)
+    if (codec == "jpeg")
         return "jpegenc ! rtpjpegpay name=pay0 pt=26";
     return "x264enc tune=zerolatency speed-preset=ultrafast key-int-max=10 ! "
            "rtph264pay name=pay0 pt=96 config-interval=1";
@@ -89,17 +68,16 @@ GstRTSPMediaFactory* makeBars(const Settings& settings)
     const std::string pipeline =
         "( videotestsrc is-live=true pattern=smpte ! "
         "video/x-raw,format=I420,framerate=" +
-        std::string(settings.rate ? settings.rate : "25/1") +
-        ",pixel-aspect-ratio=" + (settings.aspect ? settings.aspect : "1/1") +
-        ",width=" + std::to_string(settings.width) + ",height=" + std::to_string(settings.height) +
-        " ! " + coding(settings.codec) + " )";
+        settings.text("rate", "25/1") + ",pixel-aspect-ratio=" + settings.text("aspect", "1/1") +
+        ",width=" + settings.text("width", "320") + ",height=" + settings.text("height", "240") +
+        " ! " + coding(settings.text("codec")) + " )";
     GstRTSPMediaFactory* const factory = gst_rtsp_media_factory_new();
     gst_rtsp_media_factory_set_launch(factory, pipeline.c_str());
     gst_rtsp_media_factory_set_shared(factory, TRUE);
-    if (settings.pictures > 0)
+    if (settings.has("pictures"))
         g_signal_connect(factory, "media-configure", G_CALLBACK(sendFew),
-                         GINT_TO_POINTER(settings.pictures));
-    if (settings.udpOnly)
+                         GINT_TO_POINTER(std::stoi(settings.text("pictures"))));
+    if (settings.has("udp-only"))
         gst_rtsp_media_factory_set_protocols(factory, GST_RTSP_LOWER_TRANS_UDP);
     return factory;
 }
@@ -117,7 +95,8 @@ void askForPassword(GstRTSPServer* server, GstRTSPMediaFactory* factory, const S
     gst_rtsp_auth_set_supported_methods(auth, GST_RTSP_AUTH_DIGEST);
     GstRTSPToken* const token =
         gst_rtsp_token_new(GST_RTSP_TOKEN_MEDIA_FACTORY_ROLE, G_TYPE_STRING, "viewer", nullptr);
-    gst_rtsp_auth_add_digest(auth, settings.user, settings.password, token);
+    gst_rtsp_auth_add_digest(auth, settings.text("user").c_str(), settings.text("password").c_str(),
+                             token);
     gst_rtsp_token_unref(token);
     allowViewers(factory);
     gst_rtsp_server_set_auth(server, auth);
@@ -125,9 +104,9 @@ void askForPassword(GstRTSPServer* server, GstRTSPMediaFactory* factory, const S
 }
 
 /// False when the file holds no certificate with its key.
-bool encrypt(GstRTSPServer* server, const gchar* file)
+bool encrypt(GstRTSPServer* server, const std::string& file)
 {
-    GTlsCertificate* const certificate = g_tls_certificate_new_from_file(file, nullptr);
+    GTlsCertificate* const certificate = g_tls_certificate_new_from_file(file.c_str(), nullptr);
     if (!certificate)
         return false;
     GstRTSPAuth* const auth = gst_rtsp_auth_new();
@@ -148,13 +127,13 @@ int serve(const Settings& settings)
 {
     GstRTSPServer* const server = gst_rtsp_server_new();
     gst_rtsp_server_set_address(server, "127.0.0.1");
-    gst_rtsp_server_set_service(server, std::to_string(settings.port).c_str());
+    gst_rtsp_server_set_service(server, settings.text("port", "0").c_str());
     GstRTSPMediaFactory* const factory = makeBars(settings);
-    if (settings.user)
+    if (settings.has("user"))
         askForPassword(server, factory, settings);
-    if (settings.certificate) {
+    if (settings.has("certificate")) {
         allowViewers(factory);
-        if (!encrypt(server, settings.certificate))
+        if (!encrypt(server, settings.text("certificate")))
             return 0;
     }
     GstRTSPMountPoints* const mounts = gst_rtsp_server_get_mount_points(server);
@@ -193,20 +172,20 @@ std::string answer(const Settings& settings, const std::string& request,
                    const std::string& sequence)
 {
     // As some do, it knows no protocol but its own.
-    if (settings.web)
+    if (settings.has("web"))
         return request.find(" HTTP/") == std::string::npos ? "<html>400 Bad Request</html>\n"
                                                            : "HTTP/1.0 200 OK\r\n\r\n";
-    if (settings.location)
-        return "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + settings.location +
+    if (settings.has("location"))
+        return "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + settings.text("location") +
                "\r\n\r\n";
-    if (settings.refuse)
-        return std::string("RTSP/1.0 ") + settings.refuse + "\r\n" + sequence +
+    if (settings.has("refuse"))
+        return "RTSP/1.0 " + settings.text("refuse") + "\r\n" + sequence +
                "\r\nWWW-Authenticate: Basic realm=\"x\"\r\n\r\n";
     const std::string ok = "RTSP/1.0 200 OK\r\n" + sequence + "\r\n";
     if (request.rfind("DESCRIBE ", 0) != 0)
         return ok + kSession;
     const std::string address = request.substr(0, request.rfind(' '));
-    return ok + contentOf(settings.describe + address.substr(address.rfind('/')));
+    return ok + contentOf(settings.text("describe") + address.substr(address.rfind('/')));
 }
 
 /// Answers every request of a connection, and prints its first line and what it logs in with.
@@ -255,9 +234,10 @@ int misbehaveAlways(Settings& settings)
 
 int portOf(Settings& settings)
 {
-    if (settings.location || settings.refuse || settings.describe || settings.web)
+    if (settings.has("location") || settings.has("refuse") || settings.has("describe") ||
+        settings.has("web"))
         return misbehaveAlways(settings);
-    return settings.silent ? listenOnly() : serve(settings);
+    return settings.has("silent") ? listenOnly() : serve(settings);
 }
 
 } // namespace
@@ -265,9 +245,7 @@ int portOf(Settings& settings)
 int main(int argc, char** argv)
 {
     gst_init(nullptr, nullptr);
-    Settings settings;
-    if (!readSettings(argc, argv, settings))
-        return EXIT_FAILURE;
+    Settings settings(argc, argv);
     const int port = portOf(settings);
     if (port <= 0)
         return EXIT_FAILURE;
