@@ -1,3 +1,4 @@
+#include "tests/support/fixtures.h"
 #include "tests/support/fulldisk.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
@@ -15,22 +16,7 @@ namespace
 
 constexpr int kPatience = 60000; // milliseconds
 
-const char kWork[] = R"({"do":"pick","scene":"rules","entry":2}
-{"do":"set","scene":"rules","key":"ruleName","value":"<b>Gate</b> 100% & 大门"}
-{"do":"wait","picture":true}
-{"do":"click","scene":"rules","object":"redraw"}
-{"do":"fold","scene":"rules","fold":true}
-{"do":"select","scene":"global"}
-{"do":"save"}
-{"do":"press","button":"left","at":[1500,1500]}
-{"do":"press","button":"left","at":[4700,1600]}
-{"do":"double","at":[4600,5100]}
-{"do":"press","button":"right","at":[1000,1000]}
-{"do":"press","button":"left","at":[3000,2500]}
-{"do":"press","button":"left","at":[4000,3000]}
-{"do":"select","scene":"global"}
-{"do":"set","scene":"global","key":"globalSensitivity","value":2}
-)";
+const QByteArray kWork = Fixtures::contentOf("sessions/work.jsonl");
 
 WorkbenchOptions gate()
 {
@@ -188,7 +174,7 @@ private slots:
         const QString own = QString::number(QCoreApplication::applicationPid());
         QTRY_VERIFY_WITH_TIMEOUT(namesIn(folder()).filter(own) == namesIn(folder()), kPatience);
         QVERIFY(!bench.bar());
-        QTRY_VERIFY2(isKept(), "restored work is work that is not saved yet");
+        QTRY_VERIFY2_WITH_TIMEOUT(isKept(), "restored work is not saved yet", kPatience);
         bench.press("btnSave");
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(resultFile()), kTryFor);
         QCOMPARE(WorkbenchFiles::read(resultFile()).toStyledString(), wanted.toStyledString());
@@ -258,8 +244,8 @@ private slots:
             QVERIFY(bench.bar());
             bench.answer("restore");
             if (!damaged.isEmpty())
-                QTRY_VERIFY2(bench.offered().startsWith("Not all could be restored: "),
-                             damaged.constData());
+                QTRY_VERIFY2_WITH_TIMEOUT(bench.offered().startsWith("Not all could be restored: "),
+                                          damaged.constData(), kPatience);
             if (damaged.contains("missing"))
                 QVERIFY2(bench.offered().contains("/missing <b>%1</b>.json"),
                          qPrintable(bench.offered()));
@@ -331,7 +317,7 @@ private slots:
         const auto outcome = program.run(WorkbenchProgram::documents() << "--replay" << session);
         QVERIFY2(outcome.status == WorkbenchProgram::SavedOrClosed, qPrintable(outcome.said));
         QCOMPARE(namesIn(kept), before);
-        QCOMPARE(contentOf(kept), QByteArray(kWork));
+        QCOMPARE(contentOf(kept), kWork);
     }
 };
 

@@ -138,7 +138,7 @@ private:
 
     void compareReplayed(const WorkbenchOptions& options)
     {
-        QTRY_VERIFY2(m_bench->result().isObject(), qPrintable(lastBox()));
+        QTRY_VERIFY2_WITH_TIMEOUT(m_bench->result().isObject(), qPrintable(lastBox()), kTryFor);
         const Value wanted = m_bench->result();
         m_bench.reset();
         Bench replay(options);

@@ -1,3 +1,4 @@
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
 
@@ -64,36 +65,25 @@ private slots:
         QVERIFY(count > 0);
     }
 
+    void windowSpeaksTheLocale_data() { Fixtures::addRows("locales.json"); }
+
     void windowSpeaksTheLocale()
     {
-        const auto check = [](const char* locale, const char* example, const char* scene,
-                              const char* object, const char* text) {
-            QLocale::setDefault(QLocale(locale));
-            WorkbenchWindow window(WorkbenchBench::example(example));
-            QString error;
-            QVERIFY2(window.start(error), qPrintable(error));
-            const PanelFinder finder(window.rulesWindow());
-            QWidget* panel = *scene ? finder.panel(scene) : window.rulesWindow();
-            const QWidget* shown = qstrcmp(object, "drawItems") == 0
-                                       ? finder.entryButtons(panel, false).value(0)
-                                       : finder.part(panel, object);
-            QCOMPARE(textOf(shown), QString::fromUtf8(text));
-        };
+        QFETCH(const kql::Json::Value, fixture);
+        const auto text = [&](const char* name) { return fixture[name].asString(); };
         const QLocale before;
-        check("fr_FR", "perimeter", "rules", "delete", "Delete");
-        check("fr_FR", "traffic", "detectArea", "titleLabel", "Detection configuration");
-        check("fr_FR", "fight-calibration", "fightCalibrate", "titleLabel", "Fight configuration");
-        check("fr_FR", "scene-calibration", "calibrateArea", "titleLabel", "Scene calibration");
-        check("fr_FR", "lane-calibration", "calibrateArea", "titleLabel", "Lane calibration");
-        check("de_DE", "perimeter", "rules", "addRule", "Regel hinzufügen");
-        check("de_AT", "perimeter", "rules", "redraw", "Neu");
-        check("de_DE", "perimeter", "global", "titleLabel", "Globale Konfiguration");
-        check("de_DE", "perimeter", "", "btnSave", "Sichern");
-        check("de_DE", "traffic", "lanes", "titleLabel", "Fahrspurkonfiguration");
-        check("zh_CN", "perimeter", "rules", "hint", "单击左键添加点，单击右键完成绘制。");
-        check("zh_CN", "fight-calibration", "fightCalibrate", "drawItems", "区域1");
-        check("zh_CN", "scene-calibration", "calibrateArea", "drawItems", "区域1");
+        QLocale::setDefault(QLocale(text("locale")));
+        WorkbenchWindow window(WorkbenchBench::example(text("example")));
+        QString error;
+        QVERIFY2(window.start(error), qPrintable(error));
         QLocale::setDefault(before);
+        const PanelFinder finder(window.rulesWindow());
+        QWidget* panel =
+            text("scene").isEmpty() ? window.rulesWindow() : finder.panel(text("scene"));
+        const QWidget* shown = text("object") == "drawItems"
+                                   ? finder.entryButtons(panel, false).value(0)
+                                   : finder.part(panel, text("object"));
+        QCOMPARE(textOf(shown), text("text"));
     }
 };
 
