@@ -4,6 +4,9 @@
 
 namespace UICommonMdl
 {
+
+static_assert(SampleStreet::kOwnSize ==
+              QSize(SampleCameraSource::kWidth, SampleCameraSource::kHeight));
 namespace
 {
 

@@ -1,7 +1,5 @@
 #include "host/sample/samplestreet.h"
 
-#include "host/sample/samplecamerasource.h"
-
 #include <QPainter>
 #include <QTime>
 #include <QtMath>
@@ -15,7 +13,7 @@ namespace UICommonMdl
 namespace
 {
 
-constexpr QRect kView(0, 0, SampleCameraSource::kWidth, SampleCameraSource::kHeight);
+constexpr QRect kView({0, 0}, SampleStreet::kOwnSize);
 constexpr qreal kMiddle = 616;  ///< where the road vanishes, camera pixels
 constexpr qreal kHorizon = 216; ///< camera pixels from the top
 constexpr qreal kFocus = 900;   ///< camera pixels

@@ -15,6 +15,9 @@ namespace UICommonMdl
 class SampleStreet
 {
 public:
+    /// Where everything is placed, whatever size is painted.
+    static constexpr QSize kOwnSize{1280, 720};
+
     explicit SampleStreet(const QSize& size);
 
     QSize size() const { return m_background.size(); }
