@@ -64,6 +64,11 @@ bool RulesProtocol::write(const RuleData& data, const TemplateSection& section,
     return put(std::move(entries), section, document);
 }
 
+RuleProtocolItem* RulesProtocol::entryFigureItem(const DataTemplate& dataTemplate) const
+{
+    return dataTemplate.figureItems().value(0);
+}
+
 void RulesProtocol::writeRuleMembers(const RuleData& data, const WriteContext& context,
                                      std::vector<Value>& entries)
 {

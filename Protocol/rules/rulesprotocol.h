@@ -28,10 +28,7 @@ public:
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
                kql::Json::Value& document) const override;
     EntryTarget::WhenMissing whenMissing() const override { return EntryTarget::WhenMissing::List; }
-    RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override
-    {
-        return SceneProtocol::entryFigureItem(dataTemplate);
-    }
+    RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override;
 
     /// Sets in @p entries, one for each entry of @p data, what every rule has besides its
     /// attributes.
