@@ -146,12 +146,11 @@ bool RuleParser::readData(Value document, QString& why)
         return false;
     }
     m_configuration = std::move(document);
-    findNotices();
     return true;
 }
 
 /// A document without a skeleton is not saved at all, which Save says.
-void RuleParser::findNotices()
+void RuleParser::findLosses()
 {
     Value written;
     const Value* const skeleton = m_templateDocument.find("configTemplate");
@@ -164,7 +163,7 @@ void RuleParser::findNotices()
     if (!m_configuration.empty() && writeData(written))
         m_notices = DocumentLoss(m_data, m_configuration, written).tell();
     for (const QString& notice : notices())
-        kql::DPrintLog::instance()->Log("IntelligentRulesUI", kLogLevel, "RuleParser::readData",
+        kql::DPrintLog::instance()->Log("IntelligentRulesUI", kLogLevel, "RuleParser::findLosses",
                                         "Protocol\\ruleparser", __LINE__, "%s", notice);
 }
 

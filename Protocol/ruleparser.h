@@ -59,7 +59,11 @@ public:
     bool writeData(kql::Json::Value& config) const;
     bool writeData(QString& text) const;
 
-    /// What a save would leave out of the document as it is now, a sentence each.
+    /// Compares what was read with one trial write of it, for notices() and for what rows mark. To
+    /// be asked once, after a configuration was read and before anything is edited or shown.
+    void findLosses();
+    /// What a save would leave out of the document as it is now, a sentence each; nothing before
+    /// findLosses().
     QStringList notices() const;
 
     const std::vector<std::unique_ptr<RuleData>>& getAllData() const { return m_data; }
@@ -72,7 +76,6 @@ private:
     bool isReadWhole(QString& why) const;
     static bool writeScene(const RuleData& scene, const WriteContext& context,
                            kql::Json::Value& document, QString& why);
-    void findNotices();
 
     kql::Json::Value m_templateDocument;
     kql::Json::Value m_configuration; ///< as read: what no template names is kept from here

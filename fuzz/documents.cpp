@@ -147,6 +147,7 @@ void Fuzz::documents(std::string_view input)
     require(usable || parser.getAllData().empty(), "a refused template left scenes");
     const std::string untouched = SceneText::of(parser);
     const bool read = parts.size() > 1 && parser.readData(text(parts[1]));
+    parser.findLosses();
     const std::string scenes = SceneText::of(parser);
     require(read || scenes == untouched, "a refused configuration changed something");
     if (!usable)

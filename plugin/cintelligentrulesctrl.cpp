@@ -248,8 +248,10 @@ bool CIntelligentRulesCtrl::readDocuments()
     const bool isRead = parser->parseTemplate(std::move(m_parameters.templateDocument), why) &&
                         parser->readData(std::move(m_parameters.configuration), why);
     showHint(why);
-    if (isRead)
+    if (isRead) {
+        parser->findLosses();
         m_parser = std::move(parser);
+    }
     return isRead;
 }
 

@@ -12,6 +12,13 @@ class CalibrateAreaProtocol final : public SceneProtocol
 public:
     void read(RuleData& data, const kql::Json::Value& document) const override;
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
-               kql::Json::Value& document) const override;
+               kql::Json::Value& document) const override
+    {
+        return writeCalibrateAreaData(data, section, context, document);
+    }
     bool isCalibration() const override { return true; }
+
+private:
+    bool writeCalibrateAreaData(const RuleData& data, const TemplateSection& section,
+                                const WriteContext& context, kql::Json::Value& document) const;
 };

@@ -150,8 +150,10 @@ Value StaffsWriter::lengthOf(const CalibrateStaffs::Kind& kind, const DrawItem& 
 
 } // namespace
 
-bool CalibrateAreaProtocol::write(const RuleData& data, const TemplateSection& section,
-                                  const WriteContext& context, Value& document) const
+bool CalibrateAreaProtocol::writeCalibrateAreaData(const RuleData& data,
+                                                   const TemplateSection& section,
+                                                   const WriteContext& context,
+                                                   Value& document) const
 {
     const CalibrateAreaTemplate& area = *CalibrateAreaTemplate::of(data);
     const Kinds kinds = CalibrateStaffs::kinds(area);

@@ -72,8 +72,8 @@ void DetectionProtocol::read(RuleData& data, const Value& document) const
     });
 }
 
-bool DetectionProtocol::write(const RuleData& data, const TemplateSection& section,
-                              const WriteContext& context, Value& document) const
+bool DetectionProtocol::writeDetection(const RuleData& data, const TemplateSection& section,
+                                       const WriteContext& context, Value& document) const
 {
     const JsonPath parent(section.parent);
     const Value* const skeleton = parent.find(std::as_const(document));

@@ -12,7 +12,10 @@ class DetectionProtocol final : public SceneProtocol
 public:
     void read(RuleData& data, const kql::Json::Value& document) const override;
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
-               kql::Json::Value& document) const override;
+               kql::Json::Value& document) const override
+    {
+        return writeDetection(data, section, context, document);
+    }
     JsonEntries entriesAt(const kql::Json::Value* place) const override;
     /// The areas are what is drawn here.
     RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override;
@@ -20,4 +23,8 @@ public:
 protected:
     std::unique_ptr<RuleDataInfo> newEntry(const RuleData& data,
                                            const kql::Json::Value& json) const override;
+
+private:
+    bool writeDetection(const RuleData& data, const TemplateSection& section,
+                        const WriteContext& context, kql::Json::Value& document) const;
 };

@@ -75,8 +75,9 @@ void FightCalibrateProtocol::read(RuleData& data, const Value& document) const
     });
 }
 
-bool FightCalibrateProtocol::write(const RuleData& data, const TemplateSection& section,
-                                   const WriteContext& context, Value& document) const
+bool FightCalibrateProtocol::writeFightCalibrate(const RuleData& data,
+                                                 const TemplateSection& section,
+                                                 const WriteContext& context, Value& document) const
 {
     const DataTemplate& dataTemplate = *data.getTemplate();
     const RuleProtocolItem& region = *dataTemplate.findItem(FightCalibrateTemplate::kRegion);

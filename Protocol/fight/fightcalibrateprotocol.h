@@ -12,6 +12,13 @@ class FightCalibrateProtocol final : public SceneProtocol
 public:
     void read(RuleData& data, const kql::Json::Value& document) const override;
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
-               kql::Json::Value& document) const override;
+               kql::Json::Value& document) const override
+    {
+        return writeFightCalibrate(data, section, context, document);
+    }
     bool isCalibration() const override { return true; }
+
+private:
+    bool writeFightCalibrate(const RuleData& data, const TemplateSection& section,
+                             const WriteContext& context, kql::Json::Value& document) const;
 };

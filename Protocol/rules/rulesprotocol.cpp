@@ -34,8 +34,8 @@ void GlobalProtocol::read(RuleData& data, const Value& document) const
                 [&](const Value& json, RuleDataInfo& entry) { reader.read(json, entry); });
 }
 
-bool GlobalProtocol::write(const RuleData& data, const TemplateSection& section,
-                           const WriteContext& context, Value& document) const
+bool GlobalProtocol::writeGlobal(const RuleData& data, const TemplateSection& section,
+                                 const WriteContext& context, Value& document) const
 {
     return put(writeEntries(data, section, context, document), section, document);
 }
@@ -56,8 +56,8 @@ void RulesProtocol::read(RuleData& data, const Value& document) const
                 [&](const Value& json, RuleDataInfo& entry) { reader.readRule(json, entry); });
 }
 
-bool RulesProtocol::write(const RuleData& data, const TemplateSection& section,
-                          const WriteContext& context, Value& document) const
+bool RulesProtocol::writeRule(const RuleData& data, const TemplateSection& section,
+                              const WriteContext& context, Value& document) const
 {
     std::vector<Value> entries = writeEntries(data, section, context, document);
     writeRuleMembers(data, context, entries);

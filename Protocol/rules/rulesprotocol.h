@@ -8,7 +8,10 @@ class GlobalProtocol : public SceneProtocol
 public:
     void read(RuleData& data, const kql::Json::Value& document) const override;
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
-               kql::Json::Value& document) const override;
+               kql::Json::Value& document) const override
+    {
+        return writeGlobal(data, section, context, document);
+    }
     EntryTarget::WhenMissing whenMissing() const override
     {
         return EntryTarget::WhenMissing::Object;
@@ -18,6 +21,10 @@ public:
 protected:
     std::unique_ptr<RuleDataInfo> newEntry(const RuleData& data,
                                            const kql::Json::Value& json) const override;
+
+private:
+    bool writeGlobal(const RuleData& data, const TemplateSection& section,
+                     const WriteContext& context, kql::Json::Value& document) const;
 };
 
 /// Rules, which have a name and a switch besides.
@@ -26,7 +33,10 @@ class RulesProtocol final : public GlobalProtocol
 public:
     void read(RuleData& data, const kql::Json::Value& document) const override;
     bool write(const RuleData& data, const TemplateSection& section, const WriteContext& context,
-               kql::Json::Value& document) const override;
+               kql::Json::Value& document) const override
+    {
+        return writeRule(data, section, context, document);
+    }
     EntryTarget::WhenMissing whenMissing() const override { return EntryTarget::WhenMissing::List; }
     RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override;
 
@@ -34,4 +44,8 @@ public:
     /// attributes.
     static void writeRuleMembers(const RuleData& data, const WriteContext& context,
                                  std::vector<kql::Json::Value>& entries);
+
+private:
+    bool writeRule(const RuleData& data, const TemplateSection& section,
+                   const WriteContext& context, kql::Json::Value& document) const;
 };

@@ -97,6 +97,7 @@ QString complaint(const PairMaker& pair, bool conforming)
     if (!parser.parseTemplate(pair.templateDocument.toStyledText()) ||
         !parser.readData(pair.config.toStyledText()))
         return QStringLiteral("not read");
+    parser.findLosses();
     Value written;
     {
         Panels panels(parser);

@@ -42,6 +42,7 @@ struct Load {
     Load(const QString& templateText, const QString& config)
     {
         isRead = parser.parseTemplate(templateText) && parser.readData(config);
+        parser.findLosses();
     }
     /// Of a fixture, with its edits.
     explicit Load(const Value& fixture)

@@ -24,6 +24,7 @@ PanelBench::PanelBench(const QByteArray& templateText, const QByteArray& configT
     if (!m_parser.parseTemplate(QString::fromUtf8(templateText)) ||
         !m_parser.readData(QString::fromUtf8(configText)))
         qFatal("template or configuration of the test is not usable");
+    m_parser.findLosses();
     m_data = m_parser.getData(type);
     m_view.setFixedWidth(kPanelWidth);
     m_view.resize(kPanelWidth, 600);
