@@ -5,8 +5,10 @@
 #include <QLine>
 #include <QSize>
 
-/// A figure as it lies on a canvas: a snapshot to paint it from and to take clicks with. The
-/// figure itself stays in normalized space, everything else is in canvas pixels.
+/**
+ * A figure as it lies on a canvas: a snapshot to paint it from and to take clicks with. The figure
+ * itself stays in normalized space, everything else is in canvas pixels.
+ */
 class CanvasFigure
 {
 public:
@@ -21,8 +23,8 @@ public:
     const std::optional<QPoint>& movePoint() const { return m_movePoint; }
     /// The points, and after them the moving one when there is one.
     QVector<QPoint> shownPoints() const;
-    /// The line from the first point to the second, either of which may be the moving one. Not to
-    /// be called for fewer than two.
+    /// The line from the first point to the second, which may be the moving one. Not to be called
+    /// for fewer than two.
     QLine firstEdge() const;
     /// Figure::outline() on the canvas.
     QVector<QPoint> outline() const;

@@ -2,7 +2,10 @@
 
 #include <QString>
 
-/// For what shows texts of documents, which can be of any length.
+/**
+ * For what shows texts of documents, which can be of any length. Lengths are in UTF-16 units; no
+ * character is cut in half.
+ */
 namespace ShortenedText
 {
 
