@@ -85,9 +85,11 @@ DrawItem* DrawScene::addItem(std::unique_ptr<DrawItem> item, int parentId)
 
 DrawItem* DrawScene::findItem(int id) const
 {
+    if (id < 1)
+        return nullptr;
     const auto found = std::find_if(m_items.begin(), m_items.end(),
                                     [id](const DrawItem* item) { return item->itemId() == id; });
-    return id < 1 || found == m_items.end() ? nullptr : *found;
+    return found == m_items.end() ? nullptr : *found;
 }
 
 void DrawScene::removeItem(int id)
