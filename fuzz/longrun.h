@@ -31,8 +31,8 @@ public:
 private:
     static int& withDisplay(int& argc)
     {
-        if (!Display::isThere())
-            Display::useOffscreen();
+        if (!WorkbenchDisplay::isThere())
+            WorkbenchDisplay::useOffscreen();
         return argc;
     }
 

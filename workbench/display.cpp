@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace Display
+namespace WorkbenchDisplay
 {
 
 namespace
@@ -40,4 +40,4 @@ bool useOffscreen()
     return qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen"));
 }
 
-} // namespace Display
+} // namespace WorkbenchDisplay

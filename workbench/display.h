@@ -1,7 +1,7 @@
 #pragma once
 
 /// Where windows can be shown.
-namespace Display
+namespace WorkbenchDisplay
 {
 
 /// Whether there is a display, or the environment names a Qt platform that needs none.
@@ -11,4 +11,4 @@ bool isThere();
 /// Returns whether that could be set up.
 bool useOffscreen();
 
-} // namespace Display
+} // namespace WorkbenchDisplay

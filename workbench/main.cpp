@@ -48,7 +48,7 @@ int main(int argc, char* argv[])
     if (outcome == CommandLine::Outcome::Unusable)
         return refuse(commandLine.text());
     const bool replays = !commandLine.options().replayFile.isEmpty();
-    if (!Display::isThere() && !(replays && Display::useOffscreen()))
+    if (!WorkbenchDisplay::isThere() && !(replays && WorkbenchDisplay::useOffscreen()))
         return refuse(QStringLiteral("there is no display; only --replay works without one"));
 
     QApplication application(argc, argv);
