@@ -14,7 +14,11 @@ public:
     IntValidator(int bottom, int top, QObject* parent = nullptr);
 
     /// From here on both limits mend. QIntValidator::setRange() limits without mending.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // which made it no longer virtual
     void setRange(int bottom, int top) override;
+#else
+    void setRange(int bottom, int top);
+#endif
     void fixup(QString& text) const override;
 
 private:

@@ -59,7 +59,7 @@ void leaveFocused(QWidget* pressed)
 // Letter by letter, as QTest::keyClicks() does, but in any script.
 void typeText(QLineEdit* edit, const QString& text)
 {
-    for (const uint letter : text.toUcs4())
+    for (const char32_t letter : text.toStdU32String())
         QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString::fromUcs4(&letter, 1),
                             Qt::NoModifier);
 }

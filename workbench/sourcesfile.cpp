@@ -58,7 +58,9 @@ QString damageText(const QString& path)
 void SourcesFile::read(const QString& path)
 {
     QSettings settings(path, QSettings::IniFormat);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // which reads nothing but UTF-8
     settings.setIniCodec("UTF-8");
+#endif
     addresses.clear();
     const int count = qMin(settings.beginReadArray(kSources), kMostChannels);
     for (int i = 0; i < count; ++i) {

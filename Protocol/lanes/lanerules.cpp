@@ -77,7 +77,7 @@ void pairByNumber(Candidates& lanes, Candidates& rules)
 
 void pairInOrder(Candidates& lanes, Candidates& rules)
 {
-    auto* rule = rules.begin();
+    auto rule = rules.begin();
     for (Candidate& lane : lanes) {
         while (rule != rules.end() && rule->partner)
             ++rule;

@@ -101,7 +101,7 @@ QImage PictureScaler::convert(const AVFrame& frame, const QSize& size)
         from = m_shrunk.get();
     }
     const std::array<uint8_t*, 4> target{image.bits(), nullptr, nullptr, nullptr};
-    const std::array<int, 4> targetRow{image.bytesPerLine(), 0, 0, 0};
+    const std::array<int, 4> targetRow{int(image.bytesPerLine()), 0, 0, 0};
     sws_scale(m_converter.get(), from->data, from->linesize, 0, from->height, target.data(),
               targetRow.data());
     return image;

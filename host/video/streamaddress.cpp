@@ -85,12 +85,12 @@ QString StreamAddress::encodedLogin() const
     int done = 0;
     for (auto matches = special.globalMatch(login); matches.hasNext();) {
         const auto match = matches.next();
-        safe += login.midRef(done, match.capturedStart() - done);
+        safe += login.mid(done, match.capturedStart() - done);
         safe += QStringLiteral("%%1").arg(uint(match.captured().at(0).unicode()), 2, 16,
                                           QLatin1Char('0'));
         done = match.capturedEnd();
     }
-    return safe + login.midRef(done);
+    return safe + login.mid(done);
 }
 
 QString StreamAddress::encoded() const
