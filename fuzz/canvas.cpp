@@ -6,12 +6,14 @@
 #include "draw/drawgeometry.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "draw/figurelayer.h"
 #include "draw/labelfont.h"
 #include "host/gdiplus.h"
 
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <functional>
 #include <tuple>
 
 using Fuzz::InputBytes;
@@ -22,8 +24,10 @@ namespace
 
 constexpr int kMostOperations = 600;
 constexpr int kMostItems = 120;
-constexpr int kPicture = 160;
-constexpr int kOperations = 18;
+constexpr int kDataIds = 5; ///< from 0
+constexpr int kPicture = 256;
+constexpr int kOperations = 26;
+constexpr int kPaintedAfter = 128; ///< and from there on they are, too
 
 /// What a canvas shows of one item.
 struct ItemState {
@@ -48,19 +52,19 @@ struct ItemState {
 class Bench
 {
 public:
-    explicit Bench(std::string_view input)
-        : m_bytes(input),
-          m_scene(std::make_unique<DrawScene>()),
-          m_picture(kPicture, kPicture, QImage::Format_ARGB32_Premultiplied)
+    explicit Bench(std::string_view input) : m_bytes(input), m_scene(std::make_unique<DrawScene>())
     {
-        m_scene->setCanvasSize(256, 256);
+        m_scene->setCanvasSize(kPicture, kPicture);
     }
 
     void run()
     {
         for (int count = 0; count < kMostOperations && !m_bytes.atEnd(); ++count) {
-            operate(m_bytes.byte() % kOperations);
+            const int operation = m_bytes.byte();
+            operate(operation % kOperations);
             requireOrder();
+            if (operation >= kPaintedAfter)
+                paint();
         }
         paint();
         LabelFont::release();
@@ -102,7 +106,8 @@ private:
         DrawItem* item = m_scene->findItem(id());
         switch (operation) {
         case 12:
-            m_scene->setDrawByDataId(m_bytes.byte() % 2 == 0);
+            m_isByDataId = m_bytes.byte() % 2 == 0;
+            m_scene->setDrawByDataId(m_isByDataId);
             return m_scene->setCurrentDataId(data());
         case 13:
             return m_scene->SetDrawOver(m_bytes.byte() % 2 == 0);
@@ -116,9 +121,13 @@ private:
             if (item)
                 item->setDataId(data());
             return;
-        default:
+        case 17:
             if (item)
                 change(*item);
+            return;
+        default:
+            if (item && item->figure())
+                change(*item->figure());
             return;
         }
     }
@@ -136,6 +145,40 @@ private:
             if (item.figure())
                 item.figure()->setDirectionPoints({point(), point()});
         }
+    }
+
+    void change(BaseDraw& figure)
+    {
+        const int value = m_bytes.byte();
+        switch (m_bytes.byte() % 7) {
+        case 0:
+            return figure.setEdgeLabelMode(EdgeLabelMode(value % 2));
+        case 1:
+            return figure.setSelected(value % 2 != 0);
+        case 2:
+            return figure.setFinished(figure.pointCount() > 1 && value % 2 != 0);
+        case 3:
+            return figure.setMovePoint(std::nullopt);
+        case 4:
+            return figure.setMovePoint(value, m_bytes.byte());
+        case 5:
+            return setPoints(figure, 2 + value % 4);
+        default:
+            const DrawItem* other = m_scene->findItem(id());
+            if (other && other->figure())
+                figure.setFigure(other->figure()->figure());
+        }
+    }
+
+    void setPoints(BaseDraw& draw, int count)
+    {
+        constexpr int step = DrawGeometry::kNormalizedExtent / kPicture;
+        Figure figure = draw.figure();
+        figure.setPoints({});
+        while (count-- > 0)
+            figure.appendPoint(point() * step);
+        figure.setFinished(m_bytes.byte() % 2 != 0);
+        draw.setFigure(figure);
     }
 
     void add()
@@ -241,12 +284,70 @@ private:
         m_scene->setCanvasSize(m_bytes.byte() * 4, m_bytes.byte() * 4);
     }
 
+    /// Kept or not, the picture is the same, bit by bit.
     void paint()
     {
-        QPainter painter(&m_picture);
+        const auto draw = [this](Gdiplus::Graphics& graphics) { m_scene->draw(&graphics); };
+        const QImage seen = painted(draw);
+        m_scene->dropPainting();
+        require(seen == painted(draw), "what was kept looks otherwise than what is painted anew");
+        const QSize size = m_scene->canvasSize();
+        if (!size.isEmpty() && size == size.boundedTo({kPicture, kPicture}))
+            requireComposed();
+    }
+
+    /// A canvas without hint and forbidden area shows its items painted one by one.
+    void requireComposed() const
+    {
+        DrawScene bare;
+        bare.copyItemsFrom(*m_scene);
+        bare.setDrawByDataId(m_isByDataId);
+        bare.setCurrentDataId(m_scene->currentDataId());
+        require(painted([&](Gdiplus::Graphics& graphics) { bare.draw(&graphics); }) ==
+                    painted([&](Gdiplus::Graphics& graphics) { compose(bare, graphics); }),
+                "a canvas shows something else than its items");
+    }
+
+    /// The figure being drawn straight on the picture, and below and above it the other ones,
+    /// which are painted one after the other on transparent pictures.
+    void compose(const DrawScene& scene, Gdiplus::Graphics& picture) const
+    {
+        FigureLayer::setQuality(picture);
+        const QSize size = scene.canvasSize();
+        Gdiplus::Bitmap below(size.width(), size.height(), &picture);
+        Gdiplus::Bitmap above(size.width(), size.height(), &picture);
+        const int dataId = scene.currentDataId();
+        const DrawItem* drawn = scene.selectedItem(dataId);
+        {
+            Gdiplus::Graphics onBelow(&below);
+            Gdiplus::Graphics onAbove(&above);
+            FigureLayer::setQuality(onBelow);
+            FigureLayer::setQuality(onAbove);
+            Gdiplus::Graphics* target = &onBelow;
+            for (const DrawItem* item : scene.getItemList(BaseDrawType::None, 0)) {
+                if (item == drawn && !item->isFinished())
+                    target = &onAbove;
+                else if (!m_isByDataId || dataId < 1 || item->dataId() == dataId)
+                    item->draw(target);
+            }
+        }
+        picture.DrawImage(&below, 0, 0);
+        if (drawn && !drawn->isFinished())
+            drawn->draw(&picture);
+        picture.DrawImage(&above, 0, 0);
+    }
+
+    /// As over a picture of the canvas' size, to which the video surface clips.
+    QImage painted(const std::function<void(Gdiplus::Graphics&)>& paint) const
+    {
+        QImage picture(kPicture, kPicture, QImage::Format_RGB32);
+        picture.fill(Qt::darkGreen);
+        QPainter painter(&picture);
+        painter.setClipRect(QRect({}, m_scene->canvasSize()));
         Gdiplus::Graphics graphics(&painter);
-        m_scene->draw(&graphics);
+        paint(graphics);
         require(graphics.GetLastStatus() == Gdiplus::Ok, "painting failed");
+        return picture;
     }
 
     void copy()
@@ -258,8 +359,10 @@ private:
         require(items.size() == copies.size(), "a copy has another number of items");
         for (int i = 0; i < items.size(); ++i)
             require(pointsOf(*items[i]) == pointsOf(*copies[i]), "a copied figure is another one");
-        if (m_bytes.byte() % 2 == 0)
+        if (m_bytes.byte() % 2 == 0) {
             m_scene = std::move(copied);
+            m_isByDataId = false;
+        }
     }
 
     void requireOrder() const
@@ -267,8 +370,18 @@ private:
         const DrawItem* selected = m_scene->selectedItem(m_scene->currentDataId());
         require(!selected || m_scene->findItem(selected->itemId()) == selected,
                 "the selected item is not on the canvas");
-        for (const DrawItem* item : m_scene->getItemList(BaseDrawType::None, 0))
+        const DrawItem* firstSelected = nullptr;
+        QHash<int, QList<DrawItem*>> byDataId;
+        for (DrawItem* item : m_scene->getItemList(BaseDrawType::None, 0)) {
             requireInside(*item);
+            byDataId[item->dataId()].append(item);
+            if (!firstSelected)
+                firstSelected = item->selectedItem();
+        }
+        require(m_scene->selectedItem(-1) == firstSelected, "another item is selected");
+        for (int dataId = -1; dataId < kDataIds; ++dataId)
+            require(m_scene->getItemListByDataId(dataId) == byDataId[dataId],
+                    "an entry has other items");
     }
 
     /// What lies in the figures' space lies on the canvas.
@@ -310,7 +423,7 @@ private:
         return items.isEmpty() ? number : items[number % items.size()]->itemId();
     }
 
-    int data() { return m_bytes.byte() % 6 - 1; }
+    int data() { return m_bytes.byte() % (kDataIds + 1) - 1; }
 
     /// Mostly on the canvas.
     QPoint point()
@@ -323,7 +436,7 @@ private:
 
     InputBytes m_bytes;
     std::unique_ptr<DrawScene> m_scene;
-    QImage m_picture;
+    bool m_isByDataId = false; ///< as the scene has it
 };
 
 } // namespace

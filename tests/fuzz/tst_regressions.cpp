@@ -2,7 +2,7 @@
 #include "fuzz/harnesses.h"
 #include "tests/support/rulestest.h"
 
-/// Inputs that once did harm, each in the folder of the harness that it was for.
+/// Inputs that once did harm, each in the folder of the harness that it was for, and random ones.
 class TstRegressions : public RulesTest
 {
     Q_OBJECT
@@ -21,6 +21,11 @@ private slots:
                 QTest::addRow("%s: %s", harness, qPrintable(name))
                     << QString::fromLatin1(harness) << file.readAll();
             }
+        }
+        for (const quint32 seed : {3U, 5U, 11U}) {
+            QByteArray input(6000, '\0');
+            QRandomGenerator(seed).generate(input.begin(), input.end());
+            QTest::addRow("canvas: seed %u", seed) << QString("canvas") << input;
         }
     }
 
