@@ -207,28 +207,6 @@ private slots:
         m_scene->draw(nullptr);
     }
 
-    void findsTheSameAsAWalk()
-    {
-        QRandomGenerator random(3);
-        for (int step = 0; step < 2000; ++step) {
-            const QList<DrawItem*> items = m_scene->getItemList(Type::None, 0);
-            DrawItem* some = items.isEmpty() ? nullptr : items[random.bounded(items.size())];
-            const int id = some ? some->itemId() : 0;
-            const int act = random.bounded(7);
-            if (!some || act < 3)
-                add(*m_scene, Type::Polygon, random.bounded(9), random.bounded(2) ? id : 0);
-            else if (act == 3)
-                m_scene->removeItem(id);
-            else if (act == 4)
-                m_scene->setSelected(id, 0);
-            else if (act == 5)
-                some->figure()->setSelected(random.bounded(2));
-            else
-                some->setDataId(random.bounded(9));
-            verifyAgainstWalk(random.bounded(9));
-        }
-    }
-
     void finishedListenersMayRemoveTheItem()
     {
         DrawItem* item = add(*m_scene, Type::Rectangle);
@@ -241,22 +219,6 @@ private slots:
     }
 
 private:
-    void verifyAgainstWalk(int dataId)
-    {
-        const QList<DrawItem*> items = m_scene->getItemList(Type::None, 0);
-        DrawItem* selected = nullptr;
-        QList<DrawItem*> ofEntry;
-        for (DrawItem* item : items) {
-            QCOMPARE(m_scene->findItem(item->itemId()), item);
-            if (!selected)
-                selected = item->selectedItem();
-            if (item->dataId() == dataId)
-                ofEntry << item;
-        }
-        QCOMPARE(m_scene->selectedItem(-1), selected);
-        QCOMPARE(m_scene->getItemListByDataId(dataId), ofEntry);
-    }
-
     std::unique_ptr<DrawScene> m_scene;
     std::unique_ptr<QSignalSpy> m_changes;
 };
