@@ -1,6 +1,7 @@
 #include "host/api/rowcontract.h"
-#include "host/json/reader.h"
 #include "tabel/controltabel.h"
+#include "tests/support/fixtures.h"
+#include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
 #include "workbench/boxwatcher.h"
@@ -27,7 +28,7 @@ public:
         QObject::connect(&window(), &WorkbenchWindow::sgnMessage, &window(),
                          [this](const MessageRecord& message) {
                              if (message.id == kResult)
-                                 kql::Json::Reader().parse(message.p2, m_result);
+                                 m_result = Mailbox::json(message.p2);
                          });
     }
 
@@ -117,12 +118,15 @@ private:
     /// What was recorded after the first line, which tells the window's size.
     QStringList recorded()
     {
-        QFile file(m_path);
-        file.open(QIODevice::ReadOnly);
-        QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-        return lines.mid(1);
+        const QString text = QString::fromUtf8(ExampleFiles::contentOf(m_path));
+        return text.split('\n', Qt::SkipEmptyParts).mid(1);
     }
 
+    void compareRecorded(const char* session)
+    {
+        const QByteArray text = Fixtures::contentOf(QString("sessions/%1.jsonl").arg(session));
+        compareRecorded(QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts));
+    }
     void compareRecorded(const QStringList& expected)
     {
         const QStringList lines = recorded();
@@ -131,14 +135,10 @@ private:
         QCOMPARE(lines.size(), expected.size());
     }
 
-    QString lastBox() const
-    {
-        return m_boxes ? m_boxes->lastText().value_or(QString()) : QString();
-    }
-
     void compareReplayed(const WorkbenchOptions& options)
     {
-        QTRY_VERIFY2_WITH_TIMEOUT(m_bench->result().isObject(), qPrintable(lastBox()), kTryFor);
+        const auto box = [this] { return m_boxes ? m_boxes->lastText().value_or("") : QString(); };
+        QTRY_VERIFY2_WITH_TIMEOUT(m_bench->result().isObject(), qPrintable(box()), kTryFor);
         const Value wanted = m_bench->result();
         m_bench.reset();
         Bench replay(options);
@@ -172,22 +172,7 @@ private slots:
         bench.type(bench.edit("global", "globalSensitivity"), "3");
         bench.press(bench.part("global", "titleBar"));
         bench.press(bench.button("btnSave"));
-        compareRecorded({
-            R"({"do":"pick","scene":"rules","entry":2})",
-            R"({"do":"set","scene":"rules","key":"ruleName","value":"Ladehof大门"})",
-            R"({"do":"set","scene":"rules","key":"ruleSpeed","value":"200"})",
-            R"({"do":"set","scene":"rules","key":"ruleObjects","value":["Human","Vehicle"]})",
-            R"({"do":"set","scene":"rules","key":"ruleAction","value":"Stay"})",
-            R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,100]})",
-            R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,null]})",
-            R"({"do":"set","scene":"rules","key":"ruleSize","value":[12,80]})",
-            R"({"do":"set","scene":"rules","key":"ruleTrack","value":false})",
-            R"({"do":"type","scene":"rules","key":"ruleSize","text":"2","edit":"maximum"})",
-            R"({"do":"select","scene":"global"})",
-            R"({"do":"type","scene":"global","key":"globalSensitivity","text":"3"})",
-            R"({"do":"fold","scene":"global","fold":true})",
-            R"({"do":"save","answer":"Yes"})",
-        });
+        compareRecorded("recordedrows");
         compareReplayed(Bench::example());
     }
 
@@ -223,8 +208,7 @@ private slots:
         bench.press(bench.button("btnSave"));
         QStringList kinds;
         for (const QString& line : recorded()) {
-            Value step;
-            QVERIFY(kql::Json::Reader().parse(line, step));
+            const Value step = Mailbox::json(line);
             const Value& what = step[step.isMember("object") ? "object" : "do"];
             kinds.append(what.asString());
         }
@@ -251,12 +235,7 @@ private slots:
         radio->setFocus(Qt::TabFocusReason);
         QTest::keyClick(radio, Qt::Key_Down);
         QTest::keyClick(bench.button("btnSave"), Qt::Key_Space);
-        compareRecorded({
-            R"({"do":"select","scene":"global"})",
-            R"({"do":"set","scene":"global","key":"globalSensitivity","value":"4"})",
-            R"({"do":"set","scene":"global","key":"globalSurrounding","value":"Fence"})",
-            R"({"do":"save","answer":"Yes"})",
-        });
+        compareRecorded("recordedkeyboard");
         compareReplayed(Bench::example());
     }
 
@@ -284,11 +263,7 @@ private slots:
         bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(2)));
         bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(3)));
         bench.press(bench.button("btnSave"));
-        compareRecorded({
-            R"({"do":"enable","scene":"rules","entry":2,"on":false})",
-            R"({"do":"enable","scene":"rules","entry":3,"on":true})",
-            R"({"do":"save"})",
-        });
+        compareRecorded("recordedselection");
         compareReplayed(options);
     }
 
@@ -374,16 +349,11 @@ private slots:
 
     void refusesUnwritableFiles()
     {
-        m_bench.reset();
-        m_bench = std::make_unique<Bench>(Bench::example());
-        QVERIFY(m_bench->isReady());
+        // Of two recordings into one file the first goes on undisturbed.
+        QVERIFY(record(Bench::example(), nullptr));
         QString error;
         QVERIFY(!SessionRecorder(m_bench->window(), nullptr).open(m_folder.path(), error));
         QVERIFY(error.startsWith(m_folder.path()));
-        // Of two recordings into one file the first goes on undisturbed.
-        SessionRecorder first(m_bench->window());
-        error.clear();
-        QVERIFY2(first.open(m_path, error), qPrintable(error));
         QVERIFY(!SessionRecorder(m_bench->window(), nullptr).open(m_path, error));
         QVERIFY2(error.startsWith(m_path + ": another recording"), qPrintable(error));
         QVERIFY(ExampleFiles::contentOf(m_path).contains("size"));
