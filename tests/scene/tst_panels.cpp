@@ -17,14 +17,6 @@ QString text(Step step, int position = 1)
     return step[position].asString();
 }
 
-QVector<QPoint> points(const Value& list)
-{
-    QVector<QPoint> all;
-    for (int i = 0; i < list.size(); ++i)
-        all.append({list[i][0].asInt(), list[i][1].asInt()});
-    return all;
-}
-
 QString marked(Bench& bench)
 {
     QStringList names;
@@ -92,7 +84,7 @@ const Script<Bench> kScript{
      {"type", [](Bench& b, Step s) { b->type(text(s), text(s, 2)); }},
      {"enter", [](Bench& b, Step s) { b->enter(text(s), text(s, 2)); }},
      {"key", key},
-     {"press", [](Bench& b, Step s) { b->press(points(s[1])); }},
+     {"press", [](Bench& b, Step s) { b->press(Fixtures::pointsOf(s[1])); }},
      {"pressRight", [](Bench& b, Step) { b->pressRight(); }},
      {"childFunction",
       [](Bench& b, Step s) { b->panel().sltTabelChildRuleFucBtnClicked(s[1].asInt()); }},

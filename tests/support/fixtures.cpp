@@ -75,3 +75,11 @@ QStringList Fixtures::textsOf(const Value& list)
         texts.append(list[i].asString());
     return texts;
 }
+
+QVector<QPoint> Fixtures::pointsOf(const Value& list)
+{
+    QVector<QPoint> points;
+    for (int i = 0; i < list.size(); ++i)
+        points.append({list[i][0].asInt(), list[i][1].asInt()});
+    return points;
+}

@@ -23,5 +23,6 @@ void addRows(const QString& name);
 /// object its text.
 QVariant valueOf(const kql::Json::Value& value);
 QStringList textsOf(const kql::Json::Value& list);
+QVector<QPoint> pointsOf(const kql::Json::Value& list);
 
 } // namespace Fixtures
