@@ -2,6 +2,7 @@
 #include "draw/crosstestdraw.h"
 #include "draw/figurekinds.h"
 #include "draw/labelfont.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 
 #include <climits>
@@ -9,6 +10,7 @@
 using Type = BaseDrawType;
 using Direction = BaseDrawDirectionType;
 using Points = QVector<QPoint>;
+using kql::Json::Value;
 
 namespace
 {
@@ -28,6 +30,16 @@ std::shared_ptr<BaseDraw> makeFigure(Type type, int canvas, const Points& clicks
     for (const QPoint& click : clicks)
         figure->addPoint(click.x(), click.y());
     return figure;
+}
+
+/// Of the case that runs, whose name begins with it.
+Type kind()
+{
+    const QStringList kinds{"Polygon",   "DirectionLine",   "Rectangle",
+                            "Ruler",     "HorizontalRuler", "VerticalRuler",
+                            "Direction", "VehicleLane",     "Parallelogram"};
+    const QString name = QString(QTest::currentDataTag()).section(' ', 1, 1).remove(',');
+    return Type(kinds.indexOf(name) + 1);
 }
 
 Points pointsOf(const BaseDraw& figure)
@@ -91,34 +103,29 @@ class TstFigures : public RulesTest
 private slots:
     void cleanupTestCase() { LabelFont::release(); }
 
+    void takesPoints_data() { Fixtures::addRows("figures/clicks.json"); }
+
+    /// What is refused comes last; by default a figure has the points of the clicks, and is
+    /// finished by them.
     void takesPoints()
     {
-        const auto check = [](Type type, const Points& clicks, const QVector<bool>& refused,
-                              const Points& points, bool isFinished = true) {
-            const auto figure = makeFigure(type, kExtent);
-            for (int i = 0; i < clicks.size(); ++i)
-                QCOMPARE(figure->addPoint(clicks[i].x(), clicks[i].y()), refused[i]);
-            QCOMPARE(pointsOf(*figure), points);
-            QCOMPARE(figure->isFinished(), isFinished);
-            figure->clear();
-            QVERIFY_BOTH(!figure->isFinished(), pointsOf(*figure).isEmpty());
-        };
-        const Points corner{{0, 0}, {800, 10}, {700, 500}};
-        const Points wedge{{0, 0}, {800, 10}, {400, 500}};
-        const Points box{{100, 100}, {800, 200}, {700, 500}, {90, 97}};
-        const Points lane{{300, 900}, {350, 100}, {700, 900}, {500, 100}};
-        for (const Type type : {Type::DirectionLine, Type::Rectangle, Type::Ruler,
-                                Type::HorizontalRuler, Type::Direction})
-            check(type, corner, {0, 0, 1}, corner.mid(0, 2));
-        check(Type::VerticalRuler, corner, {0, 0, 1}, {{0, 0}, {0, 10}});
-        check(Type::Polygon, box, {0, 0, 0, 0}, box, false);
-        // The new edge, then the closing edge would cross another.
-        check(Type::Polygon, corner + Points{{300, -200}}, {0, 0, 0, 1}, corner, false);
-        check(Type::Polygon, wedge + Points{{1000, 200}}, {0, 0, 0, 1}, wedge, false);
-        check(Type::VehicleLane, lane + Points{{1, 1}}, {0, 0, 0, 0, 1}, lane);
-        check(Type::VehicleLane, lane.mid(2) + lane.mid(0, 2), {0, 0, 0, 0}, lane);
-        check(Type::Parallelogram, {{100, 100}, {500, 200}, {600, 800}, {7, 7}}, {0, 0, 0, 1},
-              {{100, 100}, {500, 200}, {600, 800}, {200, 700}});
+        QFETCH(const Value, fixture);
+        const auto figure = makeFigure(kind(), kExtent);
+        if (fixture.isMember("maximum"))
+            figure->setPointLimits(2, fixture["maximum"].asInt());
+        const Points clicks = Fixtures::pointsOf(fixture["clicks"]);
+        for (const QPoint& click : clicks)
+            QVERIFY(!figure->addPoint(click.x(), click.y()));
+        const Points points =
+            fixture.isMember("points") ? Fixtures::pointsOf(fixture["points"]) : clicks;
+        QCOMPARE(pointsOf(*figure), points);
+        QCOMPARE(figure->isFinished(), !fixture.isMember("isFinished"));
+        for (const QPoint& click : Fixtures::pointsOf(fixture["refused"]))
+            QVERIFY(figure->addPoint(click.x(), click.y()));
+        QVERIFY_BOTH(figure->tryFinish(), figure->addPoint(2000, 2000));
+        QCOMPARE(pointsOf(*figure), points);
+        figure->clear();
+        QVERIFY_BOTH(!figure->isFinished(), pointsOf(*figure).isEmpty());
     }
 
     void valuesTellWhatTheyRefuse()
@@ -147,17 +154,6 @@ private slots:
         const auto draw = createDraw(Type::Polygon);
         QVERIFY(draw->setFigure(figure) && draw->figure() == figure);
         QVERIFY(!draw->setFigure(Figure(Type::Ruler)) && draw->figure() == figure);
-    }
-
-    void openLinesMayCloseOverThemselves()
-    {
-        const auto line = makeFigure(Type::DirectionLine, kExtent);
-        line->setPointLimits(2, INT_MAX);
-        for (const QPoint& click : Points{{0, 0}, {800, 10}, {400, 500}, {1000, 200}})
-            QVERIFY(!line->addPoint(click.x(), click.y()));
-        QVERIFY(line->addPoint(390, 3));
-        QVERIFY_BOTH(line->tryFinish(), line->addPoint(2000, 2000));
-        QCOMPARE(line->pointCount(), 4);
     }
 
     void staffHasNoRubberBandBeforeItsFirstPoint()
@@ -200,40 +196,25 @@ private slots:
         QVERIFY(copy->directionPoints().isEmpty());
     }
 
+    void paintsExactly_data() { Fixtures::addRows("figures/painted.json"); }
+
     void paintsExactly()
     {
-        const auto check = [](Type type, const Points& points, const QVector<QRect>& areas) {
-            const auto figure = makeFigure(type, kPixels, points);
-            figure->setMovePoint(90, 60);
-            if (points.size() >= 2)
-                figure->setFinished(true);
-            QCOMPARE(painted(*figure), filled(areas, kNormal));
-            figure->setSelected(true);
-            QCOMPARE(painted(*figure), filled(areas, kSelected));
-            figure->draw(nullptr);
-        };
-        const Points flat{{30, 60}, {90, 60}};
-        const QRect line(30, 59, 60, 2);
-        const QVector<QRect> ruler{line, {29, 40, 2, 40}, {89, 40, 2, 40}};
-        const QVector<QRect> frame{
-            {29, 39, 62, 2}, {29, 59, 62, 2}, {29, 39, 2, 22}, {89, 39, 2, 22}};
-        const Points box{{30, 20}, {90, 20}, {90, 60}, {30, 60}};
-        const QVector<QRect> edges{
-            {30, 19, 60, 2}, {89, 20, 2, 40}, {30, 59, 60, 2}, {29, 20, 2, 40}};
-        check(Type::DirectionLine, flat, {line});
-        check(Type::DirectionLine, flat.mid(0, 1), {line});
-        check(Type::HorizontalRuler, flat, {line});
-        check(Type::Ruler, flat, ruler);
-        check(Type::Ruler, flat.mid(0, 1), ruler);
-        check(Type::VerticalRuler, {{60, 30}, {60, 90}},
-              {{59, 30, 2, 60}, {40, 29, 40, 2}, {40, 89, 40, 2}});
-        check(Type::Rectangle, {{90, 40}, {30, 60}}, frame);
-        check(Type::Rectangle, {{30, 40}}, frame);
-        check(Type::Polygon, box, edges);
-        check(Type::Parallelogram, box, edges);
-        check(Type::VehicleLane, {{30, 20}, {90, 20}, {95, 20}, {99, 20}},
-              {{30, 19, 60, 2}, {95, 19, 4, 2}});
-        check(Type::VehicleLane, {}, {});
+        QFETCH(const Value, fixture);
+        QVector<QRect> areas;
+        for (int i = 0; i < fixture["areas"].size(); ++i) {
+            const Value& area = fixture["areas"][i];
+            areas.append({area[0].asInt(), area[1].asInt(), area[2].asInt(), area[3].asInt()});
+        }
+        const Points points = Fixtures::pointsOf(fixture["points"]);
+        const auto figure = makeFigure(kind(), kPixels, points);
+        figure->setMovePoint(90, 60);
+        if (points.size() >= 2)
+            figure->setFinished(true);
+        QCOMPARE(painted(*figure), filled(areas, kNormal));
+        figure->setSelected(true);
+        QCOMPARE(painted(*figure), filled(areas, kSelected));
+        figure->draw(nullptr);
     }
 
     void crossTestPaintsTwoSegments()
@@ -303,27 +284,19 @@ private slots:
         }
     }
 
+    void edgesAndLanesAreNamed_data() { Fixtures::addRows("figures/named.json"); }
+
     void edgesAndLanesAreNamed()
     {
-        const auto check = [](Type type, const Points& clicks, const QString& texts) {
-            const auto figure = makeFigure(type, kPixels, clicks);
-            figure->setEdgeLabelMode(EdgeLabelMode::LengthAndWidth);
-            figure->tryFinish();
-            TextNotes notes;
-            QCoreApplication::installTranslator(&notes);
-            painted(*figure);
-            QCoreApplication::removeTranslator(&notes);
-            QCOMPARE(notes.notes.join(' '), texts);
-        };
-        const QString left = QString("VehicleLaneDraw/Left");
-        const QString right = QString("VehicleLaneDraw/Right");
-        const Points lane{{30, 99}, {35, 9}, {70, 99}, {60, 9}};
-        check(Type::Polygon, {{9, 9}, {90, 9}, {90, 90}},
-              QString("PolygonDraw/Length PolygonDraw/Width"));
-        check(Type::VehicleLane, lane, left + " " + right);
-        check(Type::VehicleLane, lane.mid(2) + lane.mid(0, 2), right + " " + left);
-        check(Type::VehicleLane, lane.mid(0, 3), left);
-        check(Type::VehicleLane, lane.mid(0, 2), {});
+        QFETCH(const Value, fixture);
+        const auto figure = makeFigure(kind(), kPixels, Fixtures::pointsOf(fixture["clicks"]));
+        figure->setEdgeLabelMode(EdgeLabelMode::LengthAndWidth);
+        figure->tryFinish();
+        TextNotes notes;
+        QCoreApplication::installTranslator(&notes);
+        painted(*figure);
+        QCoreApplication::removeTranslator(&notes);
+        QCOMPARE(notes.notes.join(' '), fixture["texts"].asString());
     }
 };
 
