@@ -1,7 +1,6 @@
 #include "Protocol/figuremaker.h"
 
 #include "Protocol/datatemplate.h"
-#include "Protocol/linedirections.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/basedraw.h"
@@ -23,6 +22,5 @@ std::unique_ptr<DrawItem> FigureMaker::make(const DataTemplate& dataTemplate,
     if (figure->figure())
         figure->figure()->setEdgeLabelMode(dataTemplate.edgeLabels(item));
     figure->setLabel(item.caption());
-    LineDirections::giveTo(*figure, entry);
     return figure;
 }

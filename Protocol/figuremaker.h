@@ -14,8 +14,7 @@ namespace FigureMaker
 {
 
 /// A new unfinished figure of @p item for @p entry, not yet on the canvas: kind, point limits,
-/// template key, edge labels, the item's caption, the direction that the entry says. Null when the
-/// item draws no figure.
+/// template key, edge labels, the item's caption. Null when the item draws no figure.
 std::unique_ptr<DrawItem> make(const DataTemplate& dataTemplate, const RuleProtocolItem& item,
                                const RuleDataInfo& entry, DrawItemForbidenAreaType forbidden);
 

@@ -5,8 +5,9 @@ class DrawItem;
 class RuleData;
 class RuleDataInfo;
 
-/// The direction in which an entry's direction lines are crossed. The canvas shows it, so it is
-/// given to them when an entry is read, when a line is made and when the direction changes.
+/// The direction in which an entry's direction lines are crossed. The canvas shows it, so panels
+/// give it to them when they are bound, when a line is made and when the direction changes: while
+/// an entry is read it may still have its default, which the document does not say.
 namespace LineDirections
 {
 

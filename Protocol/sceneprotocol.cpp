@@ -2,8 +2,6 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/entrywriter.h"
-#include "Protocol/figurelabels.h"
-#include "Protocol/linedirections.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/validity.h"
@@ -17,7 +15,6 @@ void SceneProtocol::readEntries(RuleData& data, const Value& document,
 {
     const JsonPath parent(data.getTemplate()->parent());
     const JsonEntries listed = entriesAt(parent.readPath(document));
-    const RuleProtocolItem* const named = entryFigureItem(*data.getTemplate());
     for (std::size_t i = 0; i < listed.size(); ++i) {
         auto entry = newEntry(data, *listed[i]);
         if (!entry)
@@ -25,9 +22,7 @@ void SceneProtocol::readEntries(RuleData& data, const Value& document,
         entry->setSourceIndex(static_cast<int>(i));
         readEntry(*listed[i], *entry);
         Validity::update(*data.getTemplate(), *entry);
-        LineDirections::apply(data, *entry);
         data.addDataInfo(std::move(entry));
-        FigureLabels::update(data, named, data.getDataCount() - 1);
     }
 }
 

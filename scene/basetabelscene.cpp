@@ -223,7 +223,17 @@ std::unique_ptr<DrawItem> BaseTabelScene::createDrawItem(BaseDrawType type,
     if (!isBound() || !entry)
         return nullptr;
     const RuleProtocolItem* item = m_data->getTemplate()->figureItem(type);
-    return item ? FigureMaker::make(*m_data->getTemplate(), *item, *entry, forbidden) : nullptr;
+    return item ? makeFigure(*item, *entry, forbidden) : nullptr;
+}
+
+std::unique_ptr<DrawItem> BaseTabelScene::makeFigure(const RuleProtocolItem& item,
+                                                     const RuleDataInfo& entry,
+                                                     DrawItemForbidenAreaType forbidden) const
+{
+    auto figure = FigureMaker::make(*m_data->getTemplate(), item, entry, forbidden);
+    if (figure)
+        LineDirections::giveTo(*figure, entry);
+    return figure;
 }
 
 DrawItemButton* BaseTabelScene::createChildDrawItemButton(const QString& label,
@@ -288,8 +298,7 @@ RuleProtocolItem* BaseTabelScene::firstFigureItem(BaseDrawType pressed) const
 
 DrawItem* BaseTabelScene::addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry)
 {
-    const DataTemplate& dataTemplate = *m_data->getTemplate();
-    auto figure = FigureMaker::make(dataTemplate, item, entry, dataTemplate.forbiddenArea(item));
+    auto figure = makeFigure(item, entry, m_data->getTemplate()->forbiddenArea(item));
     if (!figure)
         return nullptr;
     m_direction.giveTo(*figure);
@@ -331,8 +340,7 @@ void BaseTabelScene::addChildFigure(BaseDrawType type, const QString& itemKey)
         itemKey.isEmpty() ? dataTemplate.figureItem(type) : dataTemplate.findItem(itemKey);
     if (!item || !SceneFigures::mayHaveMore(*m_data, *item, entry->id()))
         return;
-    auto figure = FigureMaker::make(dataTemplate, *item, *entry,
-                                    DrawItemForbidenAreaType::ForbidenOutsideParent);
+    auto figure = makeFigure(*item, *entry, DrawItemForbidenAreaType::ForbidenOutsideParent);
     if (!figure)
         return;
     m_direction.giveTo(*figure);

@@ -120,6 +120,9 @@ private:
     void loadEntry();
     void selectFigure(int itemId, int dataId);
     void addEntry(BaseDrawType pressed);
+    /// Null when the item draws no figure; else one that is not on the canvas yet.
+    std::unique_ptr<DrawItem> makeFigure(const RuleProtocolItem& item, const RuleDataInfo& entry,
+                                         DrawItemForbidenAreaType forbidden) const;
     /// Null when the item draws no figure. The new figure is not selected yet.
     DrawItem* addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry);
     void pressChildFuc(int type, const QString& itemKey);

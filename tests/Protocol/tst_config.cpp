@@ -243,6 +243,9 @@ private slots:
         for (const auto& scene : example.parser.getAllData()) {
             QString message;
             QVERIFY2(scene->checkData(message), qPrintable(message));
+            if (const DrawItem* figure = scene->getDrawScene()->getFirstDrawItem())
+                QCOMPARE(figure->label(),
+                         scene->getTemplate()->figureItem(figure->drawType())->caption());
         }
         int tried = 0;
         QSet<QString> stable; // many mutations are read, and so written, alike
