@@ -22,17 +22,6 @@ QString quoted(const QString& path)
     return QLatin1Char('"') + path + QLatin1Char('"');
 }
 
-/// Whether there is something at @p place that is none of the @p known entries.
-bool hasOthers(const Value& place, const JsonEntries& listed, JsonEntries known)
-{
-    if (listed.empty())
-        return !place.isNull() && (!place.empty() || !(place.isArray() || place.isObject()));
-    std::sort(known.begin(), known.end());
-    return std::any_of(listed.begin(), listed.end(), [&known](const Value* entry) {
-        return !entry->isNull() && !std::binary_search(known.begin(), known.end(), entry);
-    });
-}
-
 } // namespace
 
 DocumentLoss::DocumentLoss(const std::vector<std::unique_ptr<RuleData>>& scenes, const Value& read,
@@ -86,14 +75,24 @@ void DocumentLoss::compareEntries(const Place& place, const Value& read)
     const SceneProtocol& protocol = sceneProtocol(data.getSceneType());
     const JsonEntries sources = protocol.sources(data, place.section, m_read);
     const JsonEntries written = protocol.entriesAt(JsonPath(place.section.parent).find(m_written));
-    JsonEntries known = protocol.keptAside(data, place.section, m_read);
+    const JsonEntries listed = protocol.entriesAt(&read);
+    JsonEntries aside = protocol.keptAside(data, place.section, m_read);
+    std::sort(aside.begin(), aside.end());
+    std::map<const Value*, std::size_t> positions;
+    for (std::size_t i = 0; i < sources.size(); ++i)
+        positions.insert({sources[i], i});
     EntryLoss loss(data, place.section.name);
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        known.push_back(sources[i]);
-        if (sources[i] && i < written.size())
-            loss.compare(*data.getAllData()[i], *sources[i], *written[i]);
+    const bool isList = read.isArray() || read.isObject();
+    bool hasOthers = listed.empty() && !read.isNull() && !(isList && read.empty());
+    for (const Value* entry : listed) {
+        const auto found = positions.find(entry);
+        if (found == positions.end())
+            hasOthers = hasOthers ||
+                        !(entry->isNull() || std::binary_search(aside.begin(), aside.end(), entry));
+        else if (found->second < written.size())
+            loss.compare(*data.getAllData()[found->second], *entry, *written[found->second]);
     }
-    if (hasOthers(read, protocol.entriesAt(&read), std::move(known)))
+    if (hasOthers)
         data.saveNotices().add(SaveNotices::tr("What is no entry under %1 is not saved.")
                                    .arg(quoted(place.section.parent)));
 }

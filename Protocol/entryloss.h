@@ -2,7 +2,7 @@
 
 #include "host/json/fwd.h"
 
-#include <QHash>
+#include <QMap>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -40,7 +40,7 @@ private:
     void tellMember(const QString& path);
 
     RuleData& m_data;
-    QHash<QString, Items> m_items; ///< by path, without brackets
-    QSet<QString> m_stations;      ///< paths that those lead through
+    QMap<QString, Items> m_items; ///< by path, without brackets
+    QSet<QString> m_stations;     ///< paths that those lead through
     const RuleDataInfo* m_entry = nullptr;
 };
