@@ -84,7 +84,8 @@ void LanesScene::prepareNewEntry(RuleDataInfo& entry)
         entry.setValue(kRuleLaneNumber, number);
     Validity::update(*ruleData()->getTemplate(), entry);
     m_laneNumbers.insert(number);
-    if (lanesTemplate()->hasRuleItems()) {
+    const LanesTemplate* const dataTemplate = lanesTemplate();
+    if (dataTemplate && dataTemplate->hasRuleItems()) {
         const RuleData& lanes = *ruleData();
         entry.setName(EntryName::unused(lanes, EntryName::written(lanes, lanes.getDataCount())));
     }

@@ -1,6 +1,7 @@
 #include "Protocol/datatemplate.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "scene/entryrows.h"
+#include "scene/lanesscene.h"
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
@@ -111,6 +112,17 @@ private slots:
             order.append(focused->objectName().isEmpty() ? QString("-") : focused->objectName());
         }
         QCOMPARE(order.join(' '), QString("- - redraw delete fuc2 fuc2wait"));
+    }
+
+    void lanesOfAnyTemplate()
+    {
+        RuleData data;
+        data.setTemplate(std::make_unique<DataTemplate>());
+        LanesScene panel;
+        panel.setRuleData(&data);
+        panel.sltTabelRuleFucBtnClicked(static_cast<int>(BaseDrawType::VehicleLane));
+        QCOMPARE(data.getDataCount(), 1);
+        panel.setRuleData(nullptr);
     }
 
     void longChainsAndLongTexts()
