@@ -61,13 +61,13 @@ EntryReader::EntryReader(RuleData& data, const QString& section) : m_data(data),
     }
 }
 
-void EntryReader::read(const Value& json, RuleDataInfo& entry, const DrawItem* parent) const
+void EntryReader::read(const Value& json, RuleDataInfo& entry, DrawItem* parent) const
 {
     for (const RuleProtocolItem* item : m_items)
         parseJsonToDataItem(*item, json, entry, parent);
 }
 
-void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawItem* parent) const
+void EntryReader::readRule(const Value& json, RuleDataInfo& entry, DrawItem* parent) const
 {
     read(json, entry, parent);
     readName(json[ConfigMember::kName], entry);
@@ -75,7 +75,7 @@ void EntryReader::readRule(const Value& json, RuleDataInfo& entry, const DrawIte
 }
 
 void EntryReader::parseJsonToDataItem(const RuleProtocolItem& item, const Value& json,
-                                      RuleDataInfo& entry, const DrawItem* parent) const
+                                      RuleDataInfo& entry, DrawItem* parent) const
 {
     if (m_data.isOverdrawn())
         return; // all is dropped in the end
@@ -115,7 +115,7 @@ QVariant EntryReader::parseValue(const RuleProtocolItem& item, const Value& foun
 
 void EntryReader::addFigure(const RuleProtocolItem& item, const Value& json,
                             const QVector<QPoint>& points, const RuleDataInfo& entry,
-                            const DrawItem* parent) const
+                            DrawItem* parent) const
 {
     DrawItem* drawItem = m_figures.add(item, entry, points, item.caption(), parent);
     if (!drawItem || drawItem->drawType() != BaseDrawType::Parallelogram)

@@ -25,21 +25,20 @@ public:
     EntryReader(RuleData& data, const QString& section);
 
     /// Reads @p json into @p entry; figures go inside @p parent when there is one.
-    void read(const kql::Json::Value& json, RuleDataInfo& entry,
-              const DrawItem* parent = nullptr) const;
+    void read(const kql::Json::Value& json, RuleDataInfo& entry, DrawItem* parent = nullptr) const;
     /// Reads a rule: its items, name and enabled state.
     void readRule(const kql::Json::Value& json, RuleDataInfo& entry,
-                  const DrawItem* parent = nullptr) const;
+                  DrawItem* parent = nullptr) const;
 
 private:
     void parseJsonToDataItem(const RuleProtocolItem& item, const kql::Json::Value& json,
-                             RuleDataInfo& entry, const DrawItem* parent) const;
+                             RuleDataInfo& entry, DrawItem* parent) const;
     void readValue(const RuleProtocolItem& item, const kql::Json::Value& found,
                    RuleDataInfo& entry) const;
     QVariant parseValue(const RuleProtocolItem& item, const kql::Json::Value& found) const;
     void addFigure(const RuleProtocolItem& item, const kql::Json::Value& json,
                    const QVector<QPoint>& points, const RuleDataInfo& entry,
-                   const DrawItem* parent) const;
+                   DrawItem* parent) const;
 
     RuleData& m_data;
     std::vector<const RuleProtocolItem*> m_items;

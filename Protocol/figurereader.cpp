@@ -20,7 +20,7 @@ constexpr int kNoParent = -1;
 
 DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& entry,
                             const QVector<QPoint>& points, const QString& label,
-                            const DrawItem* parent) const
+                            DrawItem* parent) const
 {
     if (!m_data.takeText(Limits::kFigureText + qint64{Limits::kPointText} * points.size()))
         return nullptr;
@@ -33,8 +33,8 @@ DrawItem* FigureReader::add(const RuleProtocolItem& item, const RuleDataInfo& en
     figure.setPoints(points);
     figure.setFinished(true);
     drawItem->figure()->setFigure(figure);
-    return m_data.getDrawScene()->addItem(std::move(drawItem),
-                                          parent ? parent->itemId() : kNoParent);
+    return parent ? parent->addChild(std::move(drawItem))
+                  : m_data.getDrawScene()->addItem(std::move(drawItem), kNoParent);
 }
 
 DrawItem* FigureReader::read(const RuleProtocolItem& item, const RuleDataInfo& entry,

@@ -23,7 +23,7 @@ public:
     /// or @p data may take up no more text.
     DrawItem* add(const RuleProtocolItem& item, const RuleDataInfo& entry,
                   const QVector<QPoint>& points, const QString& label,
-                  const DrawItem* parent = nullptr) const;
+                  DrawItem* parent = nullptr) const;
 
     /// As above, of the points where @p item has its place in @p json; null when there are none.
     DrawItem* read(const RuleProtocolItem& item, const RuleDataInfo& entry,

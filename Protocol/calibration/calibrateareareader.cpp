@@ -19,7 +19,7 @@ QString label(const RuleProtocolItem& item, int number)
 
 /// Reads staffs one after another, so that they stay in the document's order.
 void readStaffs(RuleData& data, const QVector<CalibrateStaffs::Kind>& kinds, const Value& staffs,
-                const RuleDataInfo& entry, const DrawItem* area)
+                const RuleDataInfo& entry, DrawItem* area)
 {
     QVector<int> numbers(kinds.size());
     for (int i = 0; i < staffs.size(); ++i) {
@@ -55,7 +55,7 @@ void CalibrateAreaProtocol::read(RuleData& data, const Value& document) const
     const RuleProtocolItem& region = *area.regionItem();
     const auto kinds = CalibrateStaffs::kinds(area);
     readEntries(data, document, [&](const Value& json, RuleDataInfo& entry) {
-        const DrawItem* figure =
+        DrawItem* figure =
             FigureReader(data).read(region, entry, json, label(region, data.getDataCount() + 1));
         const Value* staffs = area.verticalStaffItem()->path().readPath(json);
         if (staffs && staffs->isArray())

@@ -30,7 +30,7 @@ QVector<QVector<QPoint>> cornerPairs(const Value& list)
     return pairs;
 }
 
-void readRects(RuleData& data, const Value& json, const RuleDataInfo& entry, const DrawItem* area)
+void readRects(RuleData& data, const Value& json, const RuleDataInfo& entry, DrawItem* area)
 {
     const RuleProtocolItem& rect = *data.getTemplate()->findItem(FightCalibrateTemplate::kRect);
     const Value* found = rect.path().readPath(json);
@@ -70,7 +70,7 @@ void FightCalibrateProtocol::read(RuleData& data, const Value& document) const
 {
     const RuleProtocolItem& region = *data.getTemplate()->findItem(FightCalibrateTemplate::kRegion);
     readEntries(data, document, [&](const Value& json, RuleDataInfo& entry) {
-        const DrawItem* area = FigureReader(data).read(region, entry, json, region.caption());
+        DrawItem* area = FigureReader(data).read(region, entry, json, region.caption());
         readRects(data, json, entry, area);
     });
 }

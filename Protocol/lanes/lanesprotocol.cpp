@@ -24,7 +24,7 @@ namespace
 
 constexpr int kLinePoints = 2;
 
-const DrawItem* readLines(RuleData& data, const Value& json, const RuleDataInfo& entry)
+DrawItem* readLines(RuleData& data, const Value& json, const RuleDataInfo& entry)
 {
     const auto left = PointConversion::toPoints(json[ConfigMember::kLeftLine]);
     const auto right = PointConversion::toPoints(json[ConfigMember::kRightLine]);
@@ -82,7 +82,7 @@ void LanesProtocol::read(RuleData& data, const Value& document) const
     const EntryReader laneReader(data, lanes.name());
     const EntryReader ruleReader(data, ConfigMember::kRuleSection);
     readEntries(data, document, [&](const Value& json, RuleDataInfo& entry) {
-        const DrawItem* lane = readLines(data, json, entry);
+        DrawItem* lane = readLines(data, json, entry);
         laneReader.read(json, entry);
         const Value* rule = rules.ruleOf(entry.sourceIndex());
         if (rule)
