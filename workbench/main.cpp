@@ -31,8 +31,10 @@ int main(int argc, char* argv[])
 {
     QApplication::setApplicationName(QStringLiteral("rules-workbench"));
     QApplication::setApplicationVersion(QStringLiteral(RULES_VERSION));
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // which always does so
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
 
     // Parsed before there is a graphical application, so that help needs no display.
     CommandLine commandLine;
