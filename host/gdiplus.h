@@ -25,20 +25,11 @@ using std::min;
 
 #else
 
-#include "host/gdiplus/basetypes.h"
 #include "host/gdiplus/bitmap.h"
-#include "host/gdiplus/brush.h"
-#include "host/gdiplus/color.h"
 #include "host/gdiplus/font.h"
 #include "host/gdiplus/gdiplusstartup.h"
 #include "host/gdiplus/graphics.h"
 #include "host/gdiplus/graphicspath.h"
-#include "host/gdiplus/image.h"
-#include "host/gdiplus/pen.h"
-#include "host/gdiplus/point.h"
-#include "host/gdiplus/pointf.h"
-#include "host/gdiplus/rect.h"
-#include "host/gdiplus/rectf.h"
-#include "host/gdiplus/stringformat.h"
+#include "host/gdiplus/ink.h"
 
 #endif

@@ -1,11 +1,9 @@
 #include "host/gdiplus/graphics.h"
 
-#include "host/gdiplus/brush.h"
-#include "host/gdiplus/color.h"
 #include "host/gdiplus/font.h"
 #include "host/gdiplus/graphicspath.h"
 #include "host/gdiplus/image.h"
-#include "host/gdiplus/pen.h"
+#include "host/gdiplus/ink.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/api/kqhostexport.h"
-#include "host/gdiplus/basetypes.h"
+#include "host/gdiplus/geometry.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -24,8 +24,6 @@ class Font;
 class GraphicsPath;
 class Image;
 class Pen;
-class PointF;
-class RectF;
 class StringFormat;
 
 /**

@@ -1,10 +1,5 @@
 #include "host/gdiplus/graphicspath.h"
 
-#include "host/gdiplus/point.h"
-#include "host/gdiplus/pointf.h"
-#include "host/gdiplus/rect.h"
-#include "host/gdiplus/rectf.h"
-
 #include <algorithm>
 #include <cmath>
 

@@ -1,17 +1,12 @@
 #pragma once
 
 #include "host/api/kqhostexport.h"
-#include "host/gdiplus/basetypes.h"
+#include "host/gdiplus/geometry.h"
 
 #include <QPainterPath>
 
 namespace Gdiplus
 {
-
-class Point;
-class PointF;
-class Rect;
-class RectF;
 
 /// Closed outlines whose inside can be filled and asked for points.
 class KQHOST_EXPORT GraphicsPath

@@ -1,10 +1,7 @@
 #include "host/gdiplus/graphics.h"
 
-#include "host/gdiplus/brush.h"
 #include "host/gdiplus/font.h"
-#include "host/gdiplus/pointf.h"
-#include "host/gdiplus/rectf.h"
-#include "host/gdiplus/stringformat.h"
+#include "host/gdiplus/ink.h"
 
 #include <QPainter>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "host/gdiplus/pen.h"
+#include "host/gdiplus/ink.h"
 
 #include <QVector>
 
@@ -29,6 +29,12 @@ QVector<qreal> dashPattern(DashStyle style)
 }
 
 } // namespace
+
+Brush::~Brush() = default;
+
+Brush::Brush(const QBrush& brush) : m_brush(brush) {}
+
+SolidBrush::SolidBrush(const Color& color) : Brush(QColor::fromRgba(color.GetValue())) {}
 
 Pen::Pen(const Color& color, REAL width)
 {
