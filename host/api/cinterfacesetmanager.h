@@ -17,9 +17,18 @@ class KQHOST_EXPORT CInterfaceSetManager
 {
 public:
     /// The plug-in stays the caller's. False for null and for one that is already registered.
-    bool AddLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin);
+    bool AddLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin)
+    {
+        if (!plugin || m_logicalPlugins.contains(plugin))
+            return false;
+        m_logicalPlugins.append(plugin);
+        return true;
+    }
     /// False for one that is not registered.
-    bool RemoveLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin);
+    bool RemoveLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin)
+    {
+        return m_logicalPlugins.removeOne(plugin);
+    }
 
 private:
     QList<KQPluginAPI::IClientLogicalPluginAPI*> m_logicalPlugins; ///< not owned

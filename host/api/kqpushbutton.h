@@ -13,8 +13,7 @@ class KQHOST_EXPORT KQPushButton : public QPushButton
     Q_OBJECT
 
 public:
-    explicit KQPushButton(QWidget* parent = nullptr);
-    explicit KQPushButton(const QString& text, QWidget* parent = nullptr);
+    using QPushButton::QPushButton;
 };
 
 } // namespace KQGUI

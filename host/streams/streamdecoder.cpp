@@ -6,6 +6,7 @@
 #include "host/video/streammailbox.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 
 #include <cmath>
 #include <memory>
@@ -85,28 +86,6 @@ void setThreads(AVCodecContext& codec, bool isFile)
 
 } // namespace
 
-/// The thread that reads, for as long as this lives.
-class StreamDecoder::Reader
-{
-public:
-    explicit Reader(StreamDecoder& decoder)
-        : m_decoder(decoder), m_thread([&decoder]() { decoder.readPackets(); })
-    {
-    }
-    ~Reader()
-    {
-        m_decoder.m_input.abort();
-        m_decoder.m_queue.abort();
-        m_thread.join();
-    }
-    Reader(const Reader&) = delete;
-    Reader& operator=(const Reader&) = delete;
-
-private:
-    StreamDecoder& m_decoder;
-    std::thread m_thread;
-};
-
 StreamDecoder::StreamDecoder(const StreamRequest& request, StreamMailbox& mailbox)
     : m_request(request),
       m_mailbox(mailbox),
@@ -125,7 +104,12 @@ QString StreamDecoder::play()
         reason = openCodec();
     if (!reason.isEmpty())
         return reason;
-    const Reader reader(*this);
+    std::thread reader([this]() { readPackets(); });
+    const auto end = qScopeGuard([this, &reader]() {
+        m_input.abort();
+        m_queue.abort();
+        reader.join();
+    });
     return decodePackets();
 }
 

@@ -28,7 +28,6 @@ public:
 
 private:
     using Time = PlayoutClock::Time;
-    class Reader;
 
     // Each returns why the stream is over, empty while it goes on.
     QString openCodec();

@@ -21,11 +21,7 @@ const QStringList kStreamSchemes{QStringLiteral("rtsp"), QStringLiteral("rtsps")
 std::unique_ptr<PictureSource> streamSource(const QString& address, bool isFile,
                                             const StreamOptions& options)
 {
-    StreamRequest request;
-    request.address = address;
-    request.isFile = isFile;
-    request.options = options;
-    return std::make_unique<StreamSource>(request);
+    return std::make_unique<StreamSource>(StreamRequest{address, isFile, options});
 }
 
 bool isStreamAddress(const QString& address)

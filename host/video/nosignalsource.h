@@ -11,13 +11,13 @@ class KQHOST_EXPORT NoSignalSource : public PictureSource
     Q_OBJECT
 
 public:
-    explicit NoSignalSource(const QString& reason);
+    explicit NoSignalSource(const QString& reason) : m_reason(reason) {}
 
-    void start() override;
-    void stop() override;
-    QImage picture() const override;
-    QSize pictureSize() const override;
-    bool canTryAgain() const override;
+    void start() override { setState(PictureState::NoSignal, m_reason); }
+    void stop() override { setState(PictureState::Ended); }
+    QImage picture() const override { return {}; }
+    QSize pictureSize() const override { return {}; }
+    bool canTryAgain() const override { return false; }
 
 private:
     QString m_reason;

@@ -15,18 +15,6 @@ constexpr int kLately = 2 * kMillisecondsPerSecond;
 
 PictureSource::~PictureSource() = default;
 
-QSize PictureSource::shownSize() const
-{
-    return pictureSize();
-}
-
-void PictureSource::setTargetSize(const QSize&) {}
-
-QImage PictureSource::fullPicture() const
-{
-    return picture();
-}
-
 PictureStatistics PictureSource::statistics() const
 {
     PictureStatistics statistics;
@@ -36,11 +24,6 @@ PictureStatistics PictureSource::statistics() const
     const qint64 span = qMax<qint64>(1, m_shown.front().msecsTo(m_shown.back()));
     statistics.picturesPerSecond = double(m_shown.size() - 1) * kMillisecondsPerSecond / span;
     return statistics;
-}
-
-bool PictureSource::canTryAgain() const
-{
-    return true;
 }
 
 void PictureSource::setState(PictureState state, const QString& reason)

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "host/api/kqhostexport.h"
-#include "host/video/picturestate.h"
-#include "host/video/picturestatistics.h"
 
+#include <QDateTime>
 #include <QImage>
 #include <QObject>
 
@@ -11,6 +10,23 @@
 
 namespace UICommonMdl
 {
+
+enum class PictureState { Connecting, Playing, NoSignal, Ended };
+
+/// What a picture source says about itself.
+struct PictureStatus {
+    PictureState state = PictureState::Connecting;
+    QString reason;        ///< why there is no signal, for the operator
+    QDateTime lastPicture; ///< when the last picture came; invalid when none ever did
+};
+
+/// Figures about a picture source, for the operator.
+struct PictureStatistics {
+    QString codec; ///< empty when nothing is decoded
+    QSize size;
+    double picturesPerSecond = 0; ///< of those that were shown lately
+    qint64 dropped = 0;           ///< pictures that came but were not shown
+};
 
 /**
  * Where a video surface gets its pictures. It lives on the GUI thread and never makes it wait: a
@@ -34,18 +50,18 @@ public:
     /// Size of the picture as it was decoded, empty before the first one.
     virtual QSize pictureSize() const = 0;
     /// The size in which the picture has its shape: another one when its points are not square.
-    virtual QSize shownSize() const;
+    virtual QSize shownSize() const { return pictureSize(); }
     /**
      * The size in device pixels at which the picture is shown. A source that can hands over the
      * pictures that follow in exactly this size; others leave the scaling to the surface.
      */
-    virtual void setTargetSize(const QSize& size);
+    virtual void setTargetSize(const QSize&) {}
 
     /// The newest picture in its shown size; this may take a moment.
-    virtual QImage fullPicture() const;
+    virtual QImage fullPicture() const { return picture(); }
     virtual PictureStatistics statistics() const;
     /// Whether start() may help a lost source.
-    virtual bool canTryAgain() const;
+    virtual bool canTryAgain() const { return true; }
 
     PictureStatus status() const { return m_status; }
 

@@ -1,6 +1,6 @@
 #include "host/video/picturestrip.h"
 
-#include "host/video/picturestatistics.h"
+#include "host/video/picturesource.h"
 
 #include <QApplication>
 #include <QBoxLayout>

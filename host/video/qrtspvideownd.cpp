@@ -116,20 +116,10 @@ QRtspVideoWnd::~QRtspVideoWnd()
     m_source->stop();
 }
 
-void QRtspVideoWnd::setInterfaceSetManager(CommonData::CInterfaceSetManager* manager)
-{
-    m_manager = manager;
-}
-
 void QRtspVideoWnd::setDrawEnabled(bool enabled)
 {
     m_drawEnabled = enabled;
     update();
-}
-
-bool QRtspVideoWnd::setPaneDivision(int panes)
-{
-    return panes == 1;
 }
 
 void QRtspVideoWnd::registerDrawCallback(DrawCallback callback, void* user)
@@ -177,11 +167,6 @@ void QRtspVideoWnd::resetToolBar(int pane)
 {
     if (pane == selectedPane())
         closeSource();
-}
-
-int QRtspVideoWnd::selectedPane() const
-{
-    return 0;
 }
 
 QRect QRtspVideoWnd::paneRect(int pane) const
@@ -242,16 +227,6 @@ QImage QRtspVideoWnd::snapshot() const
 QSize QRtspVideoWnd::shownSize() const
 {
     return m_still ? m_still->size() : m_source->shownSize();
-}
-
-QSize QRtspVideoWnd::sizeHint() const
-{
-    return {640, 360};
-}
-
-QSize QRtspVideoWnd::minimumSizeHint() const
-{
-    return {160, 90};
 }
 
 void QRtspVideoWnd::openAddress(const QString& address, const UICommonMdl::StreamOptions& options)

@@ -46,13 +46,13 @@ public:
     ~QRtspVideoWnd() override;
 
     /// The manager stays the caller's; null unbinds.
-    void setInterfaceSetManager(CommonData::CInterfaceSetManager* manager);
+    void setInterfaceSetManager(CommonData::CInterfaceSetManager* manager) { m_manager = manager; }
     CommonData::CInterfaceSetManager* interfaceSetManager() const { return m_manager; }
 
     /// Whether the draw callback is called; off at first.
     void setDrawEnabled(bool enabled);
     /// False for any division but 1, which changes nothing.
-    bool setPaneDivision(int panes);
+    bool setPaneDivision(int panes) { return panes == 1; }
 
     /// Called whenever the pane is painted with a picture; null unregisters.
     void registerDrawCallback(DrawCallback callback, void* user);
@@ -68,7 +68,7 @@ public:
     /// Leaves the pane idle.
     void resetToolBar(int pane);
 
-    int selectedPane() const;
+    int selectedPane() const { return 0; }
     /// Where the picture is in the widget; empty without a picture.
     QRect paneRect(int pane) const;
     /// What the pane says about its state; empty while a picture plays.
@@ -82,8 +82,8 @@ public:
     /// The picture shown, in its shown size and without what is drawn over it.
     QImage snapshot() const;
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override { return {640, 360}; }
+    QSize minimumSizeHint() const override { return {160, 90}; }
 
 signals:
     void SignalMoveEvent(QMouseEvent* event);

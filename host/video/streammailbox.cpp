@@ -31,24 +31,6 @@ void StreamMailbox::setTargetSize(const QSize& size)
     m_changed.notify_all();
 }
 
-QString StreamMailbox::codec() const
-{
-    const Lock lock(m_mutex);
-    return m_codec;
-}
-
-qint64 StreamMailbox::dropped() const
-{
-    const Lock lock(m_mutex);
-    return m_dropped;
-}
-
-bool StreamMailbox::isLoginRefused() const
-{
-    const Lock lock(m_mutex);
-    return m_isLoginRefused;
-}
-
 bool StreamMailbox::isClosed() const
 {
     const Lock lock(m_mutex);
@@ -59,12 +41,6 @@ bool StreamMailbox::waitUntil(Clock::time_point time)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     return !m_changed.wait_until(lock, time, [this]() { return !m_wake; });
-}
-
-QSize StreamMailbox::targetSize() const
-{
-    const Lock lock(m_mutex);
-    return m_targetSize;
 }
 
 bool StreamMailbox::waitForAnotherSize(const QSize& size)

@@ -1,17 +1,28 @@
 #pragma once
 
 #include "host/api/kqhostexport.h"
-#include "host/video/streamnews.h"
 
-#include <QSize>
+#include <QImage>
+#include <QString>
 
 #include <chrono>
 #include <condition_variable>
 #include <functional>
+#include <memory>
 #include <mutex>
+#include <optional>
 
 namespace UICommonMdl
 {
+
+class DecodedPicture;
+
+/// What came from a stream's thread since it was asked last.
+struct StreamNews {
+    QImage picture; ///< the newest, as it is to be shown; null when none came
+    std::shared_ptr<const DecodedPicture> decoded; ///< the same one
+    std::optional<QString> failure;                ///< why the stream is over
+};
 
 /**
  * All that the GUI thread and a stream's threads share. It holds the newest picture only: one that
@@ -30,16 +41,16 @@ public:
     void close();
     StreamNews fetch();
     void setTargetSize(const QSize& size);
-    QString codec() const;
-    qint64 dropped() const;
-    bool isLoginRefused() const;
+    QString codec() const { return locked(m_codec); }
+    qint64 dropped() const { return locked(m_dropped); }
+    bool isLoginRefused() const { return locked(m_isLoginRefused); }
 
     // The stream's side.
     bool isClosed() const;
     /// Waits; false as soon as the mailbox is closed.
     bool waitUntil(Clock::time_point time);
     /// The size in which the GUI shows the picture, empty while it is not known.
-    QSize targetSize() const;
+    QSize targetSize() const { return locked(m_targetSize); }
     /// Waits until the target size is known and not @p size; false as soon as the mailbox is
     /// closed.
     bool waitForAnotherSize(const QSize& size);
@@ -52,6 +63,12 @@ public:
     void postFailure(const QString& reason);
 
 private:
+    template<class T>
+    T locked(const T& member) const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return member;
+    }
     void wakeOnce();
 
     mutable std::mutex m_mutex;

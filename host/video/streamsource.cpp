@@ -56,11 +56,6 @@ void StreamSource::stop()
     setState(PictureState::Ended);
 }
 
-QImage StreamSource::picture() const
-{
-    return m_picture;
-}
-
 QSize StreamSource::pictureSize() const
 {
     return m_decoded ? m_decoded->size() : QSize();

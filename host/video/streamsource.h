@@ -29,7 +29,7 @@ public:
 
     void start() override;
     void stop() override;
-    QImage picture() const override;
+    QImage picture() const override { return m_picture; }
     QSize pictureSize() const override;
     QSize shownSize() const override;
     QImage fullPicture() const override;

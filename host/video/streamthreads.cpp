@@ -84,17 +84,12 @@ private:
     std::list<Running> m_running;
 };
 
-void waitForAll()
-{
-    Registry::instance().waitForAll();
-}
-
 } // namespace
 
 bool StreamThreads::start(std::function<void()> task)
 {
     static std::once_flag once;
-    std::call_once(once, []() { qAddPostRoutine(&waitForAll); });
+    std::call_once(once, []() { qAddPostRoutine([]() { Registry::instance().waitForAll(); }); });
     return Registry::instance().start(std::move(task));
 }
 
