@@ -1,7 +1,5 @@
 #include "workbench/messagedock.h"
 
-#include "workbench/maskedjson.h"
-
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QPlainTextEdit>
@@ -73,8 +71,8 @@ void MessageDock::append(const Entry& entry)
     auto* item = new QTreeWidgetItem({entry.time.toString(QStringLiteral("HH:mm:ss")),
                                       toModule ? tr("host → module") : tr("module → host"),
                                       QString::number(message.id),
-                                      MaskedJson::text(message.p1).simplified()});
-    item->setData(TimeColumn, kTextRole, MaskedJson::text(message.p2));
+                                      MessageRecord::masked(message.p1).simplified()});
+    item->setData(TimeColumn, kTextRole, MessageRecord::masked(message.p2));
     m_list->addTopLevelItem(item);
     if (m_list->topLevelItemCount() > int(kMaximumMessages))
         delete m_list->takeTopLevelItem(0);

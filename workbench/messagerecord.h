@@ -10,4 +10,11 @@ struct MessageRecord {
     int id = 0;
     QString p1;
     QString p2;
+
+    /// Whether the module says here that the operator saved or left.
+    bool isResult() const;
+
+    /// @p json, a parameter or another text, with every address in it masked as
+    /// host/video/maskedaddress.h does. A text without addresses comes back as it is.
+    static QString masked(const QString& json);
 };

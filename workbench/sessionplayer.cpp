@@ -5,8 +5,6 @@
 #include "host/video/qrtspvideownd.h"
 #include "workbench/boxwatcher.h"
 #include "workbench/eventwait.h"
-#include "workbench/loadoptions.h"
-#include "workbench/maskedjson.h"
 #include "workbench/modulehost.h"
 #include "workbench/operatorhand.h"
 #include "workbench/rowhand.h"
@@ -26,6 +24,7 @@ namespace
 {
 
 constexpr int kNormalizedExtent = 8192;
+constexpr QRect kNormalizedPicture(QPoint(0, 0), QPoint(kNormalizedExtent, kNormalizedExtent));
 constexpr int kPictureTimeout = 10000; // milliseconds
 
 // The pixel whose position in 0..8192 is again n, at the size that n was recorded at. At a smaller
@@ -35,6 +34,16 @@ int pixelOf(int n, int extent)
     const qint64 scaled = static_cast<qint64>(n) * extent;
     const auto pixel = static_cast<int>((scaled + kNormalizedExtent - 1) / kNormalizedExtent);
     return qMin(pixel, extent - 1);
+}
+
+QString setRow(QWidget* row, const kql::Json::Value& step)
+{
+    return RowHand::set(row, step["value"]);
+}
+
+QString typeInRow(QWidget* row, const kql::Json::Value& step)
+{
+    return RowHand::type(row, step["text"].asString(), step["edit"].asString());
 }
 
 } // namespace
@@ -52,23 +61,66 @@ SessionPlayer::SessionPlayer(WorkbenchWindow& window, SessionScript script, QObj
     });
 }
 
+/// For @p action on the section that a step names.
+SessionPlayer::Action SessionPlayer::inSection(const SectionAction& action)
+{
+    return [action](SessionPlayer& player, const Value& step) {
+        const QString scene = step["scene"].asString();
+        QWidget* panel = player.m_finder.panel(scene);
+        return panel ? action(player, panel, step) : tr("there is no section \"%1\"").arg(scene);
+    };
+}
+
+/// For @p action on the row that a step names.
+SessionPlayer::Action SessionPlayer::inRow(RowAction action)
+{
+    return inSection([action](SessionPlayer& player, QWidget* panel, const Value& step) {
+        const QString key = step[step.isMember("row") ? "row" : "key"].asString();
+        QWidget* row = player.m_finder.row(panel, key);
+        return row ? action(row, step) : tr("there is no row \"%1\"").arg(key);
+    });
+}
+
+/// For @p action at the place on the picture that a step names.
+SessionPlayer::Action SessionPlayer::onPicture(const PictureAction& action)
+{
+    return [action](SessionPlayer& player, const Value& step) {
+        const Value& at = step["at"];
+        const QPoint wanted(at[0].asInt(), at[1].asInt());
+        const QRect picture = player.m_window.videoSurface()->paneRect(0);
+        const QPoint position = picture.topLeft() + QPoint(pixelOf(wanted.x(), picture.width()),
+                                                           pixelOf(wanted.y(), picture.height()));
+        return kNormalizedPicture.contains(wanted) && picture.contains(position)
+                   ? action(player.m_window.videoSurface(), position)
+                   : tr("the position is not on the picture");
+    };
+}
+
+/// For a click on the window's button @p name.
+SessionPlayer::Action SessionPlayer::onButton(const char* name)
+{
+    return [name](SessionPlayer& player, const Value&) {
+        return OperatorHand::click(player.m_finder.windowButton(QString::fromLatin1(name)));
+    };
+}
+
 SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
 {
     static const QHash<QString, Action> actions = {
         {QStringLiteral("size"), &SessionPlayer::doSize},
         {QStringLiteral("press"), &SessionPlayer::doPress},
-        {QStringLiteral("move"), &SessionPlayer::doMove},
-        {QStringLiteral("double"), &SessionPlayer::doDouble},
-        {QStringLiteral("click"), &SessionPlayer::doClick},
-        {QStringLiteral("pick"), &SessionPlayer::doPick},
-        {QStringLiteral("enable"), &SessionPlayer::doEnable},
-        {QStringLiteral("set"), &SessionPlayer::doSet},
-        {QStringLiteral("type"), &SessionPlayer::doType},
+        {QStringLiteral("move"), onPicture(&OperatorHand::moveTo)},
+        {QStringLiteral("double"), onPicture(&OperatorHand::doubleClickAt)},
+        {QStringLiteral("click"), inSection(&SessionPlayer::doClick)},
+        {QStringLiteral("pick"), inSection(&SessionPlayer::doPick)},
+        {QStringLiteral("enable"), inSection(&SessionPlayer::doEnable)},
+        {QStringLiteral("set"), inRow(&setRow)},
+        {QStringLiteral("type"), inRow(&typeInRow)},
         {QStringLiteral("finish"), &SessionPlayer::doFinish},
-        {QStringLiteral("fold"), &SessionPlayer::doFold},
-        {QStringLiteral("select"), &SessionPlayer::doSelect},
-        {QStringLiteral("save"), &SessionPlayer::doSave},
-        {QStringLiteral("cancel"), &SessionPlayer::doCancel},
+        {QStringLiteral("fold"), inSection(&SessionPlayer::doFold)},
+        {QStringLiteral("select"), inSection(&SessionPlayer::doSelect)},
+        {QStringLiteral("save"), onButton(RowContract::kSave)},
+        {QStringLiteral("cancel"), onButton(RowContract::kCancel)},
         {QStringLiteral("query"), &SessionPlayer::doQuery},
         {QStringLiteral("close"), &SessionPlayer::doClose},
         {QStringLiteral("load"), &SessionPlayer::doLoad},
@@ -101,7 +153,7 @@ void SessionPlayer::runNext()
         QTimer::singleShot(0, this, &SessionPlayer::runNext);
         return;
     }
-    const QString said = MaskedJson::text(step.step.toStyledText()).simplified();
+    const QString said = MessageRecord::masked(step.step.toStyledText()).simplified();
     emit sgnFinished(
         tr("line %1: %2: %3").arg(step.line).arg(said, UICommonMdl::maskedAddress(why)));
 }
@@ -115,11 +167,11 @@ QString SessionPlayer::run(const Value& step)
     const QString fault = StepCheck::fault(step);
     if (!fault.isEmpty())
         return fault;
-    if (action == &SessionPlayer::doExpect)
+    if (name == QLatin1String("expect"))
         return doExpect(step);
     m_posted.clear();
     m_boxes->begin(step["answer"].asString());
-    const QString why = (this->*action)(step);
+    const QString why = action(*this, step);
     if (why.isEmpty() && m_boxes->hadUnansweredQuestion())
         return tr("a question came up that the step does not answer: %1")
             .arg(m_boxes->lastText().value_or(QString()));
@@ -133,110 +185,36 @@ QString SessionPlayer::doSize(const Value& step)
     return {};
 }
 
-bool SessionPlayer::picturePosition(const Value& at, QPoint& position) const
-{
-    const QPoint normalized(at[0].asInt(), at[1].asInt());
-    if (!QRect(QPoint(0, 0), QPoint(kNormalizedExtent, kNormalizedExtent)).contains(normalized))
-        return false;
-    const QRect picture = m_window.videoSurface()->paneRect(0);
-    const QPoint inPicture(pixelOf(normalized.x(), picture.width()),
-                           pixelOf(normalized.y(), picture.height()));
-    position = picture.topLeft() + inPicture;
-    return picture.contains(position);
-}
-
 QString SessionPlayer::doPress(const Value& step)
 {
-    QPoint position;
-    if (!picturePosition(step["at"], position))
-        return tr("the position is not on the picture");
     const bool right = step["button"].asString() == QLatin1String("right");
-    return OperatorHand::clickAt(m_window.videoSurface(), position,
-                                 right ? Qt::RightButton : Qt::LeftButton);
+    const auto press = [right](QWidget* surface, const QPoint& position) {
+        return OperatorHand::clickAt(surface, position, right ? Qt::RightButton : Qt::LeftButton);
+    };
+    return onPicture(press)(*this, step);
 }
 
-QString SessionPlayer::doMove(const Value& step)
+QString SessionPlayer::doClick(QWidget* panel, const Value& step)
 {
-    QPoint position;
-    if (!picturePosition(step["at"], position))
-        return tr("the position is not on the picture");
-    return OperatorHand::moveTo(m_window.videoSurface(), position);
-}
-
-QString SessionPlayer::doDouble(const Value& step)
-{
-    QPoint position;
-    if (!picturePosition(step["at"], position))
-        return tr("the position is not on the picture");
-    return OperatorHand::doubleClickAt(m_window.videoSurface(), position);
-}
-
-QWidget* SessionPlayer::panelOf(const Value& step, QString& why) const
-{
-    const QString scene = step["scene"].asString();
-    QWidget* panel = m_finder.panel(scene);
-    if (!panel)
-        why = tr("there is no section \"%1\"").arg(scene);
-    return panel;
-}
-
-QWidget* SessionPlayer::rowOf(const Value& step, QString& why) const
-{
-    QWidget* panel = panelOf(step, why);
-    const Value& key = step[step.isMember("row") ? "row" : "key"];
-    QWidget* row = panel ? m_finder.row(panel, key.asString()) : nullptr;
-    if (panel && !row)
-        why = tr("there is no row \"%1\"").arg(key.asString());
-    return row;
-}
-
-QString SessionPlayer::doClick(const Value& step)
-{
-    QString why;
-    QWidget* panel = panelOf(step, why);
-    if (!panel)
-        return why;
     QWidget* target = step.isMember("object")
                           ? m_finder.part(panel, step["object"].asString())
                           : m_finder.buttonByText(panel, step["text"].asString());
     return OperatorHand::click(target);
 }
 
-QString SessionPlayer::doPick(const Value& step)
+QString SessionPlayer::doPick(QWidget* panel, const Value& step)
 {
-    QString why;
-    QWidget* panel = panelOf(step, why);
-    if (!panel)
-        return why;
     const bool child = step.isMember("child");
     const auto buttons = m_finder.entryButtons(panel, child);
     const int index = step[child ? "child" : "entry"].asInt() - 1;
     return OperatorHand::click(buttons.value(index, nullptr));
 }
 
-QString SessionPlayer::doEnable(const Value& step)
+QString SessionPlayer::doEnable(QWidget* panel, const Value& step)
 {
-    QString why;
-    QWidget* panel = panelOf(step, why);
-    if (!panel)
-        return why;
     QAbstractButton* button = m_finder.entryButtons(panel, false).value(step["entry"].asInt() - 1);
     QAbstractButton* box = button ? m_finder.enableBox(panel, *button) : nullptr;
     return box && box->isChecked() == step["on"].asBool() ? QString() : OperatorHand::click(box);
-}
-
-QString SessionPlayer::doSet(const Value& step)
-{
-    QString why;
-    QWidget* row = rowOf(step, why);
-    return row ? RowHand::set(row, step["value"]) : why;
-}
-
-QString SessionPlayer::doType(const Value& step)
-{
-    QString why;
-    QWidget* row = rowOf(step, why);
-    return row ? RowHand::type(row, step["text"].asString(), step["edit"].asString()) : why;
 }
 
 QString SessionPlayer::doFinish(const Value&)
@@ -248,38 +226,23 @@ QString SessionPlayer::doFinish(const Value&)
     return {};
 }
 
-QString SessionPlayer::doFold(const Value& step)
+QString SessionPlayer::doFold(QWidget* panel, const Value& step)
 {
-    QString why = doSelect(step);
-    QWidget* panel = why.isEmpty() ? panelOf(step, why) : nullptr;
-    if (!panel)
+    const QString why = doSelect(panel, step);
+    if (!why.isEmpty() || panel->property(RowContract::kFolded).toBool() == step["fold"].asBool())
         return why;
-    if (panel->property(RowContract::kFolded).toBool() == step["fold"].asBool())
-        return {};
     return OperatorHand::click(m_finder.part(panel, QString::fromLatin1(RowContract::kTitleBar)));
 }
 
-QString SessionPlayer::doSelect(const Value& step)
+QString SessionPlayer::doSelect(QWidget* panel, const Value&)
 {
-    QString why;
-    QWidget* panel = panelOf(step, why);
-    if (!panel || panel->property(RowContract::kSelected).toBool())
-        return why;
+    if (panel->property(RowContract::kSelected).toBool())
+        return {};
     QWidget* titleBar = m_finder.part(panel, QString::fromLatin1(RowContract::kTitleBar));
     QWidget* mask = m_finder.part(panel, QString::fromLatin1(RowContract::kMask));
     OperatorHand::scrollIntoView(titleBar);
     const bool masked = mask && mask->isVisible();
     return OperatorHand::clickAt(masked ? mask : titleBar, QPoint(5, 5), Qt::LeftButton);
-}
-
-QString SessionPlayer::doSave(const Value&)
-{
-    return OperatorHand::click(m_finder.windowButton(QString::fromLatin1(RowContract::kSave)));
-}
-
-QString SessionPlayer::doCancel(const Value&)
-{
-    return OperatorHand::click(m_finder.windowButton(QString::fromLatin1(RowContract::kCancel)));
 }
 
 QString SessionPlayer::doQuery(const Value&)
@@ -301,11 +264,39 @@ QString SessionPlayer::file(const Value& name) const
     return besideSession.exists() ? besideSession.absoluteFilePath() : name.asString();
 }
 
+/// Overwrites in @p options what a load step names.
+void SessionPlayer::takeOptions(const Value& step, WorkbenchOptions& options) const
+{
+    const auto takeFile = [&](const char* name, QString& target) {
+        if (step.isMember(name))
+            target = step[name].isNull() ? QString() : file(step[name]);
+    };
+    const auto takeText = [&](const char* name, QString& target) {
+        if (step.isMember(name))
+            target = step[name].asString();
+    };
+    takeFile("template", options.templateFile);
+    takeFile("config", options.configFile);
+    takeFile("picture", options.source);
+    takeFile("source", options.source);
+    takeText("channel", options.channelId);
+    takeText("name", options.channelName);
+    takeText("algorithm", options.algorithmId);
+    takeText("code", options.algorithmCode);
+    if (step.isMember("type"))
+        options.algorithmType = step["type"].asInt();
+    if (step.isMember("selection-mode"))
+        options.selectionMode = step["selection-mode"].asBool();
+    if (step.isMember("editable"))
+        options.editable = step["editable"].isNull()
+                               ? std::nullopt
+                               : std::optional<bool>(step["editable"].asBool());
+}
+
 QString SessionPlayer::doLoad(const Value& step)
 {
     WorkbenchOptions options = m_window.options();
-    LoadOptions::apply(
-        step, [this](const Value& name) { return file(name); }, options);
+    takeOptions(step, options);
     QString error;
     m_window.load(options, error);
     return error;

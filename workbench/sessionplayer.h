@@ -7,8 +7,11 @@
 #include <QList>
 #include <QObject>
 
+#include <functional>
+
 class BoxWatcher;
 class WorkbenchWindow;
+struct WorkbenchOptions;
 
 /**
  * Does a recorded session again: each step through the real widgets, with real mouse and key
@@ -32,25 +35,27 @@ signals:
 private:
     using Value = kql::Json::Value;
     /// Does one step; why it could not be done, or an empty text.
-    using Action = QString (SessionPlayer::*)(const Value&);
+    using Action = std::function<QString(SessionPlayer& player, const Value& step)>;
+    using SectionAction =
+        std::function<QString(SessionPlayer& player, QWidget* panel, const Value& step)>;
+    using RowAction = QString (*)(QWidget* row, const Value& step);
+    using PictureAction = std::function<QString(QWidget* surface, const QPoint& position)>;
 
+    static Action inSection(const SectionAction& action);
+    static Action inRow(RowAction action);
+    static Action onPicture(const PictureAction& action);
+    static Action onButton(const char* name);
     static Action actionFor(const QString& name);
     void runNext();
 
     QString doSize(const Value& step);
     QString doPress(const Value& step);
-    QString doMove(const Value& step);
-    QString doDouble(const Value& step);
-    QString doClick(const Value& step);
-    QString doPick(const Value& step);
-    QString doEnable(const Value& step);
-    QString doSet(const Value& step);
-    QString doType(const Value& step);
+    QString doClick(QWidget* panel, const Value& step);
+    QString doPick(QWidget* panel, const Value& step);
+    QString doEnable(QWidget* panel, const Value& step);
     QString doFinish(const Value& step);
-    QString doFold(const Value& step);
-    QString doSelect(const Value& step);
-    QString doSave(const Value& step);
-    QString doCancel(const Value& step);
+    QString doFold(QWidget* panel, const Value& step);
+    QString doSelect(QWidget* panel, const Value& step);
     QString doQuery(const Value& step);
     QString doClose(const Value& step);
     QString doLoad(const Value& step);
@@ -58,10 +63,8 @@ private:
     QString doWait(const Value& step);
     QString doExpect(const Value& step);
 
-    QWidget* panelOf(const Value& step, QString& why) const;
-    QWidget* rowOf(const Value& step, QString& why) const;
     QString file(const Value& name) const;
-    bool picturePosition(const Value& at, QPoint& position) const;
+    void takeOptions(const Value& step, WorkbenchOptions& options) const;
 
     WorkbenchWindow& m_window;
     SessionScript m_script;

@@ -5,8 +5,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-#include <algorithm>
-#include <iterator>
+#include <functional>
 
 namespace StepCheck
 {
@@ -23,7 +22,7 @@ constexpr int kMaxWait = 600000; // milliseconds
 struct Member {
     const char* step;
     const char* name;
-    bool (*isRight)(const Value& value);
+    std::function<bool(const Value& value)> isRight;
     const char* takes;
 };
 
@@ -46,16 +45,6 @@ bool isButton(const Value& value)
 {
     return value.isNull() || value.asString() == QLatin1String("left") ||
            value.asString() == QLatin1String("right");
-}
-
-bool isSwitch(const Value& value)
-{
-    return value.isBool();
-}
-
-bool isText(const Value& value)
-{
-    return value.isString();
 }
 
 bool isTimeOrPicture(const Value& step)
@@ -86,26 +75,20 @@ const Member kMembers[] = {
     {"press", "button", isButton, "\"left\" or \"right\""},
     {"move", "at", isPosition, kPosition},
     {"double", "at", isPosition, kPosition},
-    {"enable", "on", isSwitch, kSwitch},
-    {"fold", "fold", isSwitch, kSwitch},
-    {"type", "text", isText, kText},
-    {"screenshot", "file", isText, kText},
+    {"enable", "on", &Value::isBool, kSwitch},
+    {"fold", "fold", &Value::isBool, kSwitch},
+    {"type", "text", &Value::isString, kText},
+    {"screenshot", "file", &Value::isString, kText},
     {"expect", "posted", isMessage, "members, or null"},
     {"expect", "notice", isNotice, "a text that is not empty, or null"},
 };
 
-const QLatin1String kExpected[] = {QLatin1String("box"),     QLatin1String("posted"),
-                                   QLatin1String("hint"),    QLatin1String("entries"),
-                                   QLatin1String("current"), QLatin1String("notice"),
-                                   QLatin1String("row")};
-const QLatin1String kOfRow[] = {QLatin1String("value"), QLatin1String("visible"),
-                                QLatin1String("enabled"), QLatin1String("marked")};
-
-template<int size>
-bool contains(const QLatin1String (&names)[size], const QString& name)
-{
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
+const QStringList kExpected{QStringLiteral("box"),     QStringLiteral("posted"),
+                            QStringLiteral("hint"),    QStringLiteral("entries"),
+                            QStringLiteral("current"), QStringLiteral("notice"),
+                            QStringLiteral("row")};
+const QStringList kOfRow{QStringLiteral("value"), QStringLiteral("visible"),
+                         QStringLiteral("enabled"), QStringLiteral("marked")};
 
 QString say(const char* text)
 {
@@ -119,8 +102,8 @@ QString expectationFault(const Value& step)
     names.removeAll(QStringLiteral("do"));
     names.removeAll(QStringLiteral("scene"));
     for (const QString& name : qAsConst(names)) {
-        const bool isOfRow = contains(kOfRow, name);
-        if (!isOfRow && !contains(kExpected, name))
+        const bool isOfRow = kOfRow.contains(name);
+        if (!isOfRow && !kExpected.contains(name))
             return say("there is no expectation \"%1\"").arg(name);
         if (isOfRow && !step.isMember("row"))
             return say("\"%1\" is expected of a \"row\" only").arg(name);

@@ -1,5 +1,6 @@
-#include "workbench/maskedjson.h"
+#include "workbench/messagerecord.h"
 
+#include "host/api/pluginmessages.h"
 #include "host/json/reader.h"
 #include "host/json/value.h"
 #include "host/video/maskedaddress.h"
@@ -28,7 +29,12 @@ bool mask(Value& value)
 
 } // namespace
 
-QString MaskedJson::text(const QString& json)
+bool MessageRecord::isResult() const
+{
+    return direction == Direction::FromModule && id == IntelligentRulesUI::PluginMsgRulesResult;
+}
+
+QString MessageRecord::masked(const QString& json)
 {
     // An address in JSON may be hard to see: "rtsp:\/\/", "\u0040".
     Value document;
