@@ -2,12 +2,9 @@
 
 #include "host/api/kqmessagebox.h"
 #include "host/api/rowcontract.h"
-#include "host/json/value.h"
 #include "host/video/qrtspvideownd.h"
 #include "workbench/messagerecord.h"
-#include "workbench/recordedstep.h"
 #include "workbench/restorebar.h"
-#include "workbench/sessionlog.h"
 #include "workbench/sessionplayer.h"
 #include "workbench/sessionrecorder.h"
 #include "workbench/sessionscript.h"
@@ -26,8 +23,6 @@ using kql::Json::Value;
 namespace
 {
 
-constexpr int kRulesResult = 996;
-
 bool isOneOf(const Value& step, std::initializer_list<const char*> names)
 {
     const QString name = step["do"].asString();
@@ -38,17 +33,6 @@ bool isOneOf(const Value& step, std::initializer_list<const char*> names)
 bool isEdit(const Value& step)
 {
     return isOneOf(step, {"press", "double", "click", "set", "type", "enable"});
-}
-
-/// Whether doing it again would tell the client something.
-bool isAnswer(const Value& step)
-{
-    return isOneOf(step, {"save", "cancel"});
-}
-
-bool isResult(const MessageRecord& message)
-{
-    return message.direction == MessageRecord::Direction::FromModule && message.id == kRulesResult;
 }
 
 /// Tells documents from others that have taken their places.
@@ -84,17 +68,6 @@ QString shortPath(const QString& path)
 
 } // namespace
 
-class Autosave::Log : public SessionLog
-{
-public:
-    explicit Log(Autosave& autosave) : m_autosave(autosave) {}
-    void append(const Value& step) override { m_autosave.append(step); }
-    void replaceLast(const Value& step) override { m_autosave.replaceLast(step); }
-
-private:
-    Autosave& m_autosave;
-};
-
 Autosave::Autosave(WorkbenchWindow& window, const QString& folder, int delay)
     : m_window(window), m_finder(window.rulesWindow()), m_file(folder)
 {
@@ -109,7 +82,9 @@ Autosave::Autosave(WorkbenchWindow& window, const QString& folder, int delay)
     connect(m_finder.windowButton(QString::fromLatin1(RowContract::kSave)),
             &QAbstractButton::clicked, this, &Autosave::keepAnswered);
     auto* const recorder = new SessionRecorder(m_window, this);
-    recorder->start(std::make_unique<Log>(*this));
+    connect(recorder, &SessionRecorder::sgnStep, this, &Autosave::append);
+    connect(recorder, &SessionRecorder::sgnLastReplaced, this, &Autosave::replaceLast);
+    recorder->start();
     begin();
     if (m_left)
         offer();
@@ -143,15 +118,18 @@ void Autosave::append(const Value& step)
 {
     if (isOneOf(step, {"load"})) {
         begin();
-    } else if (isAnswer(step)) {
+    } else if (RecordedStep::isAnswer(step)) {
         m_beforeAnswer.emplace(m_finder);
         if (isOneOf(step, {"save"}) && m_finder.unfinishedEdit())
             append(RecordedStep::finish());
     } else {
         m_steps.push_back(step.toCompactText().toUtf8());
-        if (isEdit(step))
-            changed();
-        keepSoon();
+        if (isEdit(step)) {
+            m_isUnsaved = true;
+            m_isResultOld = true;
+        }
+        if (m_isUnsaved && !m_timer.isActive())
+            m_timer.start();
     }
 }
 
@@ -168,22 +146,10 @@ void Autosave::keepAnswered()
 
 void Autosave::replaceLast(const Value& step)
 {
-    if (isAnswer(step) || m_steps.empty())
+    if (RecordedStep::isAnswer(step) || m_steps.empty())
         return;
     m_steps.pop_back();
     append(step);
-}
-
-void Autosave::changed()
-{
-    m_isUnsaved = true;
-    m_isResultOld = true;
-}
-
-void Autosave::keepSoon()
-{
-    if (m_isUnsaved && !m_timer.isActive())
-        m_timer.start();
 }
 
 /// Nothing is left to lose.
@@ -214,7 +180,7 @@ bool Autosave::write()
 
 void Autosave::takeMessage(const MessageRecord& message)
 {
-    if (!isResult(message))
+    if (!message.isResult())
         return;
     m_isResultOld = false;
     if (m_window.wasExited() && !m_window.hasUnwrittenSave())

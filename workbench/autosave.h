@@ -1,9 +1,8 @@
 #pragma once
 
-#include "host/json/fwd.h"
 #include "workbench/autosavefile.h"
 #include "workbench/panelfinder.h"
-#include "workbench/sectionstate.h"
+#include "workbench/recordedstep.h"
 
 #include <QObject>
 #include <QPointer>
@@ -38,14 +37,11 @@ public:
     ~Autosave() override;
 
 private:
-    class Log;
     using Value = kql::Json::Value;
 
     void begin();
     void append(const Value& step);
     void replaceLast(const Value& step);
-    void changed();
-    void keepSoon();
     void keepAnswered();
     void settle();
     bool write();

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
@@ -67,11 +66,6 @@ void AutosaveFile::sweep(const QString& folder)
         if (file.lockLeftBehind() && match.captured(2) != kLockSuffix)
             QFile::remove(entry.filePath());
     }
-}
-
-QDateTime AutosaveFile::written() const
-{
-    return QFileInfo(m_path).lastModified();
 }
 
 /// A lock without an owner is of a run that was killed before it wrote its name there; the

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QFileInfo>
 #include <QLockFile>
 #include <memory>
 
@@ -25,7 +26,7 @@ public:
     static void sweep(const QString& folder);
 
     const QString& path() const { return m_path; }
-    QDateTime written() const;
+    QDateTime written() const { return QFileInfo(m_path).lastModified(); }
     /// Replaces the content in one step; false with one line in @p error, the old one stands then.
     bool write(const QByteArray& content, QString& error);
     void remove();

@@ -12,13 +12,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-namespace
-{
-
-constexpr char kPluginName[] = "IntelligentRulesUI";
-
-} // namespace
-
 ModuleHost::ModuleHost(QObject* parent) : QObject(parent)
 {
     connect(&KQGUI::KQSingleton<UICommonMdl::CUIPluginMessage>::Instance(),
@@ -49,7 +42,7 @@ bool ModuleHost::load(const QString& pluginFile)
 bool ModuleHost::loadFile(const QString& pluginFile)
 {
     m_loader.setFileName(pluginFile.isEmpty() ? QCoreApplication::applicationDirPath() +
-                                                    QLatin1Char('/') + QLatin1String(kPluginName)
+                                                    QStringLiteral("/IntelligentRulesUI")
                                               : pluginFile);
     m_plugin = qobject_cast<KQPluginAPI::IClientUIPluginAPI*>(m_loader.instance());
     if (!m_plugin) {

@@ -36,9 +36,9 @@ Value stepIn(const QString& scene, const char* name)
     return result;
 }
 
-Value stepIn(const QWidget& panel, const char* name)
+Value stepIn(const QWidget* panel, const char* name)
 {
-    return stepIn(panel.objectName(), name);
+    return panel ? stepIn(panel->objectName(), name) : step(name);
 }
 
 Value pairOf(int first, int second)
@@ -73,7 +73,7 @@ Value pick(const PanelFinder& finder, QWidget* panel, const QAbstractButton& but
 {
     const auto isButton = [&button](const QAbstractButton* other) { return other == &button; };
     const auto entries = finder.entryButtons(panel, false);
-    Value result = stepIn(*panel, "pick");
+    Value result = stepIn(panel, "pick");
     if (const int entry = numberOf(entries, isButton)) {
         result["entry"] = entry;
         return result;
@@ -86,7 +86,7 @@ Value pick(const PanelFinder& finder, QWidget* panel, const QAbstractButton& but
 
 Value enable(const PanelFinder& finder, QWidget* panel, const QAbstractButton& box)
 {
-    Value result = stepIn(*panel, "enable");
+    Value result = stepIn(panel, "enable");
     result["entry"] = numberOf(finder.entryButtons(panel, false),
                                [&finder, panel, &box](const QAbstractButton* entry) {
                                    return finder.enableBox(panel, *entry) == &box;
@@ -95,7 +95,7 @@ Value enable(const PanelFinder& finder, QWidget* panel, const QAbstractButton& b
     return result;
 }
 
-Value click(const QWidget& panel, const QAbstractButton& button)
+Value click(const QWidget* panel, const QAbstractButton& button)
 {
     Value result = stepIn(panel, "click");
     if (button.objectName().isEmpty())
@@ -168,7 +168,7 @@ Value button(const PanelFinder& finder, const QAbstractButton& button)
         return pick(finder, panel, button);
     if (button.objectName() == QLatin1String(RowContract::kEnable))
         return enable(finder, panel, button);
-    return click(*panel, button);
+    return click(panel, button);
 }
 
 Value select(const QString& scene)
@@ -185,8 +185,7 @@ Value fold(const QString& scene, bool folded)
 
 Value set(const QWidget& row)
 {
-    const QWidget* panel = panelAround(row);
-    Value result = panel ? stepIn(*panel, "set") : step("set");
+    Value result = stepIn(panelAround(row), "set");
     result["key"] = row.objectName();
     result["value"] = RowHand::shown(&row);
     return result;
@@ -194,8 +193,7 @@ Value set(const QWidget& row)
 
 Value typed(const QWidget& row, const QLineEdit& edit)
 {
-    const QWidget* panel = panelAround(row);
-    Value result = panel ? stepIn(*panel, "type") : step("type");
+    Value result = stepIn(panelAround(row), "type");
     result["key"] = row.objectName();
     result["text"] = edit.text();
     if (row.findChild<QLineEdit*>() != &edit)
@@ -206,6 +204,12 @@ Value typed(const QWidget& row, const QLineEdit& edit)
 Value finish()
 {
     return step("finish");
+}
+
+bool isAnswer(const Value& step)
+{
+    const QString name = step["do"].asString();
+    return name == QLatin1String("save") || name == QLatin1String("cancel");
 }
 
 Value load(const WorkbenchOptions* before, const WorkbenchOptions& now)
@@ -235,3 +239,28 @@ Value load(const WorkbenchOptions* before, const WorkbenchOptions& now)
 }
 
 } // namespace RecordedStep
+
+SectionState::SectionState(const PanelFinder& finder)
+{
+    for (const QWidget* panel : finder.panels()) {
+        m_folded[panel->objectName()] = panel->property(RowContract::kFolded).toBool();
+        if (panel->property(RowContract::kSelected).toBool())
+            m_selected = panel->objectName();
+    }
+}
+
+std::vector<kql::Json::Value> SectionState::stepsFrom(const SectionState& before) const
+{
+    std::vector<kql::Json::Value> steps;
+    QString selected = before.m_selected;
+    for (auto i = m_folded.begin(); i != m_folded.end(); ++i) {
+        if (before.m_folded.value(i.key()) == i.value())
+            continue;
+        // That selects the section, too.
+        steps.push_back(RecordedStep::fold(i.key(), i.value()));
+        selected = i.key();
+    }
+    if (selected != m_selected && !m_selected.isEmpty())
+        steps.push_back(RecordedStep::select(m_selected));
+    return steps;
+}

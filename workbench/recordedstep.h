@@ -2,6 +2,10 @@
 
 #include "host/json/value.h"
 
+#include <QMap>
+#include <QString>
+#include <vector>
+
 class PanelFinder;
 class QAbstractButton;
 class QLineEdit;
@@ -41,8 +45,25 @@ Value typed(const QWidget& row, const QLineEdit& edit);
 /// Leaving an edit that is written as unfinished.
 Value finish();
 
+/// Whether doing @p step again would tell the client something: it saves or cancels.
+bool isAnswer(const Value& step);
+
 /// Loading @p now where @p before was loaded; names what differs, and the documents always.
 /// Without @p before it names everything.
 Value load(const WorkbenchOptions* before, const WorkbenchOptions& now);
 
 } // namespace RecordedStep
+
+/// Which section of a rules window is selected, and which are folded.
+class SectionState
+{
+public:
+    explicit SectionState(const PanelFinder& finder);
+
+    /// The steps of a session that lead from @p before to this.
+    std::vector<kql::Json::Value> stepsFrom(const SectionState& before) const;
+
+private:
+    QString m_selected; ///< a scene's name; empty for none
+    QMap<QString, bool> m_folded;
+};

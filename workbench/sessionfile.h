@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/sessionlog.h"
+#include "host/json/fwd.h"
 
 #include <QFile>
 
@@ -10,7 +10,7 @@
  * A session being written: one step a line, each on the disk before the next one happens. When one
  * cannot be written, nothing comes after it: with a gap the session would do something else.
  */
-class SessionFile : public SessionLog
+class SessionFile
 {
 public:
     /// @p failed is called, once, with one line that says what cannot be written.
@@ -19,8 +19,9 @@ public:
     /// Replaces @p path by an empty session; false with one line in @p error, when another
     /// recording is being written there, too.
     bool open(const QString& path, QString& error);
-    void append(const kql::Json::Value& step) override;
-    void replaceLast(const kql::Json::Value& step) override;
+    void append(const kql::Json::Value& step);
+    /// Puts @p step in the place of the last one.
+    void replaceLast(const kql::Json::Value& step);
 
 private:
     bool lock();

@@ -20,16 +20,13 @@
 #include <QTimer>
 #include <QValidator>
 
+#include <memory>
+#include <utility>
+
 namespace
 {
 
 Q_LOGGING_CATEGORY(lcRecorder, "rules.workbench.recorder", QtWarningMsg)
-
-bool isQuestion(const kql::Json::Value& step)
-{
-    const QString name = step["do"].asString();
-    return name == QLatin1String("save") || name == QLatin1String("cancel");
-}
 
 /// Signals that belong to properties have no common signature to be connected by.
 void connectChange(QObject& from, const QMetaProperty& property, QObject& to, const char* slot)
@@ -68,21 +65,21 @@ SessionRecorder::SessionRecorder(WorkbenchWindow& window, QObject* parent)
 {
 }
 
-SessionRecorder::~SessionRecorder() = default;
-
 bool SessionRecorder::open(const QString& path, QString& error)
 {
-    auto file =
-        std::make_unique<SessionFile>([this](const QString& line) { emit sgnFailed(line); });
+    const auto file =
+        std::make_shared<SessionFile>([this](const QString& line) { emit sgnFailed(line); });
     if (!file->open(path, error))
         return false;
-    start(std::move(file));
+    connect(this, &SessionRecorder::sgnStep, this, [file](auto& step) { file->append(step); });
+    connect(this, &SessionRecorder::sgnLastReplaced, this,
+            [file](auto& step) { file->replaceLast(step); });
+    start();
     return true;
 }
 
-void SessionRecorder::start(std::unique_ptr<SessionLog> log)
+void SessionRecorder::start()
 {
-    m_log = std::move(log);
     for (QWidget* widget : m_rulesWindow->findChildren<QWidget*>())
         watch(widget);
     connect(&m_window, &WorkbenchWindow::sgnLoad, this, &SessionRecorder::sltLoad,
@@ -190,7 +187,7 @@ void SessionRecorder::pressPicture(const QMouseEvent& event)
     if (isLeft && event.type() == QEvent::MouseButtonDblClick && m_move.isNull() &&
         m_last == press) {
         m_last = RecordedStep::onPicture("double", event.pos(), picture);
-        m_log->replaceLast(m_last);
+        emit sgnLastReplaced(m_last);
         return;
     }
     record(press);
@@ -324,13 +321,13 @@ void SessionRecorder::sltButtonClicked()
 
 void SessionRecorder::watchQuestion(QMessageBox& box)
 {
-    if (!(box.standardButtons() & QMessageBox::No) || !isQuestion(m_last))
+    if (!(box.standardButtons() & QMessageBox::No) || !RecordedStep::isAnswer(m_last))
         return;
     connect(&box, &QDialog::finished, this, [this](int result) {
-        if (!isQuestion(m_last))
+        if (!RecordedStep::isAnswer(m_last))
             return;
         m_last["answer"] = result == QMessageBox::Yes ? "Yes" : "No";
-        m_log->replaceLast(m_last);
+        emit sgnLastReplaced(m_last);
     });
 }
 
@@ -411,8 +408,8 @@ void SessionRecorder::append(const Value& step)
 {
     const bool isOnPicture = step.isMember("at");
     if (isOnPicture && !m_pictureAwaited)
-        m_log->append(RecordedStep::waitForPicture());
+        emit sgnStep(RecordedStep::waitForPicture());
     m_pictureAwaited = m_pictureAwaited || isOnPicture;
-    m_log->append(step);
+    emit sgnStep(step);
     m_last = step;
 }

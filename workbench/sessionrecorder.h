@@ -7,14 +7,12 @@
 #include <QObject>
 #include <QPointer>
 #include <QSize>
-#include <memory>
 
 class QAbstractButton;
 class QKeyEvent;
 class QLineEdit;
 class QMessageBox;
 class QMouseEvent;
-class SessionLog;
 class WorkbenchWindow;
 
 /**
@@ -32,15 +30,17 @@ class SessionRecorder : public QObject
 public:
     /// @p window has its rules window already; it is not owned.
     explicit SessionRecorder(WorkbenchWindow& window, QObject* parent = nullptr);
-    ~SessionRecorder() override;
 
     /// Starts recording into @p path, which is replaced; false with one line in @p error. What
     /// cannot be written later is told by sgnFailed().
     bool open(const QString& path, QString& error);
-    /// Starts recording into @p log.
-    void start(std::unique_ptr<SessionLog> log);
+    /// Starts recording for those who connected to the signals.
+    void start();
 
 signals:
+    void sgnStep(const kql::Json::Value& step);
+    /// @p step stands in the place of the last one.
+    void sgnLastReplaced(const kql::Json::Value& step);
     /// From here on nothing is recorded; @p line says why.
     void sgnFailed(const QString& line);
 
@@ -85,10 +85,9 @@ private:
     WorkbenchWindow& m_window;
     QPointer<QWidget> m_rulesWindow; ///< not owned; goes before the recorder
     PanelFinder m_finder;
-    std::unique_ptr<SessionLog> m_log; ///< null until started
-    Value m_last;                      ///< the step written last
-    Value m_move;                      ///< the pointer's last movement; null when it is written
-    QSize m_size;                      ///< of the window, as written
+    Value m_last; ///< the step written last
+    Value m_move; ///< the pointer's last movement; null when it is written
+    QSize m_size; ///< of the window, as written
     WorkbenchOptions m_loaded;
     QPointer<QLineEdit> m_edited;   ///< typed into or ended, and not written yet
     QPointer<QLineEdit> m_typed;    ///< written as unfinished

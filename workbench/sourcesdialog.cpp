@@ -68,7 +68,9 @@ void SourcesDialog::createButtons()
 {
     auto* const side = new QVBoxLayout;
     const auto add = [&](const char* name, const QString& text, void (SourcesDialog::*slot)()) {
-        QPushButton* const button = addButton(name, text);
+        auto* const button = new QPushButton(text);
+        button->setObjectName(QLatin1String(name));
+        button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, slot);
         side->addWidget(button);
     };
@@ -85,14 +87,6 @@ void SourcesDialog::createButtons()
     all->addWidget(m_remember);
     all->addWidget(m_problem);
     all->addWidget(m_buttons);
-}
-
-QPushButton* SourcesDialog::addButton(const char* name, const QString& text)
-{
-    auto* const button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    return button;
 }
 
 SourceBook::Addresses SourcesDialog::addresses() const

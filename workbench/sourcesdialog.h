@@ -7,7 +7,6 @@
 class QCheckBox;
 class QDialogButtonBox;
 class QLabel;
-class QPushButton;
 class QTableWidget;
 
 /// Which address gives each channel's picture, and whether user names and passwords are kept for
@@ -25,7 +24,6 @@ public:
     bool remembersLogins() const;
 
 private:
-    QPushButton* addButton(const char* name, const QString& text);
     void createButtons();
     void appendRow(const QString& channel, const QString& address);
     void addChannel();

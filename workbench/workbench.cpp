@@ -87,13 +87,10 @@ bool Workbench::start(QString& error)
     if (!options.replayFile.isEmpty())
         return replay(options.replayFile, error);
     // Once the window is up: it delays nobody.
-    QTimer::singleShot(0, this, &Workbench::keepWork);
+    QTimer::singleShot(0, this, [this]() {
+        m_autosave = std::make_unique<Autosave>(*m_window, AutosaveFile::usualFolder());
+    });
     return true;
-}
-
-void Workbench::keepWork()
-{
-    m_autosave = std::make_unique<Autosave>(*m_window, AutosaveFile::usualFolder());
 }
 
 bool Workbench::replay(const QString& path, QString& error)

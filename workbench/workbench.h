@@ -27,7 +27,6 @@ public:
 private:
     bool start(QString& error);
     bool replay(const QString& path, QString& error);
-    void keepWork();
     void tellMissingResult();
     void finishReplay(const QString& error);
 

@@ -1,6 +1,8 @@
 #include "workbench/workbenchoptions.h"
 
 #include "host/api/wholefile.h"
+#include "host/json/value.h"
+#include "workbench/documentfile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -9,6 +11,37 @@ namespace WholeFile = UICommonMdl::WholeFile;
 
 namespace
 {
+
+constexpr char kConfiguration[] = "channelAbilityPO";
+
+bool readTemplate(const QString& path, kql::Json::Value& document, QString& error)
+{
+    if (!DocumentFile::read(path, document, error))
+        return false;
+    if (document.isMember("configDescription"))
+        return true;
+    error = QCoreApplication::translate("ParameterBlock",
+                                        "%1:1:1: the template has no \"configDescription\"")
+                .arg(path);
+    return false;
+}
+
+/// Reads a configuration, or a result of an earlier save, which has it in one of its members.
+bool readConfiguration(const QString& path, kql::Json::Value& config, QString& error)
+{
+    if (!DocumentFile::read(path, config, error))
+        return false;
+    if (!config.isMember("result") || !config.isMember("algorithmId"))
+        return true;
+    if (!config.isMember(kConfiguration)) {
+        error = QCoreApplication::translate(
+                    "ParameterBlock", "%1:1:1: nothing was saved, so there is no configuration")
+                    .arg(path);
+        return false;
+    }
+    config = kql::Json::Value(config[kConfiguration]);
+    return true;
+}
 
 /// The same for all ways to name a file, which need not be there.
 QString placeOf(const QString& path)
@@ -58,4 +91,26 @@ QString WorkbenchOptions::outputFault() const
         used.append(placeOf(output.path));
     }
     return {};
+}
+
+QString WorkbenchOptions::parameterBlock(QString& error) const
+{
+    kql::Json::Value block(kql::Json::ValueType::Object);
+    kql::Json::Value rulesTemplate;
+    kql::Json::Value config(kql::Json::ValueType::Object);
+    if (!readTemplate(templateFile, rulesTemplate, error))
+        return {};
+    if (!configFile.isEmpty() && !readConfiguration(configFile, config, error))
+        return {};
+    block["algorithmId"] = algorithmId;
+    block["algorithmType"] = algorithmType;
+    block["algorithmCode"] = algorithmCode;
+    block["channalId"] = channelId;
+    block["channelName"] = channelName;
+    block["selectionMode"] = selectionMode;
+    if (editable)
+        block["editable"] = *editable;
+    block["videoConfigRuleProperty"] = std::move(rulesTemplate);
+    block[kConfiguration] = std::move(config);
+    return block.toStyledText();
 }

@@ -31,4 +31,7 @@ struct WorkbenchOptions {
     /// The line that says which output cannot be where it should: its place is no regular file, or
     /// that of another file of this run. Empty when there is none.
     QString outputFault() const;
+    /// The JSON text of the parameter block that loads the channel's rules, documents read from
+    /// their files. Empty on failure, with one line in @p error.
+    QString parameterBlock(QString& error) const;
 };

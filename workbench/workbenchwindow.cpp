@@ -11,7 +11,6 @@
 #include "workbench/messagedock.h"
 #include "workbench/messagerecord.h"
 #include "workbench/modulehost.h"
-#include "workbench/parameterblock.h"
 #include "workbench/sourcesdialog.h"
 
 #include <QApplication>
@@ -26,7 +25,6 @@
 namespace
 {
 
-constexpr int kRulesResult = 996;
 constexpr int kNormalizedExtent = 8192;
 constexpr QSize kInitialSize(1180, 800);
 const auto kSampleCamera = QStringLiteral("sample:");
@@ -51,7 +49,9 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options, QWidget* paren
     m_dock->hide();
     m_book.overlay(m_options.channelSources);
     createMenus();
-    createStatusBar();
+    m_pointer->setObjectName(QStringLiteral("pointer"));
+    statusBar()->addPermanentWidget(m_trouble);
+    statusBar()->addPermanentWidget(m_pointer);
     resize(kInitialSize);
     connect(m_host, &ModuleHost::sgnMessage, this, &WorkbenchWindow::takeMessage);
 }
@@ -75,7 +75,8 @@ void WorkbenchWindow::createMenus()
     m_recent = file->addMenu(tr("R&ecent sources"));
     m_recent->setObjectName(QStringLiteral("recentSources"));
     connect(m_recent, &QMenu::aboutToShow, this, &WorkbenchWindow::fillRecent);
-    file->addAction(tr("&Load again"), this, &WorkbenchWindow::loadAgain, QKeySequence(Qt::Key_F5));
+    file->addAction(
+        tr("&Load again"), this, [this]() { loadOrReport(m_options); }, QKeySequence(Qt::Key_F5));
     file->addSeparator();
     file->addAction(tr("Save &result as..."), this, &WorkbenchWindow::saveResultAs,
                     QKeySequence(tr("Ctrl+S")));
@@ -83,13 +84,6 @@ void WorkbenchWindow::createMenus()
     file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
     QMenu* view = menuBar()->addMenu(tr("&View"));
     view->addAction(m_dock->toggleViewAction());
-}
-
-void WorkbenchWindow::createStatusBar()
-{
-    m_pointer->setObjectName(QStringLiteral("pointer"));
-    statusBar()->addPermanentWidget(m_trouble);
-    statusBar()->addPermanentWidget(m_pointer);
 }
 
 bool WorkbenchWindow::start(QString& error)
@@ -100,7 +94,8 @@ bool WorkbenchWindow::start(QString& error)
     }
     m_rulesWindow = m_host->createWindow(this);
     setCentralWidget(m_rulesWindow);
-    watchPicture();
+    if (QRtspVideoWnd* surface = videoSurface())
+        connect(surface, &QRtspVideoWnd::SignalMoveEvent, this, &WorkbenchWindow::showPointer);
     if (!m_options.templateFile.isEmpty())
         return load(m_options, error);
     statusBar()->showMessage(tr("Open a template to begin"));
@@ -112,15 +107,9 @@ QRtspVideoWnd* WorkbenchWindow::videoSurface() const
     return m_rulesWindow ? m_rulesWindow->findChild<QRtspVideoWnd*>() : nullptr;
 }
 
-void WorkbenchWindow::watchPicture()
-{
-    if (QRtspVideoWnd* surface = videoSurface())
-        connect(surface, &QRtspVideoWnd::SignalMoveEvent, this, &WorkbenchWindow::showPointer);
-}
-
 bool WorkbenchWindow::load(const WorkbenchOptions& options, QString& error)
 {
-    const QString block = ParameterBlock::build(options, error);
+    const QString block = options.parameterBlock(error);
     if (block.isEmpty())
         return false;
     m_options = options;
@@ -229,11 +218,6 @@ void WorkbenchWindow::applySources()
     tellTrouble(Trouble::Sources, m_book.error());
 }
 
-void WorkbenchWindow::loadAgain()
-{
-    loadOrReport(m_options);
-}
-
 void WorkbenchWindow::loadOrReport(const WorkbenchOptions& options)
 {
     QString error;
@@ -271,12 +255,10 @@ void WorkbenchWindow::saveResultAs()
 void WorkbenchWindow::takeMessage(const MessageRecord& message)
 {
     m_dock->add(message);
-    const bool isResult =
-        message.direction == MessageRecord::Direction::FromModule && message.id == kRulesResult;
-    if (isResult)
+    if (message.isResult())
         takeResult(message.p2);
     emit sgnMessage(message);
-    if (isResult && !m_options.resultFile.isEmpty() && m_resultError.isEmpty())
+    if (message.isResult() && !m_options.resultFile.isEmpty() && m_resultError.isEmpty())
         emit sgnResultKept();
 }
 

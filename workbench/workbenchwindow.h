@@ -70,8 +70,6 @@ protected:
 
 private:
     void createMenus();
-    void createStatusBar();
-    void watchPicture();
     void openTemplate();
     void openConfiguration();
     void openPicture();
@@ -80,7 +78,6 @@ private:
     void showSource(const QString& source);
     SourceBook::Addresses sources() const;
     void applySources();
-    void loadAgain();
     void saveResultAs();
     void loadOrReport(const WorkbenchOptions& options);
     void report(const QString& error);
