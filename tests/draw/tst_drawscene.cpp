@@ -1,11 +1,13 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "draw/figurelayer.h"
 #include "draw/labelfont.h"
 #include "host/gdiplus.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/script.h"
 
+#include <functional>
 #include <memory>
 
 using kql::Json::Value;
@@ -100,14 +102,32 @@ const Script<Bench> kScript{
      {"parent", [](Bench& b, Step s) { return b.items.key(itemOf(b, s).parent()); }},
      {"entry", [](Bench& b, Step s) { return itemOf(b, s).dataId(); }}}};
 
-QImage painted(DrawScene& scene)
+QImage painted(const std::function<void(Gdiplus::Graphics&)>& paint, int pixelRatio = 1)
 {
-    QImage image(kCanvas, kCanvas, QImage::Format_ARGB32_Premultiplied);
+    QImage image(kCanvas * pixelRatio, kCanvas * pixelRatio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(pixelRatio);
     image.fill(Qt::white);
     QPainter painter(&image);
     Gdiplus::Graphics graphics(&painter);
-    scene.draw(&graphics);
+    paint(graphics);
     return image;
+}
+
+QImage painted(DrawScene& scene)
+{
+    return painted([&](Gdiplus::Graphics& graphics) { scene.draw(&graphics); });
+}
+
+constexpr int kNone = 1, kRough = 2, kSmooth = 3;
+
+/// How many colours are seen in the upper third, above the hint, the picture's among them.
+int colorsAboveTheHint(DrawScene& scene)
+{
+    const QImage seen = painted(scene);
+    QSet<QRgb> colors;
+    for (int i = 0; i < kCanvas * (kCanvas / 3); ++i)
+        colors.insert(seen.pixel(i % kCanvas, i / kCanvas));
+    return qMin(colors.size(), kSmooth);
 }
 
 } // namespace
@@ -177,6 +197,73 @@ private slots:
                          [&] { bench.scene.removeItem(id); });
         bench.press({{1, 1}, {9, 9}});
         QVERIFY(!bench.scene.findItem(id));
+    }
+
+    void keepsWhatIsUnchanged()
+    {
+        FigureLayer layer;
+        FigureLayer::Revisions shown{1, 2, 3};
+        int count = 0;
+        const auto paint = [&](const QSize& size, int pixelRatio = 1) {
+            count = 0;
+            painted(
+                [&](Gdiplus::Graphics& graphics) {
+                    layer.draw(graphics, size, shown, [&](Gdiplus::Graphics&) { ++count; });
+                },
+                pixelRatio);
+            return count;
+        };
+        const QSize size(kCanvas, kCanvas);
+        QCOMPARE(paint(size), 1);
+        QCOMPARE(paint(size), 0);
+        layer.drop();
+        QCOMPARE(paint(size), 1);
+        ++shown.back();
+        QCOMPARE(paint(size), 1);
+        QCOMPARE(paint(size, 2), 1);
+        QCOMPARE(paint(size, 2), 0);
+        QCOMPARE(paint({50, 50}, 2), 1);
+        // Without an area nothing can be kept.
+        QCOMPARE(paint({0, 0}), 1);
+        QCOMPARE(paint({0, 0}), 1);
+    }
+
+    void paintsRoughlyWhatIsTooMuch_data()
+    {
+        QTest::addColumn<int>("points");
+        QTest::addColumn<int>("rounds");
+        QTest::addColumn<int>("lineColors");
+        QTest::addColumn<int>("areaColors");
+        QTest::newRow("a region") << 100 << 1 << kSmooth << kSmooth;
+        QTest::newRow("a tangle") << 8192 << 100 << kSmooth << kRough;
+        QTest::newRow("a blot") << 8193 << 1000 << kRough << kNone;
+    }
+
+    /// A smooth line, or a forbidden area's smooth edge, mixes its colour with the picture's.
+    void paintsRoughlyWhatIsTooMuch()
+    {
+        QFETCH(const int, points);
+        QFETCH(const int, rounds);
+        QVector<QPoint> ring;
+        for (int i = 0; i < points; ++i) {
+            const double angle = 2 * M_PI * rounds * i / points;
+            ring.append({int(4096 + 3000 * std::cos(angle)), int(4096 + 3000 * std::sin(angle))});
+        }
+        Bench bench;
+        bench.add("ring", BaseDrawType::Polygon);
+        Figure figure = bench.items["ring"]->value();
+        figure.setPoints(ring);
+        figure.setFinished(true);
+        bench.items["ring"]->figure()->setFigure(figure);
+        QTEST(colorsAboveTheHint(bench.scene), "lineColors");
+        bench.add("another", BaseDrawType::Polygon);
+        bench.items["another"]->setDataId(2);
+        bench.items["another"]->setForbidenAreaType(DrawItemForbidenAreaType::ForbidenOtherItems);
+        bench.scene.setDrawByDataId(true);
+        bench.scene.setCurrentDataId(2);
+        bench.select("another");
+        QTEST(colorsAboveTheHint(bench.scene), "areaColors");
+        QVERIFY(bench.scene.isPointForbidden({kCanvas / 2 + 20, kCanvas / 2}));
     }
 };
 
