@@ -9,26 +9,18 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
-#include "host/json/reader.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/fixtures.h"
+#include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"
 
 #include <functional>
 
 using kql::Json::Value;
+const auto json = &Mailbox::json;
 
 namespace
 {
-
-Value json(const QString& text)
-{
-    Value value;
-    kql::Json::Reader reader;
-    if (!reader.parse(text, value))
-        qWarning("not JSON: %s in %s", qPrintable(reader.errorText()), qPrintable(text));
-    return value;
-}
 
 QString text(const Value& value)
 {
