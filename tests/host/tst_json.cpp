@@ -1,6 +1,7 @@
 #include "host/api/dprintlog.h"
 #include "host/json/reader.h"
 #include "host/json/value.h"
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 
 #include <functional>
@@ -46,39 +47,24 @@ class TstJson : public RulesTest
     Q_OBJECT
 
 private slots:
+    void readsAreTotal_data() { Fixtures::addRows("jsonreads.json"); }
+
     void readsAreTotal()
     {
-        const auto row = [](const QByteArray& text, const char* expected) {
-            const Value value = parsed(text);
-            QCOMPARE(reads(value), QString::fromUtf8(expected));
-            const bool isArray = text.startsWith('[');
-            const bool isObject = text.startsWith('{');
-            QCOMPARE(value.size(), isArray || isObject ? 1 : 0);
-            QCOMPARE(value[0].asInt(), isArray ? 1 : 0);
-            QCOMPARE(value["a"].asInt(), isObject ? 1 : 0);
-            QCOMPARE(value.isMember("a"), isObject);
-            QVERIFY_BOTH(value[-1].isNull(), value[1].isNull());
-            QVERIFY(value["b"][3]["c"].isNull());
-            QVERIFY_BOTH(value.memberName(1).empty(), value.memberValue(-1).isNull());
-            QCOMPARE(value.memberNames().size(), isObject ? 1 : 0);
-        };
-        row("null", "0 0 0 0 ''");
-        row("7", "1 7 7 7 ''");
-        row("-0", "0 0 0 0 ''");
-        row("0.5", "1 0 0 0.5 ''");
-        row("-2.9", "1 -2 -2 -2.8999999999999999 ''");
-        row("-9223372036854775808",
-            "1 -2147483648 -9223372036854775808 -9.2233720368547758e+18 ''");
-        row("9223372036854775808", "1 2147483647 9223372036854775807 9.2233720368547758e+18 ''");
-        row("-9223372036854775809",
-            "1 -2147483648 -9223372036854775808 -9.2233720368547758e+18 ''");
-        row("1e300", "1 2147483647 9223372036854775807 1.0000000000000001e+300 ''");
-        row("1e-400", "0 0 0 0 ''");
-        row("0.1e-2147483647", "0 0 0 0 ''");
-        row("\"12\"", "0 0 0 0 '12'");
-        row("\"\\u00e4\\ud83d\\ude00 and much more text\"", "0 0 0 0 'ä😀 and much more text'");
-        row("[1]", "0 0 0 0 ''");
-        row("{\"a\":1}", "0 0 0 0 ''");
+        QFETCH(const Value, fixture);
+        const QByteArray text = QByteArray(QTest::currentDataTag()).mid(qstrlen("jsonreads: "));
+        const Value value = parsed(text);
+        QCOMPARE(reads(value), fixture.asString());
+        const bool isArray = text.startsWith('[');
+        const bool isObject = text.startsWith('{');
+        QCOMPARE(value.size(), isArray || isObject ? 1 : 0);
+        QCOMPARE(value[0].asInt(), isArray ? 1 : 0);
+        QCOMPARE(value["a"].asInt(), isObject ? 1 : 0);
+        QCOMPARE(value.isMember("a"), isObject);
+        QVERIFY_BOTH(value[-1].isNull(), value[1].isNull());
+        QVERIFY(value["b"][3]["c"].isNull());
+        QVERIFY_BOTH(value.memberName(1).empty(), value.memberValue(-1).isNull());
+        QCOMPARE(value.memberNames().size(), isObject ? 1 : 0);
     }
 
     void refusesText()
