@@ -350,21 +350,6 @@ private slots:
             ending.end(desk);
             QVERIFY(!hint->isVisible());
         }
-        const auto check = [](const QByteArray& parent) {
-            Desk desk;
-            const auto without = QByteArray(kTemplate).replace("\"Rules[]\"", '"' + parent + '"');
-            desk.load(block(kChannel, config({}), without));
-            desk.click("addRule");
-            for (const QPoint& corner : {QPoint(50, 50), QPoint(300, 50), QPoint(300, 300)})
-                desk.press(corner);
-            desk.press({9, 9}, Qt::RightButton);
-            desk.click("btnSave");
-            QCOMPARE(desk.find<QLabel>("lblHint")->text(),
-                     "Nothing was saved. The template has no place \"" + parent +
-                         "\" for what is set under \"rules\".");
-        };
-        check("");
-        check("Global.Level.R[]");
     }
 
     /// However much there is to tell, Save stays where it is.
