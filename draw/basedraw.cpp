@@ -117,9 +117,10 @@ std::optional<QPoint> BaseDraw::canvasPoint(int index) const
 void BaseDraw::setMovePoint(const std::optional<QPoint>& canvasPoint)
 {
     const QMutexLocker lock(&m_mutex);
-    m_movePoint.reset();
     if (canvasPoint)
         m_movePoint = normalizedMouse(*canvasPoint);
+    else
+        m_movePoint.reset();
     change();
 }
 

@@ -168,6 +168,13 @@ private slots:
         staff->setMovePoint(std::nullopt);
         QVERIFY_BOTH(!staff->movePoint(), staff->revision() != shown);
 
+        // A canvas without an area leaves the end where it was.
+        staff->setMovePoint(QPoint(30, 40));
+        staff->setCanvasSize(0, 0);
+        staff->setMovePoint(QPoint(50, 60));
+        staff->setCanvasSize(kExtent, kExtent);
+        QCOMPARE(staff->movePoint().value(), QPoint(30, 40));
+
         // Upright in the device's coordinates, on a canvas that has no pixel for each of them.
         const auto small = makeFigure(Type::VerticalRuler, 833);
         small->addPoint(335, 100);
