@@ -30,33 +30,9 @@ private:
     Status m_status = Ok;
 };
 
-/// Where text stands in its layout rectangle; at the top left unless told otherwise.
+/// How text stands in its layout rectangle: at the top left.
 class StringFormat
 {
-public:
-    StringFormat() = default;
-    StringFormat(const StringFormat&) = delete;
-    StringFormat& operator=(const StringFormat&) = delete;
-
-    /// Across the line.
-    Status SetAlignment(StringAlignment align)
-    {
-        m_alignment = align;
-        return Ok;
-    }
-    StringAlignment GetAlignment() const { return m_alignment; }
-
-    /// From line to line.
-    Status SetLineAlignment(StringAlignment align)
-    {
-        m_lineAlignment = align;
-        return Ok;
-    }
-    StringAlignment GetLineAlignment() const { return m_lineAlignment; }
-
-private:
-    StringAlignment m_alignment = StringAlignmentNear;
-    StringAlignment m_lineAlignment = StringAlignmentNear;
 };
 
 } // namespace Gdiplus

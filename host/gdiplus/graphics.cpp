@@ -24,22 +24,6 @@ bool areFinite(Values... values)
     return (std::isfinite(values) && ...);
 }
 
-QFont::StyleStrategy textStrategy(TextRenderingHint hint)
-{
-    switch (hint) {
-    case TextRenderingHintSystemDefault:
-    case TextRenderingHintClearTypeGridFit:
-        break;
-    case TextRenderingHintSingleBitPerPixelGridFit:
-    case TextRenderingHintSingleBitPerPixel:
-        return QFont::NoAntialias;
-    case TextRenderingHintAntiAliasGridFit:
-    case TextRenderingHintAntiAlias:
-        return QFont::NoSubpixelAntialias;
-    }
-    return QFont::PreferDefault;
-}
-
 } // namespace
 
 Graphics::Graphics(HDC hdc)
@@ -89,10 +73,11 @@ Status Graphics::SetSmoothingMode(SmoothingMode mode)
 
 Status Graphics::SetTextRenderingHint(TextRenderingHint hint)
 {
-    if (!isReady() || hint < TextRenderingHintSystemDefault ||
-        hint > TextRenderingHintClearTypeGridFit)
+    if (!isReady() ||
+        (hint != TextRenderingHintSystemDefault && hint != TextRenderingHintAntiAlias))
         return report(InvalidParameter);
-    m_state.textStrategy = textStrategy(hint);
+    m_state.textStrategy =
+        hint == TextRenderingHintAntiAlias ? QFont::NoSubpixelAntialias : QFont::PreferDefault;
     return Ok;
 }
 
@@ -101,27 +86,18 @@ REAL Graphics::GetDpiX() const
     return REAL(96 * pixelRatio());
 }
 
-Status Graphics::TranslateTransform(REAL dx, REAL dy, MatrixOrder order)
+Status Graphics::TranslateTransform(REAL dx, REAL dy)
 {
     if (!areFinite(dx, dy))
         return report(InvalidParameter);
-    return transform(QTransform::fromTranslate(qreal(dx), qreal(dy)), order);
+    return transform(QTransform::fromTranslate(qreal(dx), qreal(dy)));
 }
 
-Status Graphics::RotateTransform(REAL angle, MatrixOrder order)
+Status Graphics::RotateTransform(REAL angle)
 {
     if (!areFinite(angle))
         return report(InvalidParameter);
-    return transform(QTransform().rotate(qreal(angle)), order);
-}
-
-Status Graphics::ResetTransform()
-{
-    if (!isReady())
-        return report(InvalidParameter);
-    m_state.world = {};
-    m_transformChanged = true;
-    return Ok;
+    return transform(QTransform().rotate(qreal(angle)));
 }
 
 GraphicsState Graphics::Save() const
@@ -254,11 +230,11 @@ Status Graphics::report(Status status) const
     return status;
 }
 
-Status Graphics::transform(const QTransform& change, MatrixOrder order)
+Status Graphics::transform(const QTransform& change)
 {
     if (!isReady())
         return report(InvalidParameter);
-    m_state.world = order == MatrixOrderAppend ? m_state.world * change : change * m_state.world;
+    m_state.world = change * m_state.world;
     m_transformChanged = true;
     return Ok;
 }
