@@ -1,26 +1,23 @@
 #pragma once
 
+#include "tabel/optionbox.h"
+
 #include <QCheckBox>
 
-struct EnumOption;
-
-/// A check box bound to one option; its dynamic property "value" holds the stored text.
-class CheckBoxWidget : public QCheckBox
+/// The check box of one option.
+class CheckBoxWidget : public OptionBox<QCheckBox, QStyle::CE_CheckBox, QStyle::SE_CheckBoxContents>
 {
     Q_OBJECT
 
 public:
-    explicit CheckBoxWidget(const EnumOption& option, QWidget* parent = nullptr);
+    explicit CheckBoxWidget(const EnumOption& option, QWidget* parent = nullptr)
+        : OptionBox(option, parent), m_exclusive(option.isAll)
+    {
+    }
 
-    /// As stored in the configuration.
-    const QString& value() const { return m_value; }
     /// Whether checking it unchecks the other boxes of its row.
     bool isExclusive() const { return m_exclusive; }
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
-    QString m_value;
     bool m_exclusive;
 };

@@ -1,14 +1,11 @@
 #include "tabel/optionbox.h"
 
-#include "Protocol/ruleprotocolitem.h"
 #include "host/api/rowcontract.h"
 #include "tabel/plaintext.h"
 
 #include <QAbstractButton>
-#include <QStyle>
-#include <QStyleOptionButton>
 
-void OptionBox::bind(QAbstractButton& box, const EnumOption& option)
+void bindOption(QAbstractButton& box, const EnumOption& option)
 {
     box.setText(PlainText::button(option.text));
     box.setToolTip(
@@ -16,10 +13,9 @@ void OptionBox::bind(QAbstractButton& box, const EnumOption& option)
     box.setProperty(RowContract::kOption, option.value);
 }
 
-void OptionBox::elide(const QAbstractButton& box, bool isRadio, QStyleOptionButton& option)
+void elideOption(const QAbstractButton& box, QStyle::SubElement contents, QStyleOptionButton& look)
 {
-    const auto contents = isRadio ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents;
-    const int width = box.style()->subElementRect(contents, &option, &box).width();
-    option.text =
-        box.fontMetrics().elidedText(option.text, Qt::ElideRight, width, Qt::TextShowMnemonic);
+    const int width = box.style()->subElementRect(contents, &look, &box).width();
+    look.text =
+        box.fontMetrics().elidedText(look.text, Qt::ElideRight, width, Qt::TextShowMnemonic);
 }

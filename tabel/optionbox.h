@@ -1,19 +1,41 @@
 #pragma once
 
-#include <QString>
+#include "Protocol/ruleprotocolitem.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 class QAbstractButton;
-class QStyleOptionButton;
-struct EnumOption;
 
-/// What check boxes and radio buttons bound to an option have in common.
-namespace OptionBox
+/// Gives @p box text, tool tip and the dynamic property "value" (the stored text).
+void bindOption(QAbstractButton& box, const EnumOption& option);
+
+/// Elides the text of @p look to what @p box has room for beside its mark, a QStyle::SubElement.
+void elideOption(const QAbstractButton& box, QStyle::SubElement contents, QStyleOptionButton& look);
+
+/// A check box or radio button bound to one option; its dynamic property "value" holds the stored
+/// text.
+template<class Button, QStyle::ControlElement kElement, QStyle::SubElement kContents>
+class OptionBox : public Button
 {
+public:
+    OptionBox(const EnumOption& option, QWidget* parent) : Button(parent), m_value(option.value)
+    {
+        bindOption(*this, option);
+    }
 
-/// Text, tool tip and the dynamic property "value" (the stored text).
-void bind(QAbstractButton& box, const EnumOption& option);
+    /// As stored in the configuration.
+    const QString& value() const { return m_value; }
 
-/// Elides the text of @p option to what @p box has room for beside its mark.
-void elide(const QAbstractButton& box, bool isRadio, QStyleOptionButton& option);
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QStyleOptionButton look;
+        this->initStyleOption(&look);
+        elideOption(*this, kContents, look);
+        QStylePainter(this).drawControl(kElement, look);
+    }
 
-} // namespace OptionBox
+private:
+    QString m_value;
+};
