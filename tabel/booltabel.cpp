@@ -11,12 +11,6 @@ BoolTabel::BoolTabel(QWidget* parent) : ControlTabel(parent), m_switch(new QChec
     connect(m_switch, &QCheckBox::clicked, this, [this] { announce(); });
 }
 
-void BoolTabel::init()
-{
-    ControlTabel::init();
-    setValue(itemValue(), false);
-}
-
 void BoolTabel::setValue(const QVariant& value, bool emitChange)
 {
     m_switch->setChecked(value.toBool());

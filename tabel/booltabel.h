@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/api/rowcontract.h"
 #include "tabel/controltabel.h"
 
 class QCheckBox;
@@ -13,7 +12,6 @@ class BoolTabel : public ControlTabel
 public:
     explicit BoolTabel(QWidget* parent = nullptr);
 
-    void init() override;
     void setValue(const QVariant& value, bool emitChange) override;
     QVariant value() const override;
     int rowKind() const override { return RowContract::Switch; }

@@ -7,7 +7,6 @@
 
 void CheckBoxTabel::init()
 {
-    ControlTabel::init();
     m_boxes.clear();
     deleteAll();
     const auto options = protocolItem() ? protocolItem()->enumeration() : QList<EnumOption>();
@@ -18,8 +17,7 @@ void CheckBoxTabel::init()
         addWidget(box, false);
         m_boxes.append(box);
     }
-    setValue(itemValue(), false);
-    relayout(0, 0);
+    ControlTabel::init();
 }
 
 void CheckBoxTabel::setValue(const QVariant& value, bool emitChange)

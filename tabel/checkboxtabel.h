@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/api/rowcontract.h"
 #include "tabel/optionstabel.h"
 
 class CheckBoxWidget;

@@ -3,9 +3,8 @@
 #include "tabel/controltabel.h"
 
 #include <QPointer>
+#include <QVector>
 #include <algorithm>
-
-ControlItemWidgetTabel::ControlItemWidgetTabel(QWidget* parent) : WidgetTabel(parent) {}
 
 void ControlItemWidgetTabel::addControl(ControlTabel* row, bool relayoutNow)
 {
@@ -44,29 +43,15 @@ bool ControlItemWidgetTabel::getControlValue(const QString& key, QVariant& value
 void ControlItemWidgetTabel::finishEdits()
 {
     // What is announced may change the rows.
-    QList<QPointer<ControlTabel>> rows;
-    for (ControlTabel* row : qAsConst(m_rows))
-        rows.append(row);
-    for (const QPointer<ControlTabel>& row : qAsConst(rows)) {
+    const QVector<QPointer<ControlTabel>> rows(m_rows.cbegin(), m_rows.cend());
+    for (const QPointer<ControlTabel>& row : rows) {
         if (row)
             row->finishEdit();
     }
 }
 
-void ControlItemWidgetTabel::removeWidget(QWidget* widget)
-{
-    if (contains(widget))
-        widget->disconnect(this);
-    WidgetTabel::removeWidget(widget);
-}
-
 void ControlItemWidgetTabel::forgetWidget(const QObject* child)
 {
-    const auto isChild = [child](const ControlTabel* row) {
-        return static_cast<const QObject*>(row) == child;
-    };
-    const auto row = std::find_if(m_rows.begin(), m_rows.end(), isChild);
-    if (row != m_rows.end())
-        m_rows.erase(row);
+    forgetIn(m_rows, child);
     WidgetTabel::forgetWidget(child);
 }

@@ -10,7 +10,7 @@ class ControlItemWidgetTabel : public WidgetTabel
     Q_OBJECT
 
 public:
-    explicit ControlItemWidgetTabel(QWidget* parent = nullptr);
+    using WidgetTabel::WidgetTabel;
 
     /// Appends @p row, enabled as the container is, and relays its changes.
     void addControl(ControlTabel* row, bool relayoutNow);
@@ -24,8 +24,6 @@ public:
 
     /// Ends the edits in progress: accepted text is announced, refused text is dropped.
     void finishEdits();
-
-    void removeWidget(QWidget* widget) override;
 
 signals:
     /// The operator changed the row of that key.

@@ -1,7 +1,7 @@
 #include "tabel/controltabel.h"
 
 #include "Protocol/ruleprotocolitem.h"
-#include "host/api/rowcontract.h"
+#include "tabel/numbertip.h"
 #include "tabel/plaintext.h"
 #include "tabel/titlelabel.h"
 
@@ -15,18 +15,7 @@ ControlTabel::ControlTabel(QWidget* parent) : WidgetTabel(parent)
 void ControlTabel::init()
 {
     setTitle(m_item ? m_item->caption() : QString());
-}
-
-void ControlTabel::setValue(const QVariant&, bool) {}
-
-QVariant ControlTabel::value() const
-{
-    return {};
-}
-
-int ControlTabel::rowKind() const
-{
-    return RowContract::None;
+    setValue(itemValue(), false);
 }
 
 void ControlTabel::setProtocolItem(RuleProtocolItem* item)
@@ -48,17 +37,10 @@ QVariant ControlTabel::itemValue() const
     return m_item ? m_item->defaultValue() : QVariant();
 }
 
-void ControlTabel::finishEdit() {}
-
 void ControlTabel::loadValue(const QVariant& value)
 {
     showValue(value);
     rememberLoaded();
-}
-
-void ControlTabel::showValue(const QVariant& value)
-{
-    setValue(value, false);
 }
 
 void ControlTabel::rememberLoaded()
@@ -91,10 +73,10 @@ void ControlTabel::setTip(const QString& tip)
     showMark(isMarked());
 }
 
-void ControlTabel::setRefusal(const QString& reason)
+void ControlTabel::setRefusing(bool refuses)
 {
     const bool wasMarked = isMarked();
-    m_refusal = reason;
+    m_refusal = refuses && !m_tip.isEmpty() ? NumberTip::refusal(m_tip) : QString();
     showMark(wasMarked);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/controlrow.h"
+#include "host/api/rowcontract.h"
 #include "tabel/widgettabel.h"
 
 class RuleProtocolItem;
@@ -21,14 +22,15 @@ class ControlTabel : public WidgetTabel, public ControlRow
 public:
     explicit ControlTabel(QWidget* parent = nullptr);
 
-    /// Builds the editor from the item and shows the item's default value.
+    /// Builds the editor from the item and shows the item's default value. The base does what is
+    /// left when the editor is there: caption and value.
     virtual void init();
     /// Shows @p value, and announces it if @p emitChange.
-    virtual void setValue(const QVariant& value, bool emitChange);
-    QVariant value() const override;
+    virtual void setValue(const QVariant& /*value*/, bool /*emitChange*/) {}
+    QVariant value() const override { return {}; }
 
     /// What the row is and holds for hosts, as host/api/rowcontract.h has it.
-    virtual int rowKind() const;
+    virtual int rowKind() const { return RowContract::None; }
     virtual QVariant heldValue() const { return value(); }
 
     /// Ties the row and @p item (not owned) together and calls init().
@@ -38,7 +40,7 @@ public:
     QString key() const;
 
     /// Commits an edit in progress, or restores the old value where the text is refused.
-    virtual void finishEdit();
+    virtual void finishEdit() {}
     /// Shows another entry's value, whatever the row showed before.
     void loadValue(const QVariant& value);
     /// Whether the row was given another value since it was loaded. Stays so when the operator
@@ -62,14 +64,15 @@ signals:
 protected:
     /// Shows @p value and nothing of what was shown before, for rows whose setValue() may leave
     /// some of that; nothing, empty edits and no box checked, for a value that does not fit.
-    virtual void showValue(const QVariant& value);
+    virtual void showValue(const QVariant& value) { setValue(value, false); }
     /// The item's default value; invalid without an item.
     QVariant itemValue() const;
     void announce();
     /// The tool tip of a row that is not marked.
     void setTip(const QString& tip);
-    /// Marks the row besides setMark() while it refuses what is typed.
-    void setRefusal(const QString& reason);
+    /// Marks the row besides setMark() while it refuses what is typed, where it has a tip to say
+    /// what it would take.
+    void setRefusing(bool refuses);
 
 private:
     void rememberLoaded();

@@ -3,7 +3,6 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "tabel/inputboxwidget.h"
 #include "tabel/intvalidator.h"
-#include "tabel/numberlocale.h"
 #include "tabel/numbertip.h"
 #include "tabel/rowedit.h"
 
@@ -18,11 +17,6 @@ constexpr int kDecimals = 2;
 ValueType typeOf(const RuleProtocolItem* item)
 {
     return item ? item->valueType() : ValueType::None;
-}
-
-bool hasRange(const RuleProtocolItem& item)
-{
-    return item.rangeMinimum().isValid() || item.rangeMaximum().isValid();
 }
 
 template<class Number>
@@ -47,12 +41,12 @@ InputBoxTabel::InputBoxTabel(QWidget* parent)
     m_box->show();
     connect(m_box->lineEdit(), &RowEdit::textEdited, this, &InputBoxTabel::textEdited);
     connect(m_box->lineEdit(), &RowEdit::editingFinished, this, &InputBoxTabel::editingFinished);
-    connect(m_box->lineEdit(), &RowEdit::sgnRefusalChanged, this, &InputBoxTabel::showRefusal);
+    connect(m_box->lineEdit(), &RowEdit::sgnRefusalChanged, this,
+            [this] { setRefusing(m_box->lineEdit()->isRefusing()); });
 }
 
 void InputBoxTabel::init()
 {
-    ControlTabel::init();
     const RuleProtocolItem* item = protocolItem();
     if (typeOf(item) == ValueType::Int)
         m_box->lineEdit()->replaceValidator(createIntValidator());
@@ -62,19 +56,13 @@ void InputBoxTabel::init()
         m_box->lineEdit()->replaceValidator(nullptr);
     m_box->setUnit(item ? item->units() : QString());
     setTip(isForNumbers() ? NumberTip::of(*item) : QString());
-    setValue(itemValue(), false);
+    ControlTabel::init();
 }
 
 bool InputBoxTabel::isForNumbers() const
 {
     const ValueType type = typeOf(protocolItem());
     return type == ValueType::Int || type == ValueType::Float;
-}
-
-void InputBoxTabel::showRefusal()
-{
-    const bool isRefusing = isForNumbers() && m_box->lineEdit()->isRefusing();
-    setRefusal(isRefusing ? NumberTip::refusal(NumberTip::of(*protocolItem())) : QString());
 }
 
 QValidator* InputBoxTabel::createIntValidator() const
@@ -93,12 +81,9 @@ QValidator* InputBoxTabel::createFloatValidator() const
 {
     const RuleProtocolItem& item = *protocolItem();
     auto* validator = new QDoubleValidator(m_box->lineEdit());
-    if (hasRange(item)) {
-        const double infinity = std::numeric_limits<double>::infinity();
-        validator->setRange(limit(item.rangeMinimum(), -infinity),
-                            limit(item.rangeMaximum(), infinity));
-    }
-    validator->setDecimals(kDecimals);
+    const double infinity = std::numeric_limits<double>::infinity();
+    validator->setRange(limit(item.rangeMinimum(), -infinity), limit(item.rangeMaximum(), infinity),
+                        kDecimals);
     validator->setNotation(QDoubleValidator::StandardNotation);
     validator->setLocale(numberLocale());
     return validator;
@@ -167,17 +152,13 @@ void InputBoxTabel::textEdited(const QString& text)
 void InputBoxTabel::editingFinished()
 {
     const QString text = m_box->lineEdit()->value();
-    switch (typeOf(protocolItem())) {
-    case ValueType::Int:
+    const ValueType type = typeOf(protocolItem());
+    if (type == ValueType::Int)
         finishInt(text);
-        break;
-    case ValueType::Float:
+    else if (type == ValueType::Float)
         finishFloat(text);
-        break;
-    default:
+    else
         setValue(text, true);
-        break;
-    }
 }
 
 void InputBoxTabel::finishInt(const QString& text)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/api/rowcontract.h"
 #include "tabel/controltabel.h"
 
 class InputBoxWidget;
@@ -30,7 +29,6 @@ public:
 
 private:
     bool isForNumbers() const;
-    void showRefusal();
     void textEdited(const QString& text);
     void editingFinished();
     void finishInt(const QString& text);

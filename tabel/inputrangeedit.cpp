@@ -1,12 +1,13 @@
 #include "tabel/inputrangeedit.h"
 
 #include "host/api/rowcontract.h"
-#include "tabel/optionalintvalidator.h"
+#include "tabel/intvalidator.h"
 #include "tabel/rowedit.h"
 
 #include <QLabel>
 #include <QLoggingCategory>
 #include <limits>
+#include <utility>
 
 namespace
 {
@@ -17,6 +18,18 @@ constexpr int kUnset = -1;
 constexpr int kHeight = 30;
 constexpr int kDashWidth = 16;
 const auto kEmptyValidator = QStringLiteral("emptyValidator");
+
+/// For edits that may be left empty.
+class OptionalIntValidator : public IntValidator
+{
+public:
+    using IntValidator::IntValidator;
+
+    State validate(QString& text, int& position) const override
+    {
+        return text.isEmpty() ? Acceptable : IntValidator::validate(text, position);
+    }
+};
 
 QString shownText(int value)
 {
@@ -68,28 +81,22 @@ void InputRangeEdit::setMiniValue(int value, bool emitChange)
 {
     limitMaximumEdit(value);
     m_minimum->showValue(shownText(value));
-    if (value == m_range.width())
-        return;
-    m_range.setWidth(value);
-    if (emitChange) {
-        qCDebug(lcRange) << "setMiniValue:"
-                         << "sgnRangeValueChange";
-        emit sgnRangeValueChange();
-    }
+    store({value, m_range.height()}, "setMiniValue:", emitChange);
 }
 
 void InputRangeEdit::setMaxValue(int value, bool emitChange)
 {
     limitMinimumEdit(value);
     m_maximum->showValue(shownText(value));
-    if (value == m_range.height())
+    store({m_range.width(), value}, "setMaxValue:", emitChange);
+}
+
+void InputRangeEdit::store(const QSize& range, const char* setter, bool emitChange)
+{
+    if (std::exchange(m_range, range) == range || !emitChange)
         return;
-    m_range.setHeight(value);
-    if (emitChange) {
-        qCDebug(lcRange) << "setMaxValue:"
-                         << "sgnRangeValueChange";
-        emit sgnRangeValueChange();
-    }
+    qCDebug(lcRange) << setter << "sgnRangeValueChange";
+    emit sgnRangeValueChange();
 }
 
 void InputRangeEdit::setRange(const QSize& range, bool emitChange)

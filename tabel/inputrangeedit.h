@@ -33,6 +33,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Announces the change of @p setter's if @p emitChange.
+    void store(const QSize& range, const char* setter, bool emitChange);
     void limitMaximumEdit(int minimum);
     void limitMinimumEdit(int maximum);
     void minimumEdited(const QString& text);

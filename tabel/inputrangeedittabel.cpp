@@ -9,21 +9,14 @@ InputRangeEditTabel::InputRangeEditTabel(QWidget* parent)
     m_edit->show();
     addWidget(m_edit, false);
     connect(m_edit, &InputRangeEdit::sgnRangeValueChange, this, [this] { announce(); });
-    connect(m_edit, &InputRangeEdit::sgnRefusalChanged, this, &InputRangeEditTabel::showRefusal);
-}
-
-void InputRangeEditTabel::showRefusal()
-{
-    const RuleProtocolItem* item = protocolItem();
-    const bool isRefusing = item && m_edit->isRefusing();
-    setRefusal(isRefusing ? NumberTip::refusal(NumberTip::of(*item)) : QString());
+    connect(m_edit, &InputRangeEdit::sgnRefusalChanged, this,
+            [this] { setRefusing(m_edit->isRefusing()); });
 }
 
 void InputRangeEditTabel::init()
 {
-    ControlTabel::init();
     setTip(protocolItem() ? NumberTip::of(*protocolItem()) : QString());
-    setValue(itemValue(), false);
+    ControlTabel::init();
 }
 
 void InputRangeEditTabel::setValue(const QVariant& value, bool emitChange)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/api/rowcontract.h"
 #include "tabel/controltabel.h"
 
 class InputRangeEdit;
@@ -24,7 +23,5 @@ protected:
     void showValue(const QVariant& value) override;
 
 private:
-    void showRefusal();
-
     InputRangeEdit* m_edit;
 };

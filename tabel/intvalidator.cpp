@@ -1,6 +1,11 @@
 #include "tabel/intvalidator.h"
 
-#include "tabel/numberlocale.h"
+QLocale numberLocale()
+{
+    QLocale locale = QLocale::c();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
+    return locale;
+}
 
 IntValidator::IntValidator(QObject* parent) : QIntValidator(parent)
 {

@@ -1,6 +1,11 @@
 #pragma once
 
 #include <QIntValidator>
+#include <QLocale>
+
+/// Numbers as devices write them: a point as decimal separator and no grouping, whatever the
+/// system's locale.
+QLocale numberLocale();
 
 /// Whole numbers in a range. Limits that were set, rather than left open, also mend the text
 /// that an edit is left with.

@@ -23,7 +23,6 @@ void RadioButtonTabel::makeGroup()
 
 void RadioButtonTabel::init()
 {
-    ControlTabel::init();
     makeGroup();
     deleteAll();
     const auto options = protocolItem() ? protocolItem()->enumeration() : QList<EnumOption>();
@@ -33,8 +32,7 @@ void RadioButtonTabel::init()
         button->show();
         addWidget(button, false);
     }
-    setValue(itemValue(), false);
-    relayout(0, 0);
+    ControlTabel::init();
 }
 
 void RadioButtonTabel::setValue(const QVariant& value, bool emitChange)

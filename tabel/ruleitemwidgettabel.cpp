@@ -82,8 +82,6 @@ DrawItemButton* RuleItemWidgetTabel::findDataButton(int dataId) const
 
 void RuleItemWidgetTabel::removeWidget(QWidget* widget)
 {
-    if (contains(widget))
-        widget->disconnect(this);
     if (auto* button = qobject_cast<DrawItemButton*>(widget))
         m_group->removeButton(button);
     WidgetTabel::removeWidget(widget);
@@ -91,12 +89,8 @@ void RuleItemWidgetTabel::removeWidget(QWidget* widget)
 
 void RuleItemWidgetTabel::forgetWidget(const QObject* child)
 {
-    const auto found = std::find(m_buttons.begin(), m_buttons.end(), child);
-    if (found != m_buttons.end())
-        m_buttons.erase(found);
-    const auto checked = std::find(m_checked.begin(), m_checked.end(), child);
-    if (checked != m_checked.end())
-        m_checked.erase(checked);
+    forgetIn(m_buttons, child);
+    forgetIn(m_checked, child);
     if (m_current == child)
         m_current = nullptr;
     WidgetTabel::forgetWidget(child);

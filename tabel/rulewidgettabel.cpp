@@ -2,10 +2,6 @@
 
 #include "tabel/drawfucbutton.h"
 
-#include <algorithm>
-
-RuleWidgetTabel::RuleWidgetTabel(QWidget* parent) : WidgetTabel(parent) {}
-
 void RuleWidgetTabel::addButton(DrawFucButton* button)
 {
     if (!button || contains(button))
@@ -24,17 +20,8 @@ QList<BaseDrawType> RuleWidgetTabel::drawTypes() const
     return types;
 }
 
-void RuleWidgetTabel::removeWidget(QWidget* widget)
-{
-    if (contains(widget))
-        widget->disconnect(this);
-    WidgetTabel::removeWidget(widget);
-}
-
 void RuleWidgetTabel::forgetWidget(const QObject* child)
 {
-    const auto button = std::find(m_buttons.begin(), m_buttons.end(), child);
-    if (button != m_buttons.end())
-        m_buttons.erase(button);
+    forgetIn(m_buttons, child);
     WidgetTabel::forgetWidget(child);
 }

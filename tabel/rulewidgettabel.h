@@ -11,15 +11,13 @@ class RuleWidgetTabel : public WidgetTabel
     Q_OBJECT
 
 public:
-    explicit RuleWidgetTabel(QWidget* parent = nullptr);
+    using WidgetTabel::WidgetTabel;
 
     /// Appends @p button, enabled as the bar is, and relays its presses.
     void addButton(DrawFucButton* button);
     const QList<DrawFucButton*>& buttons() const { return m_buttons; }
     /// The figure kinds of the buttons, in order.
     QList<BaseDrawType> drawTypes() const;
-
-    void removeWidget(QWidget* widget) override;
 
 signals:
     /// A button was pressed; @p type is its BaseDrawType, @p itemKey as its itemKey().

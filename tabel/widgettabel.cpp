@@ -4,7 +4,6 @@
 
 #include <QChildEvent>
 #include <QScopedValueRollback>
-#include <algorithm>
 
 WidgetTabel::WidgetTabel(QWidget* parent) : WidgetLayout(parent), m_title(new TitleLabel(this))
 {
@@ -14,30 +13,10 @@ WidgetTabel::WidgetTabel(QWidget* parent) : WidgetLayout(parent), m_title(new Ti
     m_title->hide();
 }
 
-void WidgetTabel::setItemType(ItemSizeType type)
-{
-    change(m_itemType, type);
-}
-
 void WidgetTabel::setFixCountLimit(int min, int max)
 {
     change(m_fixCountMin, min);
     change(m_fixCountMax, max);
-}
-
-void WidgetTabel::setPaddingLeft(int padding)
-{
-    change(m_paddingLeft, padding);
-}
-
-void WidgetTabel::setPaddingTop(int padding)
-{
-    change(m_paddingTop, padding);
-}
-
-void WidgetTabel::setItemSize(const QSize& size)
-{
-    change(m_itemSize, size);
 }
 
 void WidgetTabel::setTitle(const QString& title)
@@ -82,6 +61,7 @@ void WidgetTabel::removeWidget(QWidget* widget)
     if (!contains(widget))
         return;
     widget->removeEventFilter(this);
+    widget->disconnect(this);
     forgetWidget(widget);
     widget->hide();
     relayout(0, 0);
@@ -134,11 +114,6 @@ QList<QWidget*> WidgetTabel::getVisibleItems() const
     std::copy_if(m_items.begin(), m_items.end(), std::back_inserter(visible),
                  [](const QWidget* item) { return !item->isHidden(); });
     return visible;
-}
-
-void WidgetTabel::pauseLayout()
-{
-    ++m_holds;
 }
 
 void WidgetTabel::resumeLayout()
@@ -334,11 +309,6 @@ int WidgetTabel::placeFixSize(const QList<QWidget*>& visible, int x, int y)
     return y;
 }
 
-QSize WidgetTabel::cellSize(const QList<QWidget*>&, int) const
-{
-    return m_itemSize;
-}
-
 int WidgetTabel::fixSizeColumns(int x, int cellWidth) const
 {
     const auto needed = [this, x, cellWidth](int count) {
@@ -382,55 +352,30 @@ bool WidgetTabel::hasDrifted() const
 
 bool WidgetTabel::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto* child = static_cast<const QWidget*>(watched);
-    switch (event->type()) {
-    case QEvent::Move:
-        childMoved(child);
-        break;
-    case QEvent::Resize:
-        childResized(child);
-        break;
-    // Children of a hidden table get only the two events about their own flag.
-    case QEvent::Show:
-    case QEvent::ShowToParent:
-    case QEvent::Hide:
-    case QEvent::HideToParent:
-        childVisibilityChanged(child);
-        break;
-    case QEvent::EnabledChange:
-        m_childrenEnabled.reset();
-        break;
-    default:
-        break;
-    }
+    const auto info = m_itemInfo.find(watched);
+    if (info != m_itemInfo.end())
+        childChanged(*static_cast<const QWidget*>(watched), *info, event->type());
     return WidgetLayout::eventFilter(watched, event);
 }
 
-void WidgetTabel::childMoved(const QWidget* child)
+void WidgetTabel::childChanged(const QWidget& child, ItemInfo& info, QEvent::Type type)
 {
-    const auto info = m_itemInfo.constFind(child);
-    if (info != m_itemInfo.constEnd() && info->geometry.topLeft() != child->pos())
-        outdate();
-}
-
-void WidgetTabel::childResized(const QWidget* child)
-{
-    const auto info = m_itemInfo.constFind(child);
+    // Children of a hidden table get only the two events about their own flag.
+    const bool isAboutShowing = type == QEvent::Show || type == QEvent::ShowToParent ||
+                                type == QEvent::Hide || type == QEvent::HideToParent;
+    const bool isToggled = isAboutShowing && info.visible == child.isHidden();
+    const bool isMoved = type == QEvent::Move && info.geometry.topLeft() != child.pos();
     // A layout in progress sees for itself what came of it.
-    if (m_layingOut || info == m_itemInfo.constEnd() || info->geometry.size() == child->size())
-        return;
-    outdate();
-    relayout(0, 0);
-}
-
-void WidgetTabel::childVisibilityChanged(const QWidget* child)
-{
-    const auto info = m_itemInfo.find(child);
-    if (info == m_itemInfo.end() || info->visible == !child->isHidden())
-        return;
-    info->visible = !child->isHidden();
-    outdate();
-    relayout(0, 0);
+    const bool isResized =
+        type == QEvent::Resize && !m_layingOut && info.geometry.size() != child.size();
+    if (type == QEvent::EnabledChange)
+        m_childrenEnabled.reset();
+    if (isToggled)
+        info.visible = !child.isHidden();
+    if (isToggled || isMoved || isResized)
+        outdate();
+    if (isToggled || isResized)
+        relayout(0, 0);
 }
 
 void WidgetTabel::resizeEvent(QResizeEvent* event)

@@ -2,11 +2,13 @@
 
 #include "tabel/widgetlayout.h"
 
+#include <QEvent>
 #include <QHash>
 #include <QList>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
+#include <algorithm>
 #include <optional>
 
 class TitleLabel;
@@ -48,7 +50,8 @@ public:
     /// more by itself when a child's size changed behind it. While the table that lays this one
     /// out is held, the layout waits for that one's.
     void relayout(int x, int y) override;
-    /// Takes @p widget out and hides it; it stays a child. Nothing for widgets not in the table.
+    /// Takes @p widget out and hides it; it stays a child. The table's own list of such widgets
+    /// drops it, and nothing of it is heard any more. Nothing for widgets not in the table.
     virtual void removeWidget(QWidget* widget);
     /// Enables or disables every child in the table, hidden ones too.
     virtual void setControlEnable(bool enable);
@@ -58,11 +61,11 @@ public:
     virtual bool isEmpty() const { return m_items.isEmpty(); }
 
     // These store only; the caller lays out when it is done.
-    void setItemType(ItemSizeType type);
+    void setItemType(ItemSizeType type) { change(m_itemType, type); }
     void setFixCountLimit(int min, int max);
-    void setPaddingLeft(int padding);
-    void setPaddingTop(int padding);
-    void setItemSize(const QSize& size);
+    void setPaddingLeft(int padding) { change(m_paddingLeft, padding); }
+    void setPaddingTop(int padding) { change(m_paddingTop, padding); }
+    void setItemSize(const QSize& size) { change(m_itemSize, size); }
 
     /// Shows the title when @p title is not empty; never hides it again.
     void setTitle(const QString& title);
@@ -81,7 +84,7 @@ public:
     QList<QWidget*> getVisibleItems() const;
 
     // LayoutPause's calls; they nest.
-    void pauseLayout();
+    void pauseLayout() { ++m_holds; }
     void resumeLayout();
 
 protected:
@@ -89,6 +92,12 @@ protected:
     /// Drops a child in the table from the bookkeeping. @p child may be half destroyed: compare,
     /// never call.
     virtual void forgetWidget(const QObject* child);
+    /// Drops it from a table's own list of some of its children.
+    template<class Child>
+    static void forgetIn(QList<Child*>& children, const QObject* child)
+    {
+        children.erase(std::remove(children.begin(), children.end(), child), children.end());
+    }
 
     /// For rows that enable less than all of their children.
     void storeControlEnable(bool enable) { m_controlEnable = enable; }
@@ -100,7 +109,10 @@ protected:
     void childEvent(QChildEvent* event) override;
 
     /// Size of the cells for @p visible, in mode ItemFixSize, with the first column at @p x.
-    virtual QSize cellSize(const QList<QWidget*>& visible, int x) const;
+    virtual QSize cellSize(const QList<QWidget*>& /*visible*/, int /*x*/) const
+    {
+        return m_itemSize;
+    }
     int paddingLeft() const { return m_paddingLeft; }
 
 private:
@@ -133,9 +145,7 @@ private:
     void placeTitle(const QList<QWidget*>& visible, int y);
     void placeChild(QWidget* child, int x, int y);
     bool hasDrifted() const;
-    void childMoved(const QWidget* child);
-    void childResized(const QWidget* child);
-    void childVisibilityChanged(const QWidget* child);
+    void childChanged(const QWidget& child, ItemInfo& info, QEvent::Type type);
 
     ItemSizeType m_itemType = ItemSizeType::ItemFixCount;
     QList<QWidget*> m_items;
