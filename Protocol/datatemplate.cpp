@@ -86,20 +86,10 @@ RuleProtocolItem* DataTemplate::figureItem(BaseDrawType type) const
     return found == m_items.end() ? nullptr : found->get();
 }
 
-std::vector<TemplateSection> DataTemplate::sections() const
-{
-    return {{m_name, m_parent}};
-}
-
 DrawItemForbidenAreaType DataTemplate::forbiddenArea(const RuleProtocolItem& item) const
 {
     return item.linkedItem() ? DrawItemForbidenAreaType::ForbidenOutsideParent
                              : DrawItemForbidenAreaType::ForbidenNone;
-}
-
-EdgeLabelMode DataTemplate::edgeLabels(const RuleProtocolItem&) const
-{
-    return EdgeLabelMode::Name;
 }
 
 bool DataTemplate::isFigureFor(const DrawItem& figure, const RuleProtocolItem& item) const

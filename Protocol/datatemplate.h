@@ -66,11 +66,14 @@ public:
     bool isFigureFor(const DrawItem& figure, const RuleProtocolItem& item) const;
 
     /// What the entries are made of: one section, unless the scene was handed another one's items.
-    virtual std::vector<TemplateSection> sections() const;
+    virtual std::vector<TemplateSection> sections() const { return {{m_name, m_parent}}; }
     /// Where the figures of @p item may not be drawn.
     virtual DrawItemForbidenAreaType forbiddenArea(const RuleProtocolItem& item) const;
     /// What is written at the edges of the figures of @p item.
-    virtual EdgeLabelMode edgeLabels(const RuleProtocolItem& item) const;
+    virtual EdgeLabelMode edgeLabels(const RuleProtocolItem& /*item*/) const
+    {
+        return EdgeLabelMode::Name;
+    }
 
     const QList<CheckRule>& checkRules() const { return m_checkRules; }
     void addCheckRule(const CheckRule& rule) { m_checkRules.append(rule); }

@@ -11,7 +11,6 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/rules/rulesprotocol.h"
-#include "draw/basedraw.h"
 #include "draw/drawgeometry.h"
 #include "draw/drawitem.h"
 
@@ -48,14 +47,11 @@ void readLaneNumber(const LanesTemplate& lanes, bool hasRule, RuleDataInfo& entr
 /// against each other do not, and keep the order that they have.
 QVector<QPoint> lanePoints(const DrawItem& lane)
 {
-    QVector<QPoint> points = lane.getPoints();
+    const QVector<QPoint> points = lane.getPoints();
     if (points.size() != 2 * kLinePoints)
         return {};
-    if (DrawGeometry::side(points[0], points[1], points[2]) < 0) {
-        points.clear();
-        lane.figure()->BaseDraw::getPoints(points);
-    }
-    return points;
+    const bool isLeftFirst = DrawGeometry::side(points[0], points[1], points[2]) >= 0;
+    return isLeftFirst ? points : lane.value().points();
 }
 
 void writeLines(const RuleProtocolItem& item, const EntryFigures& figures, int dataId, Value& json)

@@ -9,11 +9,6 @@
 namespace
 {
 
-const auto kLane = QStringLiteral("lanesLanes");
-const auto kNumber = QStringLiteral("lanesNum");
-const auto kLeftLineType = QStringLiteral("lanesLeftLineType");
-const auto kRightLineType = QStringLiteral("lanesRightLineType");
-
 bool isRuleItem(const std::unique_ptr<RuleProtocolItem>& item)
 {
     return item->templateName() == ConfigMember::kRuleSection;
@@ -85,29 +80,4 @@ DrawItemForbidenAreaType LanesTemplate::forbiddenArea(const RuleProtocolItem& it
     return item.drawType() == BaseDrawType::VehicleLane
                ? DrawItemForbidenAreaType::ForbidenSelf
                : DrawItemForbidenAreaType::ForbidenOutsideParent;
-}
-
-RuleProtocolItem* LanesTemplate::laneItem() const
-{
-    return findItem(kLane);
-}
-
-RuleProtocolItem* LanesTemplate::numberItem() const
-{
-    return findItem(kNumber);
-}
-
-RuleProtocolItem* LanesTemplate::leftLineTypeItem() const
-{
-    return findItem(kLeftLineType);
-}
-
-RuleProtocolItem* LanesTemplate::rightLineTypeItem() const
-{
-    return findItem(kRightLineType);
-}
-
-RuleProtocolItem* LanesTemplate::ruleLaneNumberItem() const
-{
-    return findItem(kRuleLaneNumber);
 }

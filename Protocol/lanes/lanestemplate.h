@@ -13,6 +13,11 @@ class LanesTemplate : public DataTemplate
     Q_DECLARE_TR_FUNCTIONS(LanesTemplate)
 
 public:
+    // Keys of the built-in items.
+    inline static const QString kLane = QStringLiteral("lanesLanes");
+    inline static const QString kNumber = QStringLiteral("lanesNum");
+    inline static const QString kLeftLineType = QStringLiteral("lanesLeftLineType");
+    inline static const QString kRightLineType = QStringLiteral("lanesRightLineType");
     /// Key of the rules' item that hands them to the lanes.
     inline static const QString kRuleLaneNumber = QStringLiteral("ruleLaneNumber");
 
@@ -28,12 +33,12 @@ public:
     void addRuleItems(Items items);
     bool hasRuleItems() const;
 
-    RuleProtocolItem* laneItem() const;
-    RuleProtocolItem* numberItem() const;
-    RuleProtocolItem* leftLineTypeItem() const;
-    RuleProtocolItem* rightLineTypeItem() const;
+    RuleProtocolItem* laneItem() const { return findItem(kLane); }
+    RuleProtocolItem* numberItem() const { return findItem(kNumber); }
+    RuleProtocolItem* leftLineTypeItem() const { return findItem(kLeftLineType); }
+    RuleProtocolItem* rightLineTypeItem() const { return findItem(kRightLineType); }
     /// The rules' lane number; null without rule items.
-    RuleProtocolItem* ruleLaneNumberItem() const;
+    RuleProtocolItem* ruleLaneNumberItem() const { return findItem(kRuleLaneNumber); }
 
 protected:
     LanesTemplate(const LanesTemplate& other) = default;
