@@ -8,12 +8,6 @@ using kql::Json::Value;
 namespace
 {
 
-bool areAllEmpty(const std::vector<Value>& entries)
-{
-    return std::all_of(entries.begin(), entries.end(),
-                       [](const Value& entry) { return entry.empty(); });
-}
-
 Value listOf(std::vector<Value> entries)
 {
     Value list(kql::Json::ValueType::Array);
@@ -29,18 +23,14 @@ EntryTarget::EntryTarget(Value& document, const QString& parent, WhenMissing whe
 {
 }
 
-const Value* EntryTarget::prototype() const
-{
-    return m_path.firstEntryIn(m_document);
-}
-
 bool EntryTarget::put(std::vector<Value> entries)
 {
     const Value* before = skeleton();
     const bool isList = before && before->isArray();
     if (entries.empty() && !isList)
         return true;
-    const bool isNothing = areAllEmpty(entries);
+    const bool isNothing = std::all_of(entries.begin(), entries.end(),
+                                       [](const Value& entry) { return entry.empty(); });
     const bool isObject = before && before->isObject();
     if (isObject || (!isList && m_whenMissing == WhenMissing::Object))
         return putAlone(std::move(entries.front()));
@@ -56,16 +46,11 @@ bool EntryTarget::putAlone(Value entry)
 /// Replaces whatever is there; false when the place cannot be made.
 bool EntryTarget::replace(Value value)
 {
-    Value* target = place();
+    if (m_path.text().isEmpty())
+        return false;
+    Value* found = m_path.readPath(m_document);
+    Value* target = found ? found : m_path.create(m_document);
     if (target)
         *target = std::move(value);
     return target;
-}
-
-Value* EntryTarget::place() const
-{
-    if (m_path.text().isEmpty())
-        return nullptr;
-    Value* found = m_path.readPath(m_document);
-    return found ? found : m_path.create(m_document);
 }

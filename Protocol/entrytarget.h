@@ -21,7 +21,7 @@ public:
     /// What the skeleton has at the place; null when there is nothing.
     const kql::Json::Value* skeleton() const { return m_path.find(m_document); }
     /// The skeleton's first entry, which every entry starts as; null when it has none.
-    const kql::Json::Value* prototype() const;
+    const kql::Json::Value* prototype() const { return m_path.firstEntryIn(m_document); }
 
     /// Puts the entries there, the first alone where an object is the only entry. A missing
     /// place is made; false when that cannot be done and entries would be lost.
@@ -31,7 +31,6 @@ public:
 
 private:
     bool replace(kql::Json::Value value);
-    kql::Json::Value* place() const;
 
     kql::Json::Value& m_document;
     JsonPath m_path;

@@ -15,6 +15,7 @@
 #include <QMap>
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 using kql::Json::Value;
@@ -46,6 +47,11 @@ QString fieldOf(const RuleProtocolItem& item)
 {
     const QString& path = item.path().text();
     return path.endsWith(QLatin1String("[]")) ? path.chopped(2) : path;
+}
+
+bool isElement(const RuleProtocolItem& item)
+{
+    return !item.isFigure() && item.index() >= 0;
 }
 
 /// Unlike QVariant's own comparison this one tells 0 and an empty text from no value.
@@ -83,37 +89,30 @@ EntryWriter::EntryWriter(const RuleData& data, const QString& section)
 
 void EntryWriter::markSharedFields()
 {
+    QMap<QString, std::vector<Target*>> fields;
+    for (Target& target : m_targets)
+        fields[fieldOf(*target.item)].push_back(&target);
     int count = 0;
-    QMap<QString, Target*> firstUsers;
-    for (Target& target : m_targets) {
-        Target*& first = firstUsers[fieldOf(*target.item)];
-        if (!first) {
-            first = &target;
+    for (const std::vector<Target*>& sharing : qAsConst(fields)) {
+        if (sharing.size() < 2)
             continue;
+        int firstElement = std::numeric_limits<int>::max();
+        for (Target* target : sharing) {
+            target->sharedField = count;
+            if (isElement(*target->item))
+                firstElement = qMin(firstElement, target->item->index());
         }
-        if (first->sharedField < 0)
-            first->sharedField = count++;
-        target.sharedField = first->sharedField;
+        ++count;
+        for (Target* target : sharing)
+            target->isFurtherElement =
+                isElement(*target->item) && target->item->index() > firstElement;
     }
 }
 
 void EntryWriter::collectElements()
 {
-    QMap<int, int> firstElements;
-    const auto isElement = [](const Target& target) {
-        return !target.item->isFigure() && target.item->index() >= 0;
-    };
-    for (const Target& target : m_targets) {
-        const int index = target.item->index();
-        if (isElement(target) && index < firstElements.value(target.sharedField, index + 1))
-            firstElements.insert(target.sharedField, index);
-    }
-    for (Target& target : m_targets) {
-        target.isFurtherElement = isElement(target) && target.sharedField >= 0 &&
-                                  target.item->index() > firstElements[target.sharedField];
-        if (isElement(target))
-            m_elements.push_back(target);
-    }
+    std::copy_if(m_targets.begin(), m_targets.end(), std::back_inserter(m_elements),
+                 [](const Target& target) { return isElement(*target.item); });
     std::stable_sort(m_elements.begin(), m_elements.end(), [](const Target& a, const Target& b) {
         return a.item->index() > b.item->index();
     });

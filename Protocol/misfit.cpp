@@ -15,25 +15,16 @@ namespace
 
 constexpr int kLongestShown = 40;
 
-QString shown(const Value& json)
+QString explain(const Value& json, bool isLost)
 {
-    return ShortenedText::line(json.toCompactText(), kLongestShown);
-}
-
-QString explain(const Value& json)
-{
-    return QCoreApplication::translate(
-               "Misfit", "The configuration has %1 here, which this row cannot show. It is saved "
-                         "as it is until the row is edited.")
-        .arg(shown(json));
-}
-
-QString explainLoss(const Value& json)
-{
-    return QCoreApplication::translate(
-               "Misfit", "The configuration has %1 here, which this row cannot show. It is not "
-                         "saved as it is.")
-        .arg(shown(json));
+    constexpr char kKept[] = QT_TRANSLATE_NOOP(
+        "Misfit", "The configuration has %1 here, which this row cannot show. It is saved as it is "
+                  "until the row is edited.");
+    constexpr char kLost[] = QT_TRANSLATE_NOOP(
+        "Misfit", "The configuration has %1 here, which this row cannot show. It is not saved as "
+                  "it is.");
+    return QCoreApplication::translate("Misfit", isLost ? kLost : kKept)
+        .arg(ShortenedText::line(json.toCompactText(), kLongestShown));
 }
 
 } // namespace
@@ -60,11 +51,10 @@ QString Misfit::explained(const RuleData& data, const RuleDataInfo& entry, const
 {
     if (!entry.isMisfit(key))
         return {};
-    const Value& json = *entry.asRead(key);
-    return data.saveNotices().isUnsaved(entry, key) ? explainLoss(json) : explain(json);
+    return explain(*entry.asRead(key), data.saveNotices().isUnsaved(entry, key));
 }
 
 QString Misfit::explainedName(const RuleDataInfo& entry)
 {
-    return entry.nameAsRead() ? explain(*entry.nameAsRead()) : QString();
+    return entry.nameAsRead() ? explain(*entry.nameAsRead(), false) : QString();
 }

@@ -34,9 +34,7 @@ QString sentence(const SaveNotices::Topic& topic, const RuleData& data)
 {
     QStringList names;
     for (const SaveNotices::Found& found : topic.found) {
-        if (names.size() > kMostNames)
-            break;
-        if (stands(topic, found, data))
+        if (names.size() <= kMostNames && stands(topic, found, data))
             names.append(EntryName::button(data, data.indexOf(found.dataId)));
     }
     if (names.isEmpty())

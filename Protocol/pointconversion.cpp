@@ -28,17 +28,9 @@ Value PointConversion::toJson(const QPoint& point)
 QVector<QPoint> PointConversion::toPoints(const Value& list)
 {
     QVector<QPoint> points;
-    if (!list.isArray())
-        return points;
-    points.reserve(list.size());
-    for (int i = 0, count = list.size(); i < count; ++i) {
-        const Value& pair = list[i];
-        if (!pair.isArray() || pair.size() != 2)
-            continue;
-        const Value& x = pair[0];
-        const Value& y = pair[1];
-        if (x.isNumeric() && y.isNumeric())
-            points.append({x.asInt(), y.asInt()});
+    for (int i = 0; list.isArray() && i < list.size(); ++i) {
+        if (isPoint(list[i]))
+            points.append(toPoint(list[i]));
     }
     return points;
 }

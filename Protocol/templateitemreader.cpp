@@ -39,8 +39,9 @@ void parseValid(RuleProtocolItem& item, const Value& valid)
     condition.controlKey = valid["controlKey"].asString();
     if (const Value* const single = valid.find("enumValue")) {
         condition.values.append(textOfCondition(*single));
-    } else if (const Value& several = valid["enumValueArray"]; several.isArray()) {
-        for (int i = 0; i < several.size(); ++i)
+    } else {
+        const Value& several = valid["enumValueArray"];
+        for (int i = 0; several.isArray() && i < several.size(); ++i)
             condition.values.append(textOfCondition(several[i]));
     }
     item.addValidity(condition);
@@ -86,11 +87,10 @@ void parseEnumeration(RuleProtocolItem& item, const Value& details)
 {
     QList<EnumOption> options;
     bool hasAll = details["isAll"].asBool();
-    if (const Value& choices = details["enumeration"]; choices.isArray()) {
-        for (int i = 0; i < choices.size(); ++i) {
-            options.append(parseOption(choices[i]));
-            hasAll = hasAll || options.last().isAll;
-        }
+    const Value& choices = details["enumeration"];
+    for (int i = 0; choices.isArray() && i < choices.size(); ++i) {
+        options.append(parseOption(choices[i]));
+        hasAll = hasAll || options.last().isAll;
     }
     item.setEnumeration(options);
     item.setHasAllChoice(hasAll);

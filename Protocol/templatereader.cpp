@@ -148,14 +148,13 @@ void TemplateReader::readRuleDescription(const Value& description)
 {
     if (const Value& section = description["rules"]; !section.isNull())
         readRules(section);
-    if (const Value& section = description["global"]; !section.isNull()) {
-        const auto name = QStringLiteral("global");
-        addScene(SceneType::Global, name, section, parseRuleProtocolItems(section, name), {});
-    }
-    if (const Value& section = description["detectArea"]; !section.isNull()) {
-        const auto name = QStringLiteral("detectArea");
-        addScene(SceneType::Detection, name, section, parseRuleProtocolItems(section, name), {});
-    }
+    const auto readPlain = [&](SceneType type, const char* member) {
+        const QString name = QString::fromLatin1(member);
+        if (const Value& section = description[member]; !section.isNull())
+            addScene(type, name, section, parseRuleProtocolItems(section, name), {});
+    };
+    readPlain(SceneType::Global, "global");
+    readPlain(SceneType::Detection, "detectArea");
 }
 
 void TemplateReader::readRules(const Value& section)
