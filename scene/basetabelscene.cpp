@@ -146,11 +146,6 @@ void BaseTabelScene::bindRows()
     alignRows(widgets().controls->controls());
 }
 
-bool BaseTabelScene::wantsRow(const RuleProtocolItem&) const
-{
-    return true;
-}
-
 ControlTabel* BaseTabelScene::addControlTabel(RuleProtocolItem* item, QWidget* parent)
 {
     return createControlTabel(item, parent);
@@ -189,7 +184,7 @@ void BaseTabelScene::showEntry(int dataId)
     widgets().drawItems->setCurrentButton(widgets().drawItems->findDataButton(dataId), false);
     refreshChildTabelDrawItem();
     loadEntry();
-    selectFigure(pickedFigure(dataId), dataId);
+    getDrawScene()->setSelected(pickedFigure(dataId), dataId);
 }
 
 void BaseTabelScene::loadEntry()
@@ -203,11 +198,6 @@ void BaseTabelScene::loadFixedRows(const RuleDataInfo* entry)
 {
     if (entry)
         m_direction.load(*m_data, *entry);
-}
-
-void BaseTabelScene::selectFigure(int itemId, int dataId)
-{
-    getDrawScene()->setSelected(itemId, dataId);
 }
 
 int BaseTabelScene::pickedFigure(int dataId) const
@@ -281,10 +271,8 @@ void BaseTabelScene::addEntry(BaseDrawType pressed)
     refreshTabelDrawItem();
     refreshChildTabelDrawItem();
     loadEntry();
-    selectFigure(figure ? figure->itemId() : 0, entry.id());
+    getDrawScene()->setSelected(figure ? figure->itemId() : 0, entry.id());
 }
-
-void BaseTabelScene::prepareNewEntry(RuleDataInfo&) {}
 
 RuleProtocolItem* BaseTabelScene::entryFigureItem() const
 {
@@ -296,13 +284,16 @@ RuleProtocolItem* BaseTabelScene::firstFigureItem(BaseDrawType pressed) const
     return m_data->getTemplate()->figureItem(pressed);
 }
 
-DrawItem* BaseTabelScene::addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry)
+DrawItem* BaseTabelScene::addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry,
+                                    int parentId)
 {
-    auto figure = makeFigure(item, entry, m_data->getTemplate()->forbiddenArea(item));
+    const auto forbidden = parentId < 0 ? m_data->getTemplate()->forbiddenArea(item)
+                                        : DrawItemForbidenAreaType::ForbidenOutsideParent;
+    auto figure = makeFigure(item, entry, forbidden);
     if (!figure)
         return nullptr;
     m_direction.giveTo(*figure);
-    return getDrawScene()->addItem(std::move(figure), -1);
+    return getDrawScene()->addItem(std::move(figure), parentId);
 }
 
 void BaseTabelScene::startFigure(const RuleProtocolItem& item, const RuleDataInfo& entry)
@@ -313,7 +304,7 @@ void BaseTabelScene::startFigure(const RuleProtocolItem& item, const RuleDataInf
     const DrawItemButton* button = widgets().drawItems->findDataButton(entry.id());
     if (!button || button->id() == 0)
         refreshTabelDrawItem();
-    selectFigure(figure->itemId(), entry.id());
+    getDrawScene()->setSelected(figure->itemId(), entry.id());
 }
 
 void BaseTabelScene::sltTabelChildRuleFucBtnClicked(int type)
@@ -340,14 +331,13 @@ void BaseTabelScene::addChildFigure(BaseDrawType type, const QString& itemKey)
         itemKey.isEmpty() ? dataTemplate.figureItem(type) : dataTemplate.findItem(itemKey);
     if (!item || !SceneFigures::mayHaveMore(*m_data, *item, entry->id()))
         return;
-    auto figure = makeFigure(*item, *entry, DrawItemForbidenAreaType::ForbidenOutsideParent);
+    const DrawItem* figure = addFigure(*item, *entry, parent->id());
     if (!figure)
         return;
-    m_direction.giveTo(*figure);
-    const int itemId = getDrawScene()->addItem(std::move(figure), parent->id())->itemId();
+    const int itemId = figure->itemId();
     refreshChildTabelDrawItem();
     widgets().childDrawItems->setCurrentButton(widgets().childDrawItems->findButton(itemId), false);
-    selectFigure(itemId, entry->id());
+    getDrawScene()->setSelected(itemId, entry->id());
 }
 
 void BaseTabelScene::sltTabelDrawItemCheckBtnChanged()
@@ -362,7 +352,7 @@ void BaseTabelScene::sltTabelChildDrawItemCheckBtnChanged()
 {
     perform([this] {
         if (const DrawItemButton* button = widgets().childDrawItems->currentButton())
-            selectFigure(button->id(), button->dataId());
+            getDrawScene()->setSelected(button->id(), button->dataId());
     });
 }
 
@@ -393,7 +383,7 @@ void BaseTabelScene::deleteChild(int itemId)
     refreshTabelDrawItem();
     refreshChildTabelDrawItem();
     const int dataId = m_data->getSelectedDataId();
-    selectFigure(pickedFigure(dataId), dataId);
+    getDrawScene()->setSelected(pickedFigure(dataId), dataId);
 }
 
 void BaseTabelScene::deleteEntry(int dataId)
@@ -440,7 +430,7 @@ void BaseTabelScene::redrawFigure(const DrawItem& figure)
     if (!dropped.isEmpty())
         refreshChildTabelDrawItem();
     getDrawScene()->redrawItem(itemId);
-    selectFigure(itemId, dataId);
+    getDrawScene()->setSelected(itemId, dataId);
 }
 
 QList<int> BaseTabelScene::dropsOnRedraw(const DrawItem& figure) const
@@ -494,7 +484,7 @@ void BaseTabelScene::refreshTabelDrawItem()
     }
     const bool hasCheckBoxes = m_data->getSceneType() == SceneType::Rules && getSelectMode();
     FigureLabels::update(*m_data, entryFigureItem());
-    EntryButtons::fillEntries(*widgets().drawItems, *m_data, {entryFigureItem(), hasCheckBoxes});
+    EntryButtons::fillEntries(*widgets().drawItems, *m_data, entryFigureItem(), hasCheckBoxes);
     orderFocus();
 }
 

@@ -82,13 +82,13 @@ protected:
     virtual QString heading() const;
     /// Binds rows of the section's own, before those of the template's other items are made.
     virtual void bindFixedRows() {}
-    virtual bool wantsRow(const RuleProtocolItem& item) const;
+    virtual bool wantsRow(const RuleProtocolItem& /*item*/) const { return true; }
     /// Shows the current entry in rows that stand for no value of it.
     virtual void loadFixedRows(const RuleDataInfo* entry);
     /// The item to draw first for a new entry; null for an entry without a figure.
     virtual RuleProtocolItem* firstFigureItem(BaseDrawType pressed) const;
     virtual bool canAddEntry(BaseDrawType pressed) const;
-    virtual void prepareNewEntry(RuleDataInfo& entry);
+    virtual void prepareNewEntry(RuleDataInfo& /*entry*/) {}
     /// Item id of the figure that picking the entry selects; 0 for none.
     virtual int pickedFigure(int dataId) const;
     /// The figures that go when @p figure is drawn anew.
@@ -118,13 +118,13 @@ private:
     void showFirstEntry();
     void showEntry(int dataId);
     void loadEntry();
-    void selectFigure(int itemId, int dataId);
     void addEntry(BaseDrawType pressed);
     /// Null when the item draws no figure; else one that is not on the canvas yet.
     std::unique_ptr<DrawItem> makeFigure(const RuleProtocolItem& item, const RuleDataInfo& entry,
                                          DrawItemForbidenAreaType forbidden) const;
     /// Null when the item draws no figure. The new figure is not selected yet.
-    DrawItem* addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry);
+    /// Without a parent it is an entry's own, drawn where the template says.
+    DrawItem* addFigure(const RuleProtocolItem& item, const RuleDataInfo& entry, int parentId = -1);
     void pressChildFuc(int type, const QString& itemKey);
     void addChildFigure(BaseDrawType type, const QString& itemKey);
     void deleteCurrent();

@@ -13,29 +13,29 @@ namespace
 {
 
 void addEntry(RuleItemWidgetTabel& table, const RuleData& data, int position,
-              const EntryButtons::Options& options)
+              const RuleProtocolItem* figureItem, bool hasCheckBox)
 {
     const RuleDataInfo& entry = *data.getAllData()[static_cast<std::size_t>(position)];
     const DrawItem* figure =
-        options.figureItem ? data.figuresOf(entry.id(), *options.figureItem).value(0) : nullptr;
+        figureItem ? data.figuresOf(entry.id(), *figureItem).value(0) : nullptr;
     auto* button = new DrawItemButton(figure ? figure->itemId() : 0, entry.id(),
                                       figure ? figure->drawType() : BaseDrawType::None, &table);
     button->setText(EntryName::button(data, position));
     button->setEnabledState(entry.isEnabled());
     button->setVisible(true);
     table.addButton(button);
-    button->setEnableCheckBoxVisible(options.enableCheckBoxes);
+    button->setEnableCheckBoxVisible(hasCheckBox);
 }
 
 } // namespace
 
 void EntryButtons::fillEntries(RuleItemWidgetTabel& table, const RuleData& data,
-                               const Options& options)
+                               const RuleProtocolItem* figureItem, bool hasCheckBoxes)
 {
     const LayoutPause pause(&table);
     table.deleteAll();
     for (int i = 0; i < data.getDataCount(); ++i)
-        addEntry(table, data, i, options);
+        addEntry(table, data, i, figureItem, hasCheckBoxes);
     table.setCurrentButton(table.findDataButton(data.getSelectedDataId()), false);
     table.relayout(0, 0);
 }

@@ -15,14 +15,10 @@ class RuleProtocolItem;
 namespace EntryButtons
 {
 
-/// How the buttons of entries are made.
-struct Options {
-    const RuleProtocolItem* figureItem = nullptr; ///< ties button and figure; null for none
-    bool enableCheckBoxes = false;
-};
-
 /// One button for each entry, with or without a figure; the selected entry's is current.
-void fillEntries(RuleItemWidgetTabel& table, const RuleData& data, const Options& options);
+/// @p figureItem ties button and figure; null for none.
+void fillEntries(RuleItemWidgetTabel& table, const RuleData& data,
+                 const RuleProtocolItem* figureItem, bool hasCheckBoxes);
 
 /// One button for each figure of @p items that the entry has.
 void fillChildren(RuleItemWidgetTabel& table, const RuleData& data, int dataId,

@@ -1,5 +1,6 @@
 #include "scene/lanesscene.h"
 
+#include "Protocol/configmember.h"
 #include "Protocol/entryname.h"
 #include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
@@ -12,15 +13,6 @@
 #include "tabel/inputboxtabel.h"
 #include "tabel/radiobuttontabel.h"
 #include "tabel/rulewidgettabel.h"
-
-namespace
-{
-
-const auto kLaneNumber = QStringLiteral("lanesNum");
-const auto kRuleLaneNumber = QStringLiteral("ruleLaneNumber");
-const auto kRules = QStringLiteral("rules");
-
-} // namespace
 
 LanesScene::LanesScene(QWidget* parent) : BaseTabelScene(parent)
 {
@@ -53,7 +45,7 @@ void LanesScene::bindFixedRows()
     addFixedRow(new RadioButtonTabel(widgets().controls), lanes->rightLineTypeItem(),
                 tr("Right lane line"));
     // One row edits both: a rule's lane is the one that it is edited with.
-    if (RuleProtocolItem* item = lanes->findItem(kRuleLaneNumber))
+    if (RuleProtocolItem* item = lanes->ruleLaneNumberItem())
         item->setRow(numberRow);
     addRuleButtons();
 }
@@ -62,11 +54,10 @@ void LanesScene::addRuleButtons()
 {
     RuleWidgetTabel* bar = widgets().childFucBar;
     for (const auto& item : lanesTemplate()->items()) {
-        if (item->templateName() != kRules || !item->isFigure())
+        if (item->templateName() != ConfigMember::kRuleSection || !item->isFigure())
             continue;
-        const bool isFirst = lanesTemplate()->figureItem(item->drawType()) == item.get();
         DrawFucButton* button = addFucButton(bar, item->drawType(), item->caption());
-        if (!isFirst)
+        if (lanesTemplate()->figureItem(item->drawType()) != item.get())
             button->setItemKey(item->key());
     }
 }
@@ -79,9 +70,9 @@ bool LanesScene::canAddEntry(BaseDrawType pressed) const
 void LanesScene::prepareNewEntry(RuleDataInfo& entry)
 {
     const int number = freeLaneNumber();
-    entry.setValue(kLaneNumber, number);
-    if (entry.hasValue(kRuleLaneNumber))
-        entry.setValue(kRuleLaneNumber, number);
+    entry.setValue(LanesTemplate::kNumber, number);
+    if (entry.hasValue(LanesTemplate::kRuleLaneNumber))
+        entry.setValue(LanesTemplate::kRuleLaneNumber, number);
     Validity::update(*ruleData()->getTemplate(), entry);
     m_laneNumbers.insert(number);
     const LanesTemplate* const dataTemplate = lanesTemplate();
@@ -112,7 +103,7 @@ void LanesScene::collectLaneNumbers()
     if (!isBound())
         return;
     for (const auto& entry : ruleData()->getAllData()) {
-        const QVariant number = entry->value(kLaneNumber);
+        const QVariant number = entry->value(LanesTemplate::kNumber);
         if (number.isValid())
             m_laneNumbers.insert(number.toInt());
     }
@@ -122,8 +113,8 @@ void LanesScene::tabelAttrControlValueChange(const QString& key)
 {
     BaseTabelScene::tabelAttrControlValueChange(key);
     RuleDataInfo* entry = isBound() ? ruleData()->selectedDataInfo() : nullptr;
-    if (key != kLaneNumber || !entry || !entry->hasValue(kRuleLaneNumber))
+    if (key != LanesTemplate::kNumber || !entry || !entry->hasValue(LanesTemplate::kRuleLaneNumber))
         return;
-    entry->setValue(kRuleLaneNumber, entry->value(kLaneNumber));
-    BaseTabelScene::tabelAttrControlValueChange(kRuleLaneNumber);
+    entry->setValue(LanesTemplate::kRuleLaneNumber, entry->value(LanesTemplate::kNumber));
+    BaseTabelScene::tabelAttrControlValueChange(LanesTemplate::kRuleLaneNumber);
 }

@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QPointer>
 
 namespace
 {

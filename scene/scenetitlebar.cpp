@@ -1,9 +1,9 @@
 #include "scene/scenetitlebar.h"
 
 #include "host/api/rowcontract.h"
-#include "scene/foldarrow.h"
 #include "tabel/titlelabel.h"
 
+#include <QPainter>
 #include <QStyle>
 #include <QVariant>
 
@@ -12,6 +12,10 @@ namespace
 
 constexpr int kHeight = 32;
 constexpr int kMargin = 10;
+constexpr int kArrowExtent = 16;
+constexpr double kHalfWidth = 4.0;
+constexpr double kHalfHeight = 2.0;
+constexpr double kFoldedAngle = -90.0;
 
 void repolish(QWidget* widget)
 {
@@ -21,6 +25,35 @@ void repolish(QWidget* widget)
 }
 
 } // namespace
+
+/// Points down while the section is open, right while it is folded. Painted in the text colour.
+/// Skins style it by the name of its class.
+class FoldArrow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FoldArrow(QWidget* parent) : QWidget(parent)
+    {
+        setFixedSize(kArrowExtent, kArrowExtent);
+        setObjectName(QStringLiteral("foldArrow"));
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(width() / 2.0, height() / 2.0);
+        if (parent()->property("bFold").toBool())
+            painter.rotate(kFoldedAngle);
+        painter.setPen(QPen(palette().color(QPalette::WindowText), 1.6, Qt::SolidLine, Qt::RoundCap,
+                            Qt::RoundJoin));
+        const QPointF chevron[] = {
+            {-kHalfWidth, -kHalfHeight}, {0, kHalfHeight}, {kHalfWidth, -kHalfHeight}};
+        painter.drawPolyline(chevron, 3);
+    }
+};
 
 SceneTitleBar::SceneTitleBar(QWidget* parent)
     : QWidget(parent), m_label(new TitleLabel(this)), m_arrow(new FoldArrow(this))
@@ -32,7 +65,6 @@ SceneTitleBar::SceneTitleBar(QWidget* parent)
     setProperty("bFold", false);
     setProperty("selected", false);
     m_label->setObjectName(QStringLiteral("titleLabel"));
-    m_arrow->setObjectName(QStringLiteral("foldArrow"));
 }
 
 void SceneTitleBar::setTitle(const QString& title)
@@ -47,7 +79,6 @@ QString SceneTitleBar::title() const
 
 void SceneTitleBar::setFolded(bool folded)
 {
-    m_arrow->setFolded(folded);
     setLook("bFold", folded);
 }
 
@@ -59,8 +90,7 @@ void SceneTitleBar::setSelected(bool selected)
 void SceneTitleBar::setLook(const char* property, bool on)
 {
     setProperty(property, on);
-    for (QWidget* widget : {static_cast<QWidget*>(this), static_cast<QWidget*>(m_label),
-                            static_cast<QWidget*>(m_arrow)})
+    for (QWidget* widget : QList<QWidget*>{this, m_label, m_arrow})
         repolish(widget);
 }
 
@@ -71,3 +101,5 @@ void SceneTitleBar::resizeEvent(QResizeEvent* event)
     m_arrow->move(arrowX, (height() - m_arrow->height()) / 2);
     m_label->setGeometry(kMargin, 0, qMax(0, arrowX - 2 * kMargin), height());
 }
+
+#include "scenetitlebar.moc"

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-class FoldArrow;
 class TitleLabel;
 
 /**
@@ -27,5 +26,5 @@ private:
     void setLook(const char* property, bool on);
 
     TitleLabel* m_label;
-    FoldArrow* m_arrow;
+    QWidget* m_arrow;
 };

@@ -33,20 +33,17 @@ SceneWidgets::SceneWidgets(WidgetTabel* panel)
       mask(new QWidget(panel))
 {
     nameWidgets();
-    buildBar(ruleFucBar);
-    buildBar(childFucBar);
-    actions->setItemType(ItemSizeType::ItemFixSize);
-    actions->setFixCountLimit(1, kButtonsPerRow);
-    actions->setItemSize(kActionButtonSize);
-    actions->setPaddingLeft(kMargin);
-    actions->setPaddingTop(kBarPadding);
+    buildBar(ruleFucBar, kBarButtonSize);
+    buildBar(childFucBar, kBarButtonSize);
+    buildBar(actions, kActionButtonSize);
     redrawButton = buildAction(QStringLiteral("redraw"), tr("Redraw"));
     deleteButton = buildAction(QStringLiteral("delete"), tr("Delete"));
     controls->setPaddingLeft(0);
     controls->setPaddingTop(kMargin);
     mask->setAttribute(Qt::WA_StyledBackground);
     mask->hide();
-    buildHint();
+    hint->setTitle(tr("Left click adds a point, right click finishes."));
+    hint->setFixedHeight(kHintHeight);
     fillPanel(panel);
 }
 
@@ -62,11 +59,11 @@ void SceneWidgets::nameWidgets()
     mask->setObjectName(QString::fromLatin1(RowContract::kMask));
 }
 
-void SceneWidgets::buildBar(RuleWidgetTabel* bar)
+void SceneWidgets::buildBar(WidgetTabel* bar, const QSize& buttonSize)
 {
     bar->setItemType(ItemSizeType::ItemFixSize);
     bar->setFixCountLimit(1, kButtonsPerRow);
-    bar->setItemSize(kBarButtonSize);
+    bar->setItemSize(buttonSize);
     bar->setPaddingLeft(kMargin);
     bar->setPaddingTop(kBarPadding);
 }
@@ -78,12 +75,6 @@ QPushButton* SceneWidgets::buildAction(const QString& name, const QString& text)
     button->setVisible(true);
     actions->addWidget(button, false);
     return button;
-}
-
-void SceneWidgets::buildHint()
-{
-    hint->setTitle(tr("Left click adds a point, right click finishes."));
-    hint->setFixedHeight(kHintHeight);
 }
 
 void SceneWidgets::fillPanel(WidgetTabel* panel)

@@ -35,8 +35,7 @@ public:
 
 private:
     void nameWidgets();
-    void buildBar(RuleWidgetTabel* bar);
+    static void buildBar(WidgetTabel* bar, const QSize& buttonSize);
     QPushButton* buildAction(const QString& name, const QString& text);
-    void buildHint();
     void fillPanel(WidgetTabel* panel);
 };

@@ -23,8 +23,6 @@ class StatisticsDirection
 public:
     StatisticsDirection();
     ~StatisticsDirection();
-    StatisticsDirection(const StatisticsDirection&) = delete;
-    StatisticsDirection& operator=(const StatisticsDirection&) = delete;
 
     /// Key of the row.
     static QString key();
