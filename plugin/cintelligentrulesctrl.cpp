@@ -11,7 +11,6 @@
 #include "host/api/skin.h"
 #include "host/gdiplus.h"
 #include "host/video/qrtspvideownd.h"
-#include "plugin/buttonstyle.h"
 #include "plugin/modulelifetime.h"
 #include "plugin/resultmessage.h"
 #include "scene/basetabelscene.h"
@@ -42,6 +41,19 @@ constexpr char kPictureRectChanged[] = "sgnPictureRectChanged(int)";
 constexpr char kDrawing[] = "drawing";
 // Of the button bar left of Save, in pixels.
 constexpr int kEmptyWidth = 804;
+
+/// Style sheet of the Save button: it looks the same under every skin.
+constexpr char kSaveButtonStyle[] =
+    "\t\t\t\tKQGUI--KQPushButton{width:70px;height:28px;background-color: #ffffff;"
+    "border: 1px solid #e1e3e6;border-radius: 4px;color: #3c3f42;outline: none;}"
+    "\t\t\t\tKQGUI--KQPushButton:focus{width:70px;height:28px;background-color: #ffffff;"
+    "border: 1px solid #e1e3e6;border-radius: 4px;color: #3c3f42;outline: none;}"
+    "\t\t\t\tKQGUI--KQPushButton:hover{background-color: #ffffff;border: 1px solid #82aaff;"
+    "border-radius: 4px;color: #82aaff;outline: none;}"
+    "\t\t\t\tKQGUI--KQPushButton:disabled{background-color: rgba(181,183,185,0.2);"
+    "border:1px solid #b5b7b9;border-radius: 4px;color: #b5b7b9;outline: none;}"
+    "\t\t\t\tKQGUI--KQPushButton:pressed{background-color: #ffffff;border: 1px solid #325ace;"
+    "border-radius: 4px;color: #325ace;outline: none;}";
 
 } // namespace
 
@@ -127,19 +139,12 @@ void CIntelligentRulesCtrl::connectSurface()
 
 bool CIntelligentRulesCtrl::eventFilter(QObject* watched, QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::Paint:
+    if (event->type() == QEvent::Paint)
         followPicture();
-        break;
-    case QEvent::Resize:
-    case QEvent::Show:
-        // The surface places its picture while it handles the event.
+    // The surface places its picture while it handles these.
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         QMetaObject::invokeMethod(
             this, [this] { followPicture(); }, Qt::QueuedConnection);
-        break;
-    default:
-        break;
-    }
     return QWidget::eventFilter(watched, event);
 }
 
@@ -210,8 +215,7 @@ void CIntelligentRulesCtrl::resetToDefaults()
 
 void CIntelligentRulesCtrl::showParameters()
 {
-    m_form->lblChnCode->setTitle(m_parameters.hasChannelSn ? m_parameters.channelSn
-                                                           : m_parameters.channelId);
+    m_form->lblChnCode->setTitle(m_parameters.shownChannel);
     m_form->lblChnName->setTitle(m_parameters.channelName);
     m_form->wgtChannelInfo->setEnabled(m_parameters.editable);
 }
@@ -539,19 +543,13 @@ bool CIntelligentRulesCtrl::postResult()
     kql::Json::Value config;
     QString why;
     bool isWritten = m_parser->writeData(config, why);
-    if (isWritten && !postSaved(resultContext(), std::move(config))) {
+    if (isWritten && !postSaved(m_widgetId, m_parameters, std::move(config))) {
         why = tr("The configuration is too long.");
         isWritten = false;
     }
     if (!isWritten)
         showHint(tr("Nothing was saved. %1").arg(why));
     return isWritten;
-}
-
-ResultContext CIntelligentRulesCtrl::resultContext() const
-{
-    return {m_widgetId, m_parameters.algorithmId, m_parameters.algorithmType,
-            m_parameters.algorithmCode, m_parameters.channelId};
 }
 
 void CIntelligentRulesCtrl::sltCancel()
@@ -561,7 +559,7 @@ void CIntelligentRulesCtrl::sltCancel()
     const LoadGuard guard(this);
     const bool leave = ask(tr("Do you want to exit the current configuration?"));
     if (guard.holds() && leave)
-        postExited(resultContext());
+        postExited(m_widgetId, m_parameters);
 }
 
 bool CIntelligentRulesCtrl::ask(const QString& question)

@@ -24,8 +24,6 @@ class CInterfaceSetManager;
 namespace IntelligentRulesUI
 {
 
-struct ResultContext;
-
 /**
  * Content of one rules window: shows the channel's picture, the panels of the template's scenes,
  * routes the mouse on the picture to the canvas of the selected scene, and sends the edited
@@ -112,7 +110,6 @@ private:
     bool checkSelection();
     bool confirmChange();
     bool postResult();
-    ResultContext resultContext() const;
     bool ask(const QString& question);
     void showError(const QString& message);
     void showHint(const QString& text);

@@ -34,13 +34,6 @@ bool CIntelligentRulesUIPlugin::RemoveLogicalPlugin(KQPluginAPI::IClientLogicalP
     return m_manager && m_manager->RemoveLogicalPlugin(plugin);
 }
 
-bool CIntelligentRulesUIPlugin::IsAvailable()
-{
-    return true;
-}
-
-void CIntelligentRulesUIPlugin::Update() {}
-
 void CIntelligentRulesUIPlugin::Init()
 {
     startModule();

@@ -30,8 +30,8 @@ public:
     std::string GetRightName() override;
     bool AddLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin) override;
     bool RemoveLogicalPlugin(KQPluginAPI::IClientLogicalPluginAPI* plugin) override;
-    bool IsAvailable() override;
-    void Update() override;
+    bool IsAvailable() override { return true; }
+    void Update() override {}
     /// Starts GDI+ and, the first time, makes the factory.
     void Init() override;
     /// Deletes the factory with all its widgets and shuts GDI+ down.

@@ -62,46 +62,6 @@ QWidget* CIntelligentRulesWidget::GetWidget(QWidget* parent)
     return m_ctrl;
 }
 
-QString CIntelligentRulesWidget::GetTitle()
-{
-    return tr("IntelligentRules");
-}
-
-QIcon CIntelligentRulesWidget::GetIcon()
-{
-    return {};
-}
-
-QString CIntelligentRulesWidget::GetDetail()
-{
-    return tr("IntelligentRulesDetail");
-}
-
-QString CIntelligentRulesWidget::GetSecondTitle()
-{
-    return tr("IntelligentRules");
-}
-
-QIcon CIntelligentRulesWidget::GetSecondIcon()
-{
-    return {};
-}
-
-QString CIntelligentRulesWidget::GetThirdTitle()
-{
-    return tr("IntelligentRules");
-}
-
-QIcon CIntelligentRulesWidget::GetThirdIcon()
-{
-    return {};
-}
-
-QVariant CIntelligentRulesWidget::GetUserData()
-{
-    return {};
-}
-
 bool CIntelligentRulesWidget::OnPluginMessage(int id, const QVariant& p1, const QVariant& p2)
 {
     switch (id) {
@@ -109,7 +69,8 @@ bool CIntelligentRulesWidget::OnPluginMessage(int id, const QVariant& p1, const 
     case PluginMsgOpenRulesAlt:
         return openRules(p1, p2);
     case PluginMsgCloseRules:
-        closeRules(p1);
+        if (p1.toString() == widgetId() && m_ctrl)
+            m_ctrl->clearData();
         return true;
     case PluginMsgQueryUnfinishedDraw:
         return queryUnfinishedDraw(p1, p2);
@@ -127,12 +88,6 @@ bool CIntelligentRulesWidget::openRules(const QVariant& p1, const QVariant& p2)
     if (constAddress["pluginWidgetID"].asString() == widgetId() && m_ctrl)
         m_ctrl->setData(p2.toString(), constAddress["iSessionID"].asInt());
     return true;
-}
-
-void CIntelligentRulesWidget::closeRules(const QVariant& p1)
-{
-    if (p1.toString() == widgetId() && m_ctrl)
-        m_ctrl->clearData();
 }
 
 bool CIntelligentRulesWidget::queryUnfinishedDraw(const QVariant& p1, const QVariant& p2)

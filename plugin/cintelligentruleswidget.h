@@ -33,14 +33,14 @@ public:
     std::string GetWidgetID() override;
     /// The window, made by the first call as a child of @p parent.
     QWidget* GetWidget(QWidget* parent) override;
-    QString GetTitle() override;
-    QIcon GetIcon() override;
-    QString GetDetail() override;
-    QString GetSecondTitle() override;
-    QIcon GetSecondIcon() override;
-    QString GetThirdTitle() override;
-    QIcon GetThirdIcon() override;
-    QVariant GetUserData() override;
+    QString GetTitle() override { return tr("IntelligentRules"); }
+    QIcon GetIcon() override { return {}; }
+    QString GetDetail() override { return tr("IntelligentRulesDetail"); }
+    QString GetSecondTitle() override { return tr("IntelligentRules"); }
+    QIcon GetSecondIcon() override { return {}; }
+    QString GetThirdTitle() override { return tr("IntelligentRules"); }
+    QIcon GetThirdIcon() override { return {}; }
+    QVariant GetUserData() override { return {}; }
     /// Handles a message of the host; false when its JSON cannot be read.
     bool OnPluginMessage(int id, const QVariant& p1, const QVariant& p2) override;
 
@@ -50,7 +50,6 @@ protected:
 private:
     QString widgetId() const;
     bool openRules(const QVariant& p1, const QVariant& p2);
-    void closeRules(const QVariant& p1);
     bool queryUnfinishedDraw(const QVariant& p1, const QVariant& p2);
     void replyUnfinishedDraw(const QString& channel, const QString& algorithm);
 

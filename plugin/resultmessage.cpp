@@ -5,6 +5,7 @@
 #include "host/api/pluginmessages.h"
 #include "host/api/pluginmsg_param.h"
 #include "host/json/value.h"
+#include "plugin/rulesparameters.h"
 
 namespace IntelligentRulesUI
 {
@@ -15,40 +16,40 @@ namespace
 constexpr int kSaved = 0;
 constexpr int kExited = -1;
 
-kql::Json::Value resultObject(const ResultContext& context, int result)
+kql::Json::Value resultObject(const RulesParameters& load, int result)
 {
     kql::Json::Value object(kql::Json::ValueType::Object);
     object["result"] = result;
-    object["algorithmId"] = context.algorithmId;
-    object["channalId"] = context.channelId;
-    object["channelId"] = context.channelId;
-    object["algorithmType"] = context.algorithmType;
-    object["algorithmCode"] = context.algorithmCode;
+    object["algorithmId"] = load.algorithmId;
+    object["channalId"] = load.channelId;
+    object["channelId"] = load.channelId;
+    object["algorithmType"] = load.algorithmType;
+    object["algorithmCode"] = load.algorithmCode;
     return object;
 }
 
-bool post(const ResultContext& context, const kql::Json::Value& object)
+bool post(const QString& widgetId, const kql::Json::Value& object)
 {
     const QString text = object.toStyledText();
     if (text.isEmpty())
         return false;
     KQGUI::KQSingleton<UICommonMdl::CUIPluginMessage>::Instance().PostEvent(
-        {PluginMsgRulesResult, context.widgetId, text});
+        {PluginMsgRulesResult, widgetId, text});
     return true;
 }
 
 } // namespace
 
-bool postSaved(const ResultContext& context, kql::Json::Value config)
+bool postSaved(const QString& widgetId, const RulesParameters& parameters, kql::Json::Value config)
 {
-    kql::Json::Value object = resultObject(context, kSaved);
+    kql::Json::Value object = resultObject(parameters, kSaved);
     object["channelAbilityPO"] = std::move(config);
-    return post(context, object);
+    return post(widgetId, object);
 }
 
-void postExited(const ResultContext& context)
+void postExited(const QString& widgetId, const RulesParameters& parameters)
 {
-    post(context, resultObject(context, kExited));
+    post(widgetId, resultObject(parameters, kExited));
 }
 
 } // namespace IntelligentRulesUI

@@ -67,8 +67,8 @@ std::optional<RulesParameters> RulesParameters::parse(const QString& json, int s
     result.algorithmType = block["algorithmType"].asInt();
     result.algorithmCode = block["algorithmCode"].asString();
     result.channelId = block[block.isMember(kChannelKey) ? kChannelKey : kChannelKeyAlt].asString();
-    result.hasChannelSn = block.isMember("channelSn");
-    result.channelSn = block["channelSn"].asString();
+    const Value* serialNumber = block.find("channelSn");
+    result.shownChannel = serialNumber ? serialNumber->asString() : result.channelId;
     result.channelName = block["channelName"].asString();
     result.templateDocument = std::move(document["videoConfigRuleProperty"]);
     result.configuration = std::move(document["channelAbilityPO"]);

@@ -15,8 +15,7 @@ struct RulesParameters {
     int algorithmType = 0;
     QString algorithmCode;
     QString channelId;
-    QString channelSn; ///< shown in place of the channel id when hasChannelSn
-    bool hasChannelSn = false;
+    QString shownChannel; ///< the channel's serial number where it is given, or else its id
     QString channelName;
     kql::Json::Value templateDocument;
     kql::Json::Value configuration;
