@@ -22,6 +22,10 @@ using REAL = float;
 /// 0xAARRGGBB, not premultiplied.
 using ARGB = std::uint32_t;
 using GraphicsState = UINT;
+using PixelFormat = INT;
+
+constexpr PixelFormat PixelFormat32bppARGB = 0x26200A;
+constexpr PixelFormat PixelFormat32bppPARGB = 0xE200B;
 
 enum Status {
     Ok = 0,
@@ -32,9 +36,27 @@ enum Status {
     UnsupportedGdiplusVersion = 17
 };
 
-enum Unit { UnitPoint = 3 };
+enum Unit {
+    UnitWorld = 0,
+    UnitDisplay = 1,
+    UnitPixel = 2,
+    UnitPoint = 3,
+    UnitInch = 4,
+    UnitDocument = 5,
+    UnitMillimeter = 6
+};
 
 enum FillMode { FillModeAlternate = 0, FillModeWinding = 1 };
+
+enum MatrixOrder { MatrixOrderPrepend = 0, MatrixOrderAppend = 1 };
+
+enum DashStyle {
+    DashStyleSolid = 0,
+    DashStyleDash = 1,
+    DashStyleDot = 2,
+    DashStyleDashDot = 3,
+    DashStyleDashDotDot = 4
+};
 
 enum FontStyle {
     FontStyleRegular = 0,
@@ -45,6 +67,8 @@ enum FontStyle {
     FontStyleStrikeout = 8
 };
 
+enum StringAlignment { StringAlignmentNear = 0, StringAlignmentCenter = 1, StringAlignmentFar = 2 };
+
 enum SmoothingMode {
     SmoothingModeInvalid = -1,
     SmoothingModeDefault = 0,
@@ -54,6 +78,13 @@ enum SmoothingMode {
     SmoothingModeAntiAlias = 4
 };
 
-enum TextRenderingHint { TextRenderingHintSystemDefault = 0, TextRenderingHintAntiAlias = 4 };
+enum TextRenderingHint {
+    TextRenderingHintSystemDefault = 0,
+    TextRenderingHintSingleBitPerPixelGridFit = 1,
+    TextRenderingHintSingleBitPerPixel = 2,
+    TextRenderingHintAntiAliasGridFit = 3,
+    TextRenderingHintAntiAlias = 4,
+    TextRenderingHintClearTypeGridFit = 5
+};
 
 } // namespace Gdiplus

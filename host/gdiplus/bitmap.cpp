@@ -16,6 +16,12 @@ namespace
 // As many as fit into an image's int-sized byte count.
 constexpr qreal kMostPixels = std::numeric_limits<int>::max() / 4.0;
 
+Status checkFormat(PixelFormat format)
+{
+    return format == PixelFormat32bppARGB || format == PixelFormat32bppPARGB ? Ok
+                                                                             : InvalidParameter;
+}
+
 std::shared_ptr<QImage> makePixels(INT width, INT height, qreal pixelRatio)
 {
     const qreal w = std::ceil(width * pixelRatio);
@@ -32,7 +38,10 @@ std::shared_ptr<QImage> makePixels(INT width, INT height, qreal pixelRatio)
 
 } // namespace
 
-Bitmap::Bitmap(INT width, INT height) : Bitmap(width, height, 1, Ok) {}
+Bitmap::Bitmap(INT width, INT height, PixelFormat format)
+    : Bitmap(width, height, 1, checkFormat(format))
+{
+}
 
 Bitmap::Bitmap(INT width, INT height, Graphics* target)
     : Bitmap(width, height, target ? target->pixelRatio() : 1, target ? Ok : InvalidParameter)
@@ -40,7 +49,8 @@ Bitmap::Bitmap(INT width, INT height, Graphics* target)
 }
 
 Bitmap::Bitmap(INT width, INT height, qreal pixelRatio, Status status)
-    : Image(status == Ok ? makePixels(width, height, pixelRatio) : nullptr, status)
+    : Image(status == Ok ? makePixels(width, height, pixelRatio) : nullptr, UINT(qMax(0, width)),
+            UINT(qMax(0, height)), status)
 {
 }
 

@@ -14,7 +14,7 @@ class Graphics;
 class KQHOST_EXPORT Bitmap : public Image
 {
 public:
-    Bitmap(INT width, INT height);
+    Bitmap(INT width, INT height, PixelFormat format = PixelFormat32bppARGB);
     /// Has the resolution of @p target, so that painting it there keeps every pixel.
     Bitmap(INT width, INT height, Graphics* target);
 

@@ -10,16 +10,33 @@ namespace
 
 constexpr REAL kMaximumEm = 4096;
 
-/// At 96 dots an inch.
-constexpr REAL kPixelsPerPoint = 96.0F / 72;
+/// Pixels of one @p unit at 96 dots an inch; 0 for a unit that is none.
+REAL pixelsPerUnit(Unit unit)
+{
+    switch (unit) {
+    case UnitWorld:
+    case UnitDisplay:
+    case UnitPixel:
+        return 1;
+    case UnitPoint:
+        return 96.0F / 72;
+    case UnitInch:
+        return 96;
+    case UnitDocument:
+        return 96.0F / 300;
+    case UnitMillimeter:
+        return 96 / 25.4F;
+    }
+    return 0;
+}
 
 } // namespace
 
 Font::Font(const WCHAR* familyName, REAL emSize, INT style, Unit unit)
 {
-    const REAL em = emSize * kPixelsPerPoint;
+    const REAL em = emSize * pixelsPerUnit(unit);
     // Written so that a size which is no number fails too.
-    if (unit != UnitPoint || !(em > 0 && em <= kMaximumEm)) {
+    if (!(em > 0 && em <= kMaximumEm)) {
         m_status = InvalidParameter;
         return;
     }

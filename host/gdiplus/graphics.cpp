@@ -24,6 +24,22 @@ bool areFinite(Values... values)
     return (std::isfinite(values) && ...);
 }
 
+QFont::StyleStrategy textStrategy(TextRenderingHint hint)
+{
+    switch (hint) {
+    case TextRenderingHintSystemDefault:
+    case TextRenderingHintClearTypeGridFit:
+        break;
+    case TextRenderingHintSingleBitPerPixelGridFit:
+    case TextRenderingHintSingleBitPerPixel:
+        return QFont::NoAntialias;
+    case TextRenderingHintAntiAliasGridFit:
+    case TextRenderingHintAntiAlias:
+        return QFont::NoSubpixelAntialias;
+    }
+    return QFont::PreferDefault;
+}
+
 } // namespace
 
 Graphics::Graphics(HDC hdc)
@@ -73,11 +89,10 @@ Status Graphics::SetSmoothingMode(SmoothingMode mode)
 
 Status Graphics::SetTextRenderingHint(TextRenderingHint hint)
 {
-    if (!isReady() ||
-        (hint != TextRenderingHintSystemDefault && hint != TextRenderingHintAntiAlias))
+    if (!isReady() || hint < TextRenderingHintSystemDefault ||
+        hint > TextRenderingHintClearTypeGridFit)
         return report(InvalidParameter);
-    m_state.textStrategy =
-        hint == TextRenderingHintAntiAlias ? QFont::NoSubpixelAntialias : QFont::PreferDefault;
+    m_state.textStrategy = textStrategy(hint);
     return Ok;
 }
 
@@ -86,18 +101,27 @@ REAL Graphics::GetDpiX() const
     return REAL(96 * pixelRatio());
 }
 
-Status Graphics::TranslateTransform(REAL dx, REAL dy)
+Status Graphics::TranslateTransform(REAL dx, REAL dy, MatrixOrder order)
 {
     if (!areFinite(dx, dy))
         return report(InvalidParameter);
-    return transform(QTransform::fromTranslate(qreal(dx), qreal(dy)));
+    return transform(QTransform::fromTranslate(qreal(dx), qreal(dy)), order);
 }
 
-Status Graphics::RotateTransform(REAL angle)
+Status Graphics::RotateTransform(REAL angle, MatrixOrder order)
 {
     if (!areFinite(angle))
         return report(InvalidParameter);
-    return transform(QTransform().rotate(qreal(angle)));
+    return transform(QTransform().rotate(qreal(angle)), order);
+}
+
+Status Graphics::ResetTransform()
+{
+    if (!isReady())
+        return report(InvalidParameter);
+    m_state.world = {};
+    m_transformChanged = true;
+    return Ok;
 }
 
 GraphicsState Graphics::Save() const
@@ -230,11 +254,11 @@ Status Graphics::report(Status status) const
     return status;
 }
 
-Status Graphics::transform(const QTransform& change)
+Status Graphics::transform(const QTransform& change, MatrixOrder order)
 {
     if (!isReady())
         return report(InvalidParameter);
-    m_state.world = change * m_state.world;
+    m_state.world = order == MatrixOrderAppend ? m_state.world * change : change * m_state.world;
     m_transformChanged = true;
     return Ok;
 }

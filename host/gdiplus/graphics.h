@@ -55,9 +55,10 @@ public:
     /// Dots an inch of what is painted on: 96 for each of its pixels to a logical one.
     REAL GetDpiX() const;
 
-    Status TranslateTransform(REAL dx, REAL dy);
+    Status TranslateTransform(REAL dx, REAL dy, MatrixOrder order = MatrixOrderPrepend);
     /// In degrees, clockwise on the screen.
-    Status RotateTransform(REAL angle);
+    Status RotateTransform(REAL angle, MatrixOrder order = MatrixOrderPrepend);
+    Status ResetTransform();
 
     /// Keeps transform, smoothing and text hint. The result is never 0.
     GraphicsState Save() const;
@@ -83,6 +84,8 @@ public:
                       const StringFormat* stringFormat, const Brush* brush);
     Status MeasureString(const WCHAR* string, INT length, const Font* font, const PointF& origin,
                          RectF* boundingBox) const;
+    Status MeasureString(const WCHAR* string, INT length, const Font* font, const RectF& layoutRect,
+                         RectF* boundingBox) const;
 
 private:
     friend class Bitmap;
@@ -98,7 +101,7 @@ private:
     void begin();
     bool isReady() const;
     Status report(Status status) const;
-    Status transform(const QTransform& change);
+    Status transform(const QTransform& change, MatrixOrder order);
     void setAntialiased(bool on);
     void applyTransform();
     void selectFont(const Font& font);

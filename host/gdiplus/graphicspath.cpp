@@ -35,6 +35,7 @@ Status GraphicsPath::AddRectangle(const Rect& rect)
     if (rect.Width <= 0 || rect.Height <= 0)
         return Ok;
     m_path.addRect(rect.X, rect.Y, rect.Width, rect.Height);
+    m_pointCount += 4;
     return Ok;
 }
 
@@ -46,6 +47,14 @@ Status GraphicsPath::AddRectangle(const RectF& rect)
     if (rect.Width <= 0 || rect.Height <= 0)
         return Ok;
     m_path.addRect(qreal(rect.X), qreal(rect.Y), qreal(rect.Width), qreal(rect.Height));
+    m_pointCount += 4;
+    return Ok;
+}
+
+Status GraphicsPath::Reset()
+{
+    m_path = {};
+    m_pointCount = 0;
     return Ok;
 }
 
@@ -66,6 +75,7 @@ Status GraphicsPath::addPolygon(const P* points, INT count)
     for (INT i = 1; i < count; ++i)
         m_path.lineTo(qreal(points[i].X), qreal(points[i].Y));
     m_path.closeSubpath();
+    m_pointCount += count;
     return Ok;
 }
 

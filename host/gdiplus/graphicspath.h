@@ -22,7 +22,10 @@ public:
     /// A rectangle without an area adds nothing.
     Status AddRectangle(const Rect& rect);
     Status AddRectangle(const RectF& rect);
+    /// Removes every outline and returns to alternate fill.
+    Status Reset();
 
+    INT GetPointCount() const { return m_pointCount; }
     /// Half open: points on left and top edges are inside, those on right and bottom edges are not.
     BOOL IsVisible(INT x, INT y) const;
 
@@ -33,6 +36,7 @@ private:
     Status addPolygon(const P* points, INT count);
 
     QPainterPath m_path;
+    INT m_pointCount = 0;
 };
 
 } // namespace Gdiplus

@@ -54,6 +54,19 @@ qreal margin(const QFont& font)
 }
 
 /// Where a block of @p size begins in a range of @p length from @p start.
+qreal aligned(StringAlignment alignment, qreal start, qreal length, qreal size)
+{
+    switch (alignment) {
+    case StringAlignmentNear:
+        return start;
+    case StringAlignmentCenter:
+        return start + (length - size) / 2;
+    case StringAlignmentFar:
+        return start + length - size;
+    }
+    return start;
+}
+
 } // namespace
 
 Status Graphics::DrawString(const WCHAR* string, INT length, const Font* font, const PointF& origin,
@@ -63,7 +76,8 @@ Status Graphics::DrawString(const WCHAR* string, INT length, const Font* font, c
 }
 
 Status Graphics::DrawString(const WCHAR* string, INT length, const Font* font,
-                            const RectF& layoutRect, const StringFormat*, const Brush* brush)
+                            const RectF& layoutRect, const StringFormat* stringFormat,
+                            const Brush* brush)
 {
     if (!canUse(string, length, font) || !brush)
         return report(InvalidParameter);
@@ -71,11 +85,18 @@ Status Graphics::DrawString(const WCHAR* string, INT length, const Font* font,
     applyTransform();
     selectFont(*font);
     selectTextColor(*brush);
-    const qreal x = qreal(layoutRect.X) + margin(m_font);
-    qreal y = qreal(layoutRect.Y);
+    const auto across = stringFormat ? stringFormat->GetAlignment() : StringAlignmentNear;
+    const auto down = stringFormat ? stringFormat->GetLineAlignment() : StringAlignmentNear;
+    const qreal lineHeight = m_metrics->lineSpacing();
+    const qreal gap = margin(m_font);
+    qreal y =
+        aligned(down, qreal(layoutRect.Y), qreal(layoutRect.Height), lines.size() * lineHeight);
     for (const QString& line : lines) {
-        m_painter->drawText(QPointF(x, y + m_metrics->ascent()), line);
-        y += m_metrics->lineSpacing();
+        const qreal width =
+            across == StringAlignmentNear ? 0 : m_metrics->horizontalAdvance(line) + 2 * gap;
+        const qreal x = aligned(across, qreal(layoutRect.X), qreal(layoutRect.Width), width);
+        m_painter->drawText(QPointF(x + gap, y + m_metrics->ascent()), line);
+        y += lineHeight;
     }
     return Ok;
 }
@@ -96,6 +117,12 @@ Status Graphics::MeasureString(const WCHAR* string, INT length, const Font* font
     boundingBox->Width = REAL(width + 2 * margin(font->m_font));
     boundingBox->Height = REAL(lines.size() * metrics.lineSpacing());
     return Ok;
+}
+
+Status Graphics::MeasureString(const WCHAR* string, INT length, const Font* font,
+                               const RectF& layoutRect, RectF* boundingBox) const
+{
+    return MeasureString(string, length, font, PointF(layoutRect.X, layoutRect.Y), boundingBox);
 }
 
 bool Graphics::canUse(const WCHAR* string, INT length, const Font* font) const

@@ -18,16 +18,21 @@ public:
     Image(const Image&) = delete;
     Image& operator=(const Image&) = delete;
 
+    /// In the coordinates that a Graphics on this image uses.
+    UINT GetWidth() const { return m_width; }
+    UINT GetHeight() const { return m_height; }
     Status GetLastStatus() const { return m_status; }
 
 protected:
     /// Null @p pixels where @p status is Ok mean that there was no memory for them.
-    Image(std::shared_ptr<QImage> pixels, Status status);
+    Image(std::shared_ptr<QImage> pixels, UINT width, UINT height, Status status);
 
 private:
     friend class Graphics;
 
     std::shared_ptr<QImage> m_pixels; // shared with the Graphics that paint on it
+    UINT m_width;
+    UINT m_height;
     Status m_status;
 };
 

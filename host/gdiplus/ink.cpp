@@ -1,9 +1,34 @@
 #include "host/gdiplus/ink.h"
 
+#include <QVector>
+
 #include <cmath>
 
 namespace Gdiplus
 {
+
+namespace
+{
+
+/// Dash and gap lengths in pen widths; empty for a solid line.
+QVector<qreal> dashPattern(DashStyle style)
+{
+    switch (style) {
+    case DashStyleSolid:
+        return {};
+    case DashStyleDash:
+        return {3, 1};
+    case DashStyleDot:
+        return {1, 1};
+    case DashStyleDashDot:
+        return {3, 1, 1, 1};
+    case DashStyleDashDotDot:
+        return {3, 1, 1, 1, 1, 1};
+    }
+    return {};
+}
+
+} // namespace
 
 Brush::~Brush() = default;
 
@@ -18,6 +43,18 @@ Pen::Pen(const Color& color, REAL width)
     m_status = valid ? Ok : InvalidParameter;
     m_pen = QPen(QColor::fromRgba(color.GetValue()), valid && width > 1 ? qreal(width) : 1.0,
                  Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+}
+
+Status Pen::SetDashStyle(DashStyle dashStyle)
+{
+    if (dashStyle < DashStyleSolid || dashStyle > DashStyleDashDotDot)
+        return InvalidParameter;
+    m_dashStyle = dashStyle;
+    if (dashStyle == DashStyleSolid)
+        m_pen.setStyle(Qt::SolidLine);
+    else
+        m_pen.setDashPattern(dashPattern(dashStyle));
+    return Ok;
 }
 
 } // namespace Gdiplus

@@ -22,6 +22,10 @@ public:
     {
     }
 
+    constexpr BYTE GetA() const { return BYTE(m_argb >> 24); }
+    constexpr BYTE GetR() const { return BYTE(m_argb >> 16); }
+    constexpr BYTE GetG() const { return BYTE(m_argb >> 8); }
+    constexpr BYTE GetB() const { return BYTE(m_argb); }
     constexpr ARGB GetValue() const { return m_argb; }
 
 private:
@@ -59,12 +63,15 @@ public:
     Pen(const Pen&) = delete;
     Pen& operator=(const Pen&) = delete;
 
+    Status SetDashStyle(DashStyle dashStyle);
+    DashStyle GetDashStyle() const { return m_dashStyle; }
     Status GetLastStatus() const { return m_status; }
 
 private:
     friend class Graphics;
 
     QPen m_pen;
+    DashStyle m_dashStyle = DashStyleSolid;
     Status m_status = Ok;
 };
 
