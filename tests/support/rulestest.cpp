@@ -8,6 +8,8 @@ QtMessageHandler g_previousHandler = nullptr;
 
 // Said by Qt's offscreen platform for every shown window; it tells nothing about our code.
 const auto kPlatformNoise = QStringLiteral("This plugin does not support");
+// Said by the test library for a release that no widget waits for; by that of Qt 5 past a handler.
+const auto kReleaseNoise = QStringLiteral("Mouse event \"MouseRelease\" not accepted");
 
 } // namespace
 
@@ -44,7 +46,7 @@ void RulesTest::cleanup()
 void RulesTest::handleMessage(QtMsgType type, const QMessageLogContext& context,
                               const QString& text)
 {
-    if (text.startsWith(kPlatformNoise))
+    if (text.startsWith(kPlatformNoise) || text.startsWith(kReleaseNoise))
         return;
     if (g_running && (type == QtWarningMsg || type == QtCriticalMsg)) {
         for (const QRegularExpression& pattern : qAsConst(g_running->m_expected)) {
