@@ -49,7 +49,12 @@ public:
         QApplication::setActiveWindow(&container);
     }
 
-    ~Bench() { container.disconnect(); } // what is typed still is not announced any more
+    // What is typed still is not announced any more, and ends while there is a container to tell.
+    ~Bench()
+    {
+        container.disconnect();
+        container.hide();
+    }
 
     static EnumOption option(const char* value, bool isAll = false)
     {
