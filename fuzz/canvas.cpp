@@ -173,10 +173,13 @@ private:
     void setPoints(BaseDraw& draw, int count)
     {
         constexpr int step = DrawGeometry::kNormalizedExtent / kPicture;
+        constexpr QRect scaled(-kPicture, -kPicture, 3 * kPicture, 3 * kPicture);
         Figure figure = draw.figure();
         figure.setPoints({});
-        while (count-- > 0)
-            figure.appendPoint(point() * step);
+        while (count-- > 0) {
+            const QPoint at = point();
+            figure.appendPoint(scaled.contains(at) ? at * step : at);
+        }
         figure.setFinished(m_bytes.byte() % 2 != 0);
         draw.setFigure(figure);
     }
