@@ -276,9 +276,10 @@ void requireEntry(const Section& before, const Section& again, int position, con
 {
     const RuleDataInfo& was = *before.data.getAllData()[std::size_t(position)];
     const RuleDataInfo& is = *again.data.getAllData()[std::size_t(position)];
+    // A name that is none is written as it was read.
+    const QString name = was.nameAsRead() ? was.name() : EntryName::written(before.data, position);
     if (before.name == ConfigMember::kRuleSection)
-        require(is.name() == EntryName::written(before.data, position) &&
-                    is.isEnabled() == was.isEnabled(),
+        require(is.name() == name && is.isEnabled() == was.isEnabled(),
                 "an entry is named otherwise");
     const bool hasCourse = ConfigMember::directionPath().find(entry);
     for (const RuleProtocolItem* item : itemsOf(before)) {
