@@ -32,7 +32,7 @@ has "$program" 'FLAGS_1.* PIE' -d || miss "rules-workbench: position independenc
 
 # Only the two entry functions of a Qt plug-in may leave it.
 exports=$(readelf -W --dyn-syms "$plugin" |
-    awk '$5 != "LOCAL" && $7 != "UND" && $8 != "" && NR > 3 { sub(/@.*/, "", $8); print $8 }' | sort)
+    awk '/ (GLOBAL|WEAK) / && !/ UND / { sub(/@.*/, "", $NF); print $NF }' | sort)
 [[ $exports =~ ^qt_plugin_instance$'\n'qt_plugin_query_metadata(_v2)?$ ]] ||
     miss "IntelligentRulesUI.so: hidden symbols; it exports $(echo $exports)"
 
