@@ -86,20 +86,24 @@ QString setLimit(const QWidget* row, const char* name, const Value& value)
     return isThere ? QString() : OperatorHand::type(edit, textOf(value), true);
 }
 
-// Neither limit may pass the other on the way.
+// Neither limit may pass the other on the way, and beside a maximum none below 0 can be typed.
 QString setRange(QWidget* row, const Value& value)
 {
     const QSize held = row->property(kValue).toSize();
+    const bool isNegative = value[0].asInt() < 0 && value[0].asInt() != held.width();
     const bool isBelow = !value[1].isNull() && value[1].asInt() < held.width();
-    QString why = isBelow ? setLimit(row, kMinimum, value[0]) : QString();
+    const bool minimumFirst = isNegative || isBelow;
+    QString why = isNegative ? setLimit(row, kMaximum, Value()) : QString();
+    if (why.isEmpty() && minimumFirst)
+        why = setLimit(row, kMinimum, value[0]);
     if (why.isEmpty())
         why = setLimit(row, kMaximum, value[1]);
-    return why.isEmpty() && !isBelow ? setLimit(row, kMinimum, value[0]) : why;
+    return why.isEmpty() && !minimumFirst ? setLimit(row, kMinimum, value[0]) : why;
 }
 
 Value limit(int held)
 {
-    return held < 0 ? Value() : Value(held);
+    return held == -1 ? Value() : Value(held);
 }
 
 Value list(const QStringList& texts)

@@ -163,6 +163,10 @@ private slots:
         bench.type(bench.edit("rules", "ruleSize", "maximum"), QString());
         QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Backspace);
         QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Return);
+        bench.type(bench.edit("rules", "ruleSize", "minimum"), "-3");
+        QTest::keyClick(bench.edit("rules", "ruleSize", "minimum"), Qt::Key_Return);
+        bench.type(bench.edit("rules", "ruleSize", "minimum"), "12");
+        QTest::keyClick(bench.edit("rules", "ruleSize", "minimum"), Qt::Key_Return);
         // Refused when it is left, so there is nothing to record.
         bench.type(bench.edit("rules", "ruleSize", "minimum"), "2147483648");
         bench.type(bench.edit("rules", "ruleSize", "maximum"), "80");
