@@ -1,5 +1,6 @@
 #include "workbench/eventwait.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTimer>
@@ -19,6 +20,9 @@ bool until(int milliseconds, const std::function<bool()>& condition)
     QEventLoop loop;
     QTimer slices;
     QObject::connect(&slices, &QTimer::timeout, &loop, [&] {
+        // Where a wait begins in the handler of a posted event, Qt may leave what a thread posts
+        // just then lying until something else is posted.
+        QCoreApplication::sendPostedEvents();
         if (deadline.hasExpired() || condition())
             loop.quit();
     });
