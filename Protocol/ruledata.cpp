@@ -103,6 +103,11 @@ RuleDataInfo* RuleData::getDataInfo(int id) const
     return position < 0 ? nullptr : m_entries[static_cast<std::size_t>(position)].get();
 }
 
+void RuleData::setEntries(Entries entries)
+{
+    m_entries = std::move(entries);
+}
+
 void RuleData::removeDataInfo(int id)
 {
     const int position = indexOf(id);

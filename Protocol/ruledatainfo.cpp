@@ -17,6 +17,13 @@ auto placeOf(Values& values, const QString& key)
 
 } // namespace
 
+bool RuleDataInfo::operator==(const RuleDataInfo& other) const
+{
+    return m_id == other.m_id && m_enabled == other.m_enabled && m_name == other.m_name &&
+           m_sourceIndex == other.m_sourceIndex && m_values == other.m_values &&
+           m_invalid == other.m_invalid && m_kept == other.m_kept;
+}
+
 void RuleDataInfo::setName(const QString& name)
 {
     m_name = name;

@@ -15,6 +15,9 @@ class RuleDataInfo
 public:
     explicit RuleDataInfo(int id = 0) : m_id(id) {}
 
+    /// Same id, content and source; values of different types differ.
+    bool operator==(const RuleDataInfo& other) const;
+
     int id() const { return m_id; }
     void setId(int id) { m_id = id; }
     /// Name as the device has it; empty for a new entry.
@@ -56,6 +59,12 @@ private:
     struct KeyedValue {
         QString key;
         QVariant value;
+
+        bool operator==(const KeyedValue& other) const
+        {
+            return key == other.key && value.userType() == other.value.userType() &&
+                   value == other.value;
+        }
     };
     /// What is kept as it was read: an attribute by its key, or what every rule has besides.
     enum class Member { Attribute, Name, Enabled };

@@ -41,15 +41,20 @@ void DrawScene::copyItemsFrom(const DrawScene& other)
 {
     if (&other == this)
         return;
-    calcDrawForbidenArea(nullptr);
-    m_message.clear();
-    removeAll();
+    clear();
     m_canvasSize = other.m_canvasSize;
     QHash<const DrawItem*, DrawItem*> copies;
     for (const auto& original : other.m_roots)
         own(original->clone(copies));
     for (const DrawItem* item : other.m_items)
         list(*copies.value(item));
+}
+
+void DrawScene::clear()
+{
+    calcDrawForbidenArea(nullptr);
+    m_message.clear();
+    removeAll();
 }
 
 void DrawScene::removeAll()
@@ -64,11 +69,8 @@ void DrawScene::setCanvasSize(int width, int height)
     m_canvasSize = QSize(std::max(width, 0), std::max(height, 0));
     for (const auto& root : m_roots)
         root->setCanvasSize(width, height);
-    if (!m_forbidenArea)
-        return;
-    const DrawItem& item = *m_forbidenFor;
-    const bool isOwn = item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf;
-    setForbidenArea(isOwn ? ownForbidenArea(item) : forbidenArea(item, &item), &item);
+    if (m_forbidenArea)
+        calcDrawForbidenArea(m_forbidenFor);
 }
 
 DrawItem* DrawScene::addItem(std::unique_ptr<DrawItem> item, int parentId)
@@ -183,6 +185,34 @@ void DrawScene::addDrawPoint(DrawMouseType type, const QPoint& point)
         item->figure()->setMovePoint(point.x(), point.y());
         break;
     }
+}
+
+bool DrawScene::takeBackPoint()
+{
+    const DrawItem* item = itemBeingDrawn();
+    QVector<QPoint> points = item ? item->value().points() : QVector<QPoint>();
+    if (points.isEmpty())
+        return false;
+    points.removeLast();
+    setDrawnPoints(*item, points);
+    return true;
+}
+
+bool DrawScene::takeBackPoints()
+{
+    const DrawItem* item = itemBeingDrawn();
+    if (!item || item->value().points().isEmpty())
+        return false;
+    setDrawnPoints(*item, {});
+    return true;
+}
+
+void DrawScene::setDrawnPoints(const DrawItem& item, const QVector<QPoint>& points)
+{
+    Figure figure = item.value();
+    figure.setPoints(points);
+    item.figure()->setFigure(figure);
+    calcDrawForbidenArea(&item);
 }
 
 void DrawScene::redrawItem(int id)
@@ -309,7 +339,7 @@ void DrawScene::pressLeft(DrawItem& item, const QPoint& point)
         finishDrawing(item);
     } else if (item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
                !m_forbidenArea) {
-        setForbidenArea(ownForbidenArea(item), &item);
+        calcDrawForbidenArea(&item);
     }
 }
 
@@ -320,9 +350,15 @@ void DrawScene::finishDrawing(const DrawItem& item)
     emit sgnSelectedStatusChange();
 }
 
+/// A figure that forbids itself an area does so from its first points on.
 void DrawScene::calcDrawForbidenArea(const DrawItem* item)
 {
-    setForbidenArea(item ? forbidenArea(*item, nullptr) : nullptr, item);
+    const bool isOwn = item && item->forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
+                       item->figure();
+    if (isOwn)
+        setForbidenArea(ownForbidenArea(*item), item);
+    else
+        setForbidenArea(item ? forbidenArea(*item) : nullptr, item);
 }
 
 void DrawScene::setForbidenArea(std::unique_ptr<ForbidenArea> area, const DrawItem* item)
@@ -338,10 +374,8 @@ std::unique_ptr<ForbidenArea> DrawScene::ownForbidenArea(const DrawItem& item) c
     return path ? std::make_unique<ForbidenArea>(std::move(path), m_canvasSize) : nullptr;
 }
 
-/// What other figures than @p except forbid to the one of @p item, which has no points yet or is
-/// that one; null for nothing.
-std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item,
-                                                      const DrawItem* except) const
+/// What other figures forbid to the one of @p item; null for nothing.
+std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item) const
 {
     const bool isOutside =
         item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOutsideParent;
@@ -357,7 +391,7 @@ std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item,
         area->addOutline(parent->figure()->canvasFigure().outline());
     }
     for (const DrawItem* other : m_items) {
-        if (!isOutside && other->figure() && other != except)
+        if (!isOutside && other->figure() && other != &item)
             area->addOutline(DrawGeometry::clockwise(other->figure()->canvasFigure().outline()));
     }
     return area;

@@ -47,6 +47,8 @@ public:
     DrawItem* findItem(int id) const;
     /// Removes and deletes an item, with its children.
     void removeItem(int id);
+    /// Removes and deletes all items; the message goes, too.
+    void clear();
 
     /// Kind None with a data id below 1: all items. Otherwise the items of that very kind and,
     /// for data ids from 1, of that entry; so None with a data id lists figureless items only.
@@ -68,6 +70,10 @@ public:
 
     /// One mouse event at @p point; moves the rubber band, adds a point or finishes a figure.
     void addDrawPoint(DrawMouseType type, const QPoint& point);
+    /// Takes the last point of the figure being drawn back; false when it has none.
+    bool takeBackPoint();
+    /// Takes back all points of the figure being drawn; false when it has none.
+    bool takeBackPoints();
     /// Clears the item's figure so that it is drawn again.
     void redrawItem(int id);
 
@@ -102,10 +108,11 @@ private:
     DrawItem* findSelected(int dataId) const;
     void pressLeft(DrawItem& item, const QPoint& point);
     void finishDrawing(const DrawItem& item);
+    void setDrawnPoints(const DrawItem& item, const QVector<QPoint>& points);
     void calcDrawForbidenArea(const DrawItem* item);
     void setForbidenArea(std::unique_ptr<ForbidenArea> area, const DrawItem* item);
     std::unique_ptr<ForbidenArea> ownForbidenArea(const DrawItem& item) const;
-    std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item, const DrawItem* except) const;
+    std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item) const;
     DrawItem* itemBeingDrawn() const;
     void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
                    const std::vector<BaseDraw*>& figures, bool withForbidenArea) const;

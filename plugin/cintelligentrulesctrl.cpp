@@ -11,6 +11,7 @@
 #include "host/api/skin.h"
 #include "host/gdiplus.h"
 #include "host/video/qrtspvideownd.h"
+#include "plugin/editcommands.h"
 #include "plugin/modulelifetime.h"
 #include "plugin/resultmessage.h"
 #include "scene/basetabelscene.h"
@@ -71,7 +72,10 @@ private:
 };
 
 CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* parent)
-    : QWidget(parent), m_form(std::make_unique<Ui_IntelligentRulesCtrl>()), m_widgetId(widgetId)
+    : QWidget(parent),
+      m_form(std::make_unique<Ui_IntelligentRulesCtrl>()),
+      m_editing(new EditCommands(this)),
+      m_widgetId(widgetId)
 {
     m_form->setupUi(this);
     setMouseTracking(true);
@@ -81,6 +85,7 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
             &CIntelligentRulesCtrl::sltNotifyVideoSize, Qt::QueuedConnection);
     m_form->lblHint->hide();
     m_form->lblNotices->hide();
+    connectEditing();
     applySkin();
 }
 
@@ -111,6 +116,8 @@ void CIntelligentRulesCtrl::setInterfaceSetManager(CommonData::CInterfaceSetMana
         return;
     m_playerWin = m_form->playerWin;
     m_playerWin->setMouseTracking(true);
+    // A press on the picture ends an edit, and keys that take points back reach the window.
+    m_playerWin->setFocusPolicy(Qt::StrongFocus);
     m_playerWin->setInterfaceSetManager(manager);
     m_playerWin->setDrawEnabled(true);
     m_playerWin->setPaneDivision(1);
@@ -209,8 +216,8 @@ void CIntelligentRulesCtrl::resetToDefaults()
     m_form->lblChnCode->setTitle({});
     m_form->lblChnName->setTitle({});
     m_form->wgtChannelInfo->setEnabled(true);
-    m_form->btnSave->show();
-    m_form->btnCancel->show();
+    for (QWidget* button : answerButtons())
+        button->show();
 }
 
 void CIntelligentRulesCtrl::showParameters()
@@ -232,8 +239,11 @@ void CIntelligentRulesCtrl::initScenes()
         return;
     const LoadGuard guard(this);
     selectScene(m_scenes.first());
-    if (guard.holds())
-        focusFirstScene();
+    if (!guard.holds())
+        return;
+    m_editing->history().start(m_scenes);
+    showSteps();
+    focusFirstScene();
 }
 
 void CIntelligentRulesCtrl::focusFirstScene()
@@ -272,6 +282,7 @@ void CIntelligentRulesCtrl::addPanel(RuleData& sceneData)
     connect(panel, &BaseTabelScene::sgnTrySelectedlScene, this,
             &CIntelligentRulesCtrl::sltTrySelectedlScene);
     connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::sceneChanged);
+    connect(panel, &BaseTabelScene::sgnRowEdited, this, &CIntelligentRulesCtrl::sltRowEdited);
 }
 
 void CIntelligentRulesCtrl::openPicture()
@@ -310,6 +321,8 @@ void CIntelligentRulesCtrl::unload()
     else if (m_playerWin)
         m_playerWin->resetToolBar(0);
     m_rtspOpened = false;
+    m_editing->setPanel(nullptr);
+    m_editing->history().start({});
     const std::unique_ptr<RuleParser> parser = std::move(m_parser);
     const QList<BaseTabelScene*> scenes = std::exchange(m_scenes, {});
     for (BaseTabelScene* scene : scenes) {
@@ -319,6 +332,7 @@ void CIntelligentRulesCtrl::unload()
     m_form->sceneView->clearAll();
     resetToDefaults();
     showNotices();
+    showSteps();
     repaintPicture();
 }
 
@@ -349,8 +363,8 @@ void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
             return;
     }
     if (!m_parameters.editable) {
-        m_form->btnSave->hide();
-        m_form->btnCancel->hide();
+        for (QWidget* button : answerButtons())
+            button->hide();
     }
     repaintPicture();
 }
@@ -361,6 +375,7 @@ void CIntelligentRulesCtrl::showSelected(BaseTabelScene& panel)
         if (m_drawScene)
             m_drawScene->dropPainting();
         m_drawScene = panel.getDrawScene();
+        m_editing->setPanel(&panel);
         fitCanvas();
     }
     if (!m_parameters.editable)
@@ -400,6 +415,8 @@ void CIntelligentRulesCtrl::tellSurface()
 
 void CIntelligentRulesCtrl::sceneChanged()
 {
+    m_editing->history().note();
+    showSteps();
     showHint({});
     showNotices();
     repaintPicture();
@@ -469,6 +486,7 @@ void CIntelligentRulesCtrl::sltSave()
     if (!guard.holds() || !allowed)
         return;
     if (postResult()) {
+        m_editing->history().setSaved();
         for (BaseTabelScene* scene : qAsConst(m_scenes))
             scene->SetDrawStatus(false);
     }
@@ -593,6 +611,96 @@ void CIntelligentRulesCtrl::showNotices()
     m_form->horizontalSpacer->changeSize(emptyWidth, m_form->horizontalSpacer->sizeHint().height(),
                                          QSizePolicy::Expanding);
     m_form->horizontalLayout_2->invalidate();
+}
+
+void CIntelligentRulesCtrl::connectEditing()
+{
+    connect(&m_editing->history(), &EditHistory::sgnRestored, this,
+            &CIntelligentRulesCtrl::sltRestored);
+    connect(m_form->btnUndo, &QPushButton::clicked, this, [this] { useKey(EditKey::Undo); });
+    connect(m_form->btnRedo, &QPushButton::clicked, this, [this] { useKey(EditKey::Redo); });
+    showSteps();
+}
+
+QList<QWidget*> CIntelligentRulesCtrl::answerButtons() const
+{
+    return {m_form->btnUndo, m_form->btnRedo, m_form->btnSave, m_form->btnCancel};
+}
+
+bool CIntelligentRulesCtrl::isEditable() const
+{
+    return m_parser && m_parameters.editable;
+}
+
+bool CIntelligentRulesCtrl::event(QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride)
+        return QWidget::event(event);
+    auto& key = static_cast<QKeyEvent&>(*event);
+    if (isEditable() && m_editing->claims(editKeyOf(key)))
+        key.accept();
+    else
+        key.ignore();
+    return true;
+}
+
+void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
+{
+    const EditKey key = editKeyOf(*event);
+    if (!isEditable() || !m_editing->claims(key)) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    if (!m_editing->isUseful(key))
+        return;
+    const LoadGuard guard(this);
+    if (!finishEdits())
+        return;
+    m_usedKey = key;
+    emit sgnKeyUsed();
+    if (guard.holds())
+        useKey(key);
+}
+
+void CIntelligentRulesCtrl::useKey(EditKey key)
+{
+    const LoadGuard guard(this);
+    if (!finishEdits())
+        return;
+    // Rows and buttons that have the focus may be about to go.
+    if (m_playerWin)
+        m_playerWin->setFocus();
+    if (!guard.holds() || !isEditable())
+        return;
+    m_editing->use(key);
+    if (m_drawScene && key != EditKey::Undo && key != EditKey::Redo)
+        m_drawScene->SetDrawOver(false);
+    sceneChanged();
+}
+
+void CIntelligentRulesCtrl::sltRowEdited(const QString& key)
+{
+    m_editing->history().note(key);
+}
+
+void CIntelligentRulesCtrl::sltRestored(BaseTabelScene* panel)
+{
+    if (panel->getFold())
+        panel->setFold(false);
+    selectScene(panel);
+    m_drawScene->SetDrawOver(false);
+}
+
+void CIntelligentRulesCtrl::showSteps()
+{
+    const QUndoStack& steps = m_editing->history().stack();
+    m_form->btnUndo->setEnabled(steps.canUndo());
+    m_form->btnRedo->setEnabled(steps.canRedo());
+    const QString undone = tr("Undo: %1 (Ctrl+Z)").arg(steps.undoText());
+    const QString redone = tr("Do again: %1 (Ctrl+Y)").arg(steps.redoText());
+    m_form->btnUndo->setToolTip(steps.canUndo() ? PlainText::toolTip(undone) : QString());
+    m_form->btnRedo->setToolTip(steps.canRedo() ? PlainText::toolTip(redone) : QString());
 }
 
 void CIntelligentRulesCtrl::paintEvent(QPaintEvent*)

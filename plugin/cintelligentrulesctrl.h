@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugin/editkeys.h"
 #include "plugin/rulesparameters.h"
 
 #include <QList>
@@ -24,6 +25,8 @@ class CInterfaceSetManager;
 namespace IntelligentRulesUI
 {
 
+class EditCommands;
+
 /**
  * Content of one rules window: shows the channel's picture, the panels of the template's scenes,
  * routes the mouse on the picture to the canvas of the selected scene, and sends the edited
@@ -35,6 +38,7 @@ namespace IntelligentRulesUI
 class CIntelligentRulesCtrl : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString usedKey READ usedKey NOTIFY sgnKeyUsed)
 
 public:
     explicit CIntelligentRulesCtrl(const QString& widgetId, QWidget* parent = nullptr);
@@ -50,7 +54,12 @@ public:
     bool isDrawUnfinished(const QString& channel, const QString& algorithm) const;
     void selectScene(BaseTabelScene* scene);
 
+    /// The key that the window was given last for itself, as sessions write it.
+    QString usedKey() const { return editKeyName(m_usedKey); }
+
 signals:
+    /// The window is about to do what a key is for.
+    void sgnKeyUsed();
     void sgnNotifyVideoSize(int nWidth, int nHeight);
     /// The window is being destroyed: from now on it takes no messages.
     void sgnEnding();
@@ -67,8 +76,12 @@ public slots:
 
 private slots:
     void sltPictureRectChanged();
+    void sltRowEdited(const QString& key);
+    void sltRestored(BaseTabelScene* panel);
 
 protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -116,9 +129,19 @@ private:
     /// Tells beside Save what a save would leave out of the document as it is now.
     void showNotices();
     void sceneChanged();
+    void connectEditing();
+    /// Ends edits, gives the picture the focus, and does what the key is for.
+    void useKey(EditKey key);
+    bool isEditable() const;
+    /// Save and what stands beside it; not there in a read-only window.
+    QList<QWidget*> answerButtons() const;
+    /// Shows on the buttons what can be undone and done again.
+    void showSteps();
 
     std::unique_ptr<Ui_IntelligentRulesCtrl> m_form;
     QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers
+    EditCommands* m_editing;              ///< owned as a child
+    EditKey m_usedKey = EditKey::None;
     std::unique_ptr<RuleParser> m_parser; ///< null while nothing is loaded
     QList<BaseTabelScene*> m_scenes;      ///< children of the form's scroll view
     QString m_widgetId;

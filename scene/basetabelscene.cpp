@@ -9,8 +9,10 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/sceneprotocol.h"
 #include "Protocol/sceneprotocols.h"
+#include "Protocol/scenestate.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "host/api/rowcontract.h"
 #include "scene/entrybuttons.h"
 #include "scene/entryrows.h"
 #include "scene/scenefigures.h"
@@ -187,6 +189,31 @@ void BaseTabelScene::showEntry(int dataId)
     getDrawScene()->setSelected(pickedFigure(dataId), dataId);
 }
 
+void BaseTabelScene::restore(const SceneState& state, int dataId)
+{
+    if (!takeFocusFrom(*widgets().drawItems) || !takeFocusFrom(*widgets().childDrawItems))
+        return;
+    const QScopedValueRollback<bool> guard(m_nothingFollows, true);
+    state.restore(*m_data);
+    for (const auto& entry : m_data->getAllData())
+        LineDirections::apply(*m_data, *entry);
+    const int shown = state.entry(dataId) ? dataId : state.selectedDataId();
+    m_data->setSelectedDataId(shown);
+    refreshTabelDrawItem();
+    showEntry(shown);
+    const FigureState* const selected = state.figure(state.selectedItemId());
+    if (!selected || selected->dataId == shown)
+        selectFigure(state.selectedItemId(), shown);
+    checkLayout();
+}
+
+void BaseTabelScene::selectFigure(int itemId, int dataId)
+{
+    if (DrawItemButton* child = widgets().childDrawItems->findButton(itemId))
+        widgets().childDrawItems->setCurrentButton(child, false);
+    getDrawScene()->setSelected(itemId, dataId);
+}
+
 void BaseTabelScene::loadEntry()
 {
     const RuleDataInfo* entry = m_data->selectedDataInfo();
@@ -336,8 +363,7 @@ void BaseTabelScene::addChildFigure(BaseDrawType type, const QString& itemKey)
         return;
     const int itemId = figure->itemId();
     refreshChildTabelDrawItem();
-    widgets().childDrawItems->setCurrentButton(widgets().childDrawItems->findButton(itemId), false);
-    getDrawScene()->setSelected(itemId, entry->id());
+    selectFigure(itemId, entry->id());
 }
 
 void BaseTabelScene::sltTabelDrawItemCheckBtnChanged()
@@ -473,6 +499,7 @@ void BaseTabelScene::sltRuleEnableChanged(int dataId, bool on)
     RuleDataInfo* entry = m_data ? m_data->getDataInfo(dataId) : nullptr;
     if (entry)
         entry->setEnabled(on);
+    emit sgnRowEdited(QString::fromLatin1(RowContract::kEnable));
     emit sgnRepaintCanvas();
 }
 
@@ -511,6 +538,7 @@ void BaseTabelScene::sltTabelAttrControlValueChange(const QString& key)
 {
     tabelAttrControlValueChange(key);
     checkLayout();
+    emit sgnRowEdited(key);
     emit sgnRepaintCanvas();
 }
 

@@ -16,6 +16,7 @@ class DrawScene;
 class RuleData;
 class RuleDataInfo;
 class RuleProtocolItem;
+class SceneState;
 
 /**
  * The foldable section that edits one scene of the configuration: a button for each entry,
@@ -46,6 +47,10 @@ public:
     /// Read-only sections start no drawing by themselves; whoever holds them disables them.
     void setUIEditable(bool editable) { m_uiEditable = editable; }
 
+    /// Shows entries and figures as they were in @p state, with the entry @p dataId current where
+    /// the state has it, and what was in hand then in hand again. The data must be there.
+    void restore(const SceneState& state, int dataId);
+
     /// A new row for @p item by its facade; null for no item and for facades without a row.
     ControlTabel* addControlTabel(RuleProtocolItem* item, QWidget* parent);
     /// A new figure of the template's first item of that kind, not yet on the canvas; null when
@@ -68,6 +73,8 @@ public slots:
     void sltTabelAttrControlValueChange(const QString& key);
 
 signals:
+    /// The operator edited the row of that key; tells it before sgnRepaintCanvas().
+    void sgnRowEdited(const QString& key);
     /// What is edited changed, or something on the canvas may look different now.
     void sgnRepaintCanvas();
 
@@ -117,6 +124,7 @@ private:
     void bindRows();
     void showFirstEntry();
     void showEntry(int dataId);
+    void selectFigure(int itemId, int dataId);
     void loadEntry();
     void addEntry(BaseDrawType pressed);
     /// Null when the item draws no figure; else one that is not on the canvas yet.

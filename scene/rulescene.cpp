@@ -84,6 +84,7 @@ void RuleScene::sltRuleNameChanged(const QString&)
         button->setText(name);
     FigureLabels::update(*ruleData(), entryFigureItem(), ruleData()->indexOf(entry->id()));
     getDrawScene()->refreshMessage();
+    emit sgnRowEdited(m_nameRow->objectName());
     emit sgnRepaintCanvas();
 }
 

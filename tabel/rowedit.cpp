@@ -67,10 +67,30 @@ bool RowEdit::isForNumbers() const
     return !isReadOnly() && NumberEntry::isFor(validator());
 }
 
+/// A step back is the window's where the edit has none left.
+bool RowEdit::event(QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QLineEdit::event(event);
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    const bool isLeft = (key.matches(QKeySequence::Undo) && !isUndoAvailable()) ||
+                        (key.matches(QKeySequence::Redo) && !isRedoAvailable());
+    const bool ends = isReturn(key) || key.key() == Qt::Key_Escape;
+    if (!isLeft && !(ends && event->type() == QEvent::ShortcutOverride))
+        return QLineEdit::event(event);
+    event->setAccepted(!isLeft);
+    return true;
+}
+
 void RowEdit::keyPressEvent(QKeyEvent* event)
 {
-    if (isReturn(*event)) {
-        pressReturn(event);
+    const bool isEscape = event->key() == Qt::Key_Escape;
+    if (isEscape || isReturn(*event)) {
+        if (isEscape)
+            pressEscape();
+        else
+            pressReturn(event);
+        event->accept(); // it ends this edit, and nothing around it
         return;
     }
     if (event->matches(QKeySequence::Paste)) {
@@ -179,6 +199,13 @@ void RowEdit::pressReturn(QKeyEvent* event)
     }
     if (self && isModified() && !hasAcceptableInput())
         setRefusal(Refusal::Text);
+}
+
+void RowEdit::pressEscape()
+{
+    setRefusal(Refusal::None);
+    if (isModified())
+        showValue(m_value);
 }
 
 bool RowEdit::becomesMinimum() const

@@ -39,6 +39,7 @@ signals:
     void sgnRefusalChanged();
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -56,6 +57,7 @@ private:
     void enterPasted(const QString& text);
     void enter(const QString& typed);
     void pressReturn(QKeyEvent* event);
+    void pressEscape();
     bool becomesMinimum() const;
     void setRefusal(Refusal refusal);
     void sltTextChanged();

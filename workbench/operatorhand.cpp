@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QFocusEvent>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -129,6 +130,20 @@ QString type(QLineEdit* edit, const QString& text, bool finish)
     if (finish)
         QTest::keyClick(edit, Qt::Key_Return);
     return {};
+}
+
+void focus(QWidget* widget)
+{
+    leaveFocused(widget);
+    widget->setFocus(Qt::MouseFocusReason);
+}
+
+void press(QWidget* widget, const QKeySequence& key)
+{
+    const int code = int(key[0]);
+    const int modifiers = code & int(Qt::KeyboardModifierMask);
+    QTest::keyClick(widget, Qt::Key(code & ~int(Qt::KeyboardModifierMask)),
+                    Qt::KeyboardModifiers(modifiers));
 }
 
 } // namespace OperatorHand

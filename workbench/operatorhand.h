@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QString>
 
+class QKeySequence;
 class QLineEdit;
 class QWidget;
 
@@ -24,5 +25,10 @@ QString moveTo(QWidget* widget, const QPoint& position);
 
 /// Replaces the text of @p edit by typing; @p finish ends the edit with the return key.
 QString type(QLineEdit* edit, const QString& text, bool finish);
+
+/// Gives @p widget the focus, which ends an edit in progress.
+void focus(QWidget* widget);
+/// Presses and lets go one key, with its modifiers.
+void press(QWidget* widget, const QKeySequence& key);
 
 } // namespace OperatorHand

@@ -118,7 +118,13 @@ QLineEdit* PanelFinder::unfinishedEdit() const
 
 QAbstractButton* PanelFinder::windowButton(const QString& name) const
 {
-    return m_window->findChild<QAbstractButton*>(name);
+    const auto buttons = m_window->findChildren<QAbstractButton*>(name);
+    const auto found = std::find_if(buttons.begin(), buttons.end(), [](const QWidget* button) {
+        while (button && !isPanel(*button))
+            button = button->parentWidget();
+        return !button;
+    });
+    return found == buttons.end() ? nullptr : *found;
 }
 
 QString PanelFinder::notices() const

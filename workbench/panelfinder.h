@@ -21,6 +21,7 @@ public:
     static bool isRow(const QWidget& widget);
     static bool isEntryButton(const QWidget& widget);
 
+    QWidget* window() const { return m_window; }
     QList<QWidget*> panels() const;
     /// The panel of a scene, by its template's name; the selected one for an empty name.
     QWidget* panel(const QString& scene) const;
@@ -34,9 +35,9 @@ public:
     QAbstractButton* enableBox(QWidget* panel, const QAbstractButton& button) const;
     /// The attribute row of the panel that edits @p key.
     QWidget* row(QWidget* panel, const QString& key) const;
-    /// A button of the window itself, by object name.
     /// The edit of a row that was typed into and is not finished.
     QLineEdit* unfinishedEdit() const;
+    /// A button of the window itself, by object name.
     QAbstractButton* windowButton(const QString& name) const;
     /// The line of notices beside the window's buttons, in full.
     QString notices() const;

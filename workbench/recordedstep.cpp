@@ -97,7 +97,7 @@ Value enable(const PanelFinder& finder, QWidget* panel, const QAbstractButton& b
 
 Value click(const QWidget* panel, const QAbstractButton& button)
 {
-    Value result = stepIn(panel, "click");
+    Value result = panel ? stepIn(panel, "click") : step("click");
     if (button.objectName().isEmpty())
         result["text"] = button.text();
     else
@@ -109,7 +109,11 @@ Value windowButton(const QAbstractButton& button)
 {
     if (button.objectName() == QLatin1String(RowContract::kSave))
         return step("save");
-    return button.objectName() == QLatin1String(RowContract::kCancel) ? step("cancel") : Value();
+    if (button.objectName() == QLatin1String(RowContract::kCancel))
+        return step("cancel");
+    const bool isStep = button.objectName() == QLatin1String(RowContract::kUndo) ||
+                        button.objectName() == QLatin1String(RowContract::kRedo);
+    return isStep ? click(nullptr, button) : Value();
 }
 
 Value pathOf(const QString& file)
@@ -198,6 +202,14 @@ Value typed(const QWidget& row, const QLineEdit& edit)
     result["text"] = edit.text();
     if (row.findChild<QLineEdit*>() != &edit)
         result["edit"] = edit.objectName();
+    return result;
+}
+
+Value key(const QString& keys)
+{
+    Value result = step("key");
+    result["keys"] = keys;
+    result["to"] = "picture";
     return result;
 }
 

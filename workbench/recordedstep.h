@@ -42,6 +42,9 @@ Value set(const QWidget& row);
 /// The row with @p edit left unfinished.
 Value typed(const QWidget& row, const QLineEdit& edit);
 
+/// A key that the window takes for itself, whatever had the focus.
+Value key(const QString& keys);
+
 /// Leaving an edit that is written as unfinished.
 Value finish();
 

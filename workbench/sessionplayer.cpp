@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QFocusEvent>
 #include <QHash>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QTimer>
 
@@ -111,7 +112,8 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
         {QStringLiteral("press"), &SessionPlayer::doPress},
         {QStringLiteral("move"), onPicture(&OperatorHand::moveTo)},
         {QStringLiteral("double"), onPicture(&OperatorHand::doubleClickAt)},
-        {QStringLiteral("click"), inSection(&SessionPlayer::doClick)},
+        {QStringLiteral("click"), &SessionPlayer::doClick},
+        {QStringLiteral("key"), &SessionPlayer::doKey},
         {QStringLiteral("pick"), inSection(&SessionPlayer::doPick)},
         {QStringLiteral("enable"), inSection(&SessionPlayer::doEnable)},
         {QStringLiteral("set"), inRow(&setRow)},
@@ -194,12 +196,32 @@ QString SessionPlayer::doPress(const Value& step)
     return onPicture(press)(*this, step);
 }
 
-QString SessionPlayer::doClick(QWidget* panel, const Value& step)
+/// Without a scene a button of the window is meant, or one of the selected section.
+QString SessionPlayer::doClick(const Value& step)
 {
-    QWidget* target = step.isMember("object")
-                          ? m_finder.part(panel, step["object"].asString())
-                          : m_finder.buttonByText(panel, step["text"].asString());
-    return OperatorHand::click(target);
+    const QString object = step["object"].asString();
+    QWidget* const button = m_finder.windowButton(object);
+    if (button && !step.isMember("scene"))
+        return OperatorHand::click(button);
+    return inSection([object](SessionPlayer& player, QWidget* panel, const Value& given) {
+        return OperatorHand::click(given.isMember("object") ? player.m_finder.part(panel, object)
+                                                            : player.m_finder.buttonByText(
+                                                                  panel, given["text"].asString()));
+    })(*this, step);
+}
+
+/// To what has the focus, else to the window.
+QString SessionPlayer::doKey(const Value& step)
+{
+    const QKeySequence keys(step["keys"].asString());
+    if (step["to"].asString() == QLatin1String("picture"))
+        OperatorHand::focus(m_window.videoSurface());
+    const int times = step.isMember("times") ? step["times"].asInt() : 1;
+    for (int i = 0; i < times; ++i) {
+        QWidget* const focused = m_window.focusWidget();
+        OperatorHand::press(focused ? focused : m_finder.window(), keys);
+    }
+    return {};
 }
 
 QString SessionPlayer::doPick(QWidget* panel, const Value& step)

@@ -50,7 +50,8 @@ private:
 
     QString doSize(const Value& step);
     QString doPress(const Value& step);
-    QString doClick(QWidget* panel, const Value& step);
+    QString doClick(const Value& step);
+    QString doKey(const Value& step);
     QString doPick(QWidget* panel, const Value& step);
     QString doEnable(QWidget* panel, const Value& step);
     QString doFinish(const Value& step);

@@ -82,6 +82,8 @@ void SessionRecorder::start()
 {
     for (QWidget* widget : m_rulesWindow->findChildren<QWidget*>())
         watch(widget);
+    connectChange(*m_rulesWindow, propertyOf(*m_rulesWindow, RowContract::kUsedKey), *this,
+                  "sltKeyUsed()");
     connect(&m_window, &WorkbenchWindow::sgnLoad, this, &SessionRecorder::sltLoad,
             Qt::UniqueConnection);
     qApp->installEventFilter(this);
@@ -299,6 +301,11 @@ void SessionRecorder::sayUnrecorded(const QWidget& control)
         tr("What was changed in \"%1\" cannot be recorded, nor restored after a crash.").arg(name);
     qCWarning(lcRecorder).noquote() << text;
     m_window.statusBar()->showMessage(text);
+}
+
+void SessionRecorder::sltKeyUsed()
+{
+    record(RecordedStep::key(m_rulesWindow->property(RowContract::kUsedKey).toString()));
 }
 
 void SessionRecorder::sltButtonReleased()

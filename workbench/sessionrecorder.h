@@ -48,6 +48,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private slots:
+    void sltKeyUsed();
     void sltButtonReleased();
     void sltButtonClicked();
     void sltTextEdited();

@@ -3,6 +3,7 @@
 #include "host/json/value.h"
 
 #include <QCoreApplication>
+#include <QKeySequence>
 #include <QStringList>
 
 #include <functional>
@@ -18,6 +19,7 @@ namespace
 /// A window of more would take gigabytes.
 constexpr int kMaxExtent = 8192; // pixels
 constexpr int kMaxWait = 600000; // milliseconds
+constexpr int kMaxTimes = 1000;
 
 struct Member {
     const char* step;
@@ -45,6 +47,22 @@ bool isButton(const Value& value)
 {
     return value.isNull() || value.asString() == QLatin1String("left") ||
            value.asString() == QLatin1String("right");
+}
+
+bool isKey(const Value& value)
+{
+    const QKeySequence keys(value.asString());
+    return keys.count() == 1 && int(keys[0]) != Qt::Key_unknown;
+}
+
+bool isCount(const Value& value)
+{
+    return value.isNull() || (value.isInt() && value.asInt() >= 1 && value.asInt() <= kMaxTimes);
+}
+
+bool isTarget(const Value& value)
+{
+    return value.isNull() || value.asString() == QLatin1String("picture");
 }
 
 bool isTimeOrPicture(const Value& step)
@@ -75,6 +93,9 @@ const Member kMembers[] = {
     {"press", "button", isButton, "\"left\" or \"right\""},
     {"move", "at", isPosition, kPosition},
     {"double", "at", isPosition, kPosition},
+    {"key", "keys", isKey, "one key with its modifiers"},
+    {"key", "times", isCount, "a number from 1 to 1000"},
+    {"key", "to", isTarget, "\"picture\""},
     {"enable", "on", &Value::isBool, kSwitch},
     {"fold", "fold", &Value::isBool, kSwitch},
     {"type", "text", &Value::isString, kText},

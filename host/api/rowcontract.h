@@ -54,5 +54,11 @@ constexpr char kEntryId[] = "entryId";
 constexpr char kSave[] = "btnSave";
 constexpr char kCancel[] = "btnCancel";
 constexpr char kNotices[] = "lblNotices";
+constexpr char kUndo[] = "btnUndo";
+constexpr char kRedo[] = "btnRedo";
+
+/// Property of the window, a QString: a key that it takes for itself, as QKeySequence writes it.
+/// Its notify signal tells each that is pressed, before the window does what it is for.
+constexpr char kUsedKey[] = "usedKey";
 
 } // namespace RowContract

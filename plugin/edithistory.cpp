@@ -1,0 +1,286 @@
+#include "plugin/edithistory.h"
+
+#include "Protocol/datatemplate.h"
+#include "Protocol/entryname.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "scene/basetabelscene.h"
+
+#include <QScopedValueRollback>
+#include <QUndoCommand>
+
+#include <algorithm>
+#include <utility>
+
+namespace IntelligentRulesUI
+{
+
+namespace
+{
+
+using Kind = SceneChange::Kind;
+
+constexpr int kMostSteps = 200;
+
+bool isOwn(const EditStep& step, int scene, int dataId)
+{
+    return step.scene == scene && step.change.dataId == dataId &&
+           step.change.kind != Kind::Attribute;
+}
+
+/// What was edited in rows meanwhile stays steps of its own, done after the drawing.
+void putAfter(EditStep& drawing, std::vector<EditStep>& others)
+{
+    const SceneState last = drawing.after;
+    bool isFirst = true;
+    for (EditStep& other : others) {
+        if (other.scene != drawing.scene)
+            continue;
+        const int dataId = other.change.dataId;
+        const SceneState before = last.withEntry(other.before.entry(dataId));
+        if (std::exchange(isFirst, false))
+            drawing.after = before;
+        other.before = before;
+        other.after = last.withEntry(other.after.entry(dataId));
+    }
+}
+
+} // namespace
+
+class EditHistory::Command : public QUndoCommand
+{
+public:
+    Command(EditHistory& history, EditStep step)
+        : QUndoCommand(step.title), m_history(history), m_step(std::move(step))
+    {
+    }
+
+    const EditStep& step() const { return m_step; }
+
+    void undo() override { m_history.show(m_step.scene, m_step.before, m_step.change.dataId); }
+    void redo() override { m_history.show(m_step.scene, m_step.after, m_step.change.dataId); }
+    int id() const override { return static_cast<int>(m_step.change.kind); }
+
+    bool mergeWith(const QUndoCommand* other) override
+    {
+        const EditStep& next = static_cast<const Command*>(other)->m_step;
+        if (!m_history.m_mayMerge || m_step.row.isEmpty() || m_step.row != next.row ||
+            m_step.scene != next.scene || m_step.change.dataId != next.change.dataId)
+            return false;
+        m_step.after = next.after;
+        setObsolete(m_step.before.isSameAs(m_step.after));
+        return true;
+    }
+
+private:
+    EditHistory& m_history;
+    EditStep m_step;
+};
+
+EditHistory::EditHistory(QObject* parent) : QObject(parent)
+{
+    m_stack.setUndoLimit(kMostSteps);
+}
+
+EditHistory::~EditHistory() = default;
+
+void EditHistory::start(const QList<BaseTabelScene*>& panels)
+{
+    m_panels = panels;
+    m_known.clear();
+    for (const BaseTabelScene* panel : panels)
+        m_known.push_back(SceneState::of(*panel->ruleData(), {}));
+    m_mayMerge = false;
+    m_stack.clear();
+}
+
+void EditHistory::note(const QString& row)
+{
+    if (m_isQuiet)
+        return;
+    for (int scene = 0; scene < m_panels.size(); ++scene)
+        noteScene(scene, row);
+}
+
+void EditHistory::noteScene(int scene, const QString& row)
+{
+    SceneState& known = m_known[static_cast<std::size_t>(scene)];
+    EditStep step{scene, {}, row, {}, known, SceneState::of(*m_panels[scene]->ruleData(), known)};
+    known = step.after;
+    if (step.before.selectedDataId() != step.after.selectedDataId())
+        m_mayMerge = false;
+    step.change = SceneChange::between(step.before, step.after);
+    if (step.change.kind == Kind::Picked && !row.isEmpty())
+        step.change.kind = Kind::Attribute;
+    if (step.change.kind == Kind::None || step.change.kind == Kind::Picked)
+        return;
+    step.title = titleOf(step);
+    const SceneChange change = step.change;
+    push(std::move(step));
+    const FigureState* const drawn = known.figure(change.itemId);
+    if (change.kind == Kind::Drawn && drawn && drawn->figure.isFinished())
+        fold(scene, change.dataId, change.itemId);
+}
+
+void EditHistory::push(EditStep step)
+{
+    const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+    m_stack.push(new Command(*this, std::move(step)));
+    m_mayMerge = true;
+}
+
+void EditHistory::fold(int scene, int dataId, int itemId)
+{
+    const bool isLast = !m_known[static_cast<std::size_t>(scene)].inHand();
+    const int begin = isLast ? beginOf(scene, dataId) : -1;
+    std::vector<EditStep> steps = takeFrom(begin >= 0 ? begin : firstPointOf(scene, itemId));
+    const auto others =
+        std::stable_partition(steps.begin(), steps.end(),
+                              [&](const EditStep& step) { return isOwn(step, scene, dataId); });
+    std::vector<EditStep> later(others, steps.end());
+    EditStep drawing = steps.front();
+    drawing.after = m_known[static_cast<std::size_t>(scene)];
+    if (drawing.change.kind == Kind::Drawn)
+        drawing.title = tr("Draw %1").arg(drawing.after.figure(itemId)->figure.label());
+    drawing.change = {Kind::Other, dataId, 0};
+    putAfter(drawing, later);
+    push(std::move(drawing));
+    for (EditStep& step : later)
+        push(std::move(step));
+    m_mayMerge = false;
+}
+
+std::vector<EditStep> EditHistory::takeFrom(int index)
+{
+    const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+    std::vector<EditStep> steps;
+    for (int i = index; i < m_stack.index(); ++i)
+        steps.push_back(step(i));
+    while (m_stack.index() > index)
+        m_stack.undo();
+    return steps;
+}
+
+/// Position of the step that began what is being drawn, from which on something was in hand; -1
+/// when the entry was only picked. The last step may have finished it.
+int EditHistory::beginOf(int scene, int dataId) const
+{
+    for (int i = m_stack.index() - 1; i >= 0; --i) {
+        const EditStep& step = this->step(i);
+        if (step.scene != scene)
+            continue;
+        if (i < m_stack.index() - 1 && !step.after.inHand())
+            break;
+        if (step.change.kind == Kind::Begun && step.change.dataId == dataId)
+            return i;
+    }
+    return -1;
+}
+
+int EditHistory::firstPointOf(int scene, int itemId) const
+{
+    int first = m_stack.index() - 1;
+    for (int i = first; i >= 0; --i) {
+        const EditStep& step = this->step(i);
+        if (step.scene != scene)
+            continue;
+        if (i < m_stack.index() - 1 && !step.after.inHand())
+            break;
+        if (step.change.kind == Kind::Drawn && step.change.itemId == itemId)
+            first = i;
+    }
+    return first;
+}
+
+const EditStep& EditHistory::step(int index) const
+{
+    return static_cast<const Command*>(m_stack.command(index))->step();
+}
+
+QString EditHistory::titleOf(const EditStep& step) const
+{
+    const RuleData& data = *m_panels[step.scene]->ruleData();
+    const int position = data.indexOf(step.change.dataId);
+    const QString name = position < 0 ? QString() : EntryName::button(data, position);
+    switch (step.change.kind) {
+    case Kind::Attribute: {
+        const RuleProtocolItem* const item = data.getTemplate()->findItem(step.row);
+        return item ? QStringLiteral("%1 (%2)").arg(item->caption(), name) : name;
+    }
+    case Kind::Drawn:
+        return tr("Point");
+    case Kind::Begun: {
+        const bool isNew =
+            !step.before.entry(step.change.dataId) || !step.before.figure(step.change.itemId);
+        return (isNew ? tr("Add %1") : tr("Redraw %1")).arg(name);
+    }
+    default:
+        break;
+    }
+    if (step.before.entries().size() < step.after.entries().size())
+        return tr("Add %1").arg(name);
+    return step.before.figures().size() > step.after.figures().size() || name.isEmpty()
+               ? tr("Delete")
+               : name;
+}
+
+void EditHistory::setSaved()
+{
+    m_mayMerge = false;
+    m_stack.setClean();
+}
+
+void EditHistory::undo()
+{
+    m_mayMerge = false;
+    m_stack.undo();
+}
+
+void EditHistory::redo()
+{
+    m_mayMerge = false;
+    m_stack.redo();
+}
+
+void EditHistory::show(int scene, const SceneState& state, int dataId)
+{
+    if (m_isQuiet)
+        return;
+    BaseTabelScene* const panel = m_panels[scene];
+    {
+        const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+        panel->restore(state, dataId);
+    }
+    m_known[static_cast<std::size_t>(scene)] = SceneState::of(*panel->ruleData(), state);
+    emit sgnRestored(panel);
+}
+
+bool EditHistory::leaveDrawing(BaseTabelScene& panel)
+{
+    const int scene = m_panels.indexOf(&panel);
+    if (scene < 0)
+        return false;
+    const SceneState now = m_known[static_cast<std::size_t>(scene)];
+    const FigureState* const inHand = now.inHand();
+    if (!inHand || !inHand->isEmpty())
+        return false;
+    const int dataId = inHand->dataId;
+    SceneState left = now.withoutFigure(inHand->itemId);
+    const int begin = beginOf(scene, dataId);
+    if (begin >= 0) {
+        const EditStep& begun = step(begin);
+        const bool isFirst = begun.change.itemId == inHand->itemId;
+        if (isFirst || !begun.before.entry(dataId))
+            left = begun.before.withEntry(now.entry(dataId)).withNothingSelected();
+    }
+    show(scene, left, dataId);
+    EditStep step{scene, {Kind::Other, dataId, 0},
+                  {},    tr("Leave drawing"),
+                  now,   m_known[static_cast<std::size_t>(scene)]};
+    push(std::move(step));
+    m_mayMerge = false;
+    return true;
+}
+
+} // namespace IntelligentRulesUI
