@@ -173,13 +173,16 @@ bool isKnown(const QWidget* row)
     return kindOf(row) >= Text && kindOf(row) <= Range;
 }
 
+bool isTyped(const QWidget* row)
+{
+    return kindOf(row) == Text || kindOf(row) == Range;
+}
+
 bool isUsable(const QWidget* row)
 {
     const auto editors = row->findChildren<QWidget*>();
     return std::any_of(editors.begin(), editors.end(), [](const QWidget* editor) {
-        const bool edits =
-            qobject_cast<const QLineEdit*>(editor) || qobject_cast<const QAbstractButton*>(editor);
-        return edits && editor->isEnabled();
+        return editor->focusPolicy() != Qt::NoFocus && editor->isEnabled();
     });
 }
 

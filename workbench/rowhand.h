@@ -24,6 +24,9 @@ QString type(QWidget* row, const QString& text, const QString& edit);
 /// Whether the row is of a kind that set() and shown() know.
 bool isKnown(const QWidget* row);
 
+/// Whether the row is typed into, and takes over what was typed when the edit ends.
+bool isTyped(const QWidget* row);
+
 /// What the row holds, in the form that set() takes; a text for an input box.
 kql::Json::Value shown(const QWidget* row);
 

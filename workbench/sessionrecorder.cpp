@@ -96,15 +96,13 @@ void SessionRecorder::watch(QWidget* widget)
     if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
         connect(button, &QAbstractButton::released, this, &SessionRecorder::sltButtonReleased,
                 Qt::UniqueConnection);
-        connect(button, &QAbstractButton::clicked, this, &SessionRecorder::sltButtonClicked,
-                Qt::UniqueConnection);
     } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
         connect(edit, &QLineEdit::textEdited, this, &SessionRecorder::sltTextEdited,
                 Qt::UniqueConnection);
     } else if (PanelFinder::isRow(*widget)) {
         connectChange(*widget, propertyOf(*widget, RowContract::kValue), *this, "sltRowChanged()");
-    } else if (!qobject_cast<QScrollBar*>(widget)) {
-        // What edits a value has a property for it.
+    } else if (!qobject_cast<QScrollBar*>(widget) && !RecordedStep::rowAround(*widget)) {
+        // What edits a value has a property for it; what does in a row, the row tells.
         connectChange(*widget, widget->metaObject()->userProperty(), *this, "sltOtherEdited()");
     }
 }
@@ -278,10 +276,12 @@ void SessionRecorder::awaitEnd(QLineEdit& edit, bool isReturn)
 void SessionRecorder::sltRowChanged()
 {
     auto* row = qobject_cast<QWidget*>(sender());
-    if (RowHand::isKnown(row))
+    if (!RowHand::isKnown(row))
+        sayUnrecorded(*row);
+    else if (RowHand::isTyped(row))
         m_changedRow = row;
     else
-        sayUnrecorded(*row);
+        record(RecordedStep::set(*row));
 }
 
 void SessionRecorder::sltOtherEdited()
@@ -316,14 +316,6 @@ void SessionRecorder::sltButtonReleased()
     const Value step = RecordedStep::button(m_finder, *button);
     if (!step.isNull())
         record(step);
-}
-
-void SessionRecorder::sltButtonClicked()
-{
-    const auto* button = qobject_cast<QAbstractButton*>(sender());
-    const QWidget* row = button ? RecordedStep::rowAround(*button) : nullptr;
-    if (row && RowHand::isKnown(row))
-        record(RecordedStep::set(*row));
 }
 
 void SessionRecorder::watchQuestion(QMessageBox& box)

@@ -50,7 +50,6 @@ protected:
 private slots:
     void sltKeyUsed();
     void sltButtonReleased();
-    void sltButtonClicked();
     void sltTextEdited();
     void sltRowChanged();
     void sltOtherEdited();
