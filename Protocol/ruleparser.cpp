@@ -17,6 +17,8 @@
 #include "host/json/reader.h"
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 using kql::Json::Reader;
 using kql::Json::Value;
@@ -25,11 +27,19 @@ namespace
 {
 
 constexpr int kLogLevel = 6;
-// A scene that is written later wins where two share a place.
+// A scene that is written later wins where two share a place; types not named here come last.
 constexpr SceneType kWritingOrder[] = {
     SceneType::Global, SceneType::CalibrateArea, SceneType::FightCalibrate,
     SceneType::Rules,  SceneType::Lanes,         SceneType::Detection,
 };
+
+bool isWrittenBefore(const RuleData* scene, const RuleData* other)
+{
+    const auto place = [](const RuleData& data) {
+        return std::find(std::begin(kWritingOrder), std::end(kWritingOrder), data.getSceneType());
+    };
+    return place(*scene) < place(*other);
+}
 
 } // namespace
 
@@ -209,11 +219,13 @@ bool RuleParser::writeData(Value& config, QString& why) const
     }
     Value written = *skeleton;
     const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
-    for (const SceneType type : kWritingOrder) {
-        for (const auto& scene : m_data) {
-            if (scene->getSceneType() == type && !writeScene(*scene, context, written, why))
-                return false;
-        }
+    std::vector<const RuleData*> scenes;
+    for (const auto& scene : m_data)
+        scenes.push_back(scene.get());
+    std::stable_sort(scenes.begin(), scenes.end(), &isWrittenBefore);
+    for (const RuleData* scene : scenes) {
+        if (!writeScene(*scene, context, written, why))
+            return false;
     }
     config = std::move(written);
     return true;
