@@ -17,7 +17,7 @@
 #include "host/video/nosignalsource.h"
 #include "plugin/cintelligentruleswidget.h"
 #include "plugin/modulelifetime.h"
-#include "scene/basetabelscene.h"
+#include "scene/globalscene.h"
 #include "tabel/drawitembutton.h"
 #include "tabel/ruleitemwidgettabel.h"
 
@@ -267,7 +267,7 @@ private:
         require(panel.getDrawScene()->currentDataId() == selected || selected <= 0,
                 "panel and canvas have different entries selected");
         // The global section's one entry needs none.
-        const bool hasButtons = data.getSceneType() != SceneType::Global;
+        const bool hasButtons = !qobject_cast<const GlobalScene*>(&panel);
         requireButtons(buttonsOf(panel), data, hasButtons ? data.getDataCount() : 0);
     }
 

@@ -11,7 +11,7 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "host/video/qrtspvideownd.h"
-#include "scene/basetabelscene.h"
+#include "scene/globalscene.h"
 #include "tabel/controltabel.h"
 #include "tabel/drawitembutton.h"
 #include "tabel/ruleitemwidgettabel.h"
@@ -59,7 +59,7 @@ void requireButtons(const BaseTabelScene& panel, const RuleData& data)
 {
     const RuleItemWidgetTabel& entries = table(panel, "drawItems");
     // The global section's one entry needs no button.
-    const bool hasButtons = data.getSceneType() != SceneType::Global;
+    const bool hasButtons = !qobject_cast<const GlobalScene*>(&panel);
     const int count = hasButtons ? data.getDataCount() : 0;
     require(entries.buttons().size() == count, "there are other buttons than entries");
     for (int i = 0; i < count; ++i)
