@@ -62,11 +62,11 @@ kql::Json::Value DayOperator::nextStep()
         {40, &DayOperator::type},        {40, &DayOperator::fold},       {60, &DayOperator::select},
         {40, &DayOperator::save},        {6, &DayOperator::cancel},      {30, &DayOperator::query},
         {12, &DayOperator::size},        {6, &DayOperator::loadAnew},    {2, &DayOperator::close},
-        {1, &DayOperator::wait},         {1, &DayOperator::screenshot}};
-    static const std::vector<Choice> drawing = {{500, &DayOperator::press},
-                                                {120, &DayOperator::rightClick},
-                                                {100, &DayOperator::move},
-                                                {30, &DayOperator::doubleClick}};
+        {1, &DayOperator::wait},         {1, &DayOperator::screenshot},  {80, &DayOperator::travel},
+        {10, &DayOperator::key}};
+    static const std::vector<Choice> drawing = {
+        {500, &DayOperator::press},      {120, &DayOperator::rightClick}, {100, &DayOperator::move},
+        {30, &DayOperator::doubleClick}, {60, &DayOperator::travel},      {60, &DayOperator::key}};
     static const std::vector<Choice> empty = {
         {300, &DayOperator::loadAnew}, {30, &DayOperator::query},  {20, &DayOperator::move},
         {20, &DayOperator::save},      {20, &DayOperator::cancel}, {10, &DayOperator::size}};
@@ -313,6 +313,33 @@ kql::Json::Value DayOperator::select()
             panels.append(panel);
     }
     return panels.isEmpty() ? Value() : inScene("select", *oneOf(panels));
+}
+
+/// Most often several times the same way.
+kql::Json::Value DayOperator::travel()
+{
+    if (!happens(70))
+        m_isGoingBack = happens(60);
+    Value result = step(happens(80) ? "key" : "click");
+    if (result["do"].asString() == QLatin1String("key")) {
+        result["keys"] = m_isGoingBack ? "Ctrl+Z" : "Ctrl+Y";
+        result["to"] = "picture";
+        return result;
+    }
+    const QString name =
+        QString::fromLatin1(m_isGoingBack ? RowContract::kUndo : RowContract::kRedo);
+    result["object"] = name;
+    return canBePressed(m_finder.windowButton(name)) ? result : Value();
+}
+
+kql::Json::Value DayOperator::key()
+{
+    static const QStringList keys{QStringLiteral("Backspace"), QStringLiteral("Escape"),
+                                  QStringLiteral("Return"), QStringLiteral("Delete")};
+    Value result = step("key");
+    result["keys"] = oneOf(keys);
+    result["to"] = "picture";
+    return result;
 }
 
 kql::Json::Value DayOperator::save()

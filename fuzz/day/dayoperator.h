@@ -52,6 +52,8 @@ private:
     Value select();
     Value save();
     Value cancel();
+    Value key();
+    Value travel();
     Value query();
     Value close();
     Value loadAnew();
@@ -80,5 +82,6 @@ private:
     QStringList m_configs;
     std::mt19937 m_random;
     QPoint m_last; ///< where the picture was pressed last, 0..8192
+    bool m_isGoingBack = false;
     bool m_isClosing = false;
 };

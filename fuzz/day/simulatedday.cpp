@@ -227,6 +227,7 @@ void SimulatedDay::act(const Value& step)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     require(why.isEmpty(), "what is offered cannot be done: " + why.toStdString());
     DayOrder::require(*m_window);
+    m_travel.note(*m_window, step);
     if (isChecked)
         requireUnchanged(step, before);
     if (step["do"].asString() == QLatin1String("load"))

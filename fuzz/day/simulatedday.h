@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fuzz/day/dayoperator.h"
+#include "fuzz/day/timetravel.h"
 #include "workbench/sessionplayer.h"
 
 #include <QString>
@@ -70,6 +71,7 @@ private:
     bool m_wasRestored = false;
     std::string m_loaded; ///< what was there after the load
     std::vector<Value> m_sinceLoad;
+    TimeTravel m_travel;
     QString m_saved; ///< the last result that was sent to be saved
     QStringList m_posted;
     QString m_report;

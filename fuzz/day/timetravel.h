@@ -1,0 +1,35 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+class WorkbenchWindow;
+namespace kql
+{
+namespace Json
+{
+class Value;
+}
+} // namespace kql
+
+/**
+ * Compares what undoing and doing again leads to with what was there before, at each step of the
+ * window's history that it has seen.
+ */
+class TimeTravel
+{
+public:
+    /// To be asked after each @p step; throws Fault where something else came back.
+    void note(const WorkbenchWindow& window, const kql::Json::Value& step);
+
+private:
+    void seeTravel(bool isBack, const std::string& contents);
+    void seeEdit(int before, const std::string& contents);
+    void forgetFrom(int index);
+
+    std::map<int, std::string> m_left;    ///< by position, before the next step was taken
+    std::map<int, std::string> m_reached; ///< by position, right after the step to it
+    std::string m_now;
+    int m_index = 0;
+    int m_solid = 0; ///< the last position known at which nothing was being drawn
+};
