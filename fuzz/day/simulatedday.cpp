@@ -219,7 +219,8 @@ void SimulatedDay::act(const Value& step)
 {
     ++m_actions;
     remember(step);
-    const bool isChecked = isHarmless(step) && !DayOrder::isEditing(*m_window);
+    const bool wasEditing = DayOrder::isEditing(*m_window);
+    const bool isChecked = isHarmless(step) && !wasEditing;
     const std::string before = isChecked ? DayOrder::contents(*m_window) : std::string();
     const std::map<int, int> counts = entryCounts();
     const QString why = m_player->run(step);
@@ -227,7 +228,7 @@ void SimulatedDay::act(const Value& step)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     require(why.isEmpty(), "what is offered cannot be done: " + why.toStdString());
     DayOrder::require(*m_window);
-    m_travel.note(*m_window, step);
+    m_travel.note(*m_window, step, wasEditing);
     if (isChecked)
         requireUnchanged(step, before);
     if (step["do"].asString() == QLatin1String("load"))

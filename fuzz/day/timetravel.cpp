@@ -31,7 +31,7 @@ bool isStep(const kql::Json::Value& step, const char* key, const char* button)
 
 } // namespace
 
-void TimeTravel::note(const WorkbenchWindow& window, const kql::Json::Value& step)
+void TimeTravel::note(const WorkbenchWindow& window, const kql::Json::Value& step, bool endedEdit)
 {
     const auto* history = window.rulesWindow()->findChild<EditHistory*>();
     const std::string contents = DayOrder::contents(window);
@@ -39,13 +39,13 @@ void TimeTravel::note(const WorkbenchWindow& window, const kql::Json::Value& ste
     const bool isBack = isStep(step, "Ctrl+Z", "btnUndo") && index < m_index;
     const bool isForth = isStep(step, "Ctrl+Y", "btnRedo") && index > m_index;
     const bool isFull = history->stack().count() == history->stack().undoLimit();
-    if (history->stack().count() == 0 || isFull)
+    if (history->stack().count() == 0 || isFull || endedEdit)
         forgetFrom(0);
     const int before = m_index;
     m_index = index;
     if ((isBack || isForth) && qAbs(index - before) == 1)
         seeTravel(isBack, contents);
-    else
+    else if (!endedEdit)
         seeEdit(before, contents);
     // What is in hand after a step back may have been begun long before.
     if (!isDrawing(window))

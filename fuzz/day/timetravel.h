@@ -19,8 +19,9 @@ class Value;
 class TimeTravel
 {
 public:
-    /// To be asked after each @p step; throws Fault where something else came back.
-    void note(const WorkbenchWindow& window, const kql::Json::Value& step);
+    /// To be asked after each @p step; throws Fault where something else came back. @p endedEdit
+    /// tells that the step may have ended an edit of a row besides.
+    void note(const WorkbenchWindow& window, const kql::Json::Value& step, bool endedEdit);
 
 private:
     void seeTravel(bool isBack, const std::string& contents);
