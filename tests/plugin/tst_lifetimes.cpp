@@ -1,6 +1,6 @@
 #include "fuzz/onepicture.h"
 #include "host/video/channelsources.h"
-#include "tests/stream/server.h"
+#include "tests/stream/hostilecamera.h"
 #include "tests/support/boxanswerer.h"
 #include "tests/support/clientwindow.h"
 #include "tests/support/examplefiles.h"
@@ -201,7 +201,7 @@ private:
         return int(info.uordblks + info.hblkhd);
     }
 
-    Server m_silent{{"--silent"}};
+    HostileCamera m_silent;
     LoadedPlugin m_plugin; ///< anew for each test
     Happening m_whileMaking = [] {};
     Happening m_whileReporting = [] {};

@@ -4,6 +4,14 @@
 
 #include <csignal>
 
+inline QString loopback(int port, const QString& user, const QString& path)
+{
+    return QStringLiteral("rtsp://%1%2:%3/%4")
+        .arg(user, QStringLiteral("127.0.0.1"))
+        .arg(port)
+        .arg(path);
+}
+
 /// The RTSP server program, on the loopback address; killed at the end. That it does not run is a
 /// warning, and so fails the test.
 class Server
@@ -30,24 +38,14 @@ public:
     }
 
     void send(int signal) { ::kill(pid_t(m_process.processId()), signal); }
-    /// What it printed since it started, after the port.
-    QByteArray printed()
-    {
-        m_process.waitForReadyRead(0);
-        return m_printed += m_process.readAllStandardOutput();
-    }
     QString address(const QString& user = {}, const QString& path = QStringLiteral("bars")) const
     {
-        return QStringLiteral("rtsp://%1%2:%3/%4")
-            .arg(user, QStringLiteral("127.0.0.1"))
-            .arg(m_port)
-            .arg(path);
+        return loopback(m_port, user, path);
     }
 
 private:
     static constexpr int kStartTime = 30000; // milliseconds
 
     QProcess m_process;
-    QByteArray m_printed;
     int m_port = 0;
 };

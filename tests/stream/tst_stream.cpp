@@ -5,13 +5,14 @@
 #include "host/video/playoutclock.h"
 #include "host/video/qrtspvideownd.h"
 #include "host/video/streamsource.h"
-#include "tests/stream/server.h"
+#include "tests/stream/hostilecamera.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 
 #include <array>
 #include <csignal>
+#include <map>
 #include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -104,14 +105,27 @@ ChannelSources& channelSources()
     return KQGUI::KQSingleton<ChannelSources>::Instance();
 }
 
+/// As some do, it knows no protocol but its own.
+QByteArray asWebServer(const QByteArray& request)
+{
+    return request.contains(" HTTP/") ? "HTTP/1.0 200 OK\r\n\r\n"
+                                      : "<html>400 Bad Request</html>\n";
+}
+
+const QByteArray kLogin = "WWW-Authenticate: Basic realm=\"x\"";
+const QByteArray kFound = "302 Found";
+const QByteArray kLocation = "Location: ";
+// Behind a SETUP that asks for TCP.
+const QByteArray kSession = "Session: 1\r\nTransport: RTP/AVP/TCP;unicast;interleaved=0-1\r\n\r\n";
+
 struct HostileAnswer {
-    const char* path;
     QByteArray text; ///< behind the first lines of the answer to DESCRIBE
     const char* reason;
 };
 
 /// Some of them name @p fileAddress or @p http as what to ask for.
-std::vector<HostileAnswer> hostileAnswers(const QByteArray& fileAddress, const QByteArray& http)
+std::map<QByteArray, HostileAnswer> hostileAnswers(const QByteArray& fileAddress,
+                                                   const QByteArray& http)
 {
     const QByteArray begin = "v=0\r\no=- 0 0 IN IP4 127.0.0.1\r\ns=x\r\nt=0 0\r\n";
     const QByteArray part = "m=video 0 RTP/AVP 96\r\na=rtpmap:96 H264/90000\r\n";
@@ -124,21 +138,21 @@ std::vector<HostileAnswer> hostileAnswers(const QByteArray& fileAddress, const Q
         return "Content-Length: " + (length.isEmpty() ? QByteArray::number(text.size()) : length) +
                "\r\n\r\n" + text;
     };
-    return {{"file", body(control + fileAddress + "\r\n"), "no answer"},
-            {"base", "Content-Base: " + fileAddress + "\r\n" + body(whole), "no answer"},
-            {"http", body(control + http + "\r\n"), "no answer"},
-            {"parts", body(begin + part.repeated(5000)), "no answer"},
-            {"lines", body(whole + "a=fmtp:96 " + longest + "\r\na=control:" + longest), "."},
-            {"header", "X: " + longest + "\r\n" + body(whole), "no answer"},
-            {"negativePort", body(port(" -1 ")), "no answer"},
-            {"hugePort", body(port(" 99999999999999999999 ")), "no answer"},
-            {"picture", body(whole + "a=framesize:96 99999-99999\r\n"), "out of range"},
-            {"zeros", body(begin + zeros), "no video in it"},
-            {"zerosInLine", body(control + zeros + "\r\n"), "."},
-            {"nothing", "", "no answer"},
-            {"negativeLength", body(whole, "-5"), "no video that can be read"},
-            {"hugeLength", body(whole, "2000000000"), "."},
-            {"endlessLength", body(whole, "99999999999999999999"), "."}};
+    return {{"file", {body(control + fileAddress + "\r\n"), "no answer"}},
+            {"base", {"Content-Base: " + fileAddress + "\r\n" + body(whole), "no answer"}},
+            {"http", {body(control + http + "\r\n"), "no answer"}},
+            {"parts", {body(begin + part.repeated(5000)), "no answer"}},
+            {"lines", {body(whole + "a=fmtp:96 " + longest + "\r\na=control:" + longest), "."}},
+            {"header", {"X: " + longest + "\r\n" + body(whole), "no answer"}},
+            {"negativePort", {body(port(" -1 ")), "no answer"}},
+            {"hugePort", {body(port(" 99999999999999999999 ")), "no answer"}},
+            {"picture", {body(whole + "a=framesize:96 99999-99999\r\n"), "out of range"}},
+            {"zeros", {body(begin + zeros), "no video in it"}},
+            {"zerosInLine", {body(control + zeros + "\r\n"), "."}},
+            {"nothing", {"", "no answer"}},
+            {"negativeLength", {body(whole, "-5"), "no video that can be read"}},
+            {"hugeLength", {body(whole, "2000000000"), "."}},
+            {"endlessLength", {body(whole, "99999999999999999999"), "."}}};
 }
 
 } // namespace
@@ -251,13 +265,15 @@ private slots:
         QFETCH(const Value, fixture);
         const bool isFile = fixture.isMember("file");
         const auto text = [&](const char* name) { return fixture[name].asString(); };
+        const HostileCamera web(&asWebServer);
         std::optional<Server> camera;
         if (!isFile)
             camera.emplace(serverOf(fixture));
-        StreamSource source(
-            isFile ? request(text("scheme") + video(text("file")), true)
-                   : vainRequest(camera->address(
-                         text("user"), fixture.isMember("path") ? text("path") : "bars")));
+        const QString path = fixture.isMember("path") ? text("path") : "bars";
+        StreamSource source(isFile ? request(text("scheme") + video(text("file")), true)
+                                   : vainRequest(fixture["web"].asBool()
+                                                     ? web.address(text("user"))
+                                                     : camera->address(text("user"), path)));
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kTryFor);
         const PictureStatus status = source.status();
@@ -341,7 +357,7 @@ private slots:
     void asksBeforeItTriesARefusedLoginAgain()
     {
         for (const char* refusal : {"401 Unauthorized", "403 Forbidden"}) {
-            Server camera({"--refuse", refusal});
+            const HostileCamera camera(refusal, kLogin);
             QRtspVideoWnd surface;
             surface.resize(400, 300);
             auto* const again = surface.findChild<QPushButton*>("tryAgain");
@@ -352,24 +368,24 @@ private slots:
             QTRY_VERIFY_WITH_TIMEOUT(surface.statusText().contains("only when you ask"), kTryFor);
             QTRY_VERIFY_WITH_TIMEOUT(!again->isHidden(), kTryFor);
             QVERIFY(surface.rect().contains(again->geometry()));
-            const int tries = camera.printed().count("OPTIONS ");
+            const int tries = camera.heard().count("OPTIONS ");
             QVERIFY(tries > 0);
             QTest::qWait(1500); // the first wait is one second
-            QCOMPARE(camera.printed().count("OPTIONS "), tries);
+            QCOMPARE(camera.heard().count("OPTIONS "), tries);
             again->click();
             QTRY_VERIFY_WITH_TIMEOUT(again->isHidden(), kTryFor);
-            QTRY_VERIFY_WITH_TIMEOUT(camera.printed().count("OPTIONS ") > tries, kTryFor);
+            QTRY_VERIFY_WITH_TIMEOUT(camera.heard().count("OPTIONS ") > tries, kTryFor);
         }
     }
 
     void takesNoLoginElsewhere()
     {
-        Server greedy({"--refuse", "401 Unauthorized"});
-        Server camera({"--location", greedy.address()});
+        const HostileCamera greedy("401 Unauthorized", kLogin);
+        const HostileCamera camera(kFound, kLocation + greedy.address().toUtf8());
         StreamSource source(request(camera.address("viewer:s3cr3t@")));
         source.start();
         QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kTryFor);
-        QCOMPARE(greedy.printed(), QByteArray());
+        QCOMPARE(greedy.heard(), QByteArray());
         QVERIFY2(source.status().reason.contains("to another server"),
                  qPrintable(source.status().reason));
     }
@@ -377,7 +393,7 @@ private slots:
     void closesAtOnce()
     {
         Server camera;
-        Server silent({"--silent"});
+        const HostileCamera silent;
         const StreamRequest requests[] = {request(camera.address()), request(silent.address()),
                                           request(video("fast.avi"), true)};
         for (const StreamRequest& asked : requests) {
@@ -467,7 +483,7 @@ private slots:
     /// It may never have a writer, and its name tells nothing.
     void waitsForANamedPipe()
     {
-        const QString path = file("pipe");
+        const QString path = m_folder.filePath("pipe");
         QVERIFY(::mkfifo(path.toUtf8().constData(), S_IRUSR | S_IWUSR) == 0);
         channelSources().makeSource(path)->start();
         const auto source = channelSources().makeSource(path);
@@ -533,45 +549,51 @@ private slots:
         for (const QString& location :
              {"file://" + video, "file:" + video, video, "rtsp:" + video, "concat:" + video,
               QString(bars.address()).replace("rtsp:", "http:"), QString()}) {
-            Server camera({"--location", location});
+            const HostileCamera camera(kFound, kLocation + location.toUtf8());
             QVERIFY2(!comes(camera.address()), qPrintable(location));
-            QTRY_VERIFY_WITH_TIMEOUT(camera.printed().contains("rtsp://127.0.0.1"), kTryFor);
+            QTRY_VERIFY_WITH_TIMEOUT(camera.heard().contains("rtsp://127.0.0.1"), kTryFor);
         }
-        Server camera({"--location", bars.address()});
+        const HostileCamera camera(kFound, kLocation + bars.address().toUtf8());
         QVERIFY(comes(camera.address()));
         // An option behind the address that asks for a tunnel gets none.
-        Server untunnelled({"--location", bars.address()});
+        const HostileCamera untunnelled(kFound, kLocation + bars.address().toUtf8());
         comes(untunnelled.address() + QString("?http"));
-        QTRY_VERIFY_WITH_TIMEOUT(untunnelled.printed().contains(" rtsp://"), kTryFor);
-        QVERIFY2(!untunnelled.printed().contains("HTTP"), untunnelled.printed().constData());
+        QTRY_VERIFY_WITH_TIMEOUT(untunnelled.heard().contains(" rtsp://"), kTryFor);
+        QVERIFY2(!untunnelled.heard().contains("HTTP"), untunnelled.heard().constData());
     }
 
     /// What a camera describes leads to no file, to no other protocol, and to nothing without end.
     void survivesHostileDescriptions()
     {
-        const QByteArray video =
-            file("described.avi", Fixtures::contentOf("videos/fast.avi")).toUtf8();
+        const QString file = m_folder.filePath("described.avi");
+        QVERIFY(QFile::copy(::video("fast.avi"), file));
+        const QByteArray video = file.toUtf8();
         const int opened = ::inotify_init1(IN_NONBLOCK);
         QVERIFY(::inotify_add_watch(opened, video.constData(), IN_OPEN) >= 0);
-        Server camera({"--describe", m_folder.path()});
+        std::map<QByteArray, HostileAnswer> answers;
+        const HostileCamera camera([&answers](const QByteArray& asked) {
+            if (!asked.startsWith("DESCRIBE "))
+                return HostileCamera::rtsp(asked, "200 OK", kSession);
+            const QByteArray address = asked.split(' ')[1];
+            return HostileCamera::rtsp(asked, "200 OK",
+                                       answers[address.mid(address.lastIndexOf('/') + 1)].text);
+        });
         const QByteArray http = camera.address().replace("rtsp:", "http:").toUtf8();
-        const auto answers = hostileAnswers("file://" + video, http);
-        std::vector<std::unique_ptr<StreamSource>> sources;
-        for (const auto& [path, text, reason] : answers) {
-            file(path, text);
-            sources.push_back(
-                std::make_unique<StreamSource>(vainRequest(camera.address({}, path))));
-            sources.back()->start();
+        answers = hostileAnswers("file://" + video, http);
+        std::map<QByteArray, std::unique_ptr<StreamSource>> sources;
+        for (const auto& [path, answer] : answers) {
+            sources[path] = std::make_unique<StreamSource>(vainRequest(camera.address({}, path)));
+            sources[path]->start();
         }
-        for (std::size_t i = 0; i < sources.size(); ++i) {
-            QTRY_VERIFY2_WITH_TIMEOUT(sources[i]->status().reason.contains(answers[i].reason),
-                                      answers[i].path, kTryFor);
-            QCOMPARE(sources[i]->status().state, PictureState::NoSignal);
-            QVERIFY2(sources[i]->picture().isNull(), answers[i].path);
+        for (const auto& [path, source] : sources) {
+            QTRY_VERIFY2_WITH_TIMEOUT(source->status().reason.contains(answers[path].reason),
+                                      path.constData(), kTryFor);
+            QCOMPARE(source->status().state, PictureState::NoSignal);
+            QVERIFY2(source->picture().isNull(), path.constData());
         }
         for (const QByteArray& elsewhere : {"SETUP file://" + video, "SETUP " + http})
-            QTRY_VERIFY_WITH_TIMEOUT(camera.printed().contains(elsewhere), kTryFor);
-        const QByteArray asked = camera.printed();
+            QTRY_VERIFY_WITH_TIMEOUT(camera.heard().contains(elsewhere), kTryFor);
+        const QByteArray asked = camera.heard();
         QVERIFY_BOTH(!asked.contains("GET "), !asked.contains("HTTP/"));
         const QByteArray parts = camera.address({}, "parts").toUtf8();
         QVERIFY(asked.count("SETUP " + parts) <= 16 * asked.count("DESCRIBE " + parts));
@@ -584,15 +606,6 @@ protected:
     void prepare() override { qputenv("KQL_LOG", "9"); }
 
 private:
-    QString file(const QString& name, const QByteArray& content = {}) const
-    {
-        const QString path = m_folder.filePath(name);
-        QFile written(path);
-        if (!content.isNull() && written.open(QIODevice::WriteOnly))
-            written.write(content);
-        return path;
-    }
-
     QTemporaryDir m_folder;
 };
 

@@ -1,7 +1,5 @@
 // An RTSP server on the loopback address that serves colour bars at /bars until it is killed.
-// It can be slow, and fall silent. It prints the port that it listens on. Or it plays a camera that
-// means harm, by sending every client to another address, by refusing all, or by describing its
-// streams as files say, and prints what it is asked.
+// It can be slow, and fall silent. It prints the port that it listens on.
 
 #include <gst/gst.h>
 #include <gst/rtsp-server/rtsp-server.h>
@@ -142,111 +140,12 @@ int serve(const Settings& settings)
     return gst_rtsp_server_attach(server, nullptr) ? gst_rtsp_server_get_bound_port(server) : 0;
 }
 
-/// Connections are made by the system, and nobody takes them up.
-int listenOnly()
-{
-    GSocket* const socket =
-        g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_STREAM, G_SOCKET_PROTOCOL_TCP, nullptr);
-    GSocketAddress* const any = g_inet_socket_address_new_from_string("127.0.0.1", 0);
-    if (!g_socket_bind(socket, any, TRUE, nullptr) || !g_socket_listen(socket, nullptr))
-        return 0;
-    GSocketAddress* const bound = g_socket_get_local_address(socket, nullptr);
-    return g_inet_socket_address_get_port(G_INET_SOCKET_ADDRESS(bound));
-}
-
-/// Behind a SETUP that asks for TCP.
-constexpr char kSession[] = "Session: 1\r\nTransport: RTP/AVP/TCP;unicast;interleaved=0-1\r\n\r\n";
-
-std::string contentOf(const std::string& file)
-{
-    gchar* content = nullptr;
-    gsize size = 0;
-    g_file_get_contents(file.c_str(), &content, &size, nullptr);
-    const std::string result(content ? content : "", size);
-    g_free(content);
-    return result;
-}
-
-/// The answer to a request's first line; @p sequence is its line of that name.
-std::string answer(const Settings& settings, const std::string& request,
-                   const std::string& sequence)
-{
-    // As some do, it knows no protocol but its own.
-    if (settings.has("web"))
-        return request.find(" HTTP/") == std::string::npos ? "<html>400 Bad Request</html>\n"
-                                                           : "HTTP/1.0 200 OK\r\n\r\n";
-    if (settings.has("location"))
-        return "RTSP/1.0 302 Found\r\n" + sequence + "\r\nLocation: " + settings.text("location") +
-               "\r\n\r\n";
-    if (settings.has("refuse"))
-        return "RTSP/1.0 " + settings.text("refuse") + "\r\n" + sequence +
-               "\r\nWWW-Authenticate: Basic realm=\"x\"\r\n\r\n";
-    const std::string ok = "RTSP/1.0 200 OK\r\n" + sequence + "\r\n";
-    if (request.rfind("DESCRIBE ", 0) != 0)
-        return ok + kSession;
-    const std::string address = request.substr(0, request.rfind(' '));
-    return ok + contentOf(settings.text("describe") + address.substr(address.rfind('/')));
-}
-
-/// Answers every request of a connection, and prints its first line and what it logs in with.
-gboolean misbehave(GThreadedSocketService*, GSocketConnection* connection, GObject*, gpointer user)
-{
-    const auto& settings = *static_cast<const Settings*>(user);
-    GDataInputStream* const input =
-        g_data_input_stream_new(g_io_stream_get_input_stream(G_IO_STREAM(connection)));
-    GOutputStream* const output = g_io_stream_get_output_stream(G_IO_STREAM(connection));
-    std::string request;
-    std::string sequence;
-    while (gchar* const read = g_data_input_stream_read_line(input, nullptr, nullptr, nullptr)) {
-        const std::string line = g_strchomp(read);
-        g_free(read);
-        if (request.empty()) {
-            request = line;
-            std::printf("%s\n", line.c_str());
-        }
-        if (line.rfind("Authorization:", 0) == 0)
-            std::printf("%s\n", line.c_str());
-        if (line.rfind("CSeq:", 0) == 0)
-            sequence = line;
-        if (!line.empty())
-            continue;
-        std::fflush(stdout);
-        const std::string text = answer(settings, request, sequence);
-        g_output_stream_write_all(output, text.data(), text.size(), nullptr, nullptr, nullptr);
-        request.clear();
-    }
-    g_object_unref(input);
-    return TRUE;
-}
-
-int misbehaveAlways(Settings& settings)
-{
-    constexpr int kConnections = 32;
-    GSocketService* const service = g_threaded_socket_service_new(kConnections);
-    GSocketAddress* const any = g_inet_socket_address_new_from_string("127.0.0.1", 0);
-    GSocketAddress* bound = nullptr;
-    if (!g_socket_listener_add_address(G_SOCKET_LISTENER(service), any, G_SOCKET_TYPE_STREAM,
-                                       G_SOCKET_PROTOCOL_TCP, nullptr, &bound, nullptr))
-        return 0;
-    g_signal_connect(service, "run", G_CALLBACK(misbehave), &settings);
-    return g_inet_socket_address_get_port(G_INET_SOCKET_ADDRESS(bound));
-}
-
-int portOf(Settings& settings)
-{
-    if (settings.has("location") || settings.has("refuse") || settings.has("describe") ||
-        settings.has("web"))
-        return misbehaveAlways(settings);
-    return settings.has("silent") ? listenOnly() : serve(settings);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
     gst_init(nullptr, nullptr);
-    Settings settings(argc, argv);
-    const int port = portOf(settings);
+    const int port = serve(Settings(argc, argv));
     if (port <= 0)
         return EXIT_FAILURE;
     std::printf("%d\n", port);
