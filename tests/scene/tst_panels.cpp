@@ -1,13 +1,21 @@
 #include "Protocol/datatemplate.h"
+#include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
+#include "Protocol/ruleparser.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "draw/basedraw.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
 #include "scene/entryrows.h"
 #include "scene/lanesscene.h"
+#include "scene/scenefactory.h"
 #include "tabel/controlfactory.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
+#include "tabel/drawitembutton.h"
+#include "tabel/ruleitemwidgettabel.h"
 #include "tabel/titlelabel.h"
-#include "tests/support/panelbench.h"
+#include "tabel/widgettabelview.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/script.h"
 
@@ -16,7 +24,6 @@ using kql::Json::Value;
 namespace
 {
 
-using Bench = std::unique_ptr<PanelBench>;
 using Step = const Value&;
 
 QString text(Step step, int position = 1)
@@ -24,91 +31,254 @@ QString text(Step step, int position = 1)
     return step[position].asString();
 }
 
-QString marked(Bench& bench)
+/// One scene's panel on a template and a configuration, worked on as an operator does: clicks and
+/// keys on the widgets, mouse events on a canvas of 1024 x 1024 pixels.
+class Panel
+{
+public:
+    Panel(const QByteArray& templateText, const QByteArray& config, SceneType type,
+          bool selectMode = false)
+    {
+        if (!parser.parseTemplate(QString::fromUtf8(templateText)) ||
+            !parser.readData(QString::fromUtf8(config)))
+            qFatal("template or configuration of the test is not usable");
+        parser.findLosses();
+        data = parser.getData(type);
+        m_view.setFixedWidth(335);
+        m_view.resize(335, 600);
+        scene = createScene(type, &m_view);
+        scene->setSelectMode(selectMode);
+        scene->setRuleData(data);
+        scene->SetDrawStatus(false);
+        m_view.addWidgetLayout(scene);
+        canvas().setCanvasSize(1024, 1024);
+        scene->setSelected(true);
+        m_view.show();
+        QApplication::setActiveWindow(&m_view);
+        wanted = std::make_unique<QSignalSpy>(scene, &BaseTabelScene::sgnTrySelectedlScene);
+    }
+    ~Panel()
+    {
+        if (scene)
+            scene->setRuleData(nullptr);
+    }
+
+    DrawScene& canvas() const { return *data->getDrawScene(); }
+    /// The entry at the position, from 0, that a step names.
+    RuleDataInfo& entry(Step step) const
+    {
+        return *data->getAllData().at(static_cast<std::size_t>(step[1].asInt()));
+    }
+    QList<DrawItem*> figures(Step step) const
+    {
+        return canvas().getItemListByDataId(entry(step).id());
+    }
+
+    /// What a step names in the panel; a failed test and null when there is none.
+    template<class T = QWidget>
+    T* find(const QString& name) const
+    {
+        auto* widget = scene->findChild<T*>(name);
+        if (!widget)
+            QTest::qFail(qPrintable(QStringLiteral("no widget ") + name), __FILE__, __LINE__);
+        return widget;
+    }
+    QLineEdit* edit(Step step) const { return find(text(step))->findChild<QLineEdit*>(); }
+    Value written() const
+    {
+        Value config;
+        if (!parser.writeData(config))
+            qWarning("not written");
+        return config;
+    }
+
+    RuleParser parser;
+    RuleData* data = nullptr;
+    QPointer<BaseTabelScene> scene;
+    std::unique_ptr<QSignalSpy> wanted; ///< requests of the panel to be the selected one
+
+private:
+    WidgetTabelView m_view;
+};
+
+using Bench = std::unique_ptr<Panel>;
+
+/// What can be clicked, in its middle.
+void click(QWidget* widget)
+{
+    if (!widget || !widget->isVisible() || !widget->isEnabled())
+        QTest::qFail("nothing to click there", __FILE__, __LINE__);
+    else
+        QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+/// Where a widget has its middle, on whatever lies over it there.
+void clickOver(Bench& bench, Step step)
+{
+    const auto* widget = bench->find(text(step));
+    const QPoint middle = widget->mapTo(bench->scene, widget->rect().center());
+    click(bench->scene->childAt(middle));
+}
+
+/// The option of a stored value.
+void clickOption(Bench& bench, Step step)
+{
+    for (auto* box : bench->find(text(step))->findChildren<QAbstractButton*>()) {
+        if (box->property("value").toString() == text(step, 2))
+            QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    }
+}
+
+RuleItemWidgetTabel& tableOf(Bench& bench, Step step, int position)
+{
+    const QString name = step.size() > position ? text(step, position) : QString("drawItems");
+    return *bench->find<RuleItemWidgetTabel>(name);
+}
+
+/// Replaces the text of a row's edit, leaving the edit in progress.
+void type(Bench& bench, Step step)
+{
+    auto* edit = bench->edit(step);
+    QTest::mouseClick(edit, Qt::LeftButton);
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    // Keys by their text: input methods deliver characters that no key stands for.
+    for (const QChar& character : text(step, 2)) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+        QApplication::sendEvent(edit, &press);
+    }
+}
+
+void key(Bench& bench, Step step)
+{
+    const bool isSpace = text(step, 2) == "Space";
+    QWidget* edit = isSpace ? bench->find(text(step)) : bench->edit(step);
+    QTest::keyClick(edit, isSpace ? Qt::Key_Space : Qt::Key_Return);
+}
+
+void focus(Bench& bench, Step step)
+{
+    QWidget* edit = bench->edit(step);
+    (edit ? edit : bench->find(text(step)))->setFocus(Qt::TabFocusReason);
+}
+
+/// Where the focus comes to be.
+QString tab(Bench&, Step)
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    return QApplication::focusWidget()->objectName();
+}
+
+/// What a panel is asked for when it may have no data.
+void askInVain(Bench& bench, Step)
+{
+    bench->scene->sltRedrawItem();
+    bench->scene->sltTabelRuleFucBtnClicked(1);
+    bench->scene->sltTabelAttrControlValueChange("note");
+}
+
+/// What is saved is read again.
+void reload(Bench& bench, Step step)
+{
+    const QByteArray saved = QByteArray::fromStdString(bench->written().toStyledString());
+    bench = std::make_unique<Panel>(Fixtures::contentOf(text(step)), saved,
+                                    bench->data->getSceneType());
+}
+
+/// The full texts of a table's buttons, the current one in square brackets.
+QString buttons(Bench& bench, Step step)
+{
+    const RuleItemWidgetTabel& table = tableOf(bench, step, 1);
+    QStringList texts;
+    for (const DrawItemButton* button : table.buttons()) {
+        const bool isCurrent = button == table.currentButton();
+        texts.append(isCurrent ? '[' + button->fullText() + ']' : button->fullText());
+    }
+    return texts.join(' ');
+}
+
+/// "item key: point count" of each figure of an entry in canvas order; "..." behind those that
+/// are not finished.
+QString figures(Bench& bench, Step step)
+{
+    QStringList texts;
+    for (const DrawItem* item : bench->figures(step))
+        texts.append(item->templateKey() + ": " + QString::number(item->getPoints().size()) +
+                     (item->isFinished() ? "" : "..."));
+    return texts.join(", ");
+}
+
+/// Kind of what is selected on the canvas: its template item's key; empty for nothing.
+QString selectedFigure(Bench& bench, Step)
+{
+    const DrawItem* item = bench->canvas().selectedItem(bench->data->getSelectedDataId());
+    return item ? item->templateKey() : QString();
+}
+
+QString marked(Bench& bench, Step)
 {
     QStringList names;
-    for (const ControlTabel* row : bench->panel().findChildren<ControlTabel*>()) {
+    for (const ControlTabel* row : bench->scene->findChildren<ControlTabel*>()) {
         if (row->isMarked() && !row->toolTip().isEmpty())
             names.append(row->objectName());
     }
     return names.join(' ');
 }
 
-QString checked(QWidget& row)
+QString checked(Bench& bench, Step step)
 {
-    for (const auto* box : row.findChildren<QAbstractButton*>()) {
+    for (const auto* box : bench->find(text(step))->findChildren<QAbstractButton*>()) {
         if (box->isChecked())
             return box->text();
     }
     return {};
 }
 
-Value written(Bench& bench)
-{
-    Value config;
-    if (!bench->parser().writeData(config))
-        qWarning("not written");
-    return config;
-}
-
-/// What is saved is read again.
-void reload(Bench& bench, Step step)
-{
-    const SceneType scene = bench->data().getSceneType();
-    const QByteArray saved = QByteArray::fromStdString(written(bench).toStyledString());
-    bench = std::make_unique<PanelBench>(Fixtures::contentOf(text(step)), saved, scene);
-}
-
-const DrawItem& firstFigure(Bench& bench, int entry)
-{
-    return *bench->canvas().getItemListByDataId(bench->entry(entry).id()).first();
-}
-
-QLineEdit* editOf(Bench& bench, Step step)
-{
-    return bench->find(text(step))->findChild<QLineEdit*>();
-}
-
-void key(Bench& bench, Step step)
-{
-    const bool isSpace = text(step, 2) == "Space";
-    QWidget* edit = isSpace ? bench->find(text(step)) : editOf(bench, step);
-    QTest::keyClick(edit, isSpace ? Qt::Key_Space : Qt::Key_Return);
-}
-
-QString tableOf(Step step, int position)
-{
-    return step.size() > position ? text(step, position) : QString("drawItems");
-}
-
 /// What an operator, or a client, does; and what there is to see.
 const Script<Bench> kScript{
-    {{"click", [](Bench& b, Step s) { b->click(text(s)); }},
+    {{"click", [](Bench& b, Step s) { click(b->find(text(s))); }},
+     {"clickOver", clickOver},
      {"clickLast",
       [](Bench& b, Step s) { b->find(text(s))->findChildren<QAbstractButton*>().last()->click(); }},
-     {"pick", [](Bench& b, Step s) { b->pick(s[1].asInt(), tableOf(s, 2)); }},
-     {"option", [](Bench& b, Step s) { b->clickOption(text(s), text(s, 2)); }},
-     {"type", [](Bench& b, Step s) { b->type(text(s), text(s, 2)); }},
-     {"enter", [](Bench& b, Step s) { b->enter(text(s), text(s, 2)); }},
+     {"pick", [](Bench& b, Step s) { click(tableOf(b, s, 2).buttons().value(s[1].asInt())); }},
+     {"option", clickOption},
+     {"type", type},
+     {"enter",
+      [](Bench& b, Step s) {
+          type(b, s);
+          QTest::keyClick(b->edit(s), Qt::Key_Return);
+      }},
      {"key", key},
-     {"press", [](Bench& b, Step s) { b->press(Fixtures::pointsOf(s[1])); }},
-     {"pressRight", [](Bench& b, Step) { b->pressRight(); }},
+     {"focus", focus},
+     {"press",
+      [](Bench& b, Step s) {
+          for (const QPoint& point : Fixtures::pointsOf(s[1]))
+              b->canvas().addDrawPoint(DrawScene::DrawMouseLeftPress, point);
+      }},
+     {"pressRight",
+      [](Bench& b, Step) { b->canvas().addDrawPoint(DrawScene::DrawMouseRightPress, {}); }},
      {"childFunction",
-      [](Bench& b, Step s) { b->panel().sltTabelChildRuleFucBtnClicked(s[1].asInt()); }},
-     {"finish", [](Bench& b, Step) { b->panel().finishEdits(); }},
-     {"lock", [](Bench& b, Step) { b->panel().setUIEditable(false); }},
+      [](Bench& b, Step s) { b->scene->sltTabelChildRuleFucBtnClicked(s[1].asInt()); }},
+     {"finish", [](Bench& b, Step) { b->scene->finishEdits(); }},
+     {"fold", [](Bench& b, Step s) { b->scene->setFold(s[1].asBool()); }},
+     {"select", [](Bench& b, Step s) { b->scene->setSelected(s[1].asBool()); }},
+     {"lock", [](Bench& b, Step) { b->scene->setUIEditable(false); }},
+     {"letGo", [](Bench& b, Step) { b->scene->setRuleData(nullptr); }},
+     {"askInVain", askInVain},
+     {"takeUp", [](Bench& b, Step) { b->scene->setRuleData(b->data); }},
+     {"delete", [](Bench& b, Step) { delete b->scene; }},
      {"removeFirst",
       [](Bench& b, Step) { b->canvas().removeItem(b->canvas().getFirstDrawItem()->itemId()); }},
      {"reload", reload}},
-    {{"buttons", [](Bench& b, Step s) { return b->buttons(text(s)); }},
+    {{"buttons", buttons},
      {"message", [](Bench& b, Step) { return b->canvas().message(); }},
-     {"value", [](Bench& b, Step s) { return b->entry(s[1].asInt()).value(text(s, 2)); }},
-     {"isValid", [](Bench& b, Step s) { return b->entry(s[1].asInt()).isValid(text(s, 2)); }},
-     {"name", [](Bench& b, Step s) { return b->entry(s[1].asInt()).name(); }},
-     {"figures", [](Bench& b, Step s) { return b->figures(s[1].asInt()); }},
+     {"value", [](Bench& b, Step s) { return b->entry(s).value(text(s, 2)); }},
+     {"isValid", [](Bench& b, Step s) { return b->entry(s).isValid(text(s, 2)); }},
+     {"name", [](Bench& b, Step s) { return b->entry(s).name(); }},
+     {"figures", figures},
      {"direction",
-      [](Bench& b, Step s) { return int(firstFigure(b, s[1].asInt()).figure()->direction()); }},
-     {"selectedFigure", [](Bench& b, Step) { return b->selectedFigure(); }},
+      [](Bench& b, Step s) { return int(b->figures(s).first()->figure()->direction()); }},
+     {"selectedFigure", selectedFigure},
      {"label", [](Bench& b, Step) { return b->canvas().getFirstDrawItem()->label(); }},
      {"hasPoint",
       [](Bench& b, Step s) {
@@ -116,28 +286,37 @@ const Script<Bench> kScript{
           return b->canvas().getFirstDrawItem()->getPoints().contains(point);
       }},
      {"itemCount", [](Bench& b, Step) { return b->canvas().itemCount(BaseDrawType::None, 0); }},
-     {"isDrawing", [](Bench& b, Step) { return b->panel().GetDrawStatus(); }},
+     {"isDrawing", [](Bench& b, Step) { return b->scene->GetDrawStatus(); }},
      {"isEnabled", [](Bench& b, Step s) { return b->find(text(s))->isEnabled(); }},
-     {"isShown", [](Bench& b, Step s) { return b->isShown(text(s)); }},
-     {"isMarked", [](Bench& b, Step s) { return b->find(text(s))->property("marked").toBool(); }},
+     {"isShown", [](Bench& b, Step s) { return b->find(text(s))->isVisible(); }},
+     {"is", [](Bench& b, Step s) { return b->find(text(s))->property(qPrintable(text(s, 2))); }},
+     {"isFolded", [](Bench& b, Step) { return b->scene->getFold(); }},
+     {"isOnlyItsTitle",
+      [](Bench& b, Step) { return b->scene->height() == b->find("titleBar")->height() + 2; }},
+     {"wanted", [](Bench& b, Step) { return b->wanted->count(); }},
+     {"hasFocus", [](Bench& b, Step s) { return b->edit(s)->hasFocus(); }},
+     {"tab", tab},
      {"exists",
-      [](Bench& b, Step s) { return b->panel().findChild<QWidget*>(text(s)) != nullptr; }},
-     {"text", [](Bench& b, Step s) { return editOf(b, s)->text(); }},
+      [](Bench& b, Step s) { return b->scene->findChildren<QWidget*>(text(s)).size() == 1; }},
+     {"text", [](Bench& b, Step s) { return b->edit(s)->text(); }},
      {"caption",
       [](Bench& b, Step s) { return b->find(text(s))->findChild<QLabel*>("title")->text(); }},
-     {"checked", [](Bench& b, Step s) { return checked(*b->find(text(s))); }},
-     {"marked", [](Bench& b, Step) { return marked(b); }},
-     {"notices", [](Bench& b, Step) { return b->parser().notices().join(' '); }},
-     {"tells", [](Bench& b, Step s) { return b->parser().notices().join(' ').contains(text(s)); }},
+     {"checked", checked},
+     {"marked", marked},
+     {"notices", [](Bench& b, Step) { return b->parser.notices().join(' '); }},
+     {"tells", [](Bench& b, Step s) { return b->parser.notices().join(' ').contains(text(s)); }},
      {"written",
       [](Bench& b, Step) {
-          return written(b)["Rules"][0].toCompactText().section("\"Enable", 0, 0);
+          return b->written()["Rules"][0].toCompactText().section("\"Enable", 0, 0);
       }},
-     {"writes",
-      [](Bench& b, Step s) { return written(b).toStyledText().simplified().contains(text(s)); }}}};
+     {"writes", [](Bench& b, Step s) {
+          return b->written().toStyledText().simplified().contains(text(s));
+      }}}};
 
 const QHash<QString, SceneType> kScenes{{"Rules", SceneType::Rules},
                                         {"Lanes", SceneType::Lanes},
+                                        {"Global", SceneType::Global},
+                                        {"Detection", SceneType::Detection},
                                         {"CalibrateArea", SceneType::CalibrateArea}};
 
 /// A document of a fixture, which may be the name of one.
@@ -145,11 +324,6 @@ QByteArray document(const Value& value)
 {
     return value.isString() ? Fixtures::contentOf(value.asString())
                             : QByteArray::fromStdString(value.toStyledString());
-}
-
-QByteArray templateOf(const char* name)
-{
-    return Fixtures::contentOf(QString("templates/%1.json").arg(name));
 }
 
 } // namespace
@@ -165,97 +339,10 @@ private slots:
     void works()
     {
         QFETCH(const Value, fixture);
-        auto bench = std::make_unique<PanelBench>(
+        auto bench = std::make_unique<Panel>(
             document(fixture["template"]), document(fixture["config"]),
             kScenes[fixture["scene"].asString()], fixture["selectMode"].asBool());
         kScript.play(bench, fixture["steps"]);
-    }
-
-    void foldingMaskAndSelection()
-    {
-        PanelBench bench(templateOf("detection"), "{}", SceneType::Detection);
-        QVERIFY(!bench.isShown("actions"));
-        bench.click("fuc1");
-        bench.press({{100, 100}, {500, 100}, {500, 500}, {100, 500}});
-        bench.pressRight();
-        BaseTabelScene& panel = bench.panel();
-        QWidget* titleBar = bench.find("titleBar");
-        QWidget* mask = bench.find("mask");
-        const int openHeight = panel.height();
-
-        QTest::mouseClick(titleBar, Qt::LeftButton);
-        QVERIFY_BOTH(panel.getFold(), titleBar->property("bFold").toBool());
-        QCOMPARE(panel.height(), titleBar->height() + 2);
-        QVERIFY_BOTH(!bench.isShown("actions"), !mask->isVisible());
-        QTest::mouseClick(titleBar, Qt::LeftButton);
-        QCOMPARE(panel.height(), openHeight);
-        QVERIFY_BOTH(bench.isShown("actions"), bench.isShown("hint"));
-
-        panel.setSelected(false);
-        QVERIFY(mask->isVisible());
-        QCOMPARE(mask->geometry(), panel.rect());
-        QCOMPARE(panel.childAt(titleBar->geometry().center()), mask);
-        QSignalSpy wanted(&panel, &BaseTabelScene::sgnTrySelectedlScene);
-        QTest::mouseClick(mask, Qt::LeftButton, {}, titleBar->geometry().center());
-        QCOMPARE(wanted.count(), 1);
-        QVERIFY(!panel.getFold()); // the first press only selects
-        panel.setSelected(true);
-        QVERIFY(!mask->isVisible());
-        QCOMPARE(titleBar->property("selected"), QVariant(true));
-    }
-
-    void globalHasNoFiguresAndFocusSelectsIt()
-    {
-        PanelBench bench(templateOf("global"), "{}", SceneType::Global);
-        for (const char* name : {"ruleFucBar", "drawItems", "actions", "hint", "childFucBar"})
-            QVERIFY2(!bench.isShown(name), name);
-        bench.panel().setSelected(false);
-        bench.panel().setFold(true);
-        QSignalSpy wanted(&bench.panel(), &BaseTabelScene::sgnTrySelectedlScene);
-        auto* edit = bench.find("level")->findChild<QLineEdit*>();
-        QCOMPARE(edit->text(), QString("3"));
-        edit->setFocus(Qt::TabFocusReason);
-        QCOMPARE(wanted.count(), 1);
-        QVERIFY(!bench.panel().getFold());
-        bench.panel().setSelected(true);
-        bench.panel().setFold(true);
-        QVERIFY(!edit->hasFocus()); // nothing is typed into what cannot be seen
-        bench.panel().setFold(false);
-        edit->setFocus();
-        QVERIFY(edit->hasFocus());
-        delete &bench.panel(); // and the focus with it
-    }
-
-    void lettingGoKeepsNothing()
-    {
-        PanelBench bench(templateOf("rules"), templateOf("tworules"), SceneType::Rules);
-        bench.type("note", "lost");
-        bench.panel().setRuleData(nullptr);
-        QCOMPARE(bench.panel().findChildren<QWidget*>("note").size(), 0);
-        bench.panel().sltRedrawItem();
-        bench.panel().sltTabelRuleFucBtnClicked(1);
-        bench.panel().sltTabelAttrControlValueChange("note");
-        bench.panel().setRuleData(&bench.data());
-        QCOMPARE(bench.buttons(), QString("[Gate] Rule2"));
-        QCOMPARE(bench.panel().findChildren<QWidget*>("note").size(), 1);
-        QCOMPARE(bench.entry(0).value("note"), QVariant("n1"));
-    }
-
-    void tabFollowsTheRows()
-    {
-        PanelBench bench(templateOf("lanesofrules"), "{}", SceneType::Lanes);
-        for (const int x : {100, 300}) {
-            bench.click("fuc8");
-            bench.press({{x, 100}, {x, 500}, {x + 80, 100}, {x + 80, 500}});
-        }
-        bench.find("fuc8")->setFocus();
-        QStringList order;
-        for (int i = 0; i < 6; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            const QWidget* focused = QApplication::focusWidget();
-            order.append(focused->objectName().isEmpty() ? QString("-") : focused->objectName());
-        }
-        QCOMPARE(order.join(' '), QString("- - redraw delete fuc2 fuc2wait"));
     }
 
     void lanesOfAnyTemplate()
