@@ -6,10 +6,10 @@
 #include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
 #include "tabel/titlelabel.h"
-#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/ruleswindow.h"
 #include "tests/support/sampledocuments.h"
+#include "tests/support/script.h"
 
 #include <functional>
 
@@ -21,20 +21,13 @@ namespace
 {
 
 const QByteArray kChannel = R"("channalId": "C7")";
-const char kPrompt[] = "Prompt: The current operation may affect the already running task. "
-                       "Please confirm whether to modify it?";
-const char kFullBlock[] = R"(, "selectionMode": true, "algorithmType": 1, "algorithmCode": "X9",
-    "iPlayType": 3, "rtspUrl": "RTSP://host")";
-const QString kSaved = R"({"result": 0, "algorithmId": "crossing", "channalId": "C7",
-    "channelId": "C7", "algorithmType": %1, "algorithmCode": "%2", "channelAbilityPO": %3})";
-const char kExited[] = R"({"result": -1, "algorithmId": "crossing", "channalId": "C7",
-    "channelId": "C7", "algorithmType": 0, "algorithmCode": ""})";
-const char kExitPrompt[] = "Prompt: Do you want to exit the current configuration?";
 
 UICommonMdl::ChannelSources& sources()
 {
     return KQGUI::KQSingleton<UICommonMdl::ChannelSources>::Instance();
 }
+
+QStringList g_opened; ///< addresses that surfaces asked for
 
 /// What an operator does in the window, with a picture.
 struct Desk : RulesWindow {
@@ -44,7 +37,7 @@ struct Desk : RulesWindow {
         load(block(kChannel + more, config(rules)));
     }
 
-    BaseTabelScene* panel(const char* name) const { return find<BaseTabelScene>(name); }
+    BaseTabelScene* panel(const QByteArray& name) const { return find<BaseTabelScene>(name); }
     QRtspVideoWnd* picture() const { return find<QRtspVideoWnd>("playerWin"); }
     QRect pictureRect() const { return picture()->paneRect(0); }
     DrawScene* canvas() const { return panel("rules")->getDrawScene(); }
@@ -76,8 +69,105 @@ struct Desk : RulesWindow {
         grey.fill(Qt::gray);
         return image != grey;
     }
-    Value takeMessage() { return Mailbox::json(mailbox.take().value(0).p2.toString()); }
 };
+
+using Step = const Value&;
+
+QByteArray text(Step step, int position = 1)
+{
+    return step[position].asString().toUtf8();
+}
+
+QPoint pointOf(Step step, int position)
+{
+    return {step[position][0].asInt(), step[position][1].asInt()};
+}
+
+/// As they stand in an object's text.
+QByteArray members(const Value& object)
+{
+    return object.toCompactText().toUtf8().chopped(1).mid(1);
+}
+
+/// A template, by default the sample's, and a configuration or its rules, of which is told what
+/// is not as in the sample; with the members that a block has besides.
+void load(Desk& desk, Step step)
+{
+    const Value& given = step[1];
+    QByteArrayList rules;
+    for (int i = 0; i < given["rules"].size(); ++i)
+        rules.append(rule({}, ", " + members(given["rules"][i])));
+    const bool isWhole = given.isMember("config");
+    desk.load(
+        block(given.isMember("block") ? members(given["block"]) : kChannel,
+              isWhole ? Fixtures::document(given["config"]) : config(rules.join(',')),
+              given.isMember("template") ? Fixtures::document(given["template"]) : kTemplate));
+}
+
+void press(Desk& desk, Step step)
+{
+    const QHash<QByteArray, Qt::MouseButton> buttons{{"middle", Qt::MiddleButton},
+                                                     {"right", Qt::RightButton}};
+    QTest::mouseClick(desk.picture(), buttons.value(text(step, 2), Qt::LeftButton), {},
+                      desk.pictureRect().topLeft() + pointOf(step, 1));
+}
+
+/// The message that was posted; as it should be, whatever the order of its members.
+QString message(Desk& desk, Step step)
+{
+    const Value posted = Mailbox::json(desk.mailbox.take().value(0).p2.toString());
+    return posted == step[1] ? step[1].toStyledText() : posted.toStyledText();
+}
+
+/// What an operator, or a client, does; and what there is to see.
+const Script<Desk> kScript{
+    {{"load", load},
+     {"clear", [](Desk& d, Step) { d.window->clearData(); }},
+     // A second binding must not deliver anything twice.
+     {"bindAgain", [](Desk& d, Step) { d.window->setInterfaceSetManager(&d.manager); }},
+     {"answer",
+      [](Desk& d, Step s) {
+          d.boxes.setAnswer(text(s) == "Yes" ? QMessageBox::Yes : QMessageBox::No);
+      }},
+     {"click", [](Desk& d, Step s) { d.click(text(s)); }},
+     {"cancel", [](Desk& d, Step) { d.window->sltCancel(); }},
+     {"fold", [](Desk& d, Step s) { d.panel(text(s))->setFold(true); }},
+     {"select", [](Desk& d, Step s) { d.window->selectScene(d.panel(text(s))); }},
+     {"keys",
+      [](Desk& d, Step s) {
+          QTest::keyClicks(d.find(text(s))->findChild<QLineEdit*>(), text(s, 2));
+      }},
+     {"press", press},
+     {"move",
+      [](Desk& d, Step s) {
+          QTest::mouseMove(d.picture(), d.pictureRect().topLeft() + pointOf(s, 1));
+      }},
+     {"redraw",
+      [](Desk& d, Step) { d.canvas()->redrawItem(d.canvas()->getFirstDrawItem()->itemId()); }}},
+    {{"boxes", [](Desk& d, Step) { return d.boxes.takeBoxes(); }},
+     {"posted", [](Desk& d, Step) { return d.mailbox.takeHeads(); }},
+     {"message", message},
+     {"opened", [](Desk&, Step) { return std::exchange(g_opened, {}); }},
+     {"hasPicture", [](Desk& d, Step) { return !d.pictureRect().isEmpty(); }},
+     {"panels", [](Desk& d, Step) { return d.panels(); }},
+     {"text", [](Desk& d, Step s) { return d.find<QLabel>(text(s))->text(); }},
+     {"isEnabled", [](Desk& d, Step s) { return d.find(text(s))->isEnabled(); }},
+     {"isShown", [](Desk& d, Step s) { return d.find(text(s))->isVisible(); }},
+     {"isWholeInView",
+      [](Desk& d, Step s) {
+          const QWidget* shown = d.find(text(s));
+          return shown->visibleRegion().boundingRect() == shown->rect();
+      }},
+     {"is", [](Desk& d, Step s) { return d.find(text(s))->property(text(s, 2).constData()); }},
+     {"points", [](Desk& d, Step s) { return d.figure(s[1].asInt())->pointCount(); }},
+     {"isFinished", [](Desk& d, Step s) { return d.figure(s[1].asInt())->isFinished(); }},
+     {"endsNear",
+      [](Desk& d, Step s) {
+          const QPoint end = d.figure(s[1].asInt())->movePoint().value_or(QPoint());
+          return (end - pointOf(s, 2)).manhattanLength() <= 2;
+      }},
+     {"isUnfinished",
+      [](Desk& d, Step s) { return d.window->isDrawUnfinished(text(s), text(s, 2)); }}}};
 
 } // namespace
 
@@ -88,7 +178,7 @@ class TstController : public RulesTest
     void prepare() override
     {
         sources().addMaker([this](const QString& address, const auto&...) {
-            m_opened.append(address);
+            g_opened.append(address);
             return address.startsWith("grey:") ? std::make_unique<OnePicture>(m_size) : nullptr;
         });
     }
@@ -99,36 +189,19 @@ class TstController : public RulesTest
     {
         m_size = size;
         sources().setDefaultAddress(QString("grey:%1").arg(size.width()));
-        m_opened.clear();
+        g_opened.clear();
     }
 
     QSize m_size;
-    QStringList m_opened; ///< addresses that surfaces asked for
 
 private slots:
-    void readsParameterBlock()
+    void works_data() { Fixtures::addRows("windows"); }
+
+    void works()
     {
-        const auto check = [](const QByteArray& members, const char* code, const char* channel,
-                              bool isEditable = true) {
-            Desk desk;
-            desk.load(block(members, config(rule("Gate"))));
-            QCOMPARE(desk.find<QLabel>("lblChnCode")->text(), QString(code));
-            QCOMPARE(desk.find<QLabel>("lblChnName")->text(), QString("Gate 7"));
-            QCOMPARE(desk.find("wgtChannelInfo")->isEnabled(), isEditable);
-            QCOMPARE(desk.find("btnSave")->isVisible(), isEditable);
-            QCOMPARE(desk.find("btnCancel")->isVisible(), isEditable);
-            desk.window->sltCancel();
-            const Value exited = desk.takeMessage();
-            QCOMPARE(exited["channalId"].asString(), QString(channel));
-            QCOMPARE(exited["channelId"].asString(), QString(channel));
-        };
-        check(R"("channelId": "other", "channalId": "C7")", "C7", "C7");
-        check(R"("channelId": "other")", "other", "other");
-        check(R"("channelId": "other", "channalId": [1])", "", "");
-        check(kChannel + R"(, "channelSn": "SN1")", "SN1", "C7");
-        check(kChannel + R"(, "channelSn": "")", "", "C7");
-        check(kChannel + R"(, "editable": null)", "C7", "C7", false);
-        check(kChannel + R"(, "editable": false, "selectionMode": true)", "C7", "C7");
+        QFETCH(const Value, fixture);
+        Desk desk;
+        kScript.play(desk, fixture);
     }
 
     void refusedBlockLeavesNothing()
@@ -155,100 +228,11 @@ private slots:
         }
     }
 
-    void laterLoadStartsFromDefaults()
-    {
-        Desk desk;
-        const QString live = sources().address(QString("C7"));
-        const QString rtsp = "RTSP://host";
-        desk.load(rule("Gate"), kFullBlock);
-        QCOMPARE(desk.save(), QStringList());
-        const QByteArray typed = rule("Gate", R"(, "Config": {"Type": "X9"})");
-        QCOMPARE(desk.takeMessage(), Mailbox::json(kSaved.arg("1", "X9", config(typed))));
-
-        desk.load();
-        QCOMPARE(desk.save(), QStringList(kPrompt));
-        QCOMPARE(desk.takeMessage(), Mailbox::json(kSaved.arg("0", "", config(rule("Gate")))));
-        desk.load();
-        QCOMPARE(m_opened, QStringList({rtsp, live, live}));
-        desk.load(block(R"("channalId": "")", config(rule("Gate"))));
-        QCOMPARE(m_opened.size(), 3);
-        QVERIFY(desk.pictureRect().isEmpty());
-    }
-
-    void makesAPanelForEachScene()
-    {
-        Desk desk;
-        desk.load(block(kChannel, "{}", Fixtures::contentOf("templates/everyscene.json")));
-        QCOMPARE(desk.panels(),
-                 QString("[CalibrateAreaScene] FightCalibrateScene LanesScene RuleScene "
-                         "GlobalScene DetectionScene"));
-        for (const QByteArray& none : {kNoScenes, QByteArray("{}"), QByteArray("\"text\"")}) {
-            desk.load(block(kChannel, config(rule("Gate")), none));
-            QCOMPARE(desk.panels(), QString());
-        }
-    }
-
-    void routesTheMouse()
-    {
-        Desk desk;
-        // A second binding must not deliver anything twice.
-        desk.window->setInterfaceSetManager(&desk.manager);
-        const auto isUnfinished = [&desk](const char* channel = "C7", const char* algorithm = "") {
-            return desk.window->isDrawUnfinished(channel, algorithm);
-        };
-        desk.load();
-        desk.press({10, 10});
-        QVERIFY(!isUnfinished());
-        desk.click("addRule");
-        const BaseDraw* const drawn = desk.figure(1);
-        const auto isTold = [&desk] { return desk.picture()->property("drawing").toBool(); };
-        QVERIFY(isTold());
-        desk.press({10, 10}, Qt::MiddleButton);
-        QCOMPARE(drawn->pointCount(), 0);
-        desk.press({300, 100});
-        QCOMPARE(drawn->pointCount(), 1);
-        QVERIFY_BOTH(isUnfinished(), isUnfinished("other", "crossing"));
-        QVERIFY(!isUnfinished("other", "other"));
-        QTest::mouseMove(desk.picture(), desk.pictureRect().topLeft() + QPoint(350, 120));
-        const QPoint moved = drawn->movePoint().value_or(QPoint());
-        QVERIFY((moved - QPoint(350, 120)).manhattanLength() <= 2);
-
-        QCOMPARE(desk.save(), QStringList("Error: Please finish drawing Rule2."));
-        desk.press({400, 100});
-        desk.press({400, 200});
-        desk.press({0, 0}, Qt::RightButton);
-        QVERIFY_BOTH(drawn->isFinished(), isUnfinished());
-        QVERIFY(!isTold());
-        desk.click("btnSave");
-        QVERIFY(!isUnfinished());
-        // What was drawn before the save does not count for a press after it.
-        desk.press({10, 10});
-        QVERIFY(!isUnfinished());
-        desk.click("redraw");
-        QVERIFY(isTold());
-        desk.window->clearData();
-        QVERIFY(!isTold());
-    }
-
-    void selectionModeOnlySelects()
-    {
-        Desk desk;
-        desk.load(rule("Gate", R"(, "High": 0, "Enable": false)"), R"(, "selectionMode": true)");
-        QCOMPARE(desk.save(), QStringList("Error: Please select at least one rule"));
-        QCOMPARE(desk.mailbox.takeHeads(), QStringList());
-        desk.find<QAbstractButton>("enable")->click();
-        QCOMPARE(desk.save(), QStringList());
-        QCOMPARE(desk.mailbox.takeHeads(), QStringList("996 W1"));
-        desk.canvas()->redrawItem(desk.canvas()->getFirstDrawItem()->itemId());
-        desk.press({300, 100});
-        QCOMPARE(desk.figure(0)->pointCount(), 0);
-    }
-
     void canvasFollowsThePicture()
     {
         Desk desk;
         QSignalSpy sizes(desk.window, &CIntelligentRulesCtrl::sgnNotifyVideoSize);
-        desk.load(block(kChannel, "{}", kNoScenes));
+        desk.load(block(kChannel, "{}", R"({"configDescription": {}})"));
         QCoreApplication::sendPostedEvents();
         desk.window->resize(900, 500);
         desk.load();
@@ -274,82 +258,6 @@ private slots:
         QCOMPARE(desk.panels(), QString("RuleScene [GlobalScene]"));
         QCOMPARE(desk.panel("global")->getDrawScene()->canvasSize(), desk.pictureRect().size());
         QVERIFY(!desk.isPaintedOver());
-    }
-
-    void saveRefuses()
-    {
-        const auto check = [](const char* message, const QByteArray& config, bool isInRules) {
-            Desk desk;
-            desk.load(block(kChannel, config));
-            desk.panel("rules")->setFold(true);
-            desk.window->selectScene(desk.panel("global"));
-            QCOMPARE(desk.save(), QStringList(QString("Error: ") + message));
-            QCOMPARE(desk.panel("rules")->getSelected(), isInRules);
-            QCOMPARE(desk.panel("rules")->getFold(), !isInRules);
-            QCOMPARE(desk.mailbox.takeHeads(), QStringList());
-        };
-        check("Please add 1-3 Rule.", config(""), true);
-        check("Low must be less than to High", config(rule("A", R"(, "High": 2)")), true);
-        check("Duplicate rule name exists", config(rule("A") + "," + rule("A")), false);
-        check("Duplicate rule name exists", config(rule("Rule2") + "," + rule("")), false);
-        check("Span:The minimum value cannot be empty.", config(rule("A"), R"(["x", 5])"), false);
-    }
-
-    void asksBeforeItPosts()
-    {
-        Desk desk;
-        const auto answers = [&desk](const char* button, QMessageBox::StandardButton answer) {
-            desk.boxes.setAnswer(answer);
-            desk.click(button);
-            return desk.boxes.takeBoxes();
-        };
-        desk.load(rule("Gate") + ", " + rule("gate") + ", " + rule(""));
-        QCOMPARE(answers("btnCancel", QMessageBox::No), QStringList(kExitPrompt));
-        QCOMPARE(answers("btnSave", QMessageBox::No), QStringList(kPrompt));
-        QCOMPARE(desk.mailbox.takeHeads(), QStringList());
-        answers("btnSave", QMessageBox::Yes);
-        const QByteArray named = rule("Gate") + ", " + rule("gate") + ", " + rule("Rule3");
-        QCOMPARE(desk.takeMessage()["channelAbilityPO"], Mailbox::json(config(named)));
-        answers("btnCancel", QMessageBox::Yes);
-        QCOMPARE(desk.takeMessage(), Mailbox::json(kExited));
-
-        // Where nothing runs yet, nothing is asked.
-        desk.load(block(kChannel, "{}", kNoScenes));
-        QCOMPARE(answers("btnSave", QMessageBox::No), QStringList());
-        QCOMPARE(desk.mailbox.takeHeads(), QStringList("996 W1"));
-    }
-
-    void saysWhyNothingWasSaved()
-    {
-        struct Ending {
-            bool isSelecting; ///< and all panels are folded
-            std::function<void(Desk&)> end;
-        };
-        const auto pressPicture = [](Desk& desk) { desk.press({9, 9}); };
-        const auto type = [](Desk& desk) {
-            QTest::keyClicks(desk.find("level")->findChild<QLineEdit*>(), "7\r");
-        };
-        const Ending endings[] = {{false, [](Desk& desk) { desk.click("addRule"); }},
-                                  {false, pressPicture},
-                                  {false, type},
-                                  {true, [](Desk& desk) { desk.load(); }},
-                                  {true, [](Desk& desk) { desk.window->clearData(); }}};
-        for (const Ending& ending : endings) {
-            Desk desk;
-            const QByteArray selection = ending.isSelecting ? R"(, "selectionMode": true)" : "";
-            desk.load(block(kChannel + selection, config(rule("Gate")), kUnwritableTemplate));
-            auto* const hint = desk.find<QLabel>("lblHint");
-            QVERIFY(!hint->isVisible());
-            for (BaseTabelScene* panel : desk.window->findChildren<BaseTabelScene*>())
-                panel->setFold(ending.isSelecting);
-            desk.click("btnSave");
-            QCOMPARE(desk.mailbox.takeHeads(), QStringList());
-            QVERIFY_BOTH(hint->isVisible(), hint->visibleRegion().boundingRect() == hint->rect());
-            QCOMPARE(hint->text(), QString("Nothing was saved. The template has no "
-                                           "\"configTemplate\" to write into."));
-            ending.end(desk);
-            QVERIFY(!hint->isVisible());
-        }
     }
 
     /// However much there is to tell, Save stays where it is.

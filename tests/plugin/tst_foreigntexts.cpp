@@ -132,7 +132,8 @@ private slots:
     void hintShowsThem()
     {
         RulesWindow rules;
-        Value unwritable = Mailbox::json(SampleDocuments::kSections + R"(, "configTemplate": 5})");
+        Value unwritable = Mailbox::json(SampleDocuments::kTemplate);
+        unwritable["configTemplate"] = 5;
         unwritable["configDescription"]["ruleDescription"]["rules"]["parent"] = kText + "[]";
         unwritable["configDescription"]["ruleDescription"].removeMember("global");
         Value config(kql::Json::ValueType::Object);

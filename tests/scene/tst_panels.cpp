@@ -319,13 +319,6 @@ const QHash<QString, SceneType> kScenes{{"Rules", SceneType::Rules},
                                         {"Detection", SceneType::Detection},
                                         {"CalibrateArea", SceneType::CalibrateArea}};
 
-/// A document of a fixture, which may be the name of one.
-QByteArray document(const Value& value)
-{
-    return value.isString() ? Fixtures::contentOf(value.asString())
-                            : QByteArray::fromStdString(value.toStyledString());
-}
-
 } // namespace
 
 /// What an operator does in a panel, and what comes of it.
@@ -340,7 +333,7 @@ private slots:
     {
         QFETCH(const Value, fixture);
         auto bench = std::make_unique<Panel>(
-            document(fixture["template"]), document(fixture["config"]),
+            Fixtures::document(fixture["template"]), Fixtures::document(fixture["config"]),
             kScenes[fixture["scene"].asString()], fixture["selectMode"].asBool());
         kScript.play(bench, fixture["steps"]);
     }

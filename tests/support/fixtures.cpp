@@ -31,6 +31,11 @@ Value Fixtures::read(const QString& name)
     return document;
 }
 
+QByteArray Fixtures::document(const Value& value)
+{
+    return value.isString() ? contentOf(value.asString()) : value.toStyledText().toUtf8();
+}
+
 void Fixtures::addRows(const QString& name)
 {
     QStringList files{name};

@@ -14,6 +14,8 @@ namespace Fixtures
 QString path(const QString& name);
 QByteArray contentOf(const QString& name);
 kql::Json::Value read(const QString& name);
+/// The text of what a fixture has as a document, which may be the name of one.
+QByteArray document(const kql::Json::Value& value);
 
 /// For the data of a test function: adds the column "fixture" and a row for each case in the file
 /// @p name, or in all files of the folder @p name, under the name of the case.

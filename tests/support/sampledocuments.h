@@ -8,23 +8,18 @@ namespace SampleDocuments
 {
 
 inline const QByteArray kTemplate = Fixtures::contentOf(QStringLiteral("templates/sample.json"));
-inline const QByteArray kSections = kTemplate.left(kTemplate.indexOf(",\n  \"configTemplate\""));
-/// The sections without a document to write into.
-inline const QByteArray kUnwritableTemplate = kSections + "}";
-inline const QByteArray kNoScenes = R"({"configDescription": {}, "configTemplate": {}})";
-
-inline const QByteArray kArea = R"(, "Area": [[800, 800], [4000, 800], [4000, 4000]])";
 
 /// A complete rule; members in @p more come first in what is read.
 inline QByteArray rule(const QByteArray& name, const QByteArray& more = {})
 {
-    return R"({"Name": ")" + name + R"(", "Enable": true)" + kArea + R"(, "Low": 2, "High": 6)" +
+    return R"({"Name": ")" + name + R"(", "Enable": true, "Area": [[800, 800], [4000, 800],
+               [4000, 4000]], "Low": 2, "High": 6)" +
            more + "}";
 }
 
-inline QByteArray config(const QByteArray& rules, const QByteArray& span = "[1, 5]")
+inline QByteArray config(const QByteArray& rules)
 {
-    return R"({"Rules": [)" + rules + R"(], "Global": {"Span": )" + span + R"(, "Level": 4}})";
+    return R"({"Rules": [)" + rules + R"(], "Global": {"Span": [1, 5], "Level": 4}})";
 }
 
 /// @p members says which channel, and what else there is; it may repeat what the block has.
