@@ -1,8 +1,8 @@
 #include "host/api/rowcontract.h"
 #include "tabel/controltabel.h"
-#include "tests/support/fixtures.h"
 #include "tests/support/mailbox.h"
 #include "tests/support/rulestest.h"
+#include "tests/support/script.h"
 #include "tests/support/workbenchbench.h"
 #include "workbench/boxwatcher.h"
 #include "workbench/messagerecord.h"
@@ -33,58 +33,123 @@ public:
     }
 
     const Value& result() const { return m_result; }
-    QWidget* panel(const char* scene) { return finder().panel(QString::fromLatin1(scene)); }
-    QWidget* part(const char* scene, const char* name)
+    QWidget* panel(const QString& scene) { return finder().panel(scene); }
+    QWidget* part(const QString& scene, const QString& name)
     {
-        return finder().part(panel(scene), QString::fromLatin1(name));
+        return finder().part(panel(scene), name);
     }
-    QLineEdit* edit(const char* scene, const char* key, const char* name = "edit")
-    {
-        return part(scene, key)->findChild<QLineEdit*>(QString::fromLatin1(name));
-    }
-    QAbstractButton* option(const char* key, const char* value)
-    {
-        for (auto* button : part("rules", key)->findChildren<QAbstractButton*>()) {
-            if (button->property("value").toString() == QLatin1String(value))
-                return button;
-        }
-        return nullptr;
-    }
-    QAbstractButton* entry(int number, const char* scene = "rules")
-    {
-        return finder().entryButtons(panel(scene), false).value(number - 1);
-    }
-    void press(QWidget* widget)
-    {
-        QTest::mouseClick(widget, Qt::LeftButton, {}, {6, widget->height() / 2});
-    }
-    void draw(QPoint percent, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QTest::mouseClick(surface(), button, {}, at(percent));
-    }
+    QLineEdit* edit(const QString& key) { return part("global", key)->findChild<QLineEdit*>(); }
     QPoint at(QPoint percent)
     {
         const QRect picture = surface()->paneRect(0);
         return picture.topLeft() + QPoint((picture.width() - 1) * percent.x() / 100,
                                           (picture.height() - 1) * percent.y() / 100);
     }
-    void point(QPoint percent)
-    {
-        QMouseEvent move(QEvent::MouseMove, at(percent), Qt::NoButton, Qt::NoButton, {});
-        QApplication::sendEvent(surface(), &move);
-    }
-    void type(QLineEdit* edit, const QString& text)
-    {
-        press(edit);
-        edit->setFocus();
-        edit->selectAll();
-        for (const QChar c : text)
-            QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString(c), {});
-    }
 
 private:
     Value m_result;
 };
+
+using Step = const Value&;
+
+QString text(Step step, int position)
+{
+    return step[position].asString();
+}
+
+/// A button of the "window"; or of a section the button of the entry at a position, or the widget
+/// of a name, in which another one may be named or told by its value.
+QWidget* target(Bench& bench, Step place)
+{
+    if (text(place, 0) == "window")
+        return bench.button(qPrintable(text(place, 1)));
+    if (place[1].isNumeric())
+        return bench.finder().entryButtons(bench.panel(text(place, 0)), false)[place[1].asInt()];
+    QWidget* const part = bench.part(text(place, 0), text(place, 1));
+    for (auto* widget : part->findChildren<QWidget*>()) {
+        if (place.size() > 2 && (widget->objectName() == text(place, 2) ||
+                                 widget->property(RowContract::kOption) == text(place, 2)))
+            return widget;
+    }
+    return part;
+}
+
+void press(QWidget* widget)
+{
+    QTest::mouseClick(widget, Qt::LeftButton, {}, {6, widget->height() / 2});
+}
+
+void enable(Bench& bench, Step step)
+{
+    const auto* entry = qobject_cast<QAbstractButton*>(target(bench, step[1]));
+    press(bench.finder().enableBox(bench.panel(text(step[1], 0)), *entry));
+}
+
+void type(Bench& bench, Step step)
+{
+    auto* edit = qobject_cast<QLineEdit*>(target(bench, step[1]));
+    press(edit);
+    edit->setFocus();
+    edit->selectAll();
+    for (const QChar c : text(step, 2))
+        QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString(c), {});
+}
+
+void key(Bench& bench, Step step)
+{
+    QTest::keyClick(target(bench, step[1]), Qt::Key(int(QKeySequence(text(step, 2))[0])));
+}
+
+void tabTo(Bench& bench, Step step)
+{
+    const QWidget* edit = target(bench, step[1]);
+    for (int i = 0; i < 50 && !edit->hasFocus(); ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QVERIFY(edit->hasFocus());
+}
+
+void draw(Bench& bench, Step step)
+{
+    const QHash<QString, Qt::MouseButton> buttons{{"middle", Qt::MiddleButton},
+                                                  {"right", Qt::RightButton}};
+    for (const QPoint& percent : Fixtures::pointsOf(step[1]))
+        QTest::mouseClick(bench.surface(), buttons.value(text(step, 2), Qt::LeftButton), {},
+                          bench.at(percent));
+}
+
+void point(Bench& bench, Step step)
+{
+    for (const QPoint& percent : Fixtures::pointsOf(step[1])) {
+        QMouseEvent move(QEvent::MouseMove, bench.at(percent), Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(bench.surface(), &move);
+    }
+}
+
+/// The window becomes smaller, and the picture with it.
+void shrink(Bench& bench, Step step)
+{
+    const QRect picture = bench.surface()->paneRect(0);
+    bench.window().resize(Bench::kSize - Fixtures::valueOf(step[1]).toSize());
+    QTRY_VERIFY(bench.surface()->paneRect(0) != picture);
+}
+
+/// What an operator's hands do; places on the picture are told in percent.
+const Script<Bench> kHands{
+    {{"press", [](Bench& b, Step s) { press(target(b, s[1])); }},
+     {"enable", enable},
+     {"type", type},
+     {"key", key},
+     {"focus", [](Bench& b, Step s) { target(b, s[1])->setFocus(Qt::TabFocusReason); }},
+     {"tabTo", tabTo},
+     {"draw", draw},
+     {"point", point},
+     {"double",
+      [](Bench& b, Step s) {
+          const QPoint at = b.at(Fixtures::pointsOf(s[1])[0]);
+          QTest::mouseDClick(b.surface(), Qt::LeftButton, {}, at);
+      }},
+     {"shrink", shrink}},
+    {}};
 
 } // namespace
 
@@ -122,19 +187,6 @@ private:
         return text.split('\n', Qt::SkipEmptyParts).mid(1);
     }
 
-    void compareRecorded(const char* session)
-    {
-        const QByteArray text = Fixtures::contentOf(QString("sessions/%1.jsonl").arg(session));
-        compareRecorded(QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts));
-    }
-    void compareRecorded(const QStringList& expected)
-    {
-        const QStringList lines = recorded();
-        for (int i = 0; i < qMin(lines.size(), expected.size()); ++i)
-            QCOMPARE(lines[i], expected[i]);
-        QCOMPARE(lines.size(), expected.size());
-    }
-
     void compareReplayed(const WorkbenchOptions& options)
     {
         const auto box = [this] { return m_boxes ? m_boxes->lastText().value_or("") : QString(); };
@@ -149,98 +201,27 @@ private:
     }
 
 private slots:
-    void recordsRows()
-    {
-        QVERIFY(record(Bench::example(), "Yes"));
-        Bench& bench = *m_bench;
-        bench.press(bench.entry(2));
-        bench.type(bench.edit("rules", "ruleName"), "Ladehof大门");
-        bench.type(bench.edit("rules", "ruleSpeed"), "999");
-        QTest::keyClick(bench.edit("rules", "ruleSpeed"), Qt::Key_Return);
-        QTest::keyClick(bench.option("ruleObjects", "Human"), Qt::Key_Space);
-        bench.press(bench.option("ruleAction", "Stay"));
-        bench.type(bench.edit("rules", "ruleSize", "minimum"), "12");
-        bench.type(bench.edit("rules", "ruleSize", "maximum"), QString());
-        QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Backspace);
-        QTest::keyClick(bench.edit("rules", "ruleSize", "maximum"), Qt::Key_Return);
-        bench.type(bench.edit("rules", "ruleSize", "minimum"), "-3");
-        QTest::keyClick(bench.edit("rules", "ruleSize", "minimum"), Qt::Key_Return);
-        bench.type(bench.edit("rules", "ruleSize", "minimum"), "12");
-        QTest::keyClick(bench.edit("rules", "ruleSize", "minimum"), Qt::Key_Return);
-        // Refused when it is left, so there is nothing to record.
-        bench.type(bench.edit("rules", "ruleSize", "minimum"), "2147483648");
-        bench.type(bench.edit("rules", "ruleSize", "maximum"), "80");
-        bench.press(bench.part("rules", "ruleTrack")->findChild<QAbstractButton*>());
-        bench.type(bench.edit("rules", "ruleSize", "maximum"), "2");
-        bench.press(bench.part("global", "mask"));
-        bench.type(bench.edit("global", "globalSensitivity"), "3");
-        bench.press(bench.part("global", "titleBar"));
-        bench.press(bench.button("btnSave"));
-        compareRecorded("recordedrows");
-        compareReplayed(Bench::example());
-    }
+    void recordsHands_data() { Fixtures::addRows("hands.json"); }
 
-    void recordsDrawing()
+    /// Places on the picture depend on its size, and are not compared.
+    void recordsHands()
     {
-        QVERIFY(record(Bench::example(), "Yes"));
-        Bench& bench = *m_bench;
-        bench.press(bench.part("rules", "addRule"));
-        bench.point({10, 10});
-        bench.point({30, 20});
-        bench.draw({30, 20});
-        bench.draw({70, 20});
-        QTest::mouseClick(bench.surface(), Qt::MiddleButton, {}, bench.at({50, 50}));
-        bench.draw({70, 60});
-        QTest::mouseDClick(bench.surface(), Qt::LeftButton, {}, bench.at({70, 60}));
-        bench.draw({31, 70});
-        bench.draw({50, 50}, Qt::RightButton);
-        bench.draw({40, 40});
-        bench.draw({60, 50});
-        bench.point({100, 100});
-        const QRect picture = bench.surface()->paneRect(0);
-        bench.window().resize(Bench::kSize - QSize(40, 30));
-        QTRY_VERIFY_WITH_TIMEOUT(bench.surface()->paneRect(0) != picture, kTryFor);
-        bench.press(bench.part("rules", "redraw"));
-        bench.draw({20, 30});
-        bench.draw({60, 30});
-        bench.draw({60, 60});
-        bench.draw({20, 60}, Qt::RightButton);
-        bench.draw({30, 30});
-        bench.draw({50, 45});
-        bench.type(bench.edit("rules", "ruleSize", "minimum"), "5");
-        bench.type(bench.edit("rules", "ruleSize", "maximum"), "50");
-        bench.press(bench.button("btnSave"));
-        QStringList kinds;
+        QFETCH(const Value, fixture);
+        WorkbenchOptions options = Bench::example();
+        options.selectionMode = fixture["selectionMode"].asBool();
+        QVERIFY(record(options, "Yes"));
+        kHands.play(*m_bench, fixture["hands"]);
+        QStringList steps;
         for (const QString& line : recorded()) {
-            const Value step = Mailbox::json(line);
-            const Value& what = step[step.isMember("object") ? "object" : "do"];
-            kinds.append(what.asString());
+            Value step = Mailbox::json(line);
+            step.removeMember("at");
+            steps.append(step.toCompactText());
         }
-        QCOMPARE(kinds.join(' '),
-                 "addRule wait move press press double press press press press "
-                 "move size redraw press press press press press press set set save");
-        compareReplayed(Bench::example());
-    }
-
-    void recordsKeyboard()
-    {
-        QVERIFY(record(Bench::example(), "Yes"));
-        Bench& bench = *m_bench;
-        bench.edit("rules", "ruleName")->setFocus();
-        QLineEdit* edit = bench.edit("global", "globalSensitivity");
-        for (int i = 0; i < 50 && !edit->hasFocus(); ++i)
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QVERIFY(edit->hasFocus());
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_4);
-        QTest::keyClick(edit, Qt::Key_Return);
-        QAbstractButton* radio =
-            bench.part("global", "globalSurrounding")->findChildren<QAbstractButton*>().value(0);
-        radio->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(radio, Qt::Key_Down);
-        QTest::keyClick(bench.button("btnSave"), Qt::Key_Space);
-        compareRecorded("recordedkeyboard");
-        compareReplayed(Bench::example());
+        QStringList expected;
+        for (int i = 0; i < fixture["recorded"].size(); ++i)
+            expected.append(fixture["recorded"][i].toCompactText());
+        QCOMPARE(steps, expected);
+        compareReplayed(options);
     }
 
     void recordsExamples_data()
@@ -258,25 +239,12 @@ private slots:
         compareReplayed(Bench::example(name));
     }
 
-    void recordsSelectionMode()
-    {
-        WorkbenchOptions options = Bench::example();
-        options.selectionMode = true;
-        QVERIFY(record(options, "Yes"));
-        Bench& bench = *m_bench;
-        bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(2)));
-        bench.press(bench.finder().enableBox(bench.panel("rules"), *bench.entry(3)));
-        bench.press(bench.button("btnSave"));
-        compareRecorded("recordedselection");
-        compareReplayed(options);
-    }
-
     void recordsAnswersAndLoads()
     {
         QVERIFY(record(Bench::example(), "No"));
         Bench& bench = *m_bench;
         QAbstractButton* cancel = bench.button("btnCancel");
-        bench.press(cancel);
+        press(cancel);
         WorkbenchOptions other = Bench::example();
         other.algorithmType = 7;
         other.configFile.clear();
@@ -289,14 +257,14 @@ private slots:
         QApplication::sendEvent(add, &leave);
         QTest::mouseRelease(add, Qt::LeftButton, {}, {-50, -50});
         m_boxes->begin(QString("Yes"));
-        bench.press(cancel);
+        press(cancel);
         Value load(kql::Json::ValueType::Object);
         load["do"] = "load";
         load["template"] = other.templateFile;
         load["config"] = Value();
         load["type"] = 7;
-        compareRecorded({R"({"do":"cancel","answer":"No"})", load.toCompactText(),
-                         R"({"do":"cancel","answer":"Yes"})"});
+        QCOMPARE(recorded(), QStringList({R"({"do":"cancel","answer":"No"})", load.toCompactText(),
+                                          R"({"do":"cancel","answer":"Yes"})"}));
         compareReplayed(Bench::example());
     }
 
@@ -329,11 +297,10 @@ private slots:
         QVERIFY(record(Bench::example("perimeter"), nullptr));
         QApplication::setActiveWindow(nullptr);
         OperatorHand::click(m_bench->part("global", "mask"));
-        QLineEdit* edit = m_bench->edit("global", "globalMountHeight");
+        QLineEdit* edit = m_bench->edit("globalMountHeight");
         QCOMPARE(OperatorHand::type(edit, "12.5", false), QString());
         QVERIFY(edit->isModified());
-        QCOMPARE(OperatorHand::type(m_bench->edit("global", "globalSensitivity"), "4", false),
-                 QString());
+        QCOMPARE(OperatorHand::type(m_bench->edit("globalSensitivity"), "4", false), QString());
         QVERIFY(!edit->isModified());
         QCOMPARE(m_bench->part("global", "globalMountHeight")->property(RowContract::kValue),
                  QVariant(QString("12.5")));
