@@ -31,13 +31,42 @@ QString rules(const QString& members, const QString& configItems = QString("{}")
                        configItems);
 }
 
-/// One rules control with the key "a", of that value type and with these details.
-QString oneControl(const QString& type, const QString& details)
+/// Rules controls of the key "a", of these value types and with these details.
+QString controls(const QStringList& types, const QString& details)
 {
-    return rules(QStringLiteral(R"("parent": "R[]", "controls": [
-                     {"key": "a", "protocol": {"name": "A", "type": "%1"}}])")
-                     .arg(type),
-                 QStringLiteral(R"({"a": %1})").arg(details));
+    QStringList all;
+    for (const QString& type : types)
+        all.append(QString(R"({"key": "a", "protocol": {"name": "A", "type": "%1"}})").arg(type));
+    return rules(QString(R"("parent": "R[]", "controls": [%1])").arg(all.join(',')),
+                 QString(R"({"a": %1})").arg(details));
+}
+
+QString rangeText(CountRange range)
+{
+    return QString("%1..%2").arg(range.min).arg(
+        range.max == kAnyCount ? QString("any") : QString::number(range.max));
+}
+
+/// What an item was given beside its place.
+Value described(const RuleProtocolItem& item)
+{
+    Value found;
+    found["caption"] = item.caption();
+    found["units"] = item.units();
+    found["facade"] = int(item.facade());
+    found["range"] = item.rangeMinimum().toString() + ".." + item.rangeMaximum().toString();
+    found["default"] = item.defaultValue().toString();
+    found["hasAllChoice"] = item.hasAllChoice();
+    for (const EnumOption& option : item.enumeration())
+        found["options"].append(QString("%1=%2 %3%4")
+                                    .arg(option.text, option.value.simplified(), option.description,
+                                         option.isAll ? " (all)" : ""));
+    found["isFigure"] = item.isFigure();
+    found["figures"] = rangeText(item.countRange());
+    found["points"] = rangeText(item.pointCount());
+    const auto limits = item.figurePointLimits();
+    found["limits"] = limits ? rangeText(*limits) : QString("its kind's");
+    return found;
 }
 
 } // namespace
@@ -53,12 +82,6 @@ private:
         m_parser = std::make_unique<RuleParser>();
         return m_parser->parseTemplate(text) && m_parser->checkTemplate() ? m_parser->getData(type)
                                                                           : nullptr;
-    }
-
-    const RuleProtocolItem* parseItem(const QString& text)
-    {
-        const RuleData* const data = parse(text);
-        return data ? data->getTemplate()->findItem(QString("a")) : nullptr;
     }
 
     std::unique_ptr<RuleParser> m_parser;
@@ -143,92 +166,36 @@ private slots:
     void defaults()
     {
         QFETCH(const Value, fixture);
-        const RuleProtocolItem* const item =
-            parseItem(oneControl(fixture["type"].asString(), fixture["details"].toStyledText()));
-        QVERIFY(item);
-        QVERIFY(item->isControl());
+        RuleData* const data =
+            parse(controls({fixture["type"].asString()}, fixture["details"].toStyledText()));
+        QVERIFY(data->getTemplate()->findItem(QString("a"))->isControl());
         const QVariant expected = Fixtures::valueOf(fixture["default"]);
-        const QVariant found = m_parser->getData(SceneType::Rules)->newDataInfo()->value("a");
+        const QVariant found = data->newDataInfo()->value("a");
         QCOMPARE(found.userType(), expected.userType());
         QCOMPARE(found, expected);
     }
 
-    void details()
-    {
-        const RuleProtocolItem* item = parseItem(oneControl("int", R"({"describe": "Dwell",
-            "facade": "inputBoxNumber", "range": [1, 1e12], "units": "s", "enumeration": [{}]})"));
-        QCOMPARE(item->caption() + item->units(), QString("Dwells"));
-        QCOMPARE(item->rangeMinimum(), QVariant(1));
-        QCOMPARE(item->rangeMaximum(), QVariant(2147483647));
-        QVERIFY(item->enumeration().isEmpty());
-        item = parseItem(oneControl("int", R"({"facade": "inputBoxNumber", "range": null})"));
-        QVERIFY_BOTH(!item->rangeMinimum().isValid(), !item->rangeMaximum().isValid());
-        item = parseItem(oneControl("string", R"({"facade": "checkbox", "units": "s",
-            "enumeration": [{"name": "All", "value": "all", "isAll": true, "describe": "tip"},
-                            {"name": "Obj", "value": {"k": 1}}, {"name": "Num", "value": 5}]})"));
-        const QList<EnumOption>& options = item->enumeration();
-        QCOMPARE(options.size(), 3);
-        QVERIFY_BOTH(item->hasAllChoice(), options[0].isAll);
-        QVERIFY(!options[1].isAll);
-        QCOMPARE(options[0].text + options[0].value + options[0].description, QString("Allalltip"));
-        QCOMPARE(Mailbox::json(options[1].value), Mailbox::json(R"({"k": 1})"));
-        QCOMPARE(options[2].value + item->units(), QString());
-    }
+    void details_data() { Fixtures::addRows("details.json"); }
 
     /// Controls of one key have the same details; a default is of each one's own type.
-    void sharedDetails()
+    void details()
     {
-        const auto described = [](const RuleProtocolItem& item) {
-            const CountRange points = item.pointCount();
-            return QVariantList{item.caption(),
-                                int(item.facade()),
-                                item.units(),
-                                item.rangeMinimum(),
-                                item.rangeMaximum(),
-                                item.defaultValue(),
-                                item.hasAllChoice(),
-                                item.enumeration().size(),
-                                item.countRange().max,
-                                points.min,
-                                points.max};
-        };
-        for (const char* kind : {R"("inputBoxNumber", "range": [2, 9], "default": 4, "units": "s")",
-                                 R"("checkbox", "default": "x", "enumeration": [{"isAll": true}])",
-                                 R"("region", "range": [4, 7])"}) {
-            const QString control = R"({"key": "a", "protocol": {"type": "%1"}})";
-            const QString controls =
-                control.arg("int") + "," + control.arg("int") + "," + control.arg("string");
-            const RuleData* data =
-                parse(rules(R"("parent": "R", "controls": [)" + controls + "]",
-                            R"({"a": {"describe": "A", "facade": )" + QString(kind) + "}}"));
-            const auto& items = data->getTemplate()->items();
-            QVariantList expected = described(*items[0]);
-            QVERIFY_BOTH(expected.first() == "A", expected[1] != int(FacadeType::None));
-            QCOMPARE(described(*items[1]), expected);
-            if (items[0]->facade() == FacadeType::InputBoxNumber)
-                expected[5] = QString(); // no text
-            QCOMPARE(described(*items[2]), expected);
-        }
-    }
-
-    void figurePoints()
-    {
-        using Limits = std::optional<CountRange>;
-        const auto check = [this](const char* facade, const char* range, CountRange points,
-                                  const Limits& limits) {
-            const QString details =
-                QStringLiteral(R"({"facade": "%1", "range": %2})").arg(facade, range);
-            const RuleProtocolItem* const item = parseItem(oneControl("point", details));
-            QVERIFY2(item->isFigure(), facade);
-            QVERIFY2(item->countRange() == (CountRange{1, 1}), facade);
-            QVERIFY2(item->pointCount() == points, qPrintable(details));
-            QVERIFY2(item->figurePointLimits() == limits, qPrintable(details));
-        };
-        check("region", "null", {-1, -1}, CountRange{3, kAnyCount});
-        check("line", "4", {0, 0}, {});
-        check("line", "null", {-1, -1}, CountRange{2, kAnyCount});
-        check("line", "[2, 5]", {2, 5}, CountRange{2, 5});
-        check("rect", "null", {-1, -1}, {});
+        QFETCH(const Value, fixture);
+        const QString type = fixture["type"].asString();
+        const auto& items =
+            parse(controls({type, type, "string"}, fixture["details"].toStyledText()))
+                ->getTemplate()
+                ->items();
+        const Value found = described(*items[0]);
+        Value asked;
+        for (const QString& name : fixture["item"].memberNames())
+            asked[name.toStdString()] = found[name.toStdString()];
+        QCOMPARE(asked.toStyledText(), fixture["item"].toStyledText());
+        QCOMPARE(described(*items[1]).toStyledText(), found.toStyledText());
+        Value text = described(*items[2]);
+        QCOMPARE(text["default"].asString(), fixture["defaultOfText"].asString());
+        text["default"] = found["default"];
+        QCOMPARE(text.toStyledText(), found.toStyledText());
     }
 
     void lanesTakeRulesOver()
