@@ -128,14 +128,6 @@ QByteArray encoded(const char* format, const QSize& size)
     return bytes;
 }
 
-/// A BMP whose header claims @p width.
-QByteArray claiming(qint32 width)
-{
-    QByteArray bytes = encoded("bmp", {4, 4});
-    qToLittleEndian(width, bytes.data() + 18);
-    return bytes;
-}
-
 /// The path of a new file with that content.
 QString written(const QTemporaryDir& folder, const QByteArray& bytes)
 {
@@ -382,31 +374,6 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(surface.sizes.size(), 1,
                                   kTryFor); // the sample camera is the default
         QCOMPARE(surface.sizes.first(), QSize(1280, 720));
-    }
-
-    void refusesStillPictures()
-    {
-        const auto check = [](const QByteArray& bytes, const char* reason) {
-            const QTemporaryDir folder;
-            const QString path = written(folder, bytes);
-            for (const QString& address : {path, folder.path(), path + 'x'}) {
-                const auto source = sources().makeSource(address);
-                source->start();
-                QTRY_COMPARE_WITH_TIMEOUT(source->status().state, PictureState::NoSignal, kTryFor);
-                const QString told = source->status().reason;
-                QVERIFY(!told.isEmpty());
-                QVERIFY2(address != path || told.contains(QLatin1String(reason)), qPrintable(told));
-                QVERIFY_BOTH(source->picture().isNull(), source->pictureSize().isEmpty());
-            }
-        };
-        check("", "is not a picture");
-        check("not a picture", "is not a picture");
-        check(encoded("png", {300, 300}).left(40), "is damaged");
-        check(claiming(16385), "16385 x 4");
-        check(claiming(0), "");
-        for (const QByteArray& unknown :
-             {QByteArray("RIFF\x1a\0\0\0WEBPVP8 ", 16), QByteArray("II*\0\x08\0\0\0", 8)})
-            check(unknown, "of a kind that is not supported");
     }
 
     /// The file's thread scales it, and again when another size is asked for.

@@ -263,23 +263,28 @@ private slots:
     void tellsWhyNothingComes()
     {
         QFETCH(const Value, fixture);
-        const bool isFile = fixture.isMember("file");
         const auto text = [&](const char* name) { return fixture[name].asString(); };
         const HostileCamera web(&asWebServer);
         std::optional<Server> camera;
-        if (!isFile)
-            camera.emplace(serverOf(fixture));
-        const QString path = fixture.isMember("path") ? text("path") : "bars";
-        StreamSource source(isFile ? request(text("scheme") + video(text("file")), true)
-                                   : vainRequest(fixture["web"].asBool()
-                                                     ? web.address(text("user"))
-                                                     : camera->address(text("user"), path)));
-        source.start();
-        QTRY_COMPARE_WITH_TIMEOUT(source.status().state, PictureState::NoSignal, kTryFor);
-        const PictureStatus status = source.status();
+        std::unique_ptr<PictureSource> source;
+        if (fixture.isMember("address")) {
+            source = channelSources().makeSource(text("address"));
+        } else if (fixture.isMember("file")) {
+            source = channelSources().makeSource(text("scheme") + Fixtures::path(text("file")));
+        } else {
+            const QString path = fixture.isMember("path") ? text("path") : "bars";
+            source = std::make_unique<StreamSource>(
+                vainRequest(fixture["web"].asBool()
+                                ? web.address(text("user"))
+                                : camera.emplace(serverOf(fixture)).address(text("user"), path)));
+        }
+        source->start();
+        QTRY_COMPARE_WITH_TIMEOUT(source->status().state, PictureState::NoSignal, kTryFor);
+        const PictureStatus status = source->status();
         QVERIFY2(status.reason.contains(text("reason")), qPrintable(status.reason));
-        QVERIFY_BOTH(!status.reason.isEmpty(), !status.lastPicture.isValid());
-        QVERIFY_BOTH(source.picture().isNull(), source.pictureSize().isEmpty());
+        QVERIFY_BOTH(!status.reason.isEmpty(), !status.reason.contains("s3cr3t"));
+        QVERIFY(!status.lastPicture.isValid());
+        QVERIFY_BOTH(source->picture().isNull(), source->pictureSize().isEmpty());
     }
 
     /// However large they are, and although a longer time lies between them than is usual.
@@ -516,18 +521,6 @@ private slots:
         QCoreApplication::processEvents();
         QVERIFY(ready.count() <= taken + 2);
         QVERIFY(source.statistics().dropped >= before + 5);
-    }
-
-    void refusesOtherAddresses()
-    {
-        for (const char* scheme : {"http", "rtmp", "concat", "rtspx", ""}) {
-            const auto source = channelSources().makeSource(QLatin1String(scheme) +
-                                                            QString("://user:s3cr3t@host/path"));
-            source->start();
-            QCOMPARE(source->status().state, PictureState::NoSignal);
-            QVERIFY(source->status().reason.contains("://***@host/path"));
-            QVERIFY(!source->status().reason.contains("s3cr3t"));
-        }
     }
 
     /// A camera may send its client to another address, but never to a file or another protocol.
