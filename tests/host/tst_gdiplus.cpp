@@ -1,12 +1,13 @@
 #include "host/gdiplus.h"
 
+#include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 
-#include <array>
 #include <functional>
-#include <limits>
+#include <vector>
 
 using namespace Gdiplus;
+using kql::Json::Value;
 
 namespace
 {
@@ -35,15 +36,6 @@ QRegion ink(const QImage& image)
     return QBitmap::fromImage(image.createMaskFromColor(qRgb(255, 255, 255), Qt::MaskInColor));
 }
 
-void addSquare(GraphicsPath& path, int left, int top, int size, bool clockwise)
-{
-    const int right = left + size;
-    const int bottom = top + size;
-    const Point forward[] = {{left, top}, {right, top}, {right, bottom}, {left, bottom}};
-    const Point backward[] = {{left, top}, {left, bottom}, {right, bottom}, {right, top}};
-    path.AddPolygon(clockwise ? forward : backward, 4);
-}
-
 } // namespace
 
 class TstGdiplus : public RulesTest
@@ -51,48 +43,27 @@ class TstGdiplus : public RulesTest
     Q_OBJECT
 
 private slots:
+    void visiblePoints_data() { Fixtures::addRows("visible.json"); }
+
     void visiblePoints()
     {
-        using Points = QVector<QPoint>;
-        const auto hole = [](GraphicsPath& p) {
-            p.AddRectangle(Rect(0, 0, 50, 50));
-            addSquare(p, 10, 10, 10, true);
-        };
-        const auto opposed = [](GraphicsPath& p) {
-            addSquare(p, 0, 0, 20, true);
-            addSquare(p, 10, 10, 20, false);
-        };
-        const auto polygon = [](const std::array<Point, 4>& points) {
-            return [points](GraphicsPath& p) { p.AddPolygon(points.data(), 4); };
-        };
-        constexpr int kFar = std::numeric_limits<int>::max() / 2;
-        const auto check = [](const char* name, FillMode mode,
-                              const std::function<void(GraphicsPath&)>& build, const Points& in,
-                              const Points& out) {
-            GraphicsPath path(mode);
-            build(path);
-            for (const QPoint& p : in)
-                QVERIFY2(path.IsVisible(p.x(), p.y()), name);
-            for (const QPoint& p : out)
-                QVERIFY2(!path.IsVisible(p.x(), p.y()), name);
-        };
-        check("rectangle", FillModeAlternate,
-              [](GraphicsPath& p) { p.AddRectangle(Rect(10, 10, 20, 20)); },
-              {{10, 10}, {29, 10}, {10, 29}, {29, 29}},
-              {{9, 10}, {10, 9}, {30, 10}, {10, 30}, {30, 30}});
-        check("slanted edges", FillModeAlternate, polygon({{{20, 0}, {40, 20}, {20, 40}, {0, 20}}}),
-              {{0, 20}, {10, 10}, {10, 30}, {5, 15}, {29, 10}, {39, 20}, {20, 39}},
-              {{30, 10}, {30, 30}, {40, 20}, {20, 40}, {9, 10}, {9, 30}, {20, 0}});
-        check("hole is the complement", FillModeAlternate, hole,
-              {{0, 0}, {9, 15}, {20, 15}, {15, 20}, {49, 49}},
-              {{10, 10}, {19, 19}, {50, 5}, {-1, 5}});
-        check("winding has no hole of like direction", FillModeWinding, hole, {{10, 10}, {15, 15}},
-              {});
-        check("winding cancels opposite directions", FillModeWinding, opposed,
-              {{5, 5}, {25, 25}, {20, 20}}, {{10, 10}, {15, 15}, {19, 19}});
-        check("far away", FillModeAlternate,
-              polygon({{{-kFar, -kFar}, {kFar, -kFar}, {kFar, kFar}, {-kFar, kFar}}}),
-              {{-kFar, -kFar}, {0, 0}, {kFar - 1, 0}}, {{kFar, 0}, {-kFar - 1, 0}, {0, kFar}});
+        QFETCH(const Value, fixture);
+        GraphicsPath path(fixture["isWinding"].asBool() ? FillModeWinding : FillModeAlternate);
+        for (int i = 0; i < fixture["rectangles"].size(); ++i) {
+            const Value& box = fixture["rectangles"][i];
+            path.AddRectangle(Rect(box[0].asInt(), box[1].asInt(), box[2].asInt(), box[3].asInt()));
+        }
+        for (int i = 0; i < fixture["polygons"].size(); ++i) {
+            std::vector<Point> corners;
+            for (const QPoint& corner : Fixtures::pointsOf(fixture["polygons"][i]))
+                corners.emplace_back(corner.x(), corner.y());
+            path.AddPolygon(corners.data(), int(corners.size()));
+        }
+        for (const char* side : {"inside", "outside"}) {
+            for (const QPoint& p : Fixtures::pointsOf(fixture[side]))
+                QVERIFY2(path.IsVisible(p.x(), p.y()) == (*side == 'i'),
+                         qPrintable(QString("%1 %2,%3").arg(side).arg(p.x()).arg(p.y())));
+        }
     }
 
     void pixels()
@@ -117,7 +88,7 @@ private slots:
         check("path with a hole", {0, 0, 64, 64}, {10, 10, 20, 20}, [this](Graphics& g) {
             GraphicsPath path;
             path.AddRectangle(Rect(0, 0, 64, 64));
-            addSquare(path, 10, 10, 20, true);
+            path.AddRectangle(Rect(10, 10, 20, 20));
             g.FillPath(&m_brush, &path);
         });
         check("each turn works in the coordinates of those before", {29, 25, 2, 20}, {},
