@@ -79,6 +79,9 @@ QString points(Bench& bench, Step step)
 const Script<Bench> kScript{
     {{"add", [](Bench& b, Step s) { b.add(s[1].asString(), kKinds[s[2].asString()], s[3]); }},
      {"select", [](Bench& b, Step s) { b.select(s[1].asString()); }},
+     {"byEntry", [](Bench& b, Step) { b.scene.setDrawByDataId(true); }},
+     {"selectOf",
+      [](Bench& b, Step s) { b.scene.setSelected(b.id(s[2].asString()), s[1].asInt()); }},
      {"press", [](Bench& b, Step s) { b.press(Fixtures::pointsOf(s[1])); }},
      {"pressRight",
       [](Bench& b, Step) {
@@ -91,6 +94,8 @@ const Script<Bench> kScript{
     {{"message", [](Bench& b, Step) { return b.scene.message(); }},
      {"changes", [](Bench& b, Step) { return b.changes.count(); }},
      {"selected", [](Bench& b, Step) { return b.items.key(b.scene.selectedItem(-1)); }},
+     {"selectedOf",
+      [](Bench& b, Step s) { return b.items.key(b.scene.selectedItem(s[1].asInt())); }},
      {"isForbidden", [](Bench& b, Step s) { return b.scene.isPointForbidden(point(s)); }},
      {"isFinished", [](Bench& b, Step s) { return itemOf(b, s).isFinished(); }},
      {"points", points},
@@ -146,20 +151,6 @@ private slots:
         QFETCH(const Value, fixture);
         Bench bench;
         kScript.play(bench, fixture);
-    }
-
-    void selectsByEntryWhenAsked()
-    {
-        Bench bench;
-        bench.add("first", BaseDrawType::Rectangle);
-        bench.add("second", BaseDrawType::Rectangle);
-        bench.items["second"]->setDataId(2);
-        bench.scene.setDrawByDataId(true);
-        bench.scene.setSelected(bench.id("first"), 2);
-        QVERIFY(!bench.scene.selectedItem(-1));
-        bench.scene.setSelected(bench.id("second"), 2);
-        QCOMPARE(bench.scene.selectedItem(2), bench.items["second"]);
-        QVERIFY(!bench.scene.selectedItem(1));
     }
 
     void paintsShadeFiguresAndHint()
