@@ -59,6 +59,12 @@ std::unique_ptr<Gdiplus::GraphicsPath> BaseDraw::getForbidenArea() const
     return nullptr;
 }
 
+int BaseDraw::clicksNeeded() const
+{
+    const Figure drawn = figure();
+    return std::max(0, drawn.pointLimits().minimum - drawn.pointCount());
+}
+
 void BaseDraw::getPoints(QVector<QPoint>& points) const
 {
     points += figure().points();

@@ -38,6 +38,8 @@ public:
     virtual void setMovePoint(int x, int y);
     /// Paints the figure; nothing while it has fewer than two points, the moving one included.
     virtual void draw(Gdiplus::Graphics* graphics);
+    /// How many more clicks the figure needs before it can be finished.
+    virtual int clicksNeeded() const;
     virtual bool isPointCountValid() const { return figure().isPointCountValid(); }
     /// The area in canvas pixels in which this figure's own next points, or figures inside it,
     /// may not fall; null when there is none.

@@ -332,9 +332,15 @@ DrawItem* DrawScene::findSelected(int dataId) const
 void DrawScene::pressLeft(DrawItem& item, const QPoint& point)
 {
     BaseDraw* figure = item.figure();
-    if (figure->isFinished() || isPointForbidden(point))
+    if (figure->isFinished())
         return;
+    if (isPointForbidden(point)) {
+        m_refusal = Refusal::Forbidden;
+        return;
+    }
+    const int before = figure->pointCount();
     figure->addPoint(point.x(), point.y());
+    m_refusal = figure->pointCount() == before ? Refusal::Crossing : Refusal::None;
     if (figure->isFinished()) {
         finishDrawing(item);
     } else if (item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
@@ -353,6 +359,7 @@ void DrawScene::finishDrawing(const DrawItem& item)
 /// A figure that forbids itself an area does so from its first points on.
 void DrawScene::calcDrawForbidenArea(const DrawItem* item)
 {
+    m_refusal = Refusal::None;
     const bool isOwn = item && item->forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
                        item->figure();
     if (isOwn)

@@ -88,6 +88,15 @@ public:
     /// Frees what is kept for the next draw(), which then paints everything anew.
     void dropPainting();
 
+    /// Why the last left press added no point.
+    enum class Refusal {
+        None,
+        Crossing, ///< a line would cross another one of the figure
+        Forbidden ///< it lies where the figure may not
+    };
+    /// None again once a point was taken, and for another figure.
+    Refusal refusal() const { return m_refusal; }
+
     /// The hint shown in the middle of the canvas; empty for none.
     const QString& message() const { return m_message; }
     bool isPointForbidden(const QPoint& point) const;
@@ -126,6 +135,7 @@ private:
     std::vector<std::unique_ptr<DrawItem>> m_roots; ///< the items without a parent
     QSize m_canvasSize{0, 0};
     QString m_message;
+    Refusal m_refusal = Refusal::None;
     std::unique_ptr<ForbidenArea> m_forbidenArea; ///< null: no point is forbidden
     const DrawItem* m_forbidenFor = nullptr;      ///< whose standing area it is; not owned
     quint64 m_forbidenRevision = 0;               ///< another one whenever the area is another

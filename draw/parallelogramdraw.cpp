@@ -4,6 +4,12 @@
 #include "draw/drawgeometry.h"
 #include "draw/figurepainter.h"
 
+/// The last click adds two corners.
+int ParallelogramDraw::clicksNeeded() const
+{
+    return qMax(0, BaseDraw::clicksNeeded() - 1);
+}
+
 QVector<QPoint> ParallelogramDraw::clicked(const CanvasFigure& drawn,
                                            const QPoint& canvasPoint) const
 {

@@ -11,6 +11,8 @@ class ParallelogramDraw final : public BaseDraw
 public:
     using BaseDraw::BaseDraw;
 
+    int clicksNeeded() const override;
+
 protected:
     QVector<QPoint> clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const override;
     void paint(const FigurePainter& painter, const CanvasFigure& shown) const override;

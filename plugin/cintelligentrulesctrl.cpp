@@ -22,6 +22,7 @@
 #include "ui_IntelligentRulesCtrl.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -417,6 +418,12 @@ void CIntelligentRulesCtrl::sceneChanged()
 {
     m_editing->history().note();
     showSteps();
+    for (BaseTabelScene* panel : qAsConst(m_scenes))
+        panel->showHint();
+    const bool isDrawing = m_drawScene && m_drawScene->isDrawing();
+    if (isDrawing && !m_wasDrawing)
+        QMetaObject::invokeMethod(this, &CIntelligentRulesCtrl::focusDrawing, Qt::QueuedConnection);
+    m_wasDrawing = isDrawing;
     showHint({});
     showNotices();
     repaintPicture();
@@ -647,12 +654,9 @@ bool CIntelligentRulesCtrl::event(QEvent* event)
 void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
 {
     const EditKey key = editKeyOf(*event);
-    if (!isEditable() || !m_editing->claims(key)) {
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    event->accept();
-    if (!m_editing->isUseful(key))
+    const bool isClaimed = isEditable() && m_editing->claims(key);
+    event->setAccepted(isClaimed);
+    if (!isEditable() || !m_editing->isUseful(key) || !(isClaimed || key == EditKey::Idle))
         return;
     const LoadGuard guard(this);
     if (!finishEdits())
@@ -666,6 +670,8 @@ void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
 void CIntelligentRulesCtrl::useKey(EditKey key)
 {
     const LoadGuard guard(this);
+    if (key == EditKey::Help)
+        return showKeys();
     if (!finishEdits())
         return;
     // Rows and buttons that have the focus may be about to go.
@@ -674,9 +680,31 @@ void CIntelligentRulesCtrl::useKey(EditKey key)
     if (!guard.holds() || !isEditable())
         return;
     m_editing->use(key);
-    if (m_drawScene && key != EditKey::Undo && key != EditKey::Redo)
+    const bool draws = key == EditKey::TakeBack || key == EditKey::Finish || key == EditKey::Leave;
+    if (m_drawScene && draws)
         m_drawScene->SetDrawOver(false);
     sceneChanged();
+}
+
+/// Keys that take points back are for the picture then, not for the button that began the drawing.
+void CIntelligentRulesCtrl::focusDrawing()
+{
+    const QWidget* focused = QApplication::focusWidget();
+    const bool isInRow = qobject_cast<const QLineEdit*>(focused);
+    if (m_wasDrawing && m_playerWin && isVisible() && isAncestorOf(focused) && !isInRow)
+        m_playerWin->setFocus();
+}
+
+void CIntelligentRulesCtrl::showKeys()
+{
+    const QStringList keys{
+        tr("Backspace: take the last point back"),
+        tr("Enter: finish the figure"),
+        tr("Escape: take all points back, then leave the drawing"),
+        tr("Ctrl+Z: undo"),
+        tr("Ctrl+Y, Ctrl+Shift+Z: redo"),
+    };
+    KQGUI::KQMessageBox::ShowNotice(this, tr("Keys"), keys.join(QLatin1Char('\n')));
 }
 
 void CIntelligentRulesCtrl::sltRowEdited(const QString& key)
@@ -698,7 +726,7 @@ void CIntelligentRulesCtrl::showSteps()
     m_form->btnUndo->setEnabled(steps.canUndo());
     m_form->btnRedo->setEnabled(steps.canRedo());
     const QString undone = tr("Undo: %1 (Ctrl+Z)").arg(steps.undoText());
-    const QString redone = tr("Do again: %1 (Ctrl+Y)").arg(steps.redoText());
+    const QString redone = tr("Redo: %1 (Ctrl+Y)").arg(steps.redoText());
     m_form->btnUndo->setToolTip(steps.canUndo() ? PlainText::toolTip(undone) : QString());
     m_form->btnRedo->setToolTip(steps.canRedo() ? PlainText::toolTip(redone) : QString());
 }

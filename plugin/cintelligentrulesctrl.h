@@ -132,6 +132,8 @@ private:
     void connectEditing();
     /// Ends edits, gives the picture the focus, and does what the key is for.
     void useKey(EditKey key);
+    void showKeys();
+    void focusDrawing();
     bool isEditable() const;
     /// Save and what stands beside it; not there in a read-only window.
     QList<QWidget*> answerButtons() const;
@@ -152,6 +154,7 @@ private:
     std::atomic<int> m_videoHeight{0};
     QRect m_videoRect; ///< the picture inside playerWin, widget pixels
     bool m_rtspOpened = false;
+    bool m_wasDrawing = false;
     bool m_isFocusDue = false; ///< a load's focus waits until the window is shown
     int m_loadNumber = 0;      ///< tells loads apart where the host could act in between
 };

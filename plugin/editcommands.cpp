@@ -27,6 +27,7 @@ bool EditCommands::claims(EditKey key) const
         return false;
     case EditKey::Undo:
     case EditKey::Redo:
+    case EditKey::Help:
         return isUseful(key);
     default:
         return isDrawing();
@@ -40,6 +41,10 @@ bool EditCommands::isUseful(EditKey key) const
         return m_history.stack().canUndo();
     case EditKey::Redo:
         return m_history.stack().canRedo();
+    case EditKey::Help:
+        return m_panel;
+    case EditKey::Idle:
+        return m_history.mayMerge();
     case EditKey::TakeBack:
         return pointsInHand() > 0;
     case EditKey::Finish:
@@ -60,6 +65,9 @@ void EditCommands::use(EditKey key)
         break;
     case EditKey::Redo:
         m_history.redo();
+        break;
+    case EditKey::Idle:
+        m_history.endMerging();
         break;
     case EditKey::TakeBack:
         m_panel->getDrawScene()->takeBackPoint();

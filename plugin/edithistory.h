@@ -36,6 +36,9 @@ public:
     void note(const QString& row = {});
     /// What is edited now is what was saved.
     void setSaved();
+    /// Whether the next edit could become one step with the last.
+    bool mayMerge() const { return m_mayMerge; }
+    void endMerging() { m_mayMerge = false; }
 
     void undo();
     void redo();

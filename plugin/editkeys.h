@@ -14,7 +14,8 @@ enum class EditKey {
     Leave,    ///< the points, or the drawing
     Undo,
     Redo,
-    Idle ///< nothing yet, but the client must not get it while something is drawn
+    Help, ///< says what the keys do
+    Idle  ///< ends a series of edits that are one step
 };
 
 EditKey editKeyOf(const QKeyEvent& event);

@@ -13,6 +13,7 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "host/api/rowcontract.h"
+#include "scene/drawinghint.h"
 #include "scene/entrybuttons.h"
 #include "scene/entryrows.h"
 #include "scene/scenefigures.h"
@@ -563,4 +564,9 @@ void BaseTabelScene::tabelAttrControlValueChange(const QString& key)
 bool BaseTabelScene::hasCurrentEntry() const
 {
     return m_data && m_data->selectedDataInfo();
+}
+
+QString BaseTabelScene::hintText() const
+{
+    return isBound() ? DrawingHint::of(*getDrawScene()) : QString();
 }

@@ -80,6 +80,7 @@ signals:
 
 protected:
     bool hasCurrentEntry() const override;
+    QString hintText() const override;
     virtual void refreshTabelDrawItem();
     virtual void refreshChildTabelDrawItem();
     virtual void tabelAttrControlValueChange(const QString& key);

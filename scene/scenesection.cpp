@@ -76,8 +76,14 @@ void SceneSection::setFold(bool folded)
     updateMask();
 }
 
+void SceneSection::showHint()
+{
+    m_widgets.hint->setTitle(hintText());
+}
+
 void SceneSection::updateContentWidgets()
 {
+    showHint();
     const bool shown = !m_folded && !m_selectMode && !m_widgets.drawItems->isEmpty();
     m_widgets.actions->setVisible(shown);
     m_widgets.hint->setVisible(shown);

@@ -31,6 +31,8 @@ public:
     bool getFold() const { return m_folded; }
     /// Commits an edit in progress, or restores the old value where its text is refused.
     void finishEdits();
+    /// Says again what works for the figure that is being drawn.
+    void showHint();
 
 signals:
     /// The operator wants to work on this section.
@@ -43,6 +45,8 @@ protected:
 
     /// Shows what the section's contents call for, and lays it out.
     virtual void checkLayout();
+    /// What to say under the entries.
+    virtual QString hintText() const = 0;
     /// Whether there is an entry whose attributes can be shown.
     virtual bool hasCurrentEntry() const = 0;
 

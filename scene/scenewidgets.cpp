@@ -42,7 +42,6 @@ SceneWidgets::SceneWidgets(WidgetTabel* panel)
     controls->setPaddingTop(kMargin);
     mask->setAttribute(Qt::WA_StyledBackground);
     mask->hide();
-    hint->setTitle(tr("Left click adds a point, right click finishes."));
     hint->setFixedHeight(kHintHeight);
     fillPanel(panel);
 }

@@ -113,6 +113,33 @@
     </message>
 </context>
 <context>
+    <name>DrawingHint</name>
+    <message>
+        <source>Redraw draws anew, Ctrl+Z takes back.</source>
+        <translation>Neu zeichnen beginnt neu, Strg+Z nimmt zurück.</translation>
+    </message>
+    <message>
+        <source>Refused: lines would cross.</source>
+        <translation>Abgelehnt: Linien würden sich kreuzen.</translation>
+    </message>
+    <message>
+        <source>Refused: the shaded area is not for it.</source>
+        <translation>Abgelehnt: nicht in der schattierten Fläche.</translation>
+    </message>
+    <message>
+        <source>Right click or Enter finishes.</source>
+        <translation>Rechtsklick oder Eingabe schließt ab.</translation>
+    </message>
+    <message>
+        <source>Left click adds a point. Still needed: %1.</source>
+        <translation>Linksklick setzt Punkte. Noch nötig: %1.</translation>
+    </message>
+    <message>
+        <source>Still needed: %1. Backspace takes one back.</source>
+        <translation>Noch nötig: %1. Rücktaste nimmt einen zurück.</translation>
+    </message>
+</context>
+<context>
     <name>FightCalibrateScene</name>
     <message>
         <source>Calibrate area</source>
@@ -171,6 +198,14 @@
         <source>Cancel</source>
         <translation>Zurück</translation>
     </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesCtrl</name>
@@ -210,6 +245,38 @@
         <source>The configuration is too long.</source>
         <translation>Die Konfiguration ist zu lang.</translation>
     </message>
+    <message>
+        <source>Undo: %1 (Ctrl+Z)</source>
+        <translation>Rückgängig: %1 (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Redo: %1 (Ctrl+Y)</source>
+        <translation>Wiederholen: %1 (Strg+Y)</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Backspace: take the last point back</source>
+        <translation>Rücktaste: letzten Punkt zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Enter: finish the figure</source>
+        <translation>Eingabe: Figur abschließen</translation>
+    </message>
+    <message>
+        <source>Escape: take all points back, then leave the drawing</source>
+        <translation>Escape: alle Punkte zurücknehmen, dann das Zeichnen verlassen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z: undo</source>
+        <translation>Strg+Z: rückgängig</translation>
+    </message>
+    <message>
+        <source>Ctrl+Y, Ctrl+Shift+Z: redo</source>
+        <translation>Strg+Y, Strg+Umschalt+Z: wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -220,6 +287,33 @@
     <message>
         <source>IntelligentRulesDetail</source>
         <translation>Konfiguration der intelligenten Regeln eines Kanals</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::EditHistory</name>
+    <message>
+        <source>Draw %1</source>
+        <translation>%1 zeichnen</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Redraw %1</source>
+        <translation>%1 neu zeichnen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Leave drawing</source>
+        <translation>Zeichnen verlassen</translation>
     </message>
 </context>
 <context>
@@ -513,10 +607,6 @@
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
-    </message>
-    <message>
-        <source>Left click adds a point, right click finishes.</source>
-        <translation>Linksklick setzt Punkte, Rechtsklick schließt ab.</translation>
     </message>
 </context>
 <context>

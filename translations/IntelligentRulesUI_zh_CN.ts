@@ -113,6 +113,33 @@
     </message>
 </context>
 <context>
+    <name>DrawingHint</name>
+    <message>
+        <source>Redraw draws anew, Ctrl+Z takes back.</source>
+        <translation>“重绘”重新绘制，Ctrl+Z 撤销。</translation>
+    </message>
+    <message>
+        <source>Refused: lines would cross.</source>
+        <translation>无法添加：线段会相交。</translation>
+    </message>
+    <message>
+        <source>Refused: the shaded area is not for it.</source>
+        <translation>无法添加：阴影区域内不可绘制。</translation>
+    </message>
+    <message>
+        <source>Right click or Enter finishes.</source>
+        <translation>单击右键或按回车键完成绘制。</translation>
+    </message>
+    <message>
+        <source>Left click adds a point. Still needed: %1.</source>
+        <translation>单击左键添加点，还需：%1。</translation>
+    </message>
+    <message>
+        <source>Still needed: %1. Backspace takes one back.</source>
+        <translation>还需：%1。退格键撤回一点。</translation>
+    </message>
+</context>
+<context>
     <name>FightCalibrateScene</name>
     <message>
         <source>Calibrate area</source>
@@ -171,6 +198,14 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesCtrl</name>
@@ -210,6 +245,38 @@
         <source>The configuration is too long.</source>
         <translation>配置过长。</translation>
     </message>
+    <message>
+        <source>Undo: %1 (Ctrl+Z)</source>
+        <translation>撤销：%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo: %1 (Ctrl+Y)</source>
+        <translation>重做：%1 (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Backspace: take the last point back</source>
+        <translation>退格键：撤回最后一点</translation>
+    </message>
+    <message>
+        <source>Enter: finish the figure</source>
+        <translation>回车键：完成图形</translation>
+    </message>
+    <message>
+        <source>Escape: take all points back, then leave the drawing</source>
+        <translation>Esc：撤回所有点，再按退出绘制</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z: undo</source>
+        <translation>Ctrl+Z：撤销</translation>
+    </message>
+    <message>
+        <source>Ctrl+Y, Ctrl+Shift+Z: redo</source>
+        <translation>Ctrl+Y、Ctrl+Shift+Z：重做</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -220,6 +287,33 @@
     <message>
         <source>IntelligentRulesDetail</source>
         <translation>通道智能规则配置</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::EditHistory</name>
+    <message>
+        <source>Draw %1</source>
+        <translation>绘制%1</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>添加%1</translation>
+    </message>
+    <message>
+        <source>Redraw %1</source>
+        <translation>重绘%1</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Leave drawing</source>
+        <translation>退出绘制</translation>
     </message>
 </context>
 <context>
@@ -513,10 +607,6 @@
     <message>
         <source>Delete</source>
         <translation>删除</translation>
-    </message>
-    <message>
-        <source>Left click adds a point, right click finishes.</source>
-        <translation>单击左键添加点，单击右键完成绘制。</translation>
     </message>
 </context>
 <context>

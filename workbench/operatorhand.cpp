@@ -100,11 +100,11 @@ QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button)
     return {};
 }
 
-QString doubleClickAt(QWidget* widget, const QPoint& position)
+QString doubleClickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button)
 {
-    const QString why = clickAt(widget, position, Qt::LeftButton);
+    const QString why = clickAt(widget, position, button);
     if (why.isEmpty())
-        QTest::mouseDClick(widget, Qt::LeftButton, Qt::NoModifier, position);
+        QTest::mouseDClick(widget, button, Qt::NoModifier, position);
     return why;
 }
 

@@ -20,7 +20,7 @@ void scrollIntoView(QWidget* widget);
 /// Clicks into the middle of @p widget, or at @p position in it, scrolled into view first.
 QString click(QWidget* widget);
 QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button);
-QString doubleClickAt(QWidget* widget, const QPoint& position);
+QString doubleClickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button);
 QString moveTo(QWidget* widget, const QPoint& position);
 
 /// Replaces the text of @p edit by typing; @p finish ends the edit with the return key.

@@ -1,6 +1,7 @@
 #include "workbench/recordedstep.h"
 
 #include "host/api/rowcontract.h"
+#include "host/video/picturesize.h"
 #include "workbench/panelfinder.h"
 #include "workbench/rowhand.h"
 #include "workbench/sourcebook.h"
@@ -147,10 +148,12 @@ Value size(const QWidget& window)
 
 Value onPicture(const char* name, const QPoint& position, const QRect& picture)
 {
-    const QPoint inPicture = position - picture.topLeft();
+    const auto place = UICommonMdl::placeOn(picture, position);
+    if (!place)
+        return {};
     Value result = step(name);
-    result["at"] = pairOf(normalized(inPicture.x(), picture.width()),
-                          normalized(inPicture.y(), picture.height()));
+    result["at"] =
+        pairOf(normalized(place->x(), picture.width()), normalized(place->y(), picture.height()));
     return result;
 }
 

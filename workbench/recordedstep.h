@@ -28,6 +28,7 @@ QWidget* rowAround(const QWidget& widget);
 
 Value size(const QWidget& window);
 /// A step @p name at @p position, both it and @p picture in widget pixels, written in 0..8192.
+/// Null where the picture is not worked on.
 Value onPicture(const char* name, const QPoint& position, const QRect& picture);
 Value waitForPicture();
 

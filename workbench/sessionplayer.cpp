@@ -28,13 +28,13 @@ constexpr int kNormalizedExtent = 8192;
 constexpr QRect kNormalizedPicture(QPoint(0, 0), QPoint(kNormalizedExtent, kNormalizedExtent));
 constexpr int kPictureTimeout = 10000; // milliseconds
 
-// The pixel whose position in 0..8192 is again n, at the size that n was recorded at. At a smaller
-// size, the last column and row stand for what would lie behind them.
-int pixelOf(int n, int extent)
+// The pixel whose position in 0..8192 is again n, at the size that n was recorded at. The border
+// behind the last pixel has one where there is room for it, which @p last tells.
+int pixelOf(int n, int extent, int last)
 {
     const qint64 scaled = static_cast<qint64>(n) * extent;
     const auto pixel = static_cast<int>((scaled + kNormalizedExtent - 1) / kNormalizedExtent);
-    return qMin(pixel, extent - 1);
+    return qMin(pixel, n == kNormalizedExtent ? last : extent - 1);
 }
 
 QString setRow(QWidget* row, const kql::Json::Value& step)
@@ -89,11 +89,26 @@ SessionPlayer::Action SessionPlayer::onPicture(const PictureAction& action)
         const Value& at = step["at"];
         const QPoint wanted(at[0].asInt(), at[1].asInt());
         const QRect picture = player.m_window.videoSurface()->paneRect(0);
-        const QPoint position = picture.topLeft() + QPoint(pixelOf(wanted.x(), picture.width()),
-                                                           pixelOf(wanted.y(), picture.height()));
-        return kNormalizedPicture.contains(wanted) && picture.contains(position)
+        const QRect surface = player.m_window.videoSurface()->rect();
+        const QPoint last = surface.bottomRight() - picture.topLeft();
+        const QPoint position =
+            picture.topLeft() + QPoint(pixelOf(wanted.x(), picture.width(), last.x()),
+                                       pixelOf(wanted.y(), picture.height(), last.y()));
+        return kNormalizedPicture.contains(wanted) && !picture.isEmpty()
                    ? action(player.m_window.videoSurface(), position)
                    : tr("the position is not on the picture");
+    };
+}
+
+/// For @p press there, with the button that the step names.
+SessionPlayer::Action SessionPlayer::withButton(ButtonAction press)
+{
+    return [press](SessionPlayer& player, const Value& step) {
+        const bool right = step["button"].asString() == QLatin1String("right");
+        const auto pressed = [press, right](QWidget* surface, const QPoint& position) {
+            return press(surface, position, right ? Qt::RightButton : Qt::LeftButton);
+        };
+        return onPicture(pressed)(player, step);
     };
 }
 
@@ -109,9 +124,9 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
 {
     static const QHash<QString, Action> actions = {
         {QStringLiteral("size"), &SessionPlayer::doSize},
-        {QStringLiteral("press"), &SessionPlayer::doPress},
+        {QStringLiteral("press"), withButton(&OperatorHand::clickAt)},
         {QStringLiteral("move"), onPicture(&OperatorHand::moveTo)},
-        {QStringLiteral("double"), onPicture(&OperatorHand::doubleClickAt)},
+        {QStringLiteral("double"), withButton(&OperatorHand::doubleClickAt)},
         {QStringLiteral("click"), &SessionPlayer::doClick},
         {QStringLiteral("key"), &SessionPlayer::doKey},
         {QStringLiteral("pick"), inSection(&SessionPlayer::doPick)},
@@ -185,15 +200,6 @@ QString SessionPlayer::doSize(const Value& step)
     const Value& size = step["window"];
     m_window.resize(size[0].asInt(), size[1].asInt());
     return {};
-}
-
-QString SessionPlayer::doPress(const Value& step)
-{
-    const bool right = step["button"].asString() == QLatin1String("right");
-    const auto press = [right](QWidget* surface, const QPoint& position) {
-        return OperatorHand::clickAt(surface, position, right ? Qt::RightButton : Qt::LeftButton);
-    };
-    return onPicture(press)(*this, step);
 }
 
 /// Without a scene a button of the window is meant, or one of the selected section.

@@ -43,13 +43,15 @@ private:
 
     static Action inSection(const SectionAction& action);
     static Action inRow(RowAction action);
+    using ButtonAction = QString (*)(QWidget* surface, const QPoint& position,
+                                     Qt::MouseButton button);
     static Action onPicture(const PictureAction& action);
+    static Action withButton(ButtonAction press);
     static Action onButton(const char* name);
     static Action actionFor(const QString& name);
     void runNext();
 
     QString doSize(const Value& step);
-    QString doPress(const Value& step);
     QString doClick(const Value& step);
     QString doKey(const Value& step);
     QString doPick(QWidget* panel, const Value& step);

@@ -177,20 +177,22 @@ void SessionRecorder::seePress(QWidget& widget, const QMouseEvent& event)
 
 void SessionRecorder::pressPicture(const QMouseEvent& event)
 {
-    const QRect picture = m_window.videoSurface()->paneRect(0);
     const bool isLeft = event.button() == Qt::LeftButton;
-    if (!picture.contains(event.pos()) || (!isLeft && event.button() != Qt::RightButton))
+    Value press =
+        RecordedStep::onPicture("press", event.pos(), m_window.videoSurface()->paneRect(0));
+    if (press.isNull() || (!isLeft && event.button() != Qt::RightButton))
         return;
-    Value press = RecordedStep::onPicture("press", event.pos(), picture);
     press["button"] = isLeft ? "left" : "right";
-    // A double click is a press followed by this event; both draw.
-    if (isLeft && event.type() == QEvent::MouseButtonDblClick && m_move.isNull() &&
-        m_last == press) {
-        m_last = RecordedStep::onPicture("double", event.pos(), picture);
+    // A double click is a press followed by this event.
+    const bool isDouble = event.type() == QEvent::MouseButtonDblClick;
+    if (isDouble && m_move.isNull() && m_last == press) {
+        m_last["do"] = "double";
+        if (isLeft)
+            m_last.removeMember("button");
         emit sgnLastReplaced(m_last);
-        return;
+    } else if (!isDouble) {
+        record(press);
     }
-    record(press);
 }
 
 void SessionRecorder::seeMove(QWidget& widget, const QMouseEvent& event)
@@ -198,11 +200,12 @@ void SessionRecorder::seeMove(QWidget& widget, const QMouseEvent& event)
     m_isReleaseClick = false;
     if (&widget != m_window.videoSurface())
         return;
-    const QRect picture = m_window.videoSurface()->paneRect(0);
-    if (!picture.contains(event.pos()))
+    const Value move =
+        RecordedStep::onPicture("move", event.pos(), m_window.videoSurface()->paneRect(0));
+    if (move.isNull())
         return;
     recordSize();
-    m_move = RecordedStep::onPicture("move", event.pos(), picture);
+    m_move = move;
 }
 
 void SessionRecorder::seeKey(QWidget& widget, const QKeyEvent& event)

@@ -93,6 +93,7 @@ const Member kMembers[] = {
     {"press", "button", isButton, "\"left\" or \"right\""},
     {"move", "at", isPosition, kPosition},
     {"double", "at", isPosition, kPosition},
+    {"double", "button", isButton, "\"left\" or \"right\""},
     {"key", "keys", isKey, "one key with its modifiers"},
     {"key", "times", isCount, "a number from 1 to 1000"},
     {"key", "to", isTarget, "\"picture\""},

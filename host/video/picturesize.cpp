@@ -8,6 +8,7 @@ namespace
 {
 
 constexpr int kLargestSide = 16384;
+constexpr int kBorder = 8;
 const QSize kLargestUnasked(3840, 2160);
 
 } // namespace
@@ -29,6 +30,15 @@ QString implausibleSizeText(const QSize& size)
                                        "The picture's size, %1 x %2, is out of range.")
         .arg(size.width())
         .arg(size.height());
+}
+
+std::optional<QPoint> placeOn(const QRect& picture, const QPoint& at)
+{
+    const QRect border = picture.adjusted(-kBorder, -kBorder, kBorder, kBorder);
+    if (picture.isEmpty() || !border.contains(at))
+        return std::nullopt;
+    const QPoint inside = at - picture.topLeft();
+    return QPoint(qBound(0, inside.x(), picture.width()), qBound(0, inside.y(), picture.height()));
 }
 
 QRect letterboxed(const QSize& picture, const QRect& bounds)

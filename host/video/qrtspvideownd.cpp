@@ -71,15 +71,10 @@ QImage scaledAtOnce(const QImage& image, const QSize& size)
     return from.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-QMouseEvent movedTo(const QRect& picture, QEvent::Type type, const QMouseEvent& event)
+QMouseEvent movedTo(const QPoint& place, QEvent::Type type, const QMouseEvent& event)
 {
-    return {type,
-            event.localPos() - picture.topLeft(),
-            event.windowPos(),
-            event.screenPos(),
-            event.button(),
-            event.buttons(),
-            event.modifiers()};
+    return {type,           place,           event.windowPos(), event.screenPos(),
+            event.button(), event.buttons(), event.modifiers()};
 }
 
 } // namespace
@@ -339,36 +334,29 @@ void QRtspVideoWnd::resizeEvent(QResizeEvent* event)
     followPictureRect();
 }
 
-bool QRtspVideoWnd::deliverPress(QMouseEvent* event)
-{
-    const QRect picture = paneRect(selectedPane());
-    if (!picture.contains(event->pos()))
-        return false;
-    // The second press of a double click comes as another type, but draws like any press.
-    QMouseEvent press = movedTo(picture, QEvent::MouseButtonPress, *event);
-    emit SignalMousePress(&press);
-    emit sgnWndClick(selectedPane(), press.x(), press.y());
-    return true;
-}
-
 void QRtspVideoWnd::mousePressEvent(QMouseEvent* event)
 {
-    deliverPress(event);
+    const auto at = UICommonMdl::placeOn(paneRect(selectedPane()), event->pos());
+    if (!at)
+        return;
+    QMouseEvent press = movedTo(*at, event->type(), *event);
+    emit SignalMousePress(&press);
+    emit sgnWndClick(selectedPane(), at->x(), at->y());
 }
 
+/// Its second press is none: two points on one spot are never meant.
 void QRtspVideoWnd::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const QPoint at = event->pos() - paneRect(selectedPane()).topLeft();
-    if (deliverPress(event))
-        emit sgnSWDbClicked(selectedPane(), at.x(), at.y());
+    if (const auto at = UICommonMdl::placeOn(paneRect(selectedPane()), event->pos()))
+        emit sgnSWDbClicked(selectedPane(), at->x(), at->y());
 }
 
 void QRtspVideoWnd::mouseMoveEvent(QMouseEvent* event)
 {
-    const QRect picture = paneRect(selectedPane());
-    if (!picture.contains(event->pos()))
+    const auto at = UICommonMdl::placeOn(paneRect(selectedPane()), event->pos());
+    if (!at)
         return;
-    QMouseEvent move = movedTo(picture, QEvent::MouseMove, *event);
+    QMouseEvent move = movedTo(*at, event->type(), *event);
     emit SignalMoveEvent(&move);
 }
 

@@ -116,7 +116,6 @@ private:
     QRect statusRect() const;
     void updateTryAgain();
     void placeTryAgain();
-    bool deliverPress(QMouseEvent* event);
 
     void preparePixmap(const QRect& rect);
     void paintPicture(QPainter& painter);

@@ -119,6 +119,46 @@ private slots:
         QVERIFY_BOTH(edit->hasFocus(), edit->isModified());
     }
 
+    /// Keys that the client has commands for are the window's only where it does something.
+    void takesKeysOnlyWhereTheyAreNeeded()
+    {
+        const ClientWindow window(widget());
+        auto* const dialog = new QDialog(window.parent);
+        (new QHBoxLayout(dialog))->addWidget(window.content);
+        int commands = 0;
+        const QStringList keys{"Ctrl+Z", "Ctrl+Y", "Backspace", "Return", "Esc", "Space"};
+        for (const QString& key : keys) {
+            auto* const command = new QAction(dialog);
+            command->setShortcut(QKeySequence(key));
+            dialog->addAction(command);
+            connect(command, &QAction::triggered, command, [&commands] { ++commands; });
+        }
+        dialog->show();
+        QApplication::setActiveWindow(dialog);
+        window.load("C1", rule("Gate"));
+        auto* const picture = window.find<QWidget>("playerWin");
+        const auto press = [&](QWidget* focused, const QString& key) {
+            focused->setFocus();
+            const int code = int(QKeySequence(key)[0]);
+            const int before = commands;
+            QTest::keyClick(dialog->windowHandle(), Qt::Key(code & ~Qt::CTRL),
+                            Qt::KeyboardModifiers(code & Qt::CTRL));
+            return commands == before;
+        };
+        for (const QString& key : keys)
+            QVERIFY2(!press(picture, key), qPrintable(key));
+        window.click("addRule");
+        for (const char* key : {"Space", "Backspace", "Return", "Ctrl+Z", "Ctrl+Y", "Esc"})
+            QVERIFY2(press(picture, key), key);
+        for (const char* key : {"Backspace", "Return", "Esc"})
+            QVERIFY2(press(editOf(window, "high"), key), key);
+        // Its own letters first, then what was done before.
+        QTest::keyClick(editOf(window, "high"), Qt::Key_5);
+        QVERIFY(press(editOf(window, "high"), "Ctrl+Z"));
+        QCOMPARE(editOf(window, "high")->text(), QString("0"));
+        QVERIFY(dialog->isVisible());
+    }
+
     /// Whatever the client hears of while a window goes, it may answer by a message to it.
     void endsWhileItIsSpokenTo()
     {

@@ -168,6 +168,12 @@ private slots:
         QCOMPARE(QImage(path("step.png")).size(), QSize(1180, 800));
     }
 
+    void undoesAndRedoes()
+    {
+        const Outcome outcome = replay(session("undo"));
+        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+    }
+
     void tellsThatTheOperatorLeft()
     {
         for (const char* steps : {"leave", "leaveloaded", "leavesaved"}) {

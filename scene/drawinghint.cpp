@@ -1,0 +1,21 @@
+#include "scene/drawinghint.h"
+
+#include "draw/basedraw.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+
+QString DrawingHint::of(const DrawScene& canvas)
+{
+    if (!canvas.isDrawing())
+        return tr("Redraw draws anew, Ctrl+Z takes back.");
+    if (canvas.refusal() == DrawScene::Refusal::Crossing)
+        return tr("Refused: lines would cross.");
+    if (canvas.refusal() == DrawScene::Refusal::Forbidden)
+        return tr("Refused: the shaded area is not for it.");
+    const BaseDraw& drawn = *canvas.selectedItem(canvas.currentDataId())->figure();
+    const int needed = drawn.clicksNeeded();
+    if (needed == 0)
+        return tr("Right click or Enter finishes.");
+    return drawn.pointCount() == 0 ? tr("Left click adds a point. Still needed: %1.").arg(needed)
+                                   : tr("Still needed: %1. Backspace takes one back.").arg(needed);
+}
