@@ -68,7 +68,8 @@ void TimeTravel::seeEdit(int before, const std::string& contents)
 {
     if (m_index == before + 1) {
         forgetFrom(m_index);
-        m_left[before] = m_now;
+        if (!m_now.empty())
+            m_left[before] = m_now;
         m_reached[m_index] = contents;
     } else if (contents != m_now || m_index != before) {
         // Edits of one row became one step, or those of a drawing did.
