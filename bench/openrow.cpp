@@ -158,7 +158,8 @@ std::vector<const QWidget*> added(Window& shown)
     return widgets;
 }
 
-void fill(QWidget& window, const std::vector<const QWidget*>& originals)
+/// Returns the picture, which the window owns.
+QWidget* fill(QWidget& window, const std::vector<const QWidget*>& originals)
 {
     constexpr int kColumns = 4;
     auto* layout = new QHBoxLayout(&window);
@@ -168,8 +169,10 @@ void fill(QWidget& window, const std::vector<const QWidget*>& originals)
     for (int i = 0; i < int(originals.size()); ++i)
         grid->addWidget(plainCopy(*originals[std::size_t(i)]), i / kColumns, i % kColumns);
     area->setWidget(content);
-    layout->addWidget(new Picture(picturePath()), 2);
+    auto* picture = new Picture(picturePath());
+    layout->addWidget(picture, 2);
     layout->addWidget(area, 1);
+    return picture;
 }
 
 void openPlainWindow(benchmark::State& state, int)
@@ -184,8 +187,7 @@ void openPlainWindow(benchmark::State& state, int)
         window->show();
         QCoreApplication::processEvents();
         state.ResumeTiming();
-        fill(*window, originals);
-        const PaintWatch watch(window->findChild<QScrollArea*>()->viewport());
+        const PaintWatch watch(fill(*window, originals));
         while (!watch.hasPainted())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         state.PauseTiming();
