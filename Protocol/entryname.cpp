@@ -24,11 +24,18 @@ QString EntryName::written(const RuleData& data, int position)
     return name.isEmpty() ? RuleData::tr("Rule") + QString::number(position + 1) : name;
 }
 
+bool EntryName::isText(const RuleData& data, int position)
+{
+    return !data.getAllData()[static_cast<std::size_t>(position)]->nameAsRead();
+}
+
 QString EntryName::unused(const RuleData& data, const QString& wanted)
 {
     QSet<QString> taken(data.namesKeptAside().begin(), data.namesKeptAside().end());
-    for (int i = 0; i < data.getDataCount(); ++i)
-        taken.insert(written(data, i));
+    for (int i = 0; i < data.getDataCount(); ++i) {
+        if (isText(data, i))
+            taken.insert(written(data, i));
+    }
     QString name = wanted;
     for (int number = data.getDataCount() + 1; taken.contains(name); ++number)
         name = RuleData::tr("Rule") + QString::number(number);

@@ -12,6 +12,9 @@ namespace EntryName
 /// The name that a rule at @p position (from 0) is written with.
 QString written(const RuleData& data, int position);
 
+/// Whether the entry's name is a text. What else stood in its place goes back as it was read.
+bool isText(const RuleData& data, int position);
+
 /// The name for an entry that is put behind the others: @p wanted, or where one of them
 /// or of those kept aside has it, "Rule" and the lowest free number, counted up from the entry's
 /// place.

@@ -3,6 +3,8 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/scenestate.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <optional>
 
@@ -11,28 +13,43 @@ namespace
 
 using Kind = SceneChange::Kind;
 
+/// Entries and figures of a state by their ids.
+struct Parts {
+    explicit Parts(const SceneState& state)
+    {
+        for (const auto& entry : state.entries())
+            entries.insert(entry->id(), entry.get());
+        for (const auto& figure : state.figures())
+            figures.insert(figure->itemId, figure.get());
+    }
+
+    QHash<int, const RuleDataInfo*> entries;
+    QHash<int, const FigureState*> figures;
+};
+
 /// Entries that came or went.
-std::optional<SceneChange> entryChange(const SceneState& before, const SceneState& after)
+std::optional<SceneChange> entryChange(const Parts& before, const SceneState& after)
 {
     for (const auto& entry : after.entries()) {
-        if (!before.entry(entry->id()))
+        if (!before.entries.contains(entry->id()))
             return SceneChange{after.inHand() ? Kind::Begun : Kind::Other, entry->id(), 0};
     }
-    if (after.entries().size() < before.entries().size())
+    if (static_cast<int>(after.entries().size()) < before.entries.size())
         return SceneChange{Kind::Other, 0, 0};
     return std::nullopt;
 }
 
 bool hasFigureLess(const SceneState& before, const SceneState& after)
 {
-    return std::any_of(before.figures().begin(), before.figures().end(),
-                       [&](const auto& figure) { return !after.figure(figure->itemId); });
+    const Parts left(after);
+    return std::any_of(
+        before.figures().begin(), before.figures().end(),
+        [&left](const auto& figure) { return !left.figures.contains(figure->itemId); });
 }
 
 /// Of a figure that both have.
-SceneChange changeOf(const FigureState& was, const FigureState& is, const SceneState& before)
+SceneChange changeOf(const FigureState& was, const FigureState& is, const FigureState* inHand)
 {
-    const FigureState* const inHand = before.inHand();
     if (inHand && inHand->itemId == is.itemId)
         return {Kind::Drawn, is.dataId, is.itemId};
     const bool isCleared = is.isEmpty() && !was.isEmpty();
@@ -47,13 +64,15 @@ SceneChange startOf(const FigureState& figure)
 }
 
 /// Figures that came, went or changed. What was drawn goes before what it led to.
-std::optional<SceneChange> figureChange(const SceneState& before, const SceneState& after)
+std::optional<SceneChange> figureChange(const SceneState& before, const Parts& parts,
+                                        const SceneState& after)
 {
+    const FigureState* const inHand = before.inHand();
     std::optional<SceneChange> change;
     for (const auto& figure : after.figures()) {
-        const FigureState* const was = before.figure(figure->itemId);
-        if (was && !was->isSameAs(*figure))
-            change = changeOf(*was, *figure, before);
+        const FigureState* const was = parts.figures.value(figure->itemId);
+        if (was && was != figure.get() && !was->isSameAs(*figure))
+            change = changeOf(*was, *figure, inHand);
         else if (!was && !change)
             change = startOf(*figure);
         if (change && was)
@@ -67,11 +86,11 @@ std::optional<SceneChange> figureChange(const SceneState& before, const SceneSta
 }
 
 /// Of values of entries that both have.
-std::optional<SceneChange> valueChange(const SceneState& before, const SceneState& after)
+std::optional<SceneChange> valueChange(const Parts& before, const SceneState& after)
 {
     for (const auto& entry : after.entries()) {
-        const SceneState::Entry was = before.entry(entry->id());
-        if (!was || *was == *entry)
+        const RuleDataInfo* const was = before.entries.value(entry->id());
+        if (!was || was == entry.get() || *was == *entry)
             continue;
         RuleDataInfo unnamed = *entry;
         if (was->name().isEmpty())
@@ -87,10 +106,11 @@ SceneChange SceneChange::between(const SceneState& before, const SceneState& aft
 {
     if (before.isSameAs(after))
         return {};
-    if (const auto entries = entryChange(before, after))
+    const Parts parts(before);
+    if (const auto entries = entryChange(parts, after))
         return *entries;
-    const auto figures = figureChange(before, after);
-    const auto values = valueChange(before, after);
+    const auto figures = figureChange(before, parts, after);
+    const auto values = valueChange(parts, after);
     if (figures && figures->kind != Kind::Picked)
         return *figures;
     if (values)

@@ -107,17 +107,32 @@ SceneState SceneState::of(const RuleData& data, const SceneState& before)
     return state;
 }
 
-void SceneState::restore(RuleData& data) const
+bool SceneState::restore(RuleData& data) const
 {
+    const SceneState now = of(data, *this);
     RuleData::Entries entries;
     for (const Entry& entry : m_entries)
         entries.push_back(std::make_unique<RuleDataInfo>(*entry));
     data.setEntries(std::move(entries));
     DrawScene& canvas = *data.getDrawScene();
+    QHash<int, bool> saved;
+    for (const DrawItem* item : canvas.getItemList(BaseDrawType::None, 0))
+        saved.insert(item->itemId(), item->isDrawOver());
+    QHash<int, FigureState> kept;
+    for (const auto& figure : now.m_figures)
+        kept.insert(figure->itemId, *figure);
     canvas.clear();
-    for (const auto& figure : m_figures)
-        canvas.addItem(figure->make(), figure->parentId);
+    bool changes = now.m_figures.size() != m_figures.size();
+    for (const auto& figure : m_figures) {
+        const auto was = kept.constFind(figure->itemId);
+        const bool isSame = was != kept.cend() && was->isSameAs(*figure);
+        changes = changes || !isSame;
+        const DrawItem* item = canvas.addItem(figure->make(), figure->parentId);
+        if (item->figure())
+            item->figure()->setDrawOver(isSame && saved.value(figure->itemId));
+    }
     data.setSelectedDataId(m_selectedDataId);
+    return changes;
 }
 
 bool SceneState::isSameAs(const SceneState& other) const

@@ -43,8 +43,9 @@ public:
     static SceneState of(const RuleData& data, const SceneState& before);
 
     /// Makes entries, figures and the current entry of @p data what they were. Figures come back
-    /// unselected, with the ids that they had.
-    void restore(RuleData& data) const;
+    /// unselected, with the ids that they had; those that change have to be saved again. Returns
+    /// whether any does.
+    bool restore(RuleData& data) const;
 
     /// Whether entries and figures are the same, whatever is selected.
     bool isSameAs(const SceneState& other) const;

@@ -70,7 +70,7 @@ void DrawScene::setCanvasSize(int width, int height)
     for (const auto& root : m_roots)
         root->setCanvasSize(width, height);
     if (m_forbidenArea)
-        calcDrawForbidenArea(m_forbidenFor);
+        renewForbidenArea(*m_forbidenFor);
 }
 
 DrawItem* DrawScene::addItem(std::unique_ptr<DrawItem> item, int parentId)
@@ -212,7 +212,10 @@ void DrawScene::setDrawnPoints(const DrawItem& item, const QVector<QPoint>& poin
     Figure figure = item.value();
     figure.setPoints(points);
     item.figure()->setFigure(figure);
-    calcDrawForbidenArea(&item);
+    if (points.isEmpty())
+        item.figure()->clear(); // the rubber band, too
+    m_refusal = Refusal::None;
+    renewForbidenArea(item);
 }
 
 void DrawScene::redrawItem(int id)
@@ -274,7 +277,10 @@ void DrawScene::dropPainting()
 
 bool DrawScene::isPointForbidden(const QPoint& point) const
 {
-    return m_forbidenArea && m_forbidenArea->contains(point);
+    // A press on the border is one on the last column or row.
+    const QPoint inside(std::min(point.x(), std::max(0, m_canvasSize.width() - 1)),
+                        std::min(point.y(), std::max(0, m_canvasSize.height() - 1)));
+    return m_forbidenArea && m_forbidenArea->contains(inside);
 }
 
 void DrawScene::itemAdded(DrawItem& item)
@@ -335,7 +341,9 @@ void DrawScene::pressLeft(DrawItem& item, const QPoint& point)
     if (figure->isFinished())
         return;
     if (isPointForbidden(point)) {
-        m_refusal = Refusal::Forbidden;
+        m_refusal = item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOutsideParent
+                        ? Refusal::Outside
+                        : Refusal::Forbidden;
         return;
     }
     const int before = figure->pointCount();
@@ -345,7 +353,7 @@ void DrawScene::pressLeft(DrawItem& item, const QPoint& point)
         finishDrawing(item);
     } else if (item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
                !m_forbidenArea) {
-        calcDrawForbidenArea(&item);
+        renewForbidenArea(item);
     }
 }
 
@@ -356,16 +364,23 @@ void DrawScene::finishDrawing(const DrawItem& item)
     emit sgnSelectedStatusChange();
 }
 
-/// A figure that forbids itself an area does so from its first points on.
 void DrawScene::calcDrawForbidenArea(const DrawItem* item)
 {
     m_refusal = Refusal::None;
-    const bool isOwn = item && item->forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
-                       item->figure();
-    if (isOwn)
-        setForbidenArea(ownForbidenArea(*item), item);
-    else
-        setForbidenArea(item ? forbidenArea(*item) : nullptr, item);
+    setForbidenArea(item ? forbidenArea(*item, nullptr) : nullptr, item);
+}
+
+/// Of a figure that may have points.
+void DrawScene::renewForbidenArea(const DrawItem& item)
+{
+    const bool isOwn = item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf;
+    setForbidenArea(isOwn ? ownForbidenArea(item) : forbidenArea(item, &item), &item);
+}
+
+void DrawScene::resumeDrawing()
+{
+    if (const DrawItem* item = itemBeingDrawn())
+        renewForbidenArea(*item);
 }
 
 void DrawScene::setForbidenArea(std::unique_ptr<ForbidenArea> area, const DrawItem* item)
@@ -381,8 +396,9 @@ std::unique_ptr<ForbidenArea> DrawScene::ownForbidenArea(const DrawItem& item) c
     return path ? std::make_unique<ForbidenArea>(std::move(path), m_canvasSize) : nullptr;
 }
 
-/// What other figures forbid to the one of @p item; null for nothing.
-std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item) const
+/// What other figures than @p except forbid to the one of @p item; null for nothing.
+std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item,
+                                                      const DrawItem* except) const
 {
     const bool isOutside =
         item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOutsideParent;
@@ -398,7 +414,7 @@ std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item) cons
         area->addOutline(parent->figure()->canvasFigure().outline());
     }
     for (const DrawItem* other : m_items) {
-        if (!isOutside && other->figure() && other != &item)
+        if (!isOutside && other->figure() && other != except)
             area->addOutline(DrawGeometry::clockwise(other->figure()->canvasFigure().outline()));
     }
     return area;

@@ -74,6 +74,9 @@ public:
     bool takeBackPoint();
     /// Takes back all points of the figure being drawn; false when it has none.
     bool takeBackPoints();
+    /// Goes on with the figure being drawn, which has points already: what is forbidden to it is
+    /// what was while they were drawn.
+    void resumeDrawing();
     /// Clears the item's figure so that it is drawn again.
     void redrawItem(int id);
 
@@ -91,8 +94,9 @@ public:
     /// Why the last left press added no point.
     enum class Refusal {
         None,
-        Crossing, ///< a line would cross another one of the figure
-        Forbidden ///< it lies where the figure may not
+        Crossing,  ///< a line would cross another one of the figure
+        Outside,   ///< of the figure around
+        Forbidden, ///< it lies where the figure may not
     };
     /// None again once a point was taken, and for another figure.
     Refusal refusal() const { return m_refusal; }
@@ -121,7 +125,8 @@ private:
     void calcDrawForbidenArea(const DrawItem* item);
     void setForbidenArea(std::unique_ptr<ForbidenArea> area, const DrawItem* item);
     std::unique_ptr<ForbidenArea> ownForbidenArea(const DrawItem& item) const;
-    std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item) const;
+    void renewForbidenArea(const DrawItem& item);
+    std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item, const DrawItem* except) const;
     DrawItem* itemBeingDrawn() const;
     void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
                    const std::vector<BaseDraw*>& figures, bool withForbidenArea) const;

@@ -22,7 +22,6 @@
 #include "ui_IntelligentRulesCtrl.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -420,10 +419,8 @@ void CIntelligentRulesCtrl::sceneChanged()
     showSteps();
     for (BaseTabelScene* panel : qAsConst(m_scenes))
         panel->showHint();
-    const bool isDrawing = m_drawScene && m_drawScene->isDrawing();
-    if (isDrawing && !m_wasDrawing)
-        QMetaObject::invokeMethod(this, &CIntelligentRulesCtrl::focusDrawing, Qt::QueuedConnection);
-    m_wasDrawing = isDrawing;
+    // Not at once: it is the host's chance to act, in the middle of a click.
+    QMetaObject::invokeMethod(this, &CIntelligentRulesCtrl::focusDrawing, Qt::QueuedConnection);
     showHint({});
     showNotices();
     repaintPicture();
@@ -532,7 +529,7 @@ bool CIntelligentRulesCtrl::collectNames(const BaseTabelScene& scene, std::set<Q
     if (rules.getSceneType() != SceneType::Rules)
         return true;
     for (int i = 0; i < rules.getDataCount(); ++i) {
-        if (!names.insert(EntryName::written(rules, i)).second) {
+        if (EntryName::isText(rules, i) && !names.insert(EntryName::written(rules, i)).second) {
             showError(tr("Duplicate rule name exists"));
             return false;
         }
@@ -656,14 +653,17 @@ void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
     const EditKey key = editKeyOf(*event);
     const bool isClaimed = isEditable() && m_editing->claims(key);
     event->setAccepted(isClaimed);
-    if (!isEditable() || !m_editing->isUseful(key) || !(isClaimed || key == EditKey::Idle))
+    const bool endsSeries = key == EditKey::Idle && m_playerWin && m_playerWin->hasFocus();
+    if (!isEditable() || !m_editing->isUseful(key) || !(isClaimed || endsSeries))
         return;
     const LoadGuard guard(this);
-    if (!finishEdits())
+    if (!endsSeries && !finishEdits())
         return;
     m_usedKey = key;
     emit sgnKeyUsed();
-    if (guard.holds())
+    if (endsSeries)
+        m_editing->use(key);
+    else if (guard.holds())
         useKey(key);
 }
 
@@ -680,6 +680,8 @@ void CIntelligentRulesCtrl::useKey(EditKey key)
     if (!guard.holds() || !isEditable())
         return;
     m_editing->use(key);
+    if (!guard.holds())
+        return;
     const bool draws = key == EditKey::TakeBack || key == EditKey::Finish || key == EditKey::Leave;
     if (m_drawScene && draws)
         m_drawScene->SetDrawOver(false);
@@ -690,8 +692,10 @@ void CIntelligentRulesCtrl::useKey(EditKey key)
 void CIntelligentRulesCtrl::focusDrawing()
 {
     const QWidget* focused = QApplication::focusWidget();
-    const bool isInRow = qobject_cast<const QLineEdit*>(focused);
-    if (m_wasDrawing && m_playerWin && isVisible() && isAncestorOf(focused) && !isInRow)
+    const bool isBeginning =
+        qobject_cast<const QPushButton*>(focused) || qobject_cast<const BaseTabelScene*>(focused);
+    const bool isDrawing = m_drawScene && m_drawScene->isDrawing();
+    if (isDrawing && m_playerWin && isVisible() && isBeginning && isAncestorOf(focused))
         m_playerWin->setFocus();
 }
 
@@ -717,7 +721,6 @@ void CIntelligentRulesCtrl::sltRestored(BaseTabelScene* panel)
     if (panel->getFold())
         panel->setFold(false);
     selectScene(panel);
-    m_drawScene->SetDrawOver(false);
 }
 
 void CIntelligentRulesCtrl::showSteps()

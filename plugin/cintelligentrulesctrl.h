@@ -154,7 +154,6 @@ private:
     std::atomic<int> m_videoHeight{0};
     QRect m_videoRect; ///< the picture inside playerWin, widget pixels
     bool m_rtspOpened = false;
-    bool m_wasDrawing = false;
     bool m_isFocusDue = false; ///< a load's focus waits until the window is shown
     int m_loadNumber = 0;      ///< tells loads apart where the host could act in between
 };

@@ -21,7 +21,11 @@ public:
 
     EditHistory& history() { return m_history; }
     /// The section whose canvas is seen; not owned, null for none.
-    void setPanel(BaseTabelScene* panel) { m_panel = panel; }
+    void setPanel(BaseTabelScene* panel)
+    {
+        m_panel = panel;
+        m_history.endMerging();
+    }
 
     /// Whether the client must not get the key now.
     bool claims(EditKey key) const;

@@ -7,6 +7,7 @@
 #include "Protocol/ruleprotocolitem.h"
 #include "scene/basetabelscene.h"
 
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QUndoCommand>
 
@@ -22,6 +23,8 @@ namespace
 using Kind = SceneChange::Kind;
 
 constexpr int kMostSteps = 200;
+/// Points of one figure that are steps of their own; more would push out what was done before.
+constexpr int kMostPoints = 100;
 
 bool isOwn(const EditStep& step, int scene, int dataId)
 {
@@ -29,10 +32,24 @@ bool isOwn(const EditStep& step, int scene, int dataId)
            step.change.kind != Kind::Attribute;
 }
 
-/// What was edited in rows meanwhile stays steps of its own, done after the drawing.
+/// What was edited in rows meanwhile stays steps of its own, done after the drawing. Where what
+/// they changed cannot be told from it, they are part of it.
 void putAfter(EditStep& drawing, std::vector<EditStep>& others)
 {
     const SceneState last = drawing.after;
+    const auto isMine = [&drawing](const EditStep& step) { return step.scene == drawing.scene; };
+    const auto lastMine = std::find_if(others.rbegin(), others.rend(), isMine);
+    if (lastMine == others.rend())
+        return;
+    const int entry = lastMine->change.dataId;
+    const bool isWhole = last.withEntry(lastMine->after.entry(entry)).isSameAs(last);
+    const bool isOneEntry = std::all_of(others.begin(), others.end(), [&](const EditStep& step) {
+        return !isMine(step) || step.change.dataId == entry;
+    });
+    if (!isWhole || !isOneEntry) {
+        others.erase(std::remove_if(others.begin(), others.end(), isMine), others.end());
+        return;
+    }
     bool isFirst = true;
     for (EditStep& other : others) {
         if (other.scene != drawing.scene)
@@ -58,15 +75,15 @@ public:
 
     const EditStep& step() const { return m_step; }
 
-    void undo() override { m_history.show(m_step.scene, m_step.before, m_step.change.dataId); }
-    void redo() override { m_history.show(m_step.scene, m_step.after, m_step.change.dataId); }
     int id() const override { return static_cast<int>(m_step.change.kind); }
 
     bool mergeWith(const QUndoCommand* other) override
     {
         const EditStep& next = static_cast<const Command*>(other)->m_step;
-        if (!m_history.m_mayMerge || m_step.row.isEmpty() || m_step.row != next.row ||
-            m_step.scene != next.scene || m_step.change.dataId != next.change.dataId)
+        const bool isSameRow = m_history.m_mayMerge && !m_step.row.isEmpty() &&
+                               m_step.row == next.row && m_step.scene == next.scene &&
+                               m_step.change.dataId == next.change.dataId;
+        if (!isSameRow && !m_history.m_mergesPoints)
             return false;
         m_step.after = next.after;
         setObsolete(m_step.before.isSameAs(m_step.after));
@@ -108,18 +125,25 @@ void EditHistory::noteScene(int scene, const QString& row)
     SceneState& known = m_known[static_cast<std::size_t>(scene)];
     EditStep step{scene, {}, row, {}, known, SceneState::of(*m_panels[scene]->ruleData(), known)};
     known = step.after;
-    if (step.before.selectedDataId() != step.after.selectedDataId())
+    if (step.before.selectedDataId() != step.after.selectedDataId() ||
+        step.before.selectedItemId() != step.after.selectedItemId())
         m_mayMerge = false;
     step.change = SceneChange::between(step.before, step.after);
-    if (step.change.kind == Kind::Picked && !row.isEmpty())
-        step.change.kind = Kind::Attribute;
+    // A row may turn the figure that it describes.
+    if (step.change.kind != Kind::None && !row.isEmpty())
+        step.change = {Kind::Attribute, step.after.selectedDataId(), 0};
     if (step.change.kind == Kind::None || step.change.kind == Kind::Picked)
         return;
     step.title = titleOf(step);
     const SceneChange change = step.change;
-    push(std::move(step));
-    const FigureState* const drawn = known.figure(change.itemId);
-    if (change.kind == Kind::Drawn && drawn && drawn->figure.isFinished())
+    const int drawn = m_stack.index() - firstPointOf(scene, change.itemId);
+    {
+        const QScopedValueRollback<bool> points(m_mergesPoints,
+                                                change.kind == Kind::Drawn && drawn >= kMostPoints);
+        push(std::move(step));
+    }
+    const FigureState* const figure = known.figure(change.itemId);
+    if (change.kind == Kind::Drawn && figure && figure->figure.isFinished())
         fold(scene, change.dataId, change.itemId);
 }
 
@@ -145,9 +169,12 @@ void EditHistory::fold(int scene, int dataId, int itemId)
         drawing.title = tr("Draw %1").arg(drawing.after.figure(itemId)->figure.label());
     drawing.change = {Kind::Other, dataId, 0};
     putAfter(drawing, later);
+    m_mayMerge = false;
     push(std::move(drawing));
-    for (EditStep& step : later)
+    for (EditStep& step : later) {
+        m_mayMerge = false;
         push(std::move(step));
+    }
     m_mayMerge = false;
 }
 
@@ -233,25 +260,42 @@ void EditHistory::setSaved()
 
 void EditHistory::undo()
 {
+    if (!m_stack.canUndo())
+        return;
+    const EditStep undone = step(m_stack.index() - 1);
+    {
+        const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+        m_stack.undo();
+    }
     m_mayMerge = false;
-    m_stack.undo();
+    show(undone.scene, undone.before, undone.change.dataId);
 }
 
 void EditHistory::redo()
 {
+    if (!m_stack.canRedo())
+        return;
+    const EditStep redone = step(m_stack.index());
+    {
+        const QScopedValueRollback<bool> quiet(m_isQuiet, true);
+        m_stack.redo();
+    }
     m_mayMerge = false;
-    m_stack.redo();
+    show(redone.scene, redone.after, redone.change.dataId);
 }
 
 void EditHistory::show(int scene, const SceneState& state, int dataId)
 {
-    if (m_isQuiet)
+    const QPointer<EditHistory> self(this);
+    const QPointer<BaseTabelScene> panel = m_panels[scene];
+    m_isQuiet = true;
+    panel->restore(state, dataId);
+    // The host may have loaded anew, or deleted the window.
+    if (!self)
         return;
-    BaseTabelScene* const panel = m_panels[scene];
-    {
-        const QScopedValueRollback<bool> quiet(m_isQuiet, true);
-        panel->restore(state, dataId);
-    }
+    m_isQuiet = false;
+    if (!panel || !m_panels.contains(panel))
+        return;
     m_known[static_cast<std::size_t>(scene)] = SceneState::of(*panel->ruleData(), state);
     emit sgnRestored(panel);
 }
@@ -274,7 +318,11 @@ bool EditHistory::leaveDrawing(BaseTabelScene& panel)
         if (isFirst || !begun.before.entry(dataId))
             left = begun.before.withEntry(now.entry(dataId)).withNothingSelected();
     }
+    const QPointer<EditHistory> self(this);
+    const QPointer<BaseTabelScene> guard(&panel);
     show(scene, left, dataId);
+    if (!self || !guard || !m_panels.contains(guard))
+        return true;
     EditStep step{scene, {Kind::Other, dataId, 0},
                   {},    tr("Leave drawing"),
                   now,   m_known[static_cast<std::size_t>(scene)]};

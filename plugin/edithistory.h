@@ -71,6 +71,7 @@ private:
     std::vector<SceneState> m_known; ///< of each panel
     bool m_isQuiet = false;          ///< while steps move within the stack
     bool m_mayMerge = false;
+    bool m_mergesPoints = false; ///< while a point of a figure with very many is pushed
 };
 
 } // namespace IntelligentRulesUI

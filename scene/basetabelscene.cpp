@@ -192,19 +192,27 @@ void BaseTabelScene::showEntry(int dataId)
 
 void BaseTabelScene::restore(const SceneState& state, int dataId)
 {
-    if (!takeFocusFrom(*widgets().drawItems) || !takeFocusFrom(*widgets().childDrawItems))
+    if (!takeFocusFrom(*widgets().drawItems) || !takeFocusFrom(*widgets().childDrawItems) ||
+        !isBound())
         return;
     const QScopedValueRollback<bool> guard(m_nothingFollows, true);
-    state.restore(*m_data);
+    const bool drewBefore = GetDrawStatus();
+    const int shownBefore = m_data->getSelectedDataId();
+    const QVariant direction = m_direction.chosen();
+    const bool changesFigures = state.restore(*m_data);
     for (const auto& entry : m_data->getAllData())
         LineDirections::apply(*m_data, *entry);
     const int shown = state.entry(dataId) ? dataId : state.selectedDataId();
     m_data->setSelectedDataId(shown);
     refreshTabelDrawItem();
     showEntry(shown);
+    if (const RuleDataInfo* entry = m_data->getDataInfo(shown); entry && shown == shownBefore)
+        m_direction.choose(*m_data, *entry, direction);
     const FigureState* const selected = state.figure(state.selectedItemId());
     if (!selected || selected->dataId == shown)
         selectFigure(state.selectedItemId(), shown);
+    getDrawScene()->resumeDrawing();
+    SetDrawStatus(drewBefore || changesFigures);
     checkLayout();
 }
 

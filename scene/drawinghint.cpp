@@ -7,11 +7,13 @@
 QString DrawingHint::of(const DrawScene& canvas)
 {
     if (!canvas.isDrawing())
-        return tr("Redraw draws anew, Ctrl+Z takes back.");
+        return tr("Redraw draws the figure anew.");
     if (canvas.refusal() == DrawScene::Refusal::Crossing)
         return tr("Refused: lines would cross.");
+    if (canvas.refusal() == DrawScene::Refusal::Outside)
+        return tr("Refused: outside its area.");
     if (canvas.refusal() == DrawScene::Refusal::Forbidden)
-        return tr("Refused: the shaded area is not for it.");
+        return tr("Refused: the place is taken.");
     const BaseDraw& drawn = *canvas.selectedItem(canvas.currentDataId())->figure();
     const int needed = drawn.clicksNeeded();
     if (needed == 0)

@@ -17,6 +17,7 @@
 #include "tabel/inputboxtabel.h"
 #include "tabel/ruleitemwidgettabel.h"
 
+#include <QPointer>
 #include <QRegularExpressionValidator>
 
 #include <algorithm>
@@ -120,6 +121,10 @@ RuleProtocolItem* RuleScene::missingFigureItem(int dataId) const
 
 void RuleScene::sltTabelDrawItemCheckBtnChanged()
 {
+    const QPointer<RuleScene> self(this);
+    finishEdits();
+    if (!self)
+        return;
     const DrawItemButton* button = widgets().drawItems->currentButton();
     if (isBound() && button)
         nameEntry(button->dataId());

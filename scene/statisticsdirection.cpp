@@ -69,6 +69,18 @@ void StatisticsDirection::load(const RuleData& data, const RuleDataInfo& entry)
     show(figure ? figure->figure()->direction() : BaseDrawDirectionType::LeftToRight);
 }
 
+QVariant StatisticsDirection::chosen() const
+{
+    return m_row ? m_row->value() : QVariant();
+}
+
+void StatisticsDirection::choose(const RuleData& data, const RuleDataInfo& entry,
+                                 const QVariant& direction)
+{
+    if (m_row && parallelograms(data, entry).isEmpty())
+        m_row->loadValue(direction);
+}
+
 void StatisticsDirection::giveTo(DrawItem& figure)
 {
     if (!m_row || figure.drawType() != BaseDrawType::Parallelogram)

@@ -39,6 +39,11 @@ public:
     /// Gives the entry's parallelograms the direction that the row shows.
     void apply(const RuleData& data, const RuleDataInfo& entry) const;
 
+    /// What the row shows; invalid without a row.
+    QVariant chosen() const;
+    /// Shows @p direction for an entry that has no parallelogram yet: then only the row knows it.
+    void choose(const RuleData& data, const RuleDataInfo& entry, const QVariant& direction);
+
 private:
     static std::unique_ptr<RuleProtocolItem> makeItem();
     BaseDrawDirectionType shown() const;

@@ -24,9 +24,26 @@ bool isTyping(const QKeyEvent& event)
            modifiers != Qt::ControlModifier;
 }
 
+bool isPlain(const QKeyEvent& event)
+{
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 bool isReturn(const QKeyEvent& event)
 {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return isPlain(event) && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+}
+
+bool isEscape(const QKeyEvent& event)
+{
+    return isPlain(event) && event.key() == Qt::Key_Escape;
+}
+
+/// With either of the keys that people know it by, whatever the platform takes for one.
+bool isRedo(const QKeyEvent& event)
+{
+    return event.matches(QKeySequence::Redo) ||
+           (event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier);
 }
 
 } // namespace
@@ -74,9 +91,9 @@ bool RowEdit::event(QEvent* event)
         return QLineEdit::event(event);
     const auto& key = static_cast<const QKeyEvent&>(*event);
     const bool isLeft = (key.matches(QKeySequence::Undo) && !isUndoAvailable()) ||
-                        (key.matches(QKeySequence::Redo) && !isRedoAvailable());
-    const bool ends = isReturn(key) || key.key() == Qt::Key_Escape;
-    if (!isLeft && !(ends && event->type() == QEvent::ShortcutOverride))
+                        (isRedo(key) && !isRedoAvailable());
+    const bool isOwn = isReturn(key) || isEscape(key) || isRedo(key);
+    if (!isLeft && !(isOwn && event->type() == QEvent::ShortcutOverride))
         return QLineEdit::event(event);
     event->setAccepted(!isLeft);
     return true;
@@ -84,13 +101,17 @@ bool RowEdit::event(QEvent* event)
 
 void RowEdit::keyPressEvent(QKeyEvent* event)
 {
-    const bool isEscape = event->key() == Qt::Key_Escape;
-    if (isEscape || isReturn(*event)) {
-        if (isEscape)
+    if (isEscape(*event) || isReturn(*event)) {
+        if (isEscape(*event))
             pressEscape();
         else
             pressReturn(event);
         event->accept(); // it ends this edit, and nothing around it
+        return;
+    }
+    if (isRedo(*event)) {
+        redo();
+        event->accept();
         return;
     }
     if (event->matches(QKeySequence::Paste)) {

@@ -115,16 +115,20 @@
 <context>
     <name>DrawingHint</name>
     <message>
-        <source>Redraw draws anew, Ctrl+Z takes back.</source>
-        <translation>Neu zeichnen beginnt neu, Strg+Z nimmt zurück.</translation>
+        <source>Redraw draws the figure anew.</source>
+        <translation>Neu zeichnen beginnt die Figur neu.</translation>
     </message>
     <message>
         <source>Refused: lines would cross.</source>
         <translation>Abgelehnt: Linien würden sich kreuzen.</translation>
     </message>
     <message>
-        <source>Refused: the shaded area is not for it.</source>
-        <translation>Abgelehnt: nicht in der schattierten Fläche.</translation>
+        <source>Refused: outside its area.</source>
+        <translation>Abgelehnt: außerhalb seiner Fläche.</translation>
+    </message>
+    <message>
+        <source>Refused: the place is taken.</source>
+        <translation>Abgelehnt: die Stelle ist belegt.</translation>
     </message>
     <message>
         <source>Right click or Enter finishes.</source>

@@ -115,16 +115,20 @@
 <context>
     <name>DrawingHint</name>
     <message>
-        <source>Redraw draws anew, Ctrl+Z takes back.</source>
-        <translation>“重绘”重新绘制，Ctrl+Z 撤销。</translation>
+        <source>Redraw draws the figure anew.</source>
+        <translation>“重绘”重新绘制图形。</translation>
     </message>
     <message>
         <source>Refused: lines would cross.</source>
         <translation>无法添加：线段会相交。</translation>
     </message>
     <message>
-        <source>Refused: the shaded area is not for it.</source>
-        <translation>无法添加：阴影区域内不可绘制。</translation>
+        <source>Refused: outside its area.</source>
+        <translation>无法添加：超出所属区域。</translation>
+    </message>
+    <message>
+        <source>Refused: the place is taken.</source>
+        <translation>无法添加：该处已被占用。</translation>
     </message>
     <message>
         <source>Right click or Enter finishes.</source>
