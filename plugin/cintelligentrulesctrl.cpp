@@ -415,7 +415,7 @@ void CIntelligentRulesCtrl::tellSurface()
 
 void CIntelligentRulesCtrl::sceneChanged()
 {
-    m_editing->history().note();
+    m_editing->history().note(std::exchange(m_editedRow, {}));
     showSteps();
     for (BaseTabelScene* panel : qAsConst(m_scenes))
         panel->showHint();
@@ -653,7 +653,8 @@ void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
     const EditKey key = editKeyOf(*event);
     const bool isClaimed = isEditable() && m_editing->claims(key);
     event->setAccepted(isClaimed);
-    const bool endsSeries = key == EditKey::Idle && m_playerWin && m_playerWin->hasFocus();
+    const bool endsSeries =
+        key == EditKey::Idle && m_playerWin && window()->focusWidget() == m_playerWin;
     if (!isEditable() || !m_editing->isUseful(key) || !(isClaimed || endsSeries))
         return;
     const LoadGuard guard(this);
@@ -713,7 +714,7 @@ void CIntelligentRulesCtrl::showKeys()
 
 void CIntelligentRulesCtrl::sltRowEdited(const QString& key)
 {
-    m_editing->history().note(key);
+    m_editedRow = key;
 }
 
 void CIntelligentRulesCtrl::sltRestored(BaseTabelScene* panel)

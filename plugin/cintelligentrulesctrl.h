@@ -144,6 +144,7 @@ private:
     QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers
     EditCommands* m_editing;              ///< owned as a child
     EditKey m_usedKey = EditKey::None;
+    QString m_editedRow;                  ///< key of the row whose edit is about to be noted
     std::unique_ptr<RuleParser> m_parser; ///< null while nothing is loaded
     QList<BaseTabelScene*> m_scenes;      ///< children of the form's scroll view
     QString m_widgetId;

@@ -80,9 +80,11 @@ public:
     bool mergeWith(const QUndoCommand* other) override
     {
         const EditStep& next = static_cast<const Command*>(other)->m_step;
-        const bool isSameRow = m_history.m_mayMerge && !m_step.row.isEmpty() &&
-                               m_step.row == next.row && m_step.scene == next.scene &&
-                               m_step.change.dataId == next.change.dataId;
+        if (m_step.scene != next.scene || m_step.change.dataId != next.change.dataId ||
+            m_step.change.itemId != next.change.itemId)
+            return false;
+        const bool isSameRow =
+            m_history.m_mayMerge && !m_step.row.isEmpty() && m_step.row == next.row;
         if (!isSameRow && !m_history.m_mergesPoints)
             return false;
         m_step.after = next.after;
