@@ -49,8 +49,12 @@ void BaseDraw::draw(Gdiplus::Graphics* graphics)
     if (!graphics)
         return;
     const QMutexLocker lock(&m_mutex);
-    const CanvasFigure shown(m_figure, m_movePoint, m_canvasSize);
-    if (shown.shownPoints().size() >= 2)
+    const CanvasFigure shown(m_preview.value_or(m_figure), m_movePoint, m_canvasSize);
+    if (shown.shownPoints().size() < 2)
+        return;
+    if (m_preview && m_isRefused)
+        paint(FigurePainter::ofRefused(*graphics), shown);
+    else
         paint(FigurePainter(*graphics, color()), shown);
 }
 
@@ -96,6 +100,20 @@ CanvasFigure BaseDraw::canvasFigure() const
 {
     const QMutexLocker lock(&m_mutex);
     return {m_figure, m_movePoint, m_canvasSize};
+}
+
+void BaseDraw::setPreview(const std::optional<Figure>& figure, bool isRefused)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_preview = figure;
+    m_isRefused = isRefused;
+    change();
+}
+
+CanvasFigure BaseDraw::shownFigure() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return {m_preview.value_or(m_figure), m_movePoint, m_canvasSize};
 }
 
 void BaseDraw::clear()
@@ -173,6 +191,11 @@ QSize BaseDraw::canvasSize() const
 quint64 BaseDraw::selectionRevision()
 {
     return g_selectionRevision;
+}
+
+quint64 BaseDraw::lastRevision()
+{
+    return g_lastRevision;
 }
 
 QVector<QPoint> BaseDraw::clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const

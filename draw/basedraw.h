@@ -56,6 +56,11 @@ public:
     bool setFigure(const Figure& figure);
     /// The figure as it lies on the canvas now, with its rubber band.
     CanvasFigure canvasFigure() const;
+    /// Paints @p figure, of the same kind, in the place of the figure until there is none again;
+    /// @p isRefused says that it may not lie there.
+    void setPreview(const std::optional<Figure>& figure, bool isRefused);
+    /// What is painted: the figure, or the one in its place.
+    CanvasFigure shownFigure() const;
 
     BaseDrawType type() const { return figure().kind(); }
     /// How many points the figure takes; it is finished by itself at the maximum.
@@ -109,6 +114,8 @@ public:
     /// Another number after every change of what this figure paints; no two states of any figures
     /// share one, so that what was painted can be kept until then.
     quint64 revision() const { return m_revision; }
+    /// Grows with every such change of any figure.
+    static quint64 lastRevision();
 
 protected:
     ~BaseDraw() = default;
@@ -142,6 +149,8 @@ private:
     mutable QMutex m_mutex; ///< guards figure, move point and canvas size
     std::atomic<quint64> m_revision;
     Figure m_figure;
+    std::optional<Figure> m_preview;
+    bool m_isRefused = false;
     std::optional<QPoint> m_movePoint; ///< normalized
     QSize m_canvasSize{0, 0};
     bool m_selected = false;

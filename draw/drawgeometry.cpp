@@ -59,6 +59,26 @@ double turn(const QPointF& a, const QPointF& b, const QPointF& c)
     return (b.x() - a.x()) * (c.y() - a.y()) - (b.y() - a.y()) * (c.x() - a.x());
 }
 
+/// -1, 0 or 1: the way in which the turn from @p line to @p point goes.
+int turnOf(const QLine& line, const QPoint& point)
+{
+    const double turned = turn(line.p1(), line.p2(), point);
+    return turned > 0 ? 1 : turned < 0 ? -1 : 0;
+}
+
+/// Whether the segments have a point in common.
+bool meet(const QLine& a, const QLine& b)
+{
+    const int first = turnOf(a, b.p1());
+    const int second = turnOf(a, b.p2());
+    const int third = turnOf(b, a.p1());
+    const int fourth = turnOf(b, a.p2());
+    if (first != second && third != fourth)
+        return true;
+    return (first == 0 && isInBounds(b.p1(), a)) || (second == 0 && isInBounds(b.p2(), a)) ||
+           (third == 0 && isInBounds(a.p1(), b)) || (fourth == 0 && isInBounds(a.p2(), b));
+}
+
 } // namespace
 
 std::optional<QPoint> DrawGeometry::toNormalized(const QPoint& canvasPoint, const QSize& canvasSize)
@@ -115,6 +135,37 @@ QVector<QPoint> DrawGeometry::closingEdgeCrossings(const QVector<QPoint>& points
             crossings.append(*cross);
     }
     return crossings;
+}
+
+bool DrawGeometry::crossesItself(const QVector<QPoint>& points, bool isClosed)
+{
+    QVector<QPoint> corners = points;
+    if (isClosed && !corners.isEmpty())
+        corners.append(corners.first());
+    corners.erase(std::unique(corners.begin(), corners.end()), corners.end());
+    const int lines = corners.size() - 1;
+    for (int i = 0; i < lines; ++i) {
+        const QLine line(corners[i], corners[i + 1]);
+        // The closing line shares a corner with the first.
+        const int last = isClosed && i == 0 ? lines - 1 : lines;
+        for (int j = i + 2; j < last; ++j) {
+            if (meet(line, {corners[j], corners[j + 1]}))
+                return true;
+        }
+    }
+    return false;
+}
+
+double DrawGeometry::distance(const QLine& line, const QPoint& point)
+{
+    const QPointF start(line.p1());
+    const QPointF along = QPointF(line.p2()) - start;
+    const QPointF to = QPointF(point) - start;
+    const double length = QPointF::dotProduct(along, along);
+    const double part =
+        length > 0 ? qBound(0.0, QPointF::dotProduct(along, to) / length, 1.0) : 0.0;
+    const QPointF apart = to - along * part;
+    return std::hypot(apart.x(), apart.y());
 }
 
 double DrawGeometry::directionAngle(const QLine& line)

@@ -33,6 +33,13 @@ QPoint toCanvas(const QPoint& normalizedPoint, const QSize& canvasSize);
 /// nothing: a known limit of the slope arithmetic that operators' figures rely on.
 std::optional<QPoint> segmentsCross(const QLine& a, const QLine& b);
 
+/// Whether two lines between consecutive @p points, the one that closes them included with
+/// @p isClosed, meet elsewhere than in a corner that they share. Exact within the normalized space.
+bool crossesItself(const QVector<QPoint>& points, bool isClosed);
+
+/// How far @p point is from the nearest place of @p line.
+double distance(const QLine& line, const QPoint& point);
+
 /// Where the edge from the last of @p points to @p next crosses the edges before it.
 QVector<QPoint> newEdgeCrossings(const QVector<QPoint>& points, const QPoint& next);
 

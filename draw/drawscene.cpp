@@ -1,8 +1,8 @@
 #include "draw/drawscene.h"
 
 #include "draw/basedraw.h"
-#include "draw/canvasfigure.h"
-#include "draw/drawgeometry.h"
+#include "draw/figureindex.h"
+#include "draw/figuresurroundings.h"
 #include "draw/forbidenarea.h"
 #include "draw/labelfont.h"
 #include "draw/shortenedtext.h"
@@ -61,6 +61,7 @@ void DrawScene::removeAll()
 {
     m_items.clear();
     m_byDataId.clear();
+    m_byPlace.reset();
     m_roots.clear();
 }
 
@@ -214,7 +215,7 @@ void DrawScene::setDrawnPoints(const DrawItem& item, const QVector<QPoint>& poin
     item.figure()->setFigure(figure);
     if (points.isEmpty())
         item.figure()->clear(); // the rubber band, too
-    m_refusal = Refusal::None;
+    m_refusal = DrawRefusal::None;
     renewForbidenArea(item);
 }
 
@@ -228,6 +229,35 @@ void DrawScene::redrawItem(int id)
     m_message = getBeginDrawMsg(item);
     calcDrawForbidenArea(item);
     emit sgnSelectedStatusChange();
+}
+
+void DrawScene::setPreview(int itemId, const std::optional<Figure>& figure, bool isRefused)
+{
+    const DrawItem* item = findItem(itemId);
+    if (!item || !item->figure())
+        return;
+    item->figure()->setPreview(figure, isRefused);
+    m_previewed = figure ? item : nullptr;
+}
+
+const FigureIndex& DrawScene::figuresByPlace() const
+{
+    if (!m_byPlace || m_byPlaceRevision != BaseDraw::lastRevision()) {
+        m_byPlace = std::make_unique<FigureIndex>(m_items);
+        m_byPlaceRevision = BaseDraw::lastRevision();
+    }
+    return *m_byPlace;
+}
+
+FigureSurroundings DrawScene::surroundings() const
+{
+    return {m_items, m_canvasSize};
+}
+
+std::pair<quint64, bool> DrawScene::look() const
+{
+    const DrawItem* drawn = itemBeingDrawn();
+    return {drawn && drawn->figure() ? drawn->figure()->revision() : 0, m_message.isEmpty()};
 }
 
 bool DrawScene::HasDrawUnfinished() const
@@ -250,7 +280,7 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
     if (!graphics)
         return;
     FigureLayer::setQuality(*graphics);
-    const DrawItem* drawn = itemBeingDrawn();
+    const DrawItem* drawn = m_previewed ? m_previewed : itemBeingDrawn();
     std::vector<BaseDraw*> below;
     std::vector<BaseDraw*> above;
     BaseDraw* live = nullptr;
@@ -277,10 +307,7 @@ void DrawScene::dropPainting()
 
 bool DrawScene::isPointForbidden(const QPoint& point) const
 {
-    // A press on the border is one on the last column or row.
-    const QPoint inside(std::min(point.x(), std::max(0, m_canvasSize.width() - 1)),
-                        std::min(point.y(), std::max(0, m_canvasSize.height() - 1)));
-    return m_forbidenArea && m_forbidenArea->contains(inside);
+    return m_forbidenArea && m_forbidenArea->contains(point);
 }
 
 void DrawScene::itemAdded(DrawItem& item)
@@ -294,6 +321,9 @@ void DrawScene::itemGone(DrawItem& item)
 {
     m_items.removeOne(&item);
     m_byDataId.clear();
+    m_byPlace.reset();
+    if (m_previewed == &item)
+        m_previewed = nullptr;
     m_foundAtRevision.reset();
     if (m_forbidenFor == &item)
         calcDrawForbidenArea(nullptr);
@@ -342,13 +372,13 @@ void DrawScene::pressLeft(DrawItem& item, const QPoint& point)
         return;
     if (isPointForbidden(point)) {
         m_refusal = item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOutsideParent
-                        ? Refusal::Outside
-                        : Refusal::Forbidden;
+                        ? DrawRefusal::Outside
+                        : DrawRefusal::Forbidden;
         return;
     }
     const int before = figure->pointCount();
     figure->addPoint(point.x(), point.y());
-    m_refusal = figure->pointCount() == before ? Refusal::Crossing : Refusal::None;
+    m_refusal = figure->pointCount() == before ? DrawRefusal::Crossing : DrawRefusal::None;
     if (figure->isFinished()) {
         finishDrawing(item);
     } else if (item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenSelf &&
@@ -366,7 +396,7 @@ void DrawScene::finishDrawing(const DrawItem& item)
 
 void DrawScene::calcDrawForbidenArea(const DrawItem* item)
 {
-    m_refusal = Refusal::None;
+    m_refusal = DrawRefusal::None;
     setForbidenArea(item ? forbidenArea(*item, nullptr) : nullptr, item);
 }
 
@@ -396,28 +426,10 @@ std::unique_ptr<ForbidenArea> DrawScene::ownForbidenArea(const DrawItem& item) c
     return path ? std::make_unique<ForbidenArea>(std::move(path), m_canvasSize) : nullptr;
 }
 
-/// What other figures than @p except forbid to the one of @p item; null for nothing.
 std::unique_ptr<ForbidenArea> DrawScene::forbidenArea(const DrawItem& item,
                                                       const DrawItem* except) const
 {
-    const bool isOutside =
-        item.forbidenAreaType() == DrawItemForbidenAreaType::ForbidenOutsideParent;
-    if (!isOutside && item.forbidenAreaType() != DrawItemForbidenAreaType::ForbidenOtherItems)
-        return nullptr;
-    auto area = std::make_unique<ForbidenArea>(
-        std::make_unique<Gdiplus::GraphicsPath>(isOutside ? Gdiplus::FillModeAlternate
-                                                          : Gdiplus::FillModeWinding),
-        m_canvasSize);
-    const DrawItem* parent = isOutside ? item.parent() : nullptr;
-    if (parent && parent->figure() && parent->drawType() != BaseDrawType::VehicleLane) {
-        area->addCanvas();
-        area->addOutline(parent->figure()->canvasFigure().outline());
-    }
-    for (const DrawItem* other : m_items) {
-        if (!isOutside && other->figure() && other != except)
-            area->addOutline(DrawGeometry::clockwise(other->figure()->canvasFigure().outline()));
-    }
-    return area;
+    return surroundings().forbidenTo(item, item.forbidenAreaType(), except);
 }
 
 DrawItem* DrawScene::itemBeingDrawn() const

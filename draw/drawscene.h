@@ -11,9 +11,12 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
+class FigureIndex;
 class ForbidenArea;
+struct FigureSurroundings;
 
 /**
  * The canvas of one scene: holds every figure of it, turns mouse events into points of the
@@ -80,6 +83,15 @@ public:
     /// Clears the item's figure so that it is drawn again.
     void redrawItem(int id);
 
+    /// Shows @p figure in the place of the one of item @p itemId until there is none again; with
+    /// @p isRefused as one that may not lie there. An unknown id does nothing.
+    void setPreview(int itemId, const std::optional<Figure>& figure, bool isRefused);
+    /// The finished figures by where they are.
+    const FigureIndex& figuresByPlace() const;
+    FigureSurroundings surroundings() const;
+    /// Another value after a mouse event that made the canvas look different.
+    std::pair<quint64, bool> look() const;
+
     /// Whether a left press would go to a figure that is not finished.
     bool isDrawing() const { return itemBeingDrawn(); }
     bool HasDrawUnfinished() const;
@@ -91,15 +103,11 @@ public:
     /// Frees what is kept for the next draw(), which then paints everything anew.
     void dropPainting();
 
-    /// Why the last left press added no point.
-    enum class Refusal {
-        None,
-        Crossing,  ///< a line would cross another one of the figure
-        Outside,   ///< of the figure around
-        Forbidden, ///< it lies where the figure may not
-    };
-    /// None again once a point was taken, and for another figure.
-    Refusal refusal() const { return m_refusal; }
+    /// Why the last left press added no point; None again once a point was taken, and for another
+    /// figure.
+    DrawRefusal refusal() const { return m_refusal; }
+    /// Says why a figure was not corrected; None where it was.
+    void setRefusal(DrawRefusal refusal) { m_refusal = refusal; }
 
     /// The hint shown in the middle of the canvas; empty for none.
     const QString& message() const { return m_message; }
@@ -140,7 +148,7 @@ private:
     std::vector<std::unique_ptr<DrawItem>> m_roots; ///< the items without a parent
     QSize m_canvasSize{0, 0};
     QString m_message;
-    Refusal m_refusal = Refusal::None;
+    DrawRefusal m_refusal = DrawRefusal::None;
     std::unique_ptr<ForbidenArea> m_forbidenArea; ///< null: no point is forbidden
     const DrawItem* m_forbidenFor = nullptr;      ///< whose standing area it is; not owned
     quint64 m_forbidenRevision = 0;               ///< another one whenever the area is another
@@ -149,6 +157,10 @@ private:
     bool m_drawByDataId = false;
     int m_currentDataId = -1;
 
+    const DrawItem* m_previewed = nullptr; ///< not owned; null for none
+
+    mutable std::unique_ptr<const FigureIndex> m_byPlace; ///< null: not made since items changed
+    mutable quint64 m_byPlaceRevision = 0;
     // The first selected item, good until the revision changes.
     mutable DrawItem* m_foundSelected = nullptr; ///< not owned
     mutable std::optional<quint64> m_foundAtRevision;

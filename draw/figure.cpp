@@ -3,7 +3,24 @@
 #include "draw/drawgeometry.h"
 
 #include <algorithm>
+#include <limits>
 #include <tuple>
+
+namespace
+{
+
+/// What a document says about points may lie anywhere.
+QPoint movedBy(const QPoint& point, const QPoint& difference)
+{
+    const auto sum = [](qint64 a, qint64 b) {
+        constexpr qint64 lowest = std::numeric_limits<int>::min();
+        constexpr qint64 highest = std::numeric_limits<int>::max();
+        return static_cast<int>(std::clamp(a + b, lowest, highest));
+    };
+    return {sum(point.x(), difference.x()), sum(point.y(), difference.y())};
+}
+
+} // namespace
 
 Figure::Figure(BaseDrawType kind, const PointLimits& limits) : m_limits(limits), m_kind(kind) {}
 
@@ -53,6 +70,14 @@ void Figure::setPoints(const QVector<QPoint>& points)
 {
     m_points = points;
     m_directionPoints.clear();
+}
+
+void Figure::moveBy(const QPoint& difference)
+{
+    for (QPoint& point : m_points)
+        point = movedBy(point, difference);
+    for (QPoint& point : m_directionPoints)
+        point = movedBy(point, difference);
 }
 
 QVector<QPoint> Figure::outline() const

@@ -56,6 +56,9 @@ public:
     /// Takes any number of points, as they are.
     void setPoints(const QVector<QPoint>& points);
 
+    /// Moves all points, and those of the direction that are kept, by @p difference.
+    void moveBy(const QPoint& difference);
+
     /// The closed polygon of the points, the first one repeated at its end; empty for fewer than
     /// two. That of two points encloses nothing, a rectangle's either.
     QVector<QPoint> outline() const;

@@ -44,8 +44,20 @@ void moveTo(Gdiplus::Graphics& graphics, const QPoint& origin, const QLine& segm
 } // namespace
 
 FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color)
+    : FigurePainter(graphics, color, Gdiplus::DashStyleSolid)
+{
+}
+
+FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
+                             Gdiplus::DashStyle dashes)
     : m_graphics(graphics), m_color(color), m_pen(color, kPenWidth)
 {
+    m_pen.SetDashStyle(dashes);
+}
+
+FigurePainter FigurePainter::ofRefused(Gdiplus::Graphics& graphics)
+{
+    return {graphics, Gdiplus::Color(kRefusedColor), Gdiplus::DashStyleDash};
 }
 
 void FigurePainter::line(const QLine& line) const

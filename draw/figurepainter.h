@@ -19,6 +19,9 @@ public:
     /// @p graphics must outlive the painter.
     FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color);
 
+    /// For a figure that may not lie where it is: red and dashed.
+    static FigurePainter ofRefused(Gdiplus::Graphics& graphics);
+
     void line(const QLine& line) const;
     /// A line that would become an edge: red, with a small square at each of @p crossings, when
     /// it would be refused for crossing others.
@@ -42,6 +45,8 @@ public:
     void name(const CanvasFigure& shown) const;
 
 private:
+    FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
+                  Gdiplus::DashStyle dashes);
     void stroke(float x1, float y1, float x2, float y2) const;
     void wing(float tipY, float degrees, float endY) const;
 

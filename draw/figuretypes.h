@@ -36,3 +36,12 @@ enum class DrawItemForbidenAreaType : int {
     ForbidenOutsideParent = 2, ///< only inside the parent's figure, unless that is a vehicle lane
     ForbidenSelf = 3,          ///< not inside the figure's own forbidden area
 };
+
+/// Why a point was not added, or a figure may not lie where it was moved to.
+enum class DrawRefusal : unsigned char {
+    None = 0,
+    Crossing,  ///< a line would cross another one of the figure
+    Outside,   ///< of the figure around
+    Forbidden, ///< it lies where the figure may not
+    Inside,    ///< a figure inside of it would be outside
+};

@@ -60,7 +60,8 @@ void ForbidenArea::addOutline(Gdiplus::GraphicsPath& path, const QPolygonF& corn
 
 bool ForbidenArea::contains(const QPoint& point) const
 {
-    return m_path->IsVisible(point.x(), point.y());
+    return m_path->IsVisible(std::min(point.x(), std::max(0, m_canvasSize.width() - 1)),
+                             std::min(point.y(), std::max(0, m_canvasSize.height() - 1)));
 }
 
 void ForbidenArea::paint(Gdiplus::Graphics& graphics) const

@@ -34,6 +34,7 @@ public:
     /// Adds the polygon @p corners to @p path, closed where it is open; nothing for fewer than two.
     static void addOutline(Gdiplus::GraphicsPath& path, const QPolygonF& corners);
 
+    /// A point on the right or lower border is one in the last column or row.
     bool contains(const QPoint& point) const;
     /// Shades the area: with rough edges when these are long together, and not at all when they are
     /// so long that it would take seconds. Leaves the painting smooth.

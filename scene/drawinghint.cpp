@@ -8,11 +8,11 @@ QString DrawingHint::of(const DrawScene& canvas)
 {
     if (!canvas.isDrawing())
         return tr("Redraw draws the figure anew.");
-    if (canvas.refusal() == DrawScene::Refusal::Crossing)
+    if (canvas.refusal() == DrawRefusal::Crossing)
         return tr("Refused: lines would cross.");
-    if (canvas.refusal() == DrawScene::Refusal::Outside)
+    if (canvas.refusal() == DrawRefusal::Outside)
         return tr("Refused: outside its area.");
-    if (canvas.refusal() == DrawScene::Refusal::Forbidden)
+    if (canvas.refusal() == DrawRefusal::Forbidden)
         return tr("Refused: the place is taken.");
     const BaseDraw& drawn = *canvas.selectedItem(canvas.currentDataId())->figure();
     const int needed = drawn.clicksNeeded();

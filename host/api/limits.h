@@ -53,6 +53,8 @@ constexpr int kHint = 200;
 /// Laying out more takes longer than an operator waits; a panel can have a thousand edits.
 constexpr int kInput = 2000;
 
+/// Of a figure that can be corrected with the mouse: each of its points gets a handle.
+constexpr int kCorrectedPoints = 1024;
 /// Where they cross all over the picture, smoothing the lines of more points takes seconds.
 constexpr int kSmoothPoints = 8192;
 // Where edges cross all over the canvas, more of them takes Qt's rasteriser seconds, a hundred

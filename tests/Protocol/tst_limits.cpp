@@ -220,6 +220,7 @@ private slots:
             {kCreatedParts, kElements},
             {kLine, kTip, kLabel, kHint, kBoxLines},
             {kInput},
+            {kCorrectedPoints},
             {kSmoothPoints, kSmoothEdges, kShadedEdges},
         };
         QFile page(QStringLiteral(RULES_SOURCE_DIR "/docs/reliability.md"));

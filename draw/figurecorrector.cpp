@@ -1,0 +1,264 @@
+#include "draw/figurecorrector.h"
+
+#include "draw/basedraw.h"
+#include "draw/canvasfigure.h"
+#include "draw/correctioncheck.h"
+#include "draw/drawgeometry.h"
+#include "draw/drawitem.h"
+#include "draw/drawscene.h"
+#include "draw/figurehandle.h"
+#include "draw/figureindex.h"
+#include "draw/figuremove.h"
+#include "draw/figureshape.h"
+#include "draw/figuresurroundings.h"
+#include "draw/handlepainter.h"
+#include "host/api/limits.h"
+
+#include <cmath>
+#include <utility>
+
+namespace
+{
+
+using Kind = FigureHandle::Kind;
+
+int normalizedStep(int pixels, int extent)
+{
+    if (pixels == 0 || extent < 1)
+        return 0;
+    const double step = std::round(double(pixels) * DrawGeometry::kNormalizedExtent / extent);
+    const int far = static_cast<int>(qBound(-1.0e6, step, 1.0e6));
+    return far != 0 ? far : pixels > 0 ? 1 : -1;
+}
+
+} // namespace
+
+FigureCorrector::FigureCorrector() = default;
+FigureCorrector::~FigureCorrector() = default;
+
+void FigureCorrector::setScene(DrawScene* scene, AreaRule rule)
+{
+    if (m_scene)
+        putBack();
+    m_scene = scene;
+    m_rule = std::move(rule);
+    m_hoveredId = 0;
+    chooseNothing();
+}
+
+bool FigureCorrector::hover(const std::optional<QPoint>& at)
+{
+    const DrawItem* item = m_scene && at && !isMoving() ? hoveredAt(*at) : nullptr;
+    const int before = std::exchange(m_hoveredId, item ? item->itemId() : 0);
+    return before != m_hoveredId;
+}
+
+bool FigureCorrector::hasHandle(const QPoint& at) const
+{
+    return handleAt(at).item;
+}
+
+bool FigureCorrector::take(const QPoint& at, bool isWhole)
+{
+    chooseNothing();
+    const Target whole{isWhole ? figureAt(at, true) : nullptr};
+    const Target target = whole.item ? whole : handleAt(at);
+    if (!target.item)
+        return false;
+    start(target);
+    return true;
+}
+
+void FigureCorrector::start(const Target& target)
+{
+    const Figure figure = target.item->value();
+    const auto move = target.line >= 0          ? FigureMove::ofNewCorner(figure, target.line)
+                      : target.corner == kWhole ? FigureMove::ofWhole(figure)
+                                                : FigureMove::ofCorner(figure, target.corner);
+    m_move = std::make_unique<FigureMove>(move);
+    m_check = std::make_unique<CorrectionCheck>(m_scene->surroundings(), *target.item,
+                                                m_rule(*target.item));
+    m_itemId = target.item->itemId();
+    m_corner = target.line >= 0 ? target.line + 1 : target.corner;
+    m_hoveredId = m_itemId;
+    moveTo({});
+}
+
+void FigureCorrector::moveTo(const QPoint& way)
+{
+    if (!isMoving())
+        return;
+    m_moved = std::make_unique<Figure>(m_move->by(normalized(way)));
+    m_refusal =
+        *m_moved == m_move->original() ? DrawRefusal::None : m_check->ofMove(*m_moved, *m_move);
+    m_scene->setPreview(m_itemId, *m_moved, m_refusal != DrawRefusal::None);
+}
+
+bool FigureCorrector::letGo()
+{
+    if (!isMoving())
+        return false;
+    const Figure moved = *m_moved;
+    const DrawRefusal refusal = m_refusal;
+    const bool isNewCorner = m_move->originOf(m_corner) < 0;
+    putBack();
+    DrawItem* item = chosenItem();
+    const bool isChanged = item && change(*item, moved, refusal);
+    // The new corner went with the move.
+    if (isNewCorner && !isChanged)
+        m_itemId = 0;
+    return isChanged;
+}
+
+void FigureCorrector::putBack()
+{
+    if (!isMoving())
+        return;
+    m_scene->setPreview(m_itemId, std::nullopt, false);
+    m_move.reset();
+    m_check.reset();
+    m_moved.reset();
+    m_refusal = DrawRefusal::None;
+}
+
+QString FigureCorrector::chosenName() const
+{
+    return QStringLiteral("%1/%2").arg(m_itemId).arg(m_corner);
+}
+
+void FigureCorrector::chooseNothing()
+{
+    if (m_scene)
+        putBack();
+    m_itemId = 0;
+    m_corner = kWhole;
+    m_refusal = DrawRefusal::None;
+}
+
+void FigureCorrector::checkChosen()
+{
+    const DrawItem* item = chosenItem();
+    const bool isThere = item && mayTake(*item);
+    const int corners = isThere ? FigureShape(item->figure()->canvasFigure()).corners().size() : 0;
+    if (!isThere || (m_corner >= corners && !isMoving()))
+        chooseNothing();
+}
+
+bool FigureCorrector::moveChosen(const QPoint& pixels)
+{
+    DrawItem* item = chosenItem();
+    if (!item || isMoving() || !mayTake(*item))
+        return false;
+    const Figure figure = item->value();
+    const FigureMove move =
+        m_corner == kWhole ? FigureMove::ofWhole(figure) : FigureMove::ofCorner(figure, m_corner);
+    const CorrectionCheck check(m_scene->surroundings(), *item, m_rule(*item));
+    const Figure moved = move.by(normalized(pixels));
+    return change(*item, moved, check.ofMove(moved, move));
+}
+
+bool FigureCorrector::removeChosen()
+{
+    DrawItem* item = chosenItem();
+    return item && m_corner != kWhole && removeCorner(*item, m_corner);
+}
+
+bool FigureCorrector::removeAt(const QPoint& at)
+{
+    chooseNothing();
+    const Target target = handleAt(at);
+    return target.item && target.line < 0 && removeCorner(*target.item, target.corner);
+}
+
+bool FigureCorrector::removeCorner(DrawItem& item, int corner)
+{
+    Figure figure = item.value();
+    if (!mayTake(item) ||
+        FigureShape(item.figure()->canvasFigure()).corners().size() != figure.pointCount() ||
+        !figure.removePoint(corner))
+        return false;
+    const CorrectionCheck check(m_scene->surroundings(), item, m_rule(item));
+    if (!change(item, figure, check.ofShape(figure)))
+        return false;
+    chooseNothing();
+    return true;
+}
+
+/// Whether the figure is @p figure now, and was not before.
+bool FigureCorrector::change(DrawItem& item, const Figure& figure, DrawRefusal refusal)
+{
+    m_scene->setRefusal(refusal);
+    if (refusal != DrawRefusal::None || item.value() == figure)
+        return false;
+    return item.figure()->setFigure(figure);
+}
+
+FigureCorrector::Target FigureCorrector::handleAt(const QPoint& at) const
+{
+    Target found;
+    std::optional<FigureHandle> best;
+    const QList<DrawItem*> items =
+        m_scene ? m_scene->figuresByPlace().around(at) : QList<DrawItem*>();
+    for (DrawItem* item : items) {
+        if (!mayTake(*item))
+            continue;
+        const auto handle =
+            FigureHandle::nearest(FigureHandle::of(item->figure()->canvasFigure()), at);
+        if (!handle || (best && !handle->isBefore(*best, at)))
+            continue;
+        best = handle;
+        const bool isCorner = handle->kind == Kind::Corner;
+        found = {item, isCorner ? handle->index : kWhole, isCorner ? -1 : handle->index};
+    }
+    return found;
+}
+
+DrawItem* FigureCorrector::figureAt(const QPoint& at, bool mustHold) const
+{
+    const auto isTakeable = [this](const DrawItem& item) { return mayTake(item); };
+    return m_scene ? m_scene->figuresByPlace().under(at, isTakeable, mustHold) : nullptr;
+}
+
+/// The figure that a press would take, or that is under the mouse.
+DrawItem* FigureCorrector::hoveredAt(const QPoint& at) const
+{
+    DrawItem* item = handleAt(at).item;
+    return item ? item : figureAt(at, false);
+}
+
+bool FigureCorrector::mayTake(const DrawItem& item) const
+{
+    return item.figure() && item.isFinished() && item.dataId() == m_scene->currentDataId() &&
+           item.value().pointCount() <= Limits::kCorrectedPoints && !m_scene->isDrawing();
+}
+
+DrawItem* FigureCorrector::chosenItem() const
+{
+    return m_scene ? m_scene->findItem(m_itemId) : nullptr;
+}
+
+QPoint FigureCorrector::normalized(const QPoint& pixels) const
+{
+    const QSize canvas = m_scene->canvasSize();
+    return {normalizedStep(pixels.x(), canvas.width()),
+            normalizedStep(pixels.y(), canvas.height())};
+}
+
+void FigureCorrector::draw(Gdiplus::Graphics* graphics) const
+{
+    if (!graphics || !m_scene)
+        return;
+    const HandlePainter painter(*graphics);
+    for (const int id : {m_hoveredId, m_itemId}) {
+        const DrawItem* item = m_scene->findItem(id);
+        if (!item || !mayTake(*item))
+            continue;
+        for (const FigureHandle& handle : FigureHandle::of(item->figure()->shownFigure())) {
+            const bool isCorner = handle.kind == Kind::Corner;
+            const bool isChosen =
+                id == m_itemId && isCorner && (m_corner == kWhole || m_corner == handle.index);
+            if (isChosen || (id == m_hoveredId && !isMoving()))
+                painter.handle(handle.at, isCorner, isChosen);
+        }
+    }
+}
