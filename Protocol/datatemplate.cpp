@@ -92,6 +92,17 @@ DrawItemForbidenAreaType DataTemplate::forbiddenArea(const RuleProtocolItem& ite
                              : DrawItemForbidenAreaType::ForbidenNone;
 }
 
+DrawItemForbidenAreaType DataTemplate::forbiddenAreaOf(const DrawItem& figure) const
+{
+    if (figure.parent())
+        return DrawItemForbidenAreaType::ForbidenOutsideParent;
+    const auto found =
+        std::find_if(m_items.begin(), m_items.end(), [&figure, this](const auto& item) {
+            return item->isFigure() && isFigureFor(figure, *item);
+        });
+    return found == m_items.end() ? figure.forbidenAreaType() : forbiddenArea(**found);
+}
+
 bool DataTemplate::isFigureFor(const DrawItem& figure, const RuleProtocolItem& item) const
 {
     if (figure.templateKey().isEmpty())

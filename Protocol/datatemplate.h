@@ -69,6 +69,8 @@ public:
     virtual std::vector<TemplateSection> sections() const { return {{m_name, m_parent}}; }
     /// Where the figures of @p item may not be drawn.
     virtual DrawItemForbidenAreaType forbiddenArea(const RuleProtocolItem& item) const;
+    /// The same for a figure that is there; one inside of another has to stay there.
+    DrawItemForbidenAreaType forbiddenAreaOf(const DrawItem& figure) const;
     /// What is written at the edges of the figures of @p item.
     virtual EdgeLabelMode edgeLabels(const RuleProtocolItem& /*item*/) const
     {

@@ -38,12 +38,10 @@ FigureCorrector::~FigureCorrector() = default;
 
 void FigureCorrector::setScene(DrawScene* scene, AreaRule rule)
 {
-    if (m_scene)
-        putBack();
+    chooseNothing();
     m_scene = scene;
     m_rule = std::move(rule);
     m_hoveredId = 0;
-    chooseNothing();
 }
 
 bool FigureCorrector::hover(const std::optional<QPoint>& at)
@@ -98,12 +96,14 @@ bool FigureCorrector::letGo()
 {
     if (!isMoving())
         return false;
+    const Figure original = m_move->original();
     const Figure moved = *m_moved;
     const DrawRefusal refusal = m_refusal;
-    const bool isNewCorner = m_move->originOf(m_corner) < 0;
+    const bool isNewCorner = m_corner != kWhole && m_move->originOf(m_corner) < 0;
     putBack();
     DrawItem* item = chosenItem();
-    const bool isChanged = item && change(*item, moved, refusal);
+    // Something else may have drawn it anew meanwhile.
+    const bool isChanged = item && item->value() == original && change(*item, moved, refusal);
     // The new corner went with the move.
     if (isNewCorner && !isChanged)
         m_itemId = 0;
@@ -128,20 +128,19 @@ QString FigureCorrector::chosenName() const
 
 void FigureCorrector::chooseNothing()
 {
-    if (m_scene)
-        putBack();
+    putBack();
+    if (m_scene && !m_scene->isDrawing())
+        m_scene->setRefusal(DrawRefusal::None);
     m_itemId = 0;
     m_corner = kWhole;
-    m_refusal = DrawRefusal::None;
 }
 
-void FigureCorrector::checkChosen()
+bool FigureCorrector::isChosenThere() const
 {
     const DrawItem* item = chosenItem();
-    const bool isThere = item && mayTake(*item);
-    const int corners = isThere ? FigureShape(item->figure()->canvasFigure()).corners().size() : 0;
-    if (!isThere || (m_corner >= corners && !isMoving()))
-        chooseNothing();
+    if (!item || !mayTake(*item))
+        return false;
+    return isMoving() || m_corner < FigureShape(item->figure()->canvasFigure()).corners().size();
 }
 
 bool FigureCorrector::moveChosen(const QPoint& pixels)

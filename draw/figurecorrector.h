@@ -60,8 +60,8 @@ public:
     /// Names what is chosen, for telling moves of one thing from those of another.
     QString chosenName() const;
     void chooseNothing();
-    /// Forgets what is chosen when it is gone, or belongs to another entry than the current one.
-    void checkChosen();
+    /// Whether what is chosen is still there, finished, and of the current entry.
+    bool isChosenThere() const;
     /// Moves what is chosen. Whether it did; where it was refused, the scene says why.
     bool moveChosen(const QPoint& pixels);
     /// Removes the corner that is chosen. Whether it did.

@@ -168,6 +168,7 @@ void CIntelligentRulesCtrl::drawOverPicture(void* deviceContext, void* user)
         return;
     Gdiplus::Graphics graphics(static_cast<HDC>(deviceContext));
     ctrl->m_drawScene->draw(&graphics);
+    ctrl->m_editing->draw(&graphics);
 }
 
 void CIntelligentRulesCtrl::reportVideoSize(int width, int height, void* user)
@@ -321,7 +322,7 @@ void CIntelligentRulesCtrl::unload()
     else if (m_playerWin)
         m_playerWin->resetToolBar(0);
     m_rtspOpened = false;
-    m_editing->setPanel(nullptr);
+    m_editing->setPanel(nullptr, false);
     m_editing->history().start({});
     const std::unique_ptr<RuleParser> parser = std::move(m_parser);
     const QList<BaseTabelScene*> scenes = std::exchange(m_scenes, {});
@@ -375,7 +376,7 @@ void CIntelligentRulesCtrl::showSelected(BaseTabelScene& panel)
         if (m_drawScene)
             m_drawScene->dropPainting();
         m_drawScene = panel.getDrawScene();
-        m_editing->setPanel(&panel);
+        m_editing->setPanel(&panel, m_parameters.editable && !m_parameters.selectionMode);
         fitCanvas();
     }
     if (!m_parameters.editable)
@@ -415,7 +416,8 @@ void CIntelligentRulesCtrl::tellSurface()
 
 void CIntelligentRulesCtrl::sceneChanged()
 {
-    m_editing->history().note(std::exchange(m_editedRow, {}));
+    m_editing->correcting().follow();
+    m_editing->history().note(std::exchange(m_editedRow, {}), m_editing->takeSeries());
     showSteps();
     for (BaseTabelScene* panel : qAsConst(m_scenes))
         panel->showHint();
@@ -440,51 +442,86 @@ bool CIntelligentRulesCtrl::finishEdits()
 
 void CIntelligentRulesCtrl::OnMousePress(QMouseEvent* event)
 {
+    m_editing->crossHair().hide();
+    m_editing->crossHair().startAt(event->pos());
+    pressAt(event->button(), event->pos(), event->modifiers());
+}
+
+void CIntelligentRulesCtrl::pressAt(Qt::MouseButton button, const QPoint& at,
+                                    Qt::KeyboardModifiers modifiers)
+{
     if (m_parameters.selectionMode || !m_drawScene)
         return;
     followPicture();
     const LoadGuard guard(this);
-    if (event->button() == Qt::LeftButton)
-        m_drawScene->addDrawPoint(DrawScene::DrawMouseLeftPress, event->pos());
-    else if (event->button() == Qt::RightButton)
-        m_drawScene->addDrawPoint(DrawScene::DrawMouseRightPress, event->pos());
+    m_editing->correcting().end();
     if (!guard.holds())
         return;
+    const bool wasDrawing = m_drawScene->isDrawing();
+    if (button == Qt::LeftButton)
+        m_drawScene->addDrawPoint(DrawScene::DrawMouseLeftPress, at);
+    else if (button == Qt::RightButton)
+        m_drawScene->addDrawPoint(DrawScene::DrawMouseRightPress, at);
+    if (!guard.holds())
+        return;
+    beginDrawStatus();
+    if (!wasDrawing)
+        m_editing->correcting().press(button, at, modifiers);
+    sceneChanged();
+}
+
+void CIntelligentRulesCtrl::beginDrawStatus()
+{
     const bool drawing = std::any_of(m_scenes.cbegin(), m_scenes.cend(),
                                      [](BaseTabelScene* s) { return s->GetDrawStatus(); });
     if (drawing)
         m_drawScene->SetDrawOver(false);
-    sceneChanged();
 }
 
 void CIntelligentRulesCtrl::OnMouseMove(QMouseEvent* event)
 {
+    moveAt(event->pos(), event->buttons());
+}
+
+void CIntelligentRulesCtrl::moveAt(const QPoint& at, Qt::MouseButtons buttons)
+{
     if (m_parameters.selectionMode || !m_drawScene)
         return;
     followPicture();
-    m_drawScene->addDrawPoint(DrawScene::DrawMouseMove, event->pos());
-    repaintPicture();
+    const LoadGuard guard(this);
+    const auto before = m_drawScene->look();
+    m_drawScene->addDrawPoint(DrawScene::DrawMouseMove, at);
+    const bool isDrawn = m_drawScene->look() != before;
+    if ((m_editing->correcting().move(at, buttons) || isDrawn) && guard.holds())
+        repaintPicture();
 }
 
 void CIntelligentRulesCtrl::OnWndClick(int nWndNum, int, int)
 {
+    m_editing->correcting().click();
     if (m_playerWin && nWndNum == m_playerWin->selectedPane())
         m_videoRect = m_playerWin->paneRect(nWndNum);
 }
 
-void CIntelligentRulesCtrl::OnWndDbClick(int nWndNum, int nPointX, int nPointY)
+void CIntelligentRulesCtrl::OnWndDbClick(int nWndNum, int, int)
 {
-    OnWndClick(nWndNum, nPointX, nPointY);
+    const LoadGuard guard(this);
+    m_editing->correcting().end();
+    if (!guard.holds())
+        return;
+    if (m_playerWin && nWndNum == m_playerWin->selectedPane())
+        m_videoRect = m_playerWin->paneRect(nWndNum);
     fitCanvas();
     repaintPicture();
 }
 
 void CIntelligentRulesCtrl::sltSave()
 {
-    if (!m_parser || !finishEdits())
+    const LoadGuard guard(this);
+    m_editing->correcting().end();
+    if (!guard.holds() || !m_parser || !finishEdits())
         return;
     showHint({});
-    const LoadGuard guard(this);
     const bool allowed =
         m_parameters.selectionMode ? checkSelection() : checkScenes() && confirmChange();
     if (!guard.holds() || !allowed)
@@ -576,9 +613,12 @@ bool CIntelligentRulesCtrl::postResult()
 
 void CIntelligentRulesCtrl::sltCancel()
 {
+    const LoadGuard guard(this);
+    m_editing->correcting().end();
+    if (!guard.holds())
+        return;
     if (m_drawScene)
         m_drawScene->SetDrawOver(false);
-    const LoadGuard guard(this);
     const bool leave = ask(tr("Do you want to exit the current configuration?"));
     if (guard.holds() && leave)
         postExited(m_widgetId, m_parameters);
@@ -621,6 +661,12 @@ void CIntelligentRulesCtrl::connectEditing()
 {
     connect(&m_editing->history(), &EditHistory::sgnRestored, this,
             &CIntelligentRulesCtrl::sltRestored);
+    connect(&m_editing->correcting(), &Correcting::sgnEnded, this,
+            &CIntelligentRulesCtrl::sceneChanged);
+    connect(m_editing, &EditCommands::sgnMoved, this,
+            [this](const QPoint& at) { moveAt(at, Qt::NoButton); });
+    connect(m_editing, &EditCommands::sgnPressed, this,
+            [this](Qt::MouseButton button, const QPoint& at) { pressAt(button, at, {}); });
     connect(m_form->btnUndo, &QPushButton::clicked, this, [this] { useKey(EditKey::Undo); });
     connect(m_form->btnRedo, &QPushButton::clicked, this, [this] { useKey(EditKey::Redo); });
     showSteps();
@@ -641,6 +687,7 @@ bool CIntelligentRulesCtrl::event(QEvent* event)
     if (event->type() != QEvent::ShortcutOverride)
         return QWidget::event(event);
     auto& key = static_cast<QKeyEvent&>(*event);
+    m_editing->correcting().endByKey(key.key());
     if (isEditable() && m_editing->claims(editKeyOf(key)))
         key.accept();
     else
@@ -650,21 +697,22 @@ bool CIntelligentRulesCtrl::event(QEvent* event)
 
 void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
 {
-    const EditKey key = editKeyOf(*event);
-    const bool isClaimed = isEditable() && m_editing->claims(key);
-    event->setAccepted(isClaimed);
-    const bool endsSeries =
-        key == EditKey::Idle && m_playerWin && window()->focusWidget() == m_playerWin;
-    if (!isEditable() || !m_editing->isUseful(key) || !(isClaimed || endsSeries))
-        return;
     const LoadGuard guard(this);
-    if (!endsSeries && !finishEdits())
+    m_editing->correcting().endByKey(event->key());
+    const EditKey key = editKeyOf(*event);
+    const bool isClaimed = guard.holds() && isEditable() && m_editing->claims(key);
+    event->setAccepted(isClaimed);
+    if (!guard.holds() || !isEditable() || !m_editing->isUseful(key))
+        return;
+    const bool hasFocus = m_playerWin && window()->focusWidget() == m_playerWin;
+    if (!isClaimed && !(hasFocus && EditCommands::isForPicture(key)))
+        return;
+    event->setAccepted(key != EditKey::Idle);
+    if (!finishEdits())
         return;
     m_usedKey = key;
     emit sgnKeyUsed();
-    if (endsSeries)
-        m_editing->use(key);
-    else if (guard.holds())
+    if (guard.holds())
         useKey(key);
 }
 
@@ -686,6 +734,8 @@ void CIntelligentRulesCtrl::useKey(EditKey key)
     const bool draws = key == EditKey::TakeBack || key == EditKey::Finish || key == EditKey::Leave;
     if (m_drawScene && draws)
         m_drawScene->SetDrawOver(false);
+    else if (m_drawScene)
+        beginDrawStatus();
     sceneChanged();
 }
 
@@ -706,6 +756,10 @@ void CIntelligentRulesCtrl::showKeys()
         tr("Backspace: take the last point back"),
         tr("Enter: finish the figure"),
         tr("Escape: take all points back, then leave the drawing"),
+        tr("Arrows: move what was taken last, else a cross-hair; with Shift ten times as far"),
+        tr("Space: press at the cross-hair, take or let go of a handle"),
+        tr("Delete, or Shift and a press: remove a corner"),
+        tr("Ctrl and a press: take the whole figure"),
         tr("Ctrl+Z: undo"),
         tr("Ctrl+Y, Ctrl+Shift+Z: redo"),
     };
@@ -759,6 +813,7 @@ void CIntelligentRulesCtrl::showEvent(QShowEvent* event)
 void CIntelligentRulesCtrl::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
+    m_editing->correcting().end();
     // Qt leaves the focus in what it hides when it finds no other place for it. It is still hiding
     // now, and who hears of the focus may delete the window.
     const auto leave = [this] {

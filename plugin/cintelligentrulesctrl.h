@@ -109,6 +109,11 @@ private:
     void fitCanvas();
     void tellSurface();
     void repaintPicture();
+    /// What a press and a move do, of the mouse or by keys; canvas pixels.
+    void pressAt(Qt::MouseButton button, const QPoint& at, Qt::KeyboardModifiers modifiers);
+    void moveAt(const QPoint& at, Qt::MouseButtons buttons);
+    /// Where an action may have changed figures, the canvas says so until they are saved.
+    void beginDrawStatus();
     void showSelected(BaseTabelScene& panel);
     /// False when the host has loaded, cleared or deleted the window by then.
     bool finishEdits();

@@ -7,36 +7,63 @@
 namespace IntelligentRulesUI
 {
 
+EditCommands::EditCommands(QObject* parent) : QObject(parent), m_history(this), m_correcting(this)
+{
+}
+
+void EditCommands::setPanel(BaseTabelScene* panel, bool mayDraw)
+{
+    m_panel = panel;
+    m_mayDraw = panel && mayDraw;
+    m_history.endMerging();
+    m_correcting.setPanel(m_mayDraw ? panel : nullptr);
+    m_crossHair.reset();
+}
+
+DrawScene* EditCommands::canvas() const
+{
+    return m_panel ? m_panel->getDrawScene() : nullptr;
+}
+
 bool EditCommands::isDrawing() const
 {
-    return m_panel && m_panel->getDrawScene() && m_panel->getDrawScene()->isDrawing();
+    return canvas() && canvas()->isDrawing();
+}
+
+QPoint EditCommands::aim() const
+{
+    return m_crossHair.position(canvas()->canvasSize());
 }
 
 int EditCommands::pointsInHand() const
 {
     if (!isDrawing())
         return 0;
-    const DrawScene& canvas = *m_panel->getDrawScene();
-    return canvas.selectedItem(canvas.currentDataId())->value().pointCount();
+    return canvas()->selectedItem(canvas()->currentDataId())->value().pointCount();
 }
 
 bool EditCommands::claims(EditKey key) const
 {
     switch (key) {
     case EditKey::None:
+    case EditKey::Idle:
         return false;
     case EditKey::Undo:
     case EditKey::Redo:
     case EditKey::Help:
         return isUseful(key);
     default:
-        return isDrawing();
+        return isDrawing() || m_correcting.figures().hasChosen() || m_crossHair.isShown();
     }
 }
 
 bool EditCommands::isUseful(EditKey key) const
 {
+    const bool hasAim = m_crossHair.isShown();
+    const bool hasChosen = m_correcting.figures().hasChosen();
     switch (key) {
+    case EditKey::None:
+        return false;
     case EditKey::Undo:
         return m_history.stack().canUndo();
     case EditKey::Redo:
@@ -47,12 +74,22 @@ bool EditCommands::isUseful(EditKey key) const
         return m_history.mayMerge();
     case EditKey::TakeBack:
         return pointsInHand() > 0;
+    case EditKey::Press:
+        return hasAim;
+    case EditKey::Remove:
+        return hasChosen;
     case EditKey::Finish:
+        return isDrawing() || hasAim;
     case EditKey::Leave:
-        return isDrawing();
+        return isDrawing() || hasAim || hasChosen;
     default:
-        return false;
+        return m_mayDraw && !canvas()->canvasSize().isEmpty();
     }
+}
+
+bool EditCommands::isForPicture(EditKey key)
+{
+    return key == EditKey::Idle || !editKeyWay(key).isNull();
 }
 
 void EditCommands::use(EditKey key)
@@ -61,27 +98,89 @@ void EditCommands::use(EditKey key)
         return;
     switch (key) {
     case EditKey::Undo:
+        m_correcting.end();
         m_history.undo();
         break;
     case EditKey::Redo:
+        m_correcting.end();
         m_history.redo();
         break;
     case EditKey::Idle:
         m_history.endMerging();
         break;
     case EditKey::TakeBack:
-        m_panel->getDrawScene()->takeBackPoint();
+        canvas()->takeBackPoint();
         break;
     case EditKey::Finish:
-        m_panel->getDrawScene()->addDrawPoint(DrawScene::DrawMouseRightPress, {});
+        finish();
         break;
     case EditKey::Leave:
-        if (!m_panel->getDrawScene()->takeBackPoints())
-            m_history.leaveDrawing(*m_panel);
+        leave();
+        break;
+    case EditKey::Press:
+        press();
+        break;
+    case EditKey::Remove:
+        m_correcting.figures().removeChosen();
         break;
     default:
+        move(editKeyWay(key));
         break;
     }
+}
+
+void EditCommands::finish()
+{
+    if (m_correcting.isMovedByKeys())
+        m_correcting.end();
+    else if (m_crossHair.isShown())
+        emit sgnPressed(Qt::RightButton, aim());
+    else
+        canvas()->addDrawPoint(DrawScene::DrawMouseRightPress, {});
+}
+
+/// One thing after the other.
+void EditCommands::leave()
+{
+    if (m_correcting.isMovedByKeys())
+        m_correcting.putBack();
+    else if (m_correcting.figures().hasChosen())
+        m_correcting.figures().chooseNothing();
+    else if (!isDrawing())
+        m_crossHair.hide();
+    else if (!canvas()->takeBackPoints())
+        m_history.leaveDrawing(*m_panel);
+}
+
+void EditCommands::press()
+{
+    if (m_correcting.isMovedByKeys() || (!isDrawing() && m_correcting.figures().hasHandle(aim())))
+        m_correcting.toggle(aim());
+    else
+        emit sgnPressed(Qt::LeftButton, aim());
+}
+
+void EditCommands::move(const QPoint& way)
+{
+    FigureCorrector& figures = m_correcting.figures();
+    const bool isTaken = m_correcting.isMovedByKeys();
+    if (figures.hasChosen() && !isTaken) {
+        if (figures.moveChosen(way))
+            m_series = figures.chosenName();
+        return;
+    }
+    m_crossHair.moveBy(way, canvas()->canvasSize());
+    if (isTaken)
+        m_correcting.moveTo(aim());
+    else
+        emit sgnMoved(aim());
+}
+
+void EditCommands::draw(Gdiplus::Graphics* graphics) const
+{
+    m_correcting.figures().draw(graphics);
+    if (graphics && canvas())
+        m_crossHair.draw(*graphics, canvas()->canvasSize());
 }
 
 } // namespace IntelligentRulesUI

@@ -83,9 +83,9 @@ public:
         if (m_step.scene != next.scene || m_step.change.dataId != next.change.dataId ||
             m_step.change.itemId != next.change.itemId)
             return false;
-        const bool isSameRow =
-            m_history.m_mayMerge && !m_step.row.isEmpty() && m_step.row == next.row;
-        if (!isSameRow && !m_history.m_mergesPoints)
+        const bool isSameSeries =
+            m_history.m_mayMerge && !m_step.series.isEmpty() && m_step.series == next.series;
+        if (!isSameSeries && !m_history.m_mergesPoints)
             return false;
         m_step.after = next.after;
         setObsolete(m_step.before.isSameAs(m_step.after));
@@ -114,18 +114,19 @@ void EditHistory::start(const QList<BaseTabelScene*>& panels)
     m_stack.clear();
 }
 
-void EditHistory::note(const QString& row)
+void EditHistory::note(const QString& row, const QString& series)
 {
     if (m_isQuiet)
         return;
     for (int scene = 0; scene < m_panels.size(); ++scene)
-        noteScene(scene, row);
+        noteScene(scene, row, series.isEmpty() ? row : series);
 }
 
-void EditHistory::noteScene(int scene, const QString& row)
+void EditHistory::noteScene(int scene, const QString& row, const QString& series)
 {
     SceneState& known = m_known[static_cast<std::size_t>(scene)];
-    EditStep step{scene, {}, row, {}, known, SceneState::of(*m_panels[scene]->ruleData(), known)};
+    EditStep step{
+        scene, {}, row, series, {}, known, SceneState::of(*m_panels[scene]->ruleData(), known)};
     known = step.after;
     if (step.before.selectedDataId() != step.after.selectedDataId() ||
         step.before.selectedItemId() != step.after.selectedItemId())
@@ -249,6 +250,9 @@ QString EditHistory::titleOf(const EditStep& step) const
     }
     if (step.before.entries().size() < step.after.entries().size())
         return tr("Add %1").arg(name);
+    const FigureState* const figure = step.after.figure(step.change.itemId);
+    if (figure && step.before.figure(step.change.itemId))
+        return tr("Correct %1").arg(figure->figure.label());
     return step.before.figures().size() > step.after.figures().size() || name.isEmpty()
                ? tr("Delete")
                : name;
@@ -325,9 +329,13 @@ bool EditHistory::leaveDrawing(BaseTabelScene& panel)
     show(scene, left, dataId);
     if (!self || !guard || !m_panels.contains(guard))
         return true;
-    EditStep step{scene, {Kind::Other, dataId, 0},
-                  {},    tr("Leave drawing"),
-                  now,   m_known[static_cast<std::size_t>(scene)]};
+    EditStep step{scene,
+                  {Kind::Other, dataId, 0},
+                  {},
+                  {},
+                  tr("Leave drawing"),
+                  now,
+                  m_known[static_cast<std::size_t>(scene)]};
     push(std::move(step));
     m_mayMerge = false;
     return true;

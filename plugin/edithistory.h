@@ -32,8 +32,9 @@ public:
     /// not owned, and are let go of by an empty list.
     void start(const QList<BaseTabelScene*>& panels);
     /// Looks for what the operator has changed. @p row is the key of the row that was edited,
-    /// empty for anything else; edits of one row after the other become one step.
-    void note(const QString& row = {});
+    /// empty for anything else; edits of one row, or of one @p series, become one step while they
+    /// come one after the other.
+    void note(const QString& row, const QString& series = {});
     /// What is edited now is what was saved.
     void setSaved();
     /// Whether the next edit could become one step with the last.
@@ -55,7 +56,7 @@ signals:
 private:
     class Command;
 
-    void noteScene(int scene, const QString& row);
+    void noteScene(int scene, const QString& row, const QString& series);
     void push(EditStep step);
     /// Makes one step of the points of a figure that is finished, and of an entry's figures.
     void fold(int scene, int dataId, int itemId);

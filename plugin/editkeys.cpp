@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QPoint>
 #include <QString>
 
 #include <algorithm>
@@ -24,12 +25,17 @@ constexpr Binding kBindings[] = {
     {Qt::Key_Return, EditKey::Finish},
     {Qt::Key_Enter, EditKey::Finish},
     {Qt::Key_Escape, EditKey::Leave},
-    {Qt::Key_Space, EditKey::Idle},
-    {Qt::Key_Delete, EditKey::Idle},
-    {Qt::Key_Left, EditKey::Idle},
-    {Qt::Key_Right, EditKey::Idle},
-    {Qt::Key_Up, EditKey::Idle},
-    {Qt::Key_Down, EditKey::Idle},
+    {Qt::Key_Space, EditKey::Press},
+    {Qt::Key_Delete, EditKey::Remove},
+    {Qt::Key_Left, EditKey::Left},
+    {Qt::Key_Right, EditKey::Right},
+    {Qt::Key_Up, EditKey::Up},
+    {Qt::Key_Down, EditKey::Down},
+    {int(Qt::ShiftModifier) | Qt::Key_Left, EditKey::FarLeft},
+    {int(Qt::ShiftModifier) | Qt::Key_Right, EditKey::FarRight},
+    {int(Qt::ShiftModifier) | Qt::Key_Up, EditKey::FarUp},
+    {int(Qt::ShiftModifier) | Qt::Key_Down, EditKey::FarDown},
+    {Qt::Key_Insert, EditKey::Idle},
     {Qt::Key_F1, EditKey::Help},
     {int(Qt::ControlModifier) | Qt::Key_Z, EditKey::Undo},
     {int(Qt::ControlModifier) | int(Qt::ShiftModifier) | Qt::Key_Z, EditKey::Redo},
@@ -44,6 +50,31 @@ EditKey editKeyOf(const QKeyEvent& event)
     const auto found = std::find_if(std::begin(kBindings), std::end(kBindings),
                                     [pressed](const Binding& b) { return b.key == pressed; });
     return found == std::end(kBindings) ? EditKey::None : found->does;
+}
+
+QPoint editKeyWay(EditKey key)
+{
+    constexpr int far = 10;
+    switch (key) {
+    case EditKey::Left:
+        return {-1, 0};
+    case EditKey::Right:
+        return {1, 0};
+    case EditKey::Up:
+        return {0, -1};
+    case EditKey::Down:
+        return {0, 1};
+    case EditKey::FarLeft:
+        return {-far, 0};
+    case EditKey::FarRight:
+        return {far, 0};
+    case EditKey::FarUp:
+        return {0, -far};
+    case EditKey::FarDown:
+        return {0, far};
+    default:
+        return {};
+    }
 }
 
 QString editKeyName(EditKey key)

@@ -12,8 +12,9 @@ namespace IntelligentRulesUI
 struct EditStep {
     int scene = 0; ///< position among the panels
     SceneChange change;
-    QString row;   ///< key of the row that was edited; empty for none
-    QString title; ///< as the operator reads it
+    QString row;    ///< key of the row that was edited; empty for none
+    QString series; ///< steps of one series may become one; empty for none
+    QString title;  ///< as the operator reads it
     SceneState before;
     SceneState after;
 };

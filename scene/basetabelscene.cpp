@@ -576,5 +576,6 @@ bool BaseTabelScene::hasCurrentEntry() const
 
 QString BaseTabelScene::hintText() const
 {
-    return isBound() ? DrawingHint::of(*getDrawScene()) : QString();
+    const bool mayCorrect = m_uiEditable && !getSelectMode();
+    return isBound() ? DrawingHint::of(*getDrawScene(), mayCorrect) : QString();
 }

@@ -4,16 +4,20 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 
-QString DrawingHint::of(const DrawScene& canvas)
+QString DrawingHint::of(const DrawScene& canvas, bool mayCorrect)
 {
-    if (!canvas.isDrawing())
-        return tr("Redraw draws the figure anew.");
     if (canvas.refusal() == DrawRefusal::Crossing)
         return tr("Refused: lines would cross.");
     if (canvas.refusal() == DrawRefusal::Outside)
         return tr("Refused: outside its area.");
     if (canvas.refusal() == DrawRefusal::Forbidden)
         return tr("Refused: the place is taken.");
+    if (canvas.refusal() == DrawRefusal::Inside)
+        return tr("Refused: a figure inside would be outside.");
+    if (!canvas.isDrawing())
+        return mayCorrect && !canvas.getItemListByDataId(canvas.currentDataId()).isEmpty()
+                   ? tr("Drag corners to correct, with Ctrl the figure.")
+                   : tr("Redraw draws the figure anew.");
     const BaseDraw& drawn = *canvas.selectedItem(canvas.currentDataId())->figure();
     const int needed = drawn.clicksNeeded();
     if (needed == 0)

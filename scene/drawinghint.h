@@ -11,6 +11,7 @@ class DrawingHint
     Q_DECLARE_TR_FUNCTIONS(DrawingHint)
 
 public:
-    /// Why the last press was refused, or what works now.
-    static QString of(const DrawScene& canvas);
+    /// Why the last press was refused, or what works now; with @p mayCorrect figures that are
+    /// finished can be corrected.
+    static QString of(const DrawScene& canvas, bool mayCorrect);
 };

@@ -142,6 +142,14 @@
         <source>Still needed: %1. Backspace takes one back.</source>
         <translation>Noch nötig: %1. Rücktaste nimmt einen zurück.</translation>
     </message>
+    <message>
+        <source>Drag corners to correct, with Ctrl the figure.</source>
+        <translation>Ecken ziehen korrigiert, mit Strg die ganze Figur.</translation>
+    </message>
+    <message>
+        <source>Refused: a figure inside would be outside.</source>
+        <translation>Abgelehnt: eine Figur darin läge außerhalb.</translation>
+    </message>
 </context>
 <context>
     <name>FightCalibrateScene</name>
@@ -281,6 +289,22 @@
         <source>Ctrl+Y, Ctrl+Shift+Z: redo</source>
         <translation>Strg+Y, Strg+Umschalt+Z: wiederholen</translation>
     </message>
+    <message>
+        <source>Arrows: move what was taken last, else a cross-hair; with Shift ten times as far</source>
+        <translation>Pfeile: bewegen, was zuletzt genommen wurde, sonst ein Fadenkreuz; mit Umschalt zehnmal so weit</translation>
+    </message>
+    <message>
+        <source>Space: press at the cross-hair, take or let go of a handle</source>
+        <translation>Leertaste: am Fadenkreuz klicken, einen Griff nehmen oder loslassen</translation>
+    </message>
+    <message>
+        <source>Delete, or Shift and a press: remove a corner</source>
+        <translation>Entf, oder Umschalt und ein Klick: eine Ecke entfernen</translation>
+    </message>
+    <message>
+        <source>Ctrl and a press: take the whole figure</source>
+        <translation>Strg und ein Klick: die ganze Figur nehmen</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -318,6 +342,10 @@
     <message>
         <source>Leave drawing</source>
         <translation>Zeichnen verlassen</translation>
+    </message>
+    <message>
+        <source>Correct %1</source>
+        <translation>%1 korrigieren</translation>
     </message>
 </context>
 <context>

@@ -142,6 +142,14 @@
         <source>Still needed: %1. Backspace takes one back.</source>
         <translation>还需：%1。退格键撤回一点。</translation>
     </message>
+    <message>
+        <source>Drag corners to correct, with Ctrl the figure.</source>
+        <translation>拖动角点可修正，按住 Ctrl 移动整个图形。</translation>
+    </message>
+    <message>
+        <source>Refused: a figure inside would be outside.</source>
+        <translation>已拒绝：内部的图形会落在外面。</translation>
+    </message>
 </context>
 <context>
     <name>FightCalibrateScene</name>
@@ -281,6 +289,22 @@
         <source>Ctrl+Y, Ctrl+Shift+Z: redo</source>
         <translation>Ctrl+Y、Ctrl+Shift+Z：重做</translation>
     </message>
+    <message>
+        <source>Arrows: move what was taken last, else a cross-hair; with Shift ten times as far</source>
+        <translation>方向键：移动上次选取的部分，否则移动十字光标；按住 Shift 移动十倍距离</translation>
+    </message>
+    <message>
+        <source>Space: press at the cross-hair, take or let go of a handle</source>
+        <translation>空格：在十字光标处点击，抓住或放开控制点</translation>
+    </message>
+    <message>
+        <source>Delete, or Shift and a press: remove a corner</source>
+        <translation>Delete，或按住 Shift 点击：删除角点</translation>
+    </message>
+    <message>
+        <source>Ctrl and a press: take the whole figure</source>
+        <translation>按住 Ctrl 点击：抓住整个图形</translation>
+    </message>
 </context>
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesWidget</name>
@@ -318,6 +342,10 @@
     <message>
         <source>Leave drawing</source>
         <translation>退出绘制</translation>
+    </message>
+    <message>
+        <source>Correct %1</source>
+        <translation>修正 %1</translation>
     </message>
 </context>
 <context>

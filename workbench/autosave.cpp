@@ -32,7 +32,7 @@ bool isOneOf(const Value& step, std::initializer_list<const char*> names)
 
 bool isEdit(const Value& step)
 {
-    return isOneOf(step, {"press", "double", "click", "set", "type", "enable", "key"});
+    return isOneOf(step, {"press", "drag", "double", "click", "set", "type", "enable", "key"});
 }
 
 /// Tells documents from others that have taken their places.
@@ -184,7 +184,7 @@ void Autosave::takeMessage(const MessageRecord& message)
         return;
     m_isResultOld = false;
     // A save that is not done again ends a series of edits all the same.
-    m_steps.push_back(RecordedStep::key(QStringLiteral("Space")).toCompactText().toUtf8());
+    m_steps.push_back(RecordedStep::key(QStringLiteral("Ins")).toCompactText().toUtf8());
     if (m_window.wasExited() && !m_window.hasUnwrittenSave())
         settle();
 }

@@ -5,8 +5,10 @@
 #include <QFocusEvent>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QPointer>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QWindow>
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 
@@ -90,22 +92,44 @@ QString click(QWidget* widget)
     return clickAt(widget, position, Qt::LeftButton);
 }
 
-QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button,
+                Qt::KeyboardModifiers modifiers)
 {
     const QString why = obstacle(widget, position);
     if (!why.isEmpty())
         return why;
     leaveFocused(widget);
-    QTest::mouseClick(widget, button, Qt::NoModifier, position);
+    QTest::mouseClick(widget, button, modifiers, position);
     return {};
 }
 
-QString doubleClickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+QString doubleClickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button,
+                      Qt::KeyboardModifiers modifiers)
 {
-    const QString why = clickAt(widget, position, button);
+    const QString why = clickAt(widget, position, button, modifiers);
     if (why.isEmpty())
-        QTest::mouseDClick(widget, button, Qt::NoModifier, position);
+        QTest::mouseDClick(widget, button, modifiers, position);
     return why;
+}
+
+/// Through the window: a button held is told to widgets of moves there only.
+QString drag(QWidget* widget, const QPoint& from, const QPoint& to, Qt::KeyboardModifiers modifiers)
+{
+    const QString why = obstacle(widget, from);
+    if (!why.isEmpty())
+        return why;
+    leaveFocused(widget);
+    const QPointer<QWindow> window = widget->window()->windowHandle();
+    const QPoint origin = widget->mapTo(widget->window(), QPoint());
+    const auto tell = [&](QTest::MouseAction action, Qt::MouseButton button, const QPoint& at) {
+        if (window)
+            QTest::mouseEvent(action, window, button, modifiers, origin + at);
+    };
+    tell(QTest::MousePress, Qt::LeftButton, from);
+    tell(QTest::MouseMove, Qt::NoButton, (from + to) / 2);
+    tell(QTest::MouseMove, Qt::NoButton, to);
+    tell(QTest::MouseRelease, Qt::LeftButton, to);
+    return {};
 }
 
 QString moveTo(QWidget* widget, const QPoint& position)

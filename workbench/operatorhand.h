@@ -19,8 +19,13 @@ void scrollIntoView(QWidget* widget);
 
 /// Clicks into the middle of @p widget, or at @p position in it, scrolled into view first.
 QString click(QWidget* widget);
-QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button);
-QString doubleClickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button);
+QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button,
+                Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+QString doubleClickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button,
+                      Qt::KeyboardModifiers modifiers);
+/// Presses at @p from, moves to @p to with the left button held, and lets it go there.
+QString drag(QWidget* widget, const QPoint& from, const QPoint& to,
+             Qt::KeyboardModifiers modifiers);
 QString moveTo(QWidget* widget, const QPoint& position);
 
 /// Replaces the text of @p edit by typing; @p finish ends the edit with the return key.

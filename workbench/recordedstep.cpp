@@ -157,6 +157,14 @@ Value onPicture(const char* name, const QPoint& position, const QRect& picture)
     return result;
 }
 
+Value drag(const Value& from, const Value& to)
+{
+    Value result = step("drag");
+    result["from"] = from;
+    result["to"] = to;
+    return result;
+}
+
 Value waitForPicture()
 {
     Value result = step("wait");

@@ -30,6 +30,8 @@ Value size(const QWidget& window);
 /// A step @p name at @p position, both it and @p picture in widget pixels, written in 0..8192.
 /// Null where the picture is not worked on.
 Value onPicture(const char* name, const QPoint& position, const QRect& picture);
+/// Of the two positions as onPicture() writes them.
+Value drag(const Value& from, const Value& to);
 Value waitForPicture();
 
 /// What pressing @p button does: save, cancel, pick, enable or click; null for other buttons and

@@ -21,11 +21,13 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include <cmath>
+
 namespace
 {
 
 constexpr int kNormalizedExtent = 8192;
-constexpr QRect kNormalizedPicture(QPoint(0, 0), QPoint(kNormalizedExtent, kNormalizedExtent));
+constexpr int kBeside = 8;             // pixels that still count as the picture's border
 constexpr int kPictureTimeout = 10000; // milliseconds
 
 // The pixel whose position in 0..8192 is again n, at the size that n was recorded at. The border
@@ -33,8 +35,18 @@ constexpr int kPictureTimeout = 10000; // milliseconds
 int pixelOf(int n, int extent, int last)
 {
     const qint64 scaled = static_cast<qint64>(n) * extent;
+    if (n < 0 || n > kNormalizedExtent)
+        return static_cast<int>(std::floor(double(scaled) / kNormalizedExtent));
     const auto pixel = static_cast<int>((scaled + kNormalizedExtent - 1) / kNormalizedExtent);
     return qMin(pixel, n == kNormalizedExtent ? last : extent - 1);
+}
+
+Qt::KeyboardModifiers modifiersOf(const kql::Json::Value& step)
+{
+    const QString with = step["with"].asString();
+    return with == QLatin1String("Ctrl")    ? Qt::ControlModifier
+           : with == QLatin1String("Shift") ? Qt::ShiftModifier
+                                            : Qt::NoModifier;
 }
 
 QString setRow(QWidget* row, const kql::Json::Value& step)
@@ -82,34 +94,48 @@ SessionPlayer::Action SessionPlayer::inRow(RowAction action)
     });
 }
 
+std::optional<QPoint> SessionPlayer::placeOf(const Value& position) const
+{
+    const QRect picture = m_window.videoSurface()->paneRect(0);
+    const QPoint last = m_window.videoSurface()->rect().bottomRight() - picture.topLeft();
+    const QPoint at(pixelOf(position[0].asInt(), picture.width(), last.x()),
+                    pixelOf(position[1].asInt(), picture.height(), last.y()));
+    const QRect around =
+        QRect(QPoint(), picture.size()).adjusted(-kBeside, -kBeside, kBeside, kBeside);
+    if (picture.isEmpty() || !around.contains(at))
+        return std::nullopt;
+    return picture.topLeft() + at;
+}
+
 /// For @p action at the place on the picture that a step names.
 SessionPlayer::Action SessionPlayer::onPicture(const PictureAction& action)
 {
     return [action](SessionPlayer& player, const Value& step) {
-        const Value& at = step["at"];
-        const QPoint wanted(at[0].asInt(), at[1].asInt());
-        const QRect picture = player.m_window.videoSurface()->paneRect(0);
-        const QRect surface = player.m_window.videoSurface()->rect();
-        const QPoint last = surface.bottomRight() - picture.topLeft();
-        const QPoint position =
-            picture.topLeft() + QPoint(pixelOf(wanted.x(), picture.width(), last.x()),
-                                       pixelOf(wanted.y(), picture.height(), last.y()));
-        return kNormalizedPicture.contains(wanted) && !picture.isEmpty()
-                   ? action(player.m_window.videoSurface(), position)
-                   : tr("the position is not on the picture");
+        const std::optional<QPoint> place = player.placeOf(step["at"]);
+        return place ? action(player.m_window.videoSurface(), *place)
+                     : tr("the position is not on the picture");
     };
 }
 
-/// For @p press there, with the button that the step names.
+/// For @p press there, with the button and the key held that the step names.
 SessionPlayer::Action SessionPlayer::withButton(ButtonAction press)
 {
     return [press](SessionPlayer& player, const Value& step) {
         const bool right = step["button"].asString() == QLatin1String("right");
-        const auto pressed = [press, right](QWidget* surface, const QPoint& position) {
-            return press(surface, position, right ? Qt::RightButton : Qt::LeftButton);
+        const auto pressed = [press, right, &step](QWidget* surface, const QPoint& position) {
+            return press(surface, position, right ? Qt::RightButton : Qt::LeftButton,
+                         modifiersOf(step));
         };
         return onPicture(pressed)(player, step);
     };
+}
+
+QString SessionPlayer::doDrag(const Value& step)
+{
+    const std::optional<QPoint> from = placeOf(step["from"]);
+    const std::optional<QPoint> to = placeOf(step["to"]);
+    return from && to ? OperatorHand::drag(m_window.videoSurface(), *from, *to, modifiersOf(step))
+                      : tr("the position is not on the picture");
 }
 
 /// For a click on the window's button @p name.
@@ -125,6 +151,7 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
     static const QHash<QString, Action> actions = {
         {QStringLiteral("size"), &SessionPlayer::doSize},
         {QStringLiteral("press"), withButton(&OperatorHand::clickAt)},
+        {QStringLiteral("drag"), &SessionPlayer::doDrag},
         {QStringLiteral("move"), onPicture(&OperatorHand::moveTo)},
         {QStringLiteral("double"), withButton(&OperatorHand::doubleClickAt)},
         {QStringLiteral("click"), &SessionPlayer::doClick},

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 class BoxWatcher;
 class WorkbenchWindow;
@@ -44,16 +45,19 @@ private:
     static Action inSection(const SectionAction& action);
     static Action inRow(RowAction action);
     using ButtonAction = QString (*)(QWidget* surface, const QPoint& position,
-                                     Qt::MouseButton button);
+                                     Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     static Action onPicture(const PictureAction& action);
     static Action withButton(ButtonAction press);
     static Action onButton(const char* name);
     static Action actionFor(const QString& name);
+    /// A position of a step in pixels of the surface; nothing where it is not on the picture.
+    std::optional<QPoint> placeOf(const Value& position) const;
     void runNext();
 
     QString doSize(const Value& step);
     QString doClick(const Value& step);
     QString doKey(const Value& step);
+    QString doDrag(const Value& step);
     QString doPick(QWidget* panel, const Value& step);
     QString doEnable(QWidget* panel, const Value& step);
     QString doFinish(const Value& step);

@@ -134,6 +134,8 @@ void SessionRecorder::see(QWidget& widget, QEvent& event)
         break;
     case QEvent::MouseButtonRelease:
         m_isReleaseClick = true;
+        if (&widget == m_window.videoSurface())
+            releasePicture(static_cast<QMouseEvent&>(event));
         break;
     case QEvent::KeyRelease:
         m_isReleaseClick = true;
@@ -183,6 +185,8 @@ void SessionRecorder::pressPicture(const QMouseEvent& event)
     if (press.isNull() || (!isLeft && event.button() != Qt::RightButton))
         return;
     press["button"] = isLeft ? "left" : "right";
+    if (event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier))
+        press["with"] = event.modifiers() & Qt::ShiftModifier ? "Shift" : "Ctrl";
     // A double click is a press followed by this event.
     const bool isDouble = event.type() == QEvent::MouseButtonDblClick;
     if (isDouble && m_move.isNull() && m_last == press) {
@@ -193,6 +197,21 @@ void SessionRecorder::pressPicture(const QMouseEvent& event)
     } else if (!isDouble) {
         record(press);
     }
+}
+
+/// A press that was followed by moves until the button was let go is one step with them.
+void SessionRecorder::releasePicture(const QMouseEvent& event)
+{
+    const bool isLeftPress = m_last["do"].asString() == QLatin1String("press") &&
+                             m_last["button"].asString() == QLatin1String("left");
+    if (event.button() != Qt::LeftButton || m_move.isNull() || !isLeftPress)
+        return;
+    Value drag = RecordedStep::drag(m_last["at"], m_move["at"]);
+    if (m_last.isMember("with"))
+        drag["with"] = m_last["with"];
+    m_move = Value();
+    m_last = drag;
+    emit sgnLastReplaced(m_last);
 }
 
 void SessionRecorder::seeMove(QWidget& widget, const QMouseEvent& event)

@@ -49,6 +49,12 @@ bool isButton(const Value& value)
            value.asString() == QLatin1String("right");
 }
 
+bool isHeld(const Value& value)
+{
+    return value.isNull() || value.asString() == QLatin1String("Ctrl") ||
+           value.asString() == QLatin1String("Shift");
+}
+
 bool isKey(const Value& value)
 {
     const QKeySequence keys(value.asString());
@@ -91,6 +97,11 @@ const Member kMembers[] = {
     {"size", "window", isSize, "a width and a height of 1 to 8192"},
     {"press", "at", isPosition, kPosition},
     {"press", "button", isButton, "\"left\" or \"right\""},
+    {"press", "with", isHeld, "\"Ctrl\" or \"Shift\""},
+    {"drag", "from", isPosition, kPosition},
+    {"drag", "to", isPosition, kPosition},
+    {"drag", "with", isHeld, "\"Ctrl\" or \"Shift\""},
+    {"double", "with", isHeld, "\"Ctrl\" or \"Shift\""},
     {"move", "at", isPosition, kPosition},
     {"double", "at", isPosition, kPosition},
     {"double", "button", isButton, "\"left\" or \"right\""},
