@@ -24,7 +24,7 @@ SceneSection::SceneSection(QWidget* parent)
     : WidgetTabel(parent), m_widgets(this), m_focused(QApplication::focusWidget())
 {
     setProperty(RowContract::kSelected, false);
-    m_widgets.titleBar->installEventFilter(this);
+    connect(m_widgets.titleBar, &SceneTitleBar::sgnPressed, this, [this] { setFold(!m_folded); });
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* old, QWidget* now) { focusMoved(old, now); });
 }
@@ -67,7 +67,7 @@ void SceneSection::setSelectMode(bool on)
 
 void SceneSection::setFold(bool folded)
 {
-    if (folded && !dropFocus())
+    if (folded && !m_widgets.titleBar->hasFocus() && !dropFocus())
         return;
     m_folded = folded;
     m_widgets.titleBar->setFolded(folded);
@@ -129,13 +129,6 @@ void SceneSection::resizeEvent(QResizeEvent* event)
     updateMask();
 }
 
-bool SceneSection::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_widgets.titleBar && event->type() == QEvent::MouseButtonPress)
-        setFold(!m_folded);
-    return WidgetTabel::eventFilter(watched, event);
-}
-
 void SceneSection::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
@@ -155,7 +148,7 @@ void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
         setFocus();
     if (isPushed || !isAncestorOf(now))
         return;
-    if (m_folded)
+    if (m_folded && now != m_widgets.titleBar)
         setFold(false);
     if (!m_selected)
         emit sgnTrySelectedlScene();

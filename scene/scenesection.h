@@ -39,7 +39,6 @@ signals:
     void sgnTrySelectedlScene();
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

@@ -3,6 +3,7 @@
 #include "host/api/rowcontract.h"
 #include "tabel/titlelabel.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QVariant>
@@ -62,6 +63,7 @@ SceneTitleBar::SceneTitleBar(QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     setFixedHeight(kHeight);
     setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
     setProperty("bFold", false);
     setProperty("selected", false);
     m_label->setObjectName(QStringLiteral("titleLabel"));
@@ -70,6 +72,7 @@ SceneTitleBar::SceneTitleBar(QWidget* parent)
 void SceneTitleBar::setTitle(const QString& title)
 {
     m_label->setTitle(title);
+    setAccessibleName(title);
 }
 
 QString SceneTitleBar::title() const
@@ -92,6 +95,21 @@ void SceneTitleBar::setLook(const char* property, bool on)
     setProperty(property, on);
     for (QWidget* widget : QList<QWidget*>{this, m_label, m_arrow})
         repolish(widget);
+}
+
+/// The section around it is pressed, too.
+void SceneTitleBar::mousePressEvent(QMouseEvent* event)
+{
+    event->ignore();
+    emit sgnPressed();
+}
+
+void SceneTitleBar::keyPressEvent(QKeyEvent* event)
+{
+    if (RowContract::isFoldKey(event->key()))
+        emit sgnPressed();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void SceneTitleBar::resizeEvent(QResizeEvent* event)

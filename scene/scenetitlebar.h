@@ -5,7 +5,7 @@
 class TitleLabel;
 
 /**
- * Heading of a section. Skins style it by its properties "bFold" and "selected".
+ * Heading of a section, which folds it. Skins style it by its properties "bFold" and "selected".
  */
 class SceneTitleBar : public QWidget
 {
@@ -19,7 +19,13 @@ public:
     void setFolded(bool folded);
     void setSelected(bool selected);
 
+signals:
+    /// It was pressed, or a key for it.
+    void sgnPressed();
+
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -173,6 +173,12 @@ void SessionRecorder::seePress(QWidget& widget, const QMouseEvent& event)
     if (widget.objectName() == QLatin1String(RowContract::kMask))
         record(RecordedStep::select(panel->objectName()));
     else if (widget.objectName() == QLatin1String(RowContract::kTitleBar))
+        seeFold(widget);
+}
+
+void SessionRecorder::seeFold(const QWidget& titleBar)
+{
+    if (const QWidget* panel = RecordedStep::panelAround(titleBar))
         record(RecordedStep::fold(panel->objectName(),
                                   !panel->property(RowContract::kFolded).toBool()));
 }
@@ -232,6 +238,9 @@ void SessionRecorder::seeKey(QWidget& widget, const QKeyEvent& event)
     m_isReleaseClick = true;
     // Focus that Qt passes on, as its widget was disabled, has the same reason as a tabulator's.
     m_isTabbing = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    if (widget.objectName() == QLatin1String(RowContract::kTitleBar) &&
+        RowContract::isFoldKey(event.key()))
+        seeFold(widget);
     auto* edit = qobject_cast<QLineEdit*>(&widget);
     if (!m_edited)
         m_changedRow.clear();
@@ -245,7 +254,8 @@ void SessionRecorder::seeTab(QWidget& widget)
     const QWidget* panel = RecordedStep::panelAround(widget);
     if (!panel)
         return;
-    if (panel->property(RowContract::kFolded).toBool())
+    const bool isTitle = widget.objectName() == QLatin1String(RowContract::kTitleBar);
+    if (panel->property(RowContract::kFolded).toBool() && !isTitle)
         record(RecordedStep::fold(panel->objectName(), false));
     else if (!panel->property(RowContract::kSelected).toBool())
         record(RecordedStep::select(panel->objectName()));

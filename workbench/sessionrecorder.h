@@ -67,6 +67,7 @@ private:
     void seeTab(QWidget& widget);
     void seeFocusOut(QWidget& widget, Qt::FocusReason reason);
     void pressPicture(const QMouseEvent& event);
+    void seeFold(const QWidget& titleBar);
     void releasePicture(const QMouseEvent& event);
     void beginEdit(QLineEdit& edit);
     void awaitEnd(QLineEdit& edit, bool isReturn);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <qnamespace.h>
+
 /**
  * What a host may rely on in a rules window, so that it can follow what an operator edits, and do
  * it again, without knowing the window's classes.
@@ -45,6 +47,11 @@ constexpr char kMask[] = "mask";
 constexpr char kEntries[] = "drawItems";
 constexpr char kFigures[] = "childDrawItems";
 constexpr char kEnable[] = "enable";
+/// Whether @p key, pressed in kTitleBar, folds or unfolds the section.
+constexpr bool isFoldKey(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
 /// Object name of a section's label for its hint.
 constexpr char kHint[] = "hint";
 /// Property that only the buttons of entries and figures have, an int.
