@@ -354,6 +354,10 @@ void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
     if (!scene)
         return;
     const LoadGuard guard(this);
+    if (!scene->getSelected())
+        m_editing->correcting().end();
+    if (!guard.holds())
+        return;
     const QList<BaseTabelScene*> panels = m_scenes;
     for (BaseTabelScene* panel : panels) {
         if (panel == scene)

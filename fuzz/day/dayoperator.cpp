@@ -1,5 +1,6 @@
 #include "fuzz/day/dayoperator.h"
 
+#include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "host/api/rowcontract.h"
 #include "host/video/qrtspvideownd.h"
@@ -56,17 +57,23 @@ int DayOperator::number(int from, int to)
 kql::Json::Value DayOperator::nextStep()
 {
     static const std::vector<Choice> idle = {
-        {60, &DayOperator::press},       {10, &DayOperator::rightClick}, {40, &DayOperator::move},
-        {15, &DayOperator::doubleClick}, {150, &DayOperator::click},     {120, &DayOperator::pick},
-        {60, &DayOperator::pickChild},   {100, &DayOperator::enable},    {220, &DayOperator::set},
-        {40, &DayOperator::type},        {40, &DayOperator::fold},       {60, &DayOperator::select},
-        {40, &DayOperator::save},        {6, &DayOperator::cancel},      {30, &DayOperator::query},
-        {12, &DayOperator::size},        {6, &DayOperator::loadAnew},    {2, &DayOperator::close},
-        {1, &DayOperator::wait},         {1, &DayOperator::screenshot},  {80, &DayOperator::travel},
-        {10, &DayOperator::key}};
+        {60, &DayOperator::press},        {10, &DayOperator::rightClick},
+        {40, &DayOperator::move},         {15, &DayOperator::doubleClick},
+        {150, &DayOperator::click},       {120, &DayOperator::pick},
+        {60, &DayOperator::pickChild},    {100, &DayOperator::enable},
+        {220, &DayOperator::set},         {40, &DayOperator::type},
+        {40, &DayOperator::fold},         {60, &DayOperator::select},
+        {40, &DayOperator::save},         {6, &DayOperator::cancel},
+        {30, &DayOperator::query},        {12, &DayOperator::size},
+        {6, &DayOperator::loadAnew},      {2, &DayOperator::close},
+        {1, &DayOperator::wait},          {1, &DayOperator::screenshot},
+        {80, &DayOperator::travel},       {10, &DayOperator::key},
+        {100, &DayOperator::drag},        {20, &DayOperator::pressCorner},
+        {100, &DayOperator::keyOnPicture}};
     static const std::vector<Choice> drawing = {
         {500, &DayOperator::press},      {120, &DayOperator::rightClick}, {100, &DayOperator::move},
-        {30, &DayOperator::doubleClick}, {60, &DayOperator::travel},      {60, &DayOperator::key}};
+        {30, &DayOperator::doubleClick}, {60, &DayOperator::travel},      {60, &DayOperator::key},
+        {20, &DayOperator::drag},        {60, &DayOperator::keyOnPicture}};
     static const std::vector<Choice> empty = {
         {300, &DayOperator::loadAnew}, {30, &DayOperator::query},  {20, &DayOperator::move},
         {20, &DayOperator::save},      {20, &DayOperator::cancel}, {10, &DayOperator::size}};
@@ -132,6 +139,51 @@ kql::Json::Value DayOperator::rightClick()
     Value result = onPicture("press");
     if (!result.isNull())
         result["button"] = "right";
+    return result;
+}
+
+/// Mostly at a point of the current entry's figures.
+kql::Json::Value DayOperator::corner()
+{
+    const auto* panel = qobject_cast<BaseTabelScene*>(m_finder.panel({}));
+    const DrawScene* canvas = panel ? panel->getDrawScene() : nullptr;
+    const QList<DrawItem*> figures =
+        canvas ? canvas->getItemListByDataId(canvas->currentDataId()) : QList<DrawItem*>();
+    const QVector<QPoint> points =
+        figures.isEmpty() ? QVector<QPoint>() : oneOf(figures)->value().points();
+    if (points.isEmpty() || happens(20))
+        return onPicture("press")["at"];
+    m_last = points[number(0, points.size() - 1)];
+    Value at;
+    at.append(qBound(0, m_last.x(), kExtent));
+    at.append(qBound(0, m_last.y(), kExtent));
+    return at;
+}
+
+kql::Json::Value DayOperator::drag()
+{
+    const QSize picture = m_window.videoSurface()->paneRect(0).size();
+    if (picture.isEmpty())
+        return {};
+    Value result = step("drag");
+    result["from"] = corner();
+    const QPoint to = position(picture);
+    result["to"].append(to.x());
+    result["to"].append(to.y());
+    if (happens(30))
+        result["with"] = happens(90) ? "Ctrl" : "Shift";
+    return result;
+}
+
+kql::Json::Value DayOperator::pressCorner()
+{
+    if (m_window.videoSurface()->paneRect(0).isEmpty())
+        return {};
+    Value result = step("press");
+    result["button"] = "left";
+    result["at"] = corner();
+    if (happens(60))
+        result["with"] = "Shift";
     return result;
 }
 
@@ -338,6 +390,21 @@ kql::Json::Value DayOperator::key()
                                   QStringLiteral("Return"), QStringLiteral("Delete")};
     Value result = step("key");
     result["keys"] = oneOf(keys);
+    result["to"] = "picture";
+    return result;
+}
+
+/// Moves the cross-hair, or what was taken last, and presses there.
+kql::Json::Value DayOperator::keyOnPicture()
+{
+    static const QStringList ways{QStringLiteral("Left"), QStringLiteral("Right"),
+                                  QStringLiteral("Up"), QStringLiteral("Down")};
+    Value result = step("key");
+    const bool isMove = happens(60);
+    result["keys"] = isMove ? (happens(60) ? QStringLiteral("Shift+") : QString()) + oneOf(ways)
+                            : QStringLiteral("Space");
+    if (isMove)
+        result["times"] = number(1, 30);
     result["to"] = "picture";
     return result;
 }

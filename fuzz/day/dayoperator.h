@@ -53,6 +53,10 @@ private:
     Value save();
     Value cancel();
     Value key();
+    Value keyOnPicture();
+    Value drag();
+    Value pressCorner();
+    Value corner();
     Value travel();
     Value query();
     Value close();

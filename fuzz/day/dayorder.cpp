@@ -11,6 +11,7 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "host/video/qrtspvideownd.h"
+#include "plugin/correcting.h"
 #include "scene/globalscene.h"
 #include "tabel/controltabel.h"
 #include "tabel/drawitembutton.h"
@@ -181,6 +182,9 @@ bool DayOrder::isEditing(const WorkbenchWindow& window)
     const auto edits = window.rulesWindow()->findChildren<QLineEdit*>();
     const auto rows = window.rulesWindow()->findChildren<ControlTabel*>();
     const QWidget* focused = window.focusWidget();
+    const auto* correcting = window.rulesWindow()->findChild<IntelligentRulesUI::Correcting*>();
+    if (correcting->figures().isMoving())
+        return true;
     // A row marks letters that it refused until it is left.
     return std::any_of(edits.begin(), edits.end(),
                        [](const QLineEdit* edit) { return edit->isModified(); }) ||
