@@ -49,10 +49,10 @@ void BaseDraw::draw(Gdiplus::Graphics* graphics)
     if (!graphics)
         return;
     const QMutexLocker lock(&m_mutex);
-    const CanvasFigure shown(m_preview.value_or(m_figure), m_movePoint, m_canvasSize);
+    const CanvasFigure shown(painted(), m_movePoint, m_canvasSize);
     if (shown.shownPoints().size() < 2)
         return;
-    if (m_preview && m_isRefused)
+    if (m_preview && m_preview->isRefused)
         paint(FigurePainter::ofRefused(*graphics), shown);
     else
         paint(FigurePainter(*graphics, color()), shown);
@@ -105,15 +105,14 @@ CanvasFigure BaseDraw::canvasFigure() const
 void BaseDraw::setPreview(const std::optional<Figure>& figure, bool isRefused)
 {
     const QMutexLocker lock(&m_mutex);
-    m_preview = figure;
-    m_isRefused = isRefused;
+    m_preview = figure ? std::make_unique<Preview>(Preview{*figure, isRefused}) : nullptr;
     change();
 }
 
 CanvasFigure BaseDraw::shownFigure() const
 {
     const QMutexLocker lock(&m_mutex);
-    return {m_preview.value_or(m_figure), m_movePoint, m_canvasSize};
+    return {painted(), m_movePoint, m_canvasSize};
 }
 
 void BaseDraw::clear()

@@ -133,6 +133,11 @@ protected:
     virtual void paint(const FigurePainter& painter, const CanvasFigure& shown) const = 0;
 
 private:
+    struct Preview {
+        Figure figure;
+        bool isRefused;
+    };
+
     /// Sets @p value, and the revision if the figure is another one then.
     template<typename Value>
     void edit(void (Figure::*setter)(Value), const std::decay_t<Value>& value)
@@ -143,14 +148,14 @@ private:
         if (m_figure != before)
             change();
     }
+    const Figure& painted() const { return m_preview ? m_preview->figure : m_figure; }
     QPoint normalizedMouse(const QPoint& canvasPoint) const;
     void change();
 
     mutable QMutex m_mutex; ///< guards figure, move point and canvas size
     std::atomic<quint64> m_revision;
     Figure m_figure;
-    std::optional<Figure> m_preview;
-    bool m_isRefused = false;
+    std::unique_ptr<const Preview> m_preview; ///< null for none
     std::optional<QPoint> m_movePoint; ///< normalized
     QSize m_canvasSize{0, 0};
     bool m_selected = false;

@@ -17,9 +17,19 @@ namespace
 
 bool crossesItself(const Figure& figure)
 {
-    const FigureForm form = FigureKind::formOf(figure.kind());
-    return (form == FigureForm::Ring || form == FigureForm::Line) &&
-           DrawGeometry::crossesItself(figure.points(), form == FigureForm::Ring);
+    const QVector<QPoint>& points = figure.points();
+    switch (FigureKind::formOf(figure.kind())) {
+    case FigureForm::Line:
+        return DrawGeometry::crossesItself(points, false);
+    case FigureForm::Ring:
+    case FigureForm::Parallelogram:
+        return DrawGeometry::crossesItself(points, true);
+    case FigureForm::TwoLines:
+        return points.size() >= 4 &&
+               DrawGeometry::meet({points[0], points[1]}, {points[2], points[3]});
+    default:
+        return false;
+    }
 }
 
 } // namespace

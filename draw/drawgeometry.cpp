@@ -66,19 +66,6 @@ int turnOf(const QLine& line, const QPoint& point)
     return turned > 0 ? 1 : turned < 0 ? -1 : 0;
 }
 
-/// Whether the segments have a point in common.
-bool meet(const QLine& a, const QLine& b)
-{
-    const int first = turnOf(a, b.p1());
-    const int second = turnOf(a, b.p2());
-    const int third = turnOf(b, a.p1());
-    const int fourth = turnOf(b, a.p2());
-    if (first != second && third != fourth)
-        return true;
-    return (first == 0 && isInBounds(b.p1(), a)) || (second == 0 && isInBounds(b.p2(), a)) ||
-           (third == 0 && isInBounds(a.p1(), b)) || (fourth == 0 && isInBounds(a.p2(), b));
-}
-
 } // namespace
 
 std::optional<QPoint> DrawGeometry::toNormalized(const QPoint& canvasPoint, const QSize& canvasSize)
@@ -135,6 +122,18 @@ QVector<QPoint> DrawGeometry::closingEdgeCrossings(const QVector<QPoint>& points
             crossings.append(*cross);
     }
     return crossings;
+}
+
+bool DrawGeometry::meet(const QLine& a, const QLine& b)
+{
+    const int first = turnOf(a, b.p1());
+    const int second = turnOf(a, b.p2());
+    const int third = turnOf(b, a.p1());
+    const int fourth = turnOf(b, a.p2());
+    if (first != second && third != fourth)
+        return true;
+    return (first == 0 && isInBounds(b.p1(), a)) || (second == 0 && isInBounds(b.p2(), a)) ||
+           (third == 0 && isInBounds(a.p1(), b)) || (fourth == 0 && isInBounds(a.p2(), b));
 }
 
 bool DrawGeometry::crossesItself(const QVector<QPoint>& points, bool isClosed)

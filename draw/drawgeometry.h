@@ -33,6 +33,9 @@ QPoint toCanvas(const QPoint& normalizedPoint, const QSize& canvasSize);
 /// nothing: a known limit of the slope arithmetic that operators' figures rely on.
 std::optional<QPoint> segmentsCross(const QLine& a, const QLine& b);
 
+/// Whether segments @p a and @p b have a point in common; exact within the normalized space.
+bool meet(const QLine& a, const QLine& b);
+
 /// Whether two lines between consecutive @p points, the one that closes them included with
 /// @p isClosed, meet elsewhere than in a corner that they share. Exact within the normalized space.
 bool crossesItself(const QVector<QPoint>& points, bool isClosed);

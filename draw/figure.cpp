@@ -43,7 +43,11 @@ bool Figure::setPoint(int index, const QPoint& point)
     if (!pointAt(index))
         return false;
     m_points[index] = point;
-    m_directionPoints.clear();
+    // They stay where they are while they say the same.
+    const QVector<QPoint> kept = m_directionPoints;
+    if (kept.size() < 2 || m_points.size() < 2 ||
+        DrawGeometry::directionAlong({m_points[0], m_points[1]}, {kept[0], kept[1]}) != m_direction)
+        m_directionPoints.clear();
     return true;
 }
 

@@ -75,8 +75,9 @@ public:
     /// for a figure without four points.
     QVector<QPoint> directionPoints() const;
     /// Takes the two points that say in which direction a parallelogram is crossed, and the
-    /// direction that follows from them. They are kept as they are until the figure's points or
-    /// its direction change; so the figure's own points come first.
+    /// direction that follows from them. They are kept as they are until the figure gets
+    /// other points or another direction, or one of its points is moved so that they would say
+    /// another one; so the figure's own points come first.
     void setDirectionPoints(const QVector<QPoint>& points);
 
     bool isFinished() const { return m_finished; }

@@ -8,6 +8,7 @@
 #include "draw/drawscene.h"
 #include "draw/figurehandle.h"
 #include "draw/figureindex.h"
+#include "draw/figurekinds.h"
 #include "draw/figuremove.h"
 #include "draw/figureshape.h"
 #include "draw/figuresurroundings.h"
@@ -46,7 +47,8 @@ void FigureCorrector::setScene(DrawScene* scene, AreaRule rule)
 
 bool FigureCorrector::hover(const std::optional<QPoint>& at)
 {
-    const DrawItem* item = m_scene && at && !isMoving() ? hoveredAt(*at) : nullptr;
+    const bool mayShow = m_scene && at && !isMoving() && !m_scene->isDrawing();
+    const DrawItem* item = mayShow ? hoveredAt(*at) : nullptr;
     const int before = std::exchange(m_hoveredId, item ? item->itemId() : 0);
     return before != m_hoveredId;
 }
@@ -76,20 +78,34 @@ void FigureCorrector::start(const Target& target)
     m_move = std::make_unique<FigureMove>(move);
     m_check = std::make_unique<CorrectionCheck>(m_scene->surroundings(), *target.item,
                                                 m_rule(*target.item));
-    m_itemId = target.item->itemId();
-    m_corner = target.line >= 0 ? target.line + 1 : target.corner;
+    choose(*target.item, target.line >= 0 ? target.line + 1 : target.corner);
     m_hoveredId = m_itemId;
     moveTo({});
 }
 
-void FigureCorrector::moveTo(const QPoint& way)
+void FigureCorrector::choose(const DrawItem& item, int corner)
+{
+    m_itemId = item.itemId();
+    m_corner = corner;
+    m_pointCount = item.value().pointCount();
+}
+
+bool FigureCorrector::isNewCorner() const
+{
+    return isMoving() && m_corner != kWhole && m_move->originOf(m_corner) < 0;
+}
+
+bool FigureCorrector::moveTo(const QPoint& way)
 {
     if (!isMoving())
-        return;
-    m_moved = std::make_unique<Figure>(m_move->by(normalized(way)));
-    m_refusal =
-        *m_moved == m_move->original() ? DrawRefusal::None : m_check->ofMove(*m_moved, *m_move);
-    m_scene->setPreview(m_itemId, *m_moved, m_refusal != DrawRefusal::None);
+        return false;
+    const Figure moved = m_move->by(normalized(way));
+    if (m_moved && *m_moved == moved)
+        return false;
+    m_moved = std::make_unique<Figure>(moved);
+    m_refusal = moved == m_move->original() ? DrawRefusal::None : m_check->ofMove(moved, *m_move);
+    m_scene->setPreview(m_itemId, moved, m_refusal != DrawRefusal::None);
+    return true;
 }
 
 bool FigureCorrector::letGo()
@@ -99,14 +115,13 @@ bool FigureCorrector::letGo()
     const Figure original = m_move->original();
     const Figure moved = *m_moved;
     const DrawRefusal refusal = m_refusal;
-    const bool isNewCorner = m_corner != kWhole && m_move->originOf(m_corner) < 0;
-    putBack();
+    const int corner = m_corner;
     DrawItem* item = chosenItem();
+    putBack();
     // Something else may have drawn it anew meanwhile.
     const bool isChanged = item && item->value() == original && change(*item, moved, refusal);
-    // The new corner went with the move.
-    if (isNewCorner && !isChanged)
-        m_itemId = 0;
+    if (isChanged)
+        choose(*item, corner);
     return isChanged;
 }
 
@@ -115,6 +130,9 @@ void FigureCorrector::putBack()
     if (!isMoving())
         return;
     m_scene->setPreview(m_itemId, std::nullopt, false);
+    // A new corner goes with the move.
+    if (isNewCorner())
+        m_itemId = 0;
     m_move.reset();
     m_check.reset();
     m_moved.reset();
@@ -140,7 +158,7 @@ bool FigureCorrector::isChosenThere() const
     const DrawItem* item = chosenItem();
     if (!item || !mayTake(*item))
         return false;
-    return isMoving() || m_corner < FigureShape(item->figure()->canvasFigure()).corners().size();
+    return item->value().pointCount() == m_pointCount;
 }
 
 bool FigureCorrector::moveChosen(const QPoint& pixels)
@@ -159,7 +177,7 @@ bool FigureCorrector::moveChosen(const QPoint& pixels)
 bool FigureCorrector::removeChosen()
 {
     DrawItem* item = chosenItem();
-    return item && m_corner != kWhole && removeCorner(*item, m_corner);
+    return item && m_corner != kWhole && !isMoving() && removeCorner(*item, m_corner);
 }
 
 bool FigureCorrector::removeAt(const QPoint& at)
@@ -172,10 +190,11 @@ bool FigureCorrector::removeAt(const QPoint& at)
 bool FigureCorrector::removeCorner(DrawItem& item, int corner)
 {
     Figure figure = item.value();
-    if (!mayTake(item) ||
-        FigureShape(item.figure()->canvasFigure()).corners().size() != figure.pointCount() ||
-        !figure.removePoint(corner))
+    const bool isPoint = FigureKind::formOf(figure.kind()) != FigureForm::Box;
+    if (!mayTake(item) || !isPoint || !figure.removePoint(corner)) {
+        m_scene->setRefusal(DrawRefusal::Needed);
         return false;
+    }
     const CorrectionCheck check(m_scene->surroundings(), item, m_rule(item));
     if (!change(item, figure, check.ofShape(figure)))
         return false;
@@ -196,8 +215,9 @@ FigureCorrector::Target FigureCorrector::handleAt(const QPoint& at) const
 {
     Target found;
     std::optional<FigureHandle> best;
-    const QList<DrawItem*> items =
-        m_scene ? m_scene->figuresByPlace().around(at) : QList<DrawItem*>();
+    if (!m_scene || m_scene->isDrawing())
+        return found;
+    const QList<DrawItem*> items = m_scene->figuresByPlace().around(at);
     for (DrawItem* item : items) {
         if (!mayTake(*item))
             continue;
@@ -243,6 +263,14 @@ QPoint FigureCorrector::normalized(const QPoint& pixels) const
             normalizedStep(pixels.y(), canvas.height())};
 }
 
+bool FigureCorrector::isChosen(const FigureHandle& handle) const
+{
+    // A new corner is the middle of a line until it is moved.
+    if (isNewCorner() && *m_moved == m_move->original())
+        return handle.kind == Kind::Middle && handle.index == m_corner - 1;
+    return handle.kind == Kind::Corner && (m_corner == kWhole || m_corner == handle.index);
+}
+
 void FigureCorrector::draw(Gdiplus::Graphics* graphics) const
 {
     if (!graphics || !m_scene)
@@ -253,11 +281,9 @@ void FigureCorrector::draw(Gdiplus::Graphics* graphics) const
         if (!item || !mayTake(*item))
             continue;
         for (const FigureHandle& handle : FigureHandle::of(item->figure()->shownFigure())) {
-            const bool isCorner = handle.kind == Kind::Corner;
-            const bool isChosen =
-                id == m_itemId && isCorner && (m_corner == kWhole || m_corner == handle.index);
-            if (isChosen || (id == m_hoveredId && !isMoving()))
-                painter.handle(handle.at, isCorner, isChosen);
+            const bool isFilled = id == m_itemId && isChosen(handle);
+            if (isFilled || (id == m_hoveredId && !isMoving()))
+                painter.handle(handle.at, handle.kind == Kind::Corner, isFilled);
         }
     }
 }

@@ -12,6 +12,7 @@ class DrawItem;
 class DrawScene;
 class Figure;
 class FigureMove;
+struct FigureHandle;
 namespace Gdiplus
 {
 class Graphics;
@@ -48,8 +49,8 @@ public:
     /// where there is nothing to take; then nothing is chosen.
     bool take(const QPoint& at, bool isWhole);
     bool isMoving() const { return m_move != nullptr; }
-    /// Shows what was taken as far as @p way from where it was.
-    void moveTo(const QPoint& way);
+    /// Shows what was taken as far as @p way from where it was. Whether it looks different now.
+    bool moveTo(const QPoint& way);
     /// Ends the move where it is, or where it began when it may not be there. Whether the figure
     /// is another one now.
     bool letGo();
@@ -87,6 +88,9 @@ private:
     bool mayTake(const DrawItem& item) const;
     DrawItem* chosenItem() const;
     void start(const Target& target);
+    void choose(const DrawItem& item, int corner);
+    bool isNewCorner() const;
+    bool isChosen(const FigureHandle& handle) const;
     bool removeCorner(DrawItem& item, int corner);
     bool change(DrawItem& item, const Figure& figure, DrawRefusal refusal);
     QPoint normalized(const QPoint& pixels) const;
@@ -96,6 +100,7 @@ private:
     int m_hoveredId = 0;
     int m_itemId = 0; ///< of the figure that is chosen; 0 for none
     int m_corner = kWhole;
+    int m_pointCount = 0; ///< of that figure; with another number corners are other ones
     std::unique_ptr<const FigureMove> m_move; ///< while something is moved
     std::unique_ptr<const CorrectionCheck> m_check;
     std::unique_ptr<const Figure> m_moved;

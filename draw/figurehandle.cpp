@@ -2,6 +2,7 @@
 
 #include "draw/canvasfigure.h"
 #include "draw/drawgeometry.h"
+#include "draw/figurekinds.h"
 #include "draw/figureshape.h"
 #include "host/api/limits.h"
 
@@ -26,7 +27,9 @@ QVector<FigureHandle> FigureHandle::of(const CanvasFigure& figure)
     const FigureShape shape(figure);
     for (int i = 0; i < shape.corners().size(); ++i)
         handles.append({Kind::Corner, i, shape.corners()[i]});
-    if (points >= figure.figure().pointLimits().maximum)
+    const FigureForm form = FigureKind::formOf(figure.figure().kind());
+    const bool takesMore = form == FigureForm::Line || form == FigureForm::Ring;
+    if (!takesMore || points >= figure.figure().pointLimits().maximum)
         return handles;
     for (int i = 0; i < shape.lines().size(); ++i)
         handles.append(

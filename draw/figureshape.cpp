@@ -67,11 +67,14 @@ FigureShape::FigureShape(const CanvasFigure& figure)
     m_corners = cornersOf(figure.points(), form);
     m_lines = linesOf(m_corners, form);
     m_area = areaOf(m_corners, form);
+    const QRect bounds = m_area.boundingRect();
+    m_isOnlyLines = form == FigureForm::TwoLines || bounds.left() == bounds.right() ||
+                    bounds.top() == bounds.bottom() || m_area.isEmpty();
 }
 
 bool FigureShape::holds(const QPoint& at) const
 {
-    return m_area.isEmpty() ? isNearLine(at) : m_area.containsPoint(at, Qt::OddEvenFill);
+    return m_area.containsPoint(at, Qt::OddEvenFill) || (m_isOnlyLines && isNearLine(at));
 }
 
 bool FigureShape::isNear(const QPoint& at) const

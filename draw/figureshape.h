@@ -24,7 +24,8 @@ public:
     const QVector<QPoint>& corners() const { return m_corners; }
     /// From corner to corner, the closing one last.
     const QVector<QLine>& lines() const { return m_lines; }
-    /// Whether @p at is inside; of a figure without an inside, within reach of its lines.
+    /// Whether @p at is inside; of a lane, and of a figure without an inside, also within reach of
+    /// its lines.
     bool holds(const QPoint& at) const;
     /// Whether @p at is inside, or within reach of a line.
     bool isNear(const QPoint& at) const;
@@ -34,5 +35,6 @@ private:
 
     QVector<QPoint> m_corners;
     QVector<QLine> m_lines;
-    QPolygon m_area; ///< empty for a figure without an inside
+    QPolygon m_area;            ///< empty for a figure without an inside
+    bool m_isOnlyLines = false; ///< that are meant from beside, too
 };

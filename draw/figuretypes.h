@@ -44,4 +44,5 @@ enum class DrawRefusal : unsigned char {
     Outside,   ///< of the figure around
     Forbidden, ///< it lies where the figure may not
     Inside,    ///< a figure inside of it would be outside
+    Needed,    ///< the figure has no corner too many
 };

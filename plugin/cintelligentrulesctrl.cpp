@@ -148,6 +148,8 @@ bool CIntelligentRulesCtrl::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Paint)
         followPicture();
+    if (event->type() == QEvent::Leave && m_editing->correcting().leave())
+        repaintPicture();
     // The surface places its picture while it handles these.
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         QMetaObject::invokeMethod(
@@ -390,7 +392,13 @@ void CIntelligentRulesCtrl::showSelected(BaseTabelScene& panel)
 
 void CIntelligentRulesCtrl::fitCanvas()
 {
-    if (m_drawScene)
+    if (!m_drawScene)
+        return;
+    // What is moved was taken at the size before.
+    const LoadGuard guard(this);
+    if (m_drawScene->canvasSize() != m_videoRect.size())
+        m_editing->correcting().end();
+    if (guard.holds() && m_drawScene)
         m_drawScene->setCanvasSize(m_videoRect.width(), m_videoRect.height());
 }
 
@@ -502,8 +510,9 @@ void CIntelligentRulesCtrl::moveAt(const QPoint& at, Qt::MouseButtons buttons)
 
 void CIntelligentRulesCtrl::OnWndClick(int nWndNum, int, int)
 {
+    const LoadGuard guard(this);
     m_editing->correcting().click();
-    if (m_playerWin && nWndNum == m_playerWin->selectedPane())
+    if (guard.holds() && m_playerWin && nWndNum == m_playerWin->selectedPane())
         m_videoRect = m_playerWin->paneRect(nWndNum);
 }
 
@@ -667,6 +676,10 @@ void CIntelligentRulesCtrl::connectEditing()
             &CIntelligentRulesCtrl::sltRestored);
     connect(&m_editing->correcting(), &Correcting::sgnEnded, this,
             &CIntelligentRulesCtrl::sceneChanged);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+        if (now != m_playerWin)
+            m_editing->correcting().end();
+    });
     connect(m_editing, &EditCommands::sgnMoved, this,
             [this](const QPoint& at) { moveAt(at, Qt::NoButton); });
     connect(m_editing, &EditCommands::sgnPressed, this,
@@ -691,7 +704,10 @@ bool CIntelligentRulesCtrl::event(QEvent* event)
     if (event->type() != QEvent::ShortcutOverride)
         return QWidget::event(event);
     auto& key = static_cast<QKeyEvent&>(*event);
+    const LoadGuard guard(this);
     m_editing->correcting().endByKey(key.key());
+    if (!guard.holds())
+        return true;
     if (isEditable() && m_editing->claims(editKeyOf(key)))
         key.accept();
     else
@@ -703,9 +719,12 @@ void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
 {
     const LoadGuard guard(this);
     m_editing->correcting().endByKey(event->key());
-    const EditKey key = editKeyOf(*event);
+    // A key that is held does not take and let go, or leave, again and again.
+    const EditKey pressed = editKeyOf(*event);
+    const bool isHeld = event->isAutoRepeat() && !EditCommands::repeats(pressed);
+    const EditKey key = isHeld ? EditKey::None : pressed;
     const bool isClaimed = guard.holds() && isEditable() && m_editing->claims(key);
-    event->setAccepted(isClaimed);
+    event->setAccepted(isClaimed || isHeld);
     if (!guard.holds() || !isEditable() || !m_editing->isUseful(key))
         return;
     const bool hasFocus = m_playerWin && window()->focusWidget() == m_playerWin;
@@ -732,14 +751,12 @@ void CIntelligentRulesCtrl::useKey(EditKey key)
         m_playerWin->setFocus();
     if (!guard.holds() || !isEditable())
         return;
+    const bool wasDrawing = m_drawScene && m_drawScene->isDrawing();
     m_editing->use(key);
     if (!guard.holds())
         return;
-    const bool draws = key == EditKey::TakeBack || key == EditKey::Finish || key == EditKey::Leave;
-    if (m_drawScene && draws)
+    if (m_drawScene && wasDrawing && EditCommands::draws(key))
         m_drawScene->SetDrawOver(false);
-    else if (m_drawScene)
-        beginDrawStatus();
     sceneChanged();
 }
 
@@ -817,7 +834,10 @@ void CIntelligentRulesCtrl::showEvent(QShowEvent* event)
 void CIntelligentRulesCtrl::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
+    const LoadGuard guard(this);
     m_editing->correcting().end();
+    if (!guard.holds())
+        return;
     // Qt leaves the focus in what it hides when it finds no other place for it. It is still hiding
     // now, and who hears of the focus may delete the window.
     const auto leave = [this] {

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPointer>
 
 namespace IntelligentRulesUI
 {
@@ -27,7 +28,6 @@ Correcting::Correcting(QObject* parent) : QObject(parent)
 {
     m_timer.setInterval(kLookEvery);
     connect(&m_timer, &QTimer::timeout, this, &Correcting::lookAtButtons);
-    connect(qApp, &QApplication::focusChanged, this, &Correcting::end);
 }
 
 void Correcting::setPanel(BaseTabelScene* panel)
@@ -60,13 +60,17 @@ void Correcting::press(Qt::MouseButton button, const QPoint& at, Qt::KeyboardMod
 
 bool Correcting::move(const QPoint& at, Qt::MouseButtons buttons)
 {
-    if (m_by == By::Mouse && !(buttons & Qt::LeftButton))
+    if (m_by == By::Mouse && (buttons & Qt::LeftButton)) {
+        m_isMoved = true;
+        return moveTo(at);
+    }
+    if (m_by == By::Mouse) {
+        const QPointer<Correcting> self(this);
         end();
-    if (m_by != By::Mouse)
-        return m_by == By::Nobody && m_figures.hover(at);
-    m_isMoved = true;
-    moveTo(at);
-    return true;
+        if (!self)
+            return false;
+    }
+    return m_by == By::Nobody && m_figures.hover(at);
 }
 
 /// Some surfaces tell of a click with the press, others when the button is let go.
@@ -104,10 +108,12 @@ void Correcting::endByKey(int key)
 
 void Correcting::follow()
 {
-    if (m_figures.isChosenThere())
+    if (!m_figures.hasChosen() || m_figures.isChosenThere())
         return;
+    const QPointer<Correcting> self(this);
     end();
-    m_figures.chooseNothing();
+    if (self)
+        m_figures.chooseNothing();
 }
 
 void Correcting::putBack()
@@ -124,12 +130,12 @@ void Correcting::stop()
 }
 
 /// Most buttons are let go over the window; only surfaces need not say so.
-bool Correcting::eventFilter(QObject* watched, QEvent* event)
+bool Correcting::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonRelease &&
         static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton)
         end();
-    return QObject::eventFilter(watched, event);
+    return false;
 }
 
 void Correcting::lookAtButtons()

@@ -38,9 +38,11 @@ public:
     /// Takes or lets go at @p at with a key, so that moveTo() moves.
     void toggle(const QPoint& at);
     bool isMovedByKeys() const { return m_by == By::Keys; }
-    void moveTo(const QPoint& at) { m_figures.moveTo(at - m_takenAt); }
+    bool moveTo(const QPoint& at) { return m_figures.moveTo(at - m_takenAt); }
 
-    /// Lets go of what is moved, where it is.
+    /// The mouse has left the surface. Whether the canvas looks different now.
+    bool leave() { return m_figures.hover(std::nullopt); }
+    /// Lets go of what is moved, where it is. Who hears of it may delete this.
     void end();
     /// The same, for a key that was pressed.
     void endByKey(int key);

@@ -4,6 +4,8 @@
 #include "draw/drawscene.h"
 #include "scene/basetabelscene.h"
 
+#include <QPointer>
+
 namespace IntelligentRulesUI
 {
 
@@ -65,7 +67,7 @@ bool EditCommands::isUseful(EditKey key) const
     case EditKey::None:
         return false;
     case EditKey::Undo:
-        return m_history.stack().canUndo();
+        return m_history.stack().canUndo() || m_correcting.isMovedByKeys();
     case EditKey::Redo:
         return m_history.stack().canRedo();
     case EditKey::Help:
@@ -92,17 +94,32 @@ bool EditCommands::isForPicture(EditKey key)
     return key == EditKey::Idle || !editKeyWay(key).isNull();
 }
 
+bool EditCommands::draws(EditKey key)
+{
+    return key == EditKey::TakeBack || key == EditKey::Finish || key == EditKey::Leave;
+}
+
+bool EditCommands::repeats(EditKey key)
+{
+    return key != EditKey::Press && key != EditKey::Finish && key != EditKey::Leave &&
+           key != EditKey::Remove;
+}
+
 void EditCommands::use(EditKey key)
 {
     if (!isUseful(key))
         return;
+    if (key == EditKey::Undo || key == EditKey::Redo) {
+        const QPointer<EditCommands> self(this);
+        m_correcting.end();
+        if (!self)
+            return;
+    }
     switch (key) {
     case EditKey::Undo:
-        m_correcting.end();
         m_history.undo();
         break;
     case EditKey::Redo:
-        m_correcting.end();
         m_history.redo();
         break;
     case EditKey::Idle:

@@ -44,6 +44,10 @@ public:
     bool isUseful(EditKey key) const;
     /// Whether the picture, when it has the focus, takes the key though nothing is in hand.
     static bool isForPicture(EditKey key);
+    /// Whether the key works on the figure being drawn.
+    static bool draws(EditKey key);
+    /// Whether it does so again and again while it is held.
+    static bool repeats(EditKey key);
     /// Does what the key is for.
     void use(EditKey key);
 

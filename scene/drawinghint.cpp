@@ -14,6 +14,8 @@ QString DrawingHint::of(const DrawScene& canvas, bool mayCorrect)
         return tr("Refused: the place is taken.");
     if (canvas.refusal() == DrawRefusal::Inside)
         return tr("Refused: a figure inside would be outside.");
+    if (canvas.refusal() == DrawRefusal::Needed)
+        return tr("Refused: it needs all its corners.");
     if (!canvas.isDrawing())
         return mayCorrect && !canvas.getItemListByDataId(canvas.currentDataId()).isEmpty()
                    ? tr("Drag corners to correct, with Ctrl the figure.")

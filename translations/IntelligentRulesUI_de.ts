@@ -150,6 +150,10 @@
         <source>Refused: a figure inside would be outside.</source>
         <translation>Abgelehnt: eine Figur darin läge außerhalb.</translation>
     </message>
+    <message>
+        <source>Refused: it needs all its corners.</source>
+        <translation>Abgelehnt: alle Ecken werden gebraucht.</translation>
+    </message>
 </context>
 <context>
     <name>FightCalibrateScene</name>

@@ -150,6 +150,10 @@
         <source>Refused: a figure inside would be outside.</source>
         <translation>已拒绝：内部的图形会落在外面。</translation>
     </message>
+    <message>
+        <source>Refused: it needs all its corners.</source>
+        <translation>已拒绝：所有角点都需要。</translation>
+    </message>
 </context>
 <context>
     <name>FightCalibrateScene</name>

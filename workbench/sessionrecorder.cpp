@@ -134,8 +134,7 @@ void SessionRecorder::see(QWidget& widget, QEvent& event)
         break;
     case QEvent::MouseButtonRelease:
         m_isReleaseClick = true;
-        if (&widget == m_window.videoSurface())
-            releasePicture(static_cast<QMouseEvent&>(event));
+        endDrag();
         break;
     case QEvent::KeyRelease:
         m_isReleaseClick = true;
@@ -202,15 +201,15 @@ void SessionRecorder::pressPicture(const QMouseEvent& event)
         emit sgnLastReplaced(m_last);
     } else if (!isDouble) {
         record(press);
+        m_isHeld = isLeft;
     }
 }
 
-/// A press that was followed by moves until the button was let go is one step with them.
-void SessionRecorder::releasePicture(const QMouseEvent& event)
+/// A press that was followed by moves with the button held is one step with them, which ends when
+/// the button is let go, or when anything else is done.
+void SessionRecorder::endDrag()
 {
-    const bool isLeftPress = m_last["do"].asString() == QLatin1String("press") &&
-                             m_last["button"].asString() == QLatin1String("left");
-    if (event.button() != Qt::LeftButton || m_move.isNull() || !isLeftPress)
+    if (!std::exchange(m_isHeld, false) || m_move.isNull())
         return;
     Value drag = RecordedStep::drag(m_last["at"], m_move["at"]);
     if (m_last.isMember("with"))
@@ -416,6 +415,7 @@ void SessionRecorder::record(const Value& step)
 
 void SessionRecorder::recordAfterMove(const Value& step)
 {
+    endDrag();
     recordSize();
     if (!m_move.isNull())
         append(m_move);
@@ -427,6 +427,7 @@ void SessionRecorder::recordSize()
 {
     if (m_size == m_window.size())
         return;
+    endDrag();
     // The pointer was there at the size before.
     if (!m_move.isNull())
         append(m_move);

@@ -68,7 +68,7 @@ private:
     void seeFocusOut(QWidget& widget, Qt::FocusReason reason);
     void pressPicture(const QMouseEvent& event);
     void seeFold(const QWidget& titleBar);
-    void releasePicture(const QMouseEvent& event);
+    void endDrag();
     void beginEdit(QLineEdit& edit);
     void awaitEnd(QLineEdit& edit, bool isReturn);
     /// Tells the operator of an edit that no step can be made of.
@@ -87,9 +87,10 @@ private:
     WorkbenchWindow& m_window;
     QPointer<QWidget> m_rulesWindow; ///< not owned; goes before the recorder
     PanelFinder m_finder;
-    Value m_last; ///< the step written last
-    Value m_move; ///< the pointer's last movement; null when it is written
-    QSize m_size; ///< of the window, as written
+    Value m_last;          ///< the step written last
+    bool m_isHeld = false; ///< the button of the press that is the last step
+    Value m_move;          ///< the pointer's last movement; null when it is written
+    QSize m_size;          ///< of the window, as written
     WorkbenchOptions m_loaded;
     QPointer<QLineEdit> m_edited;   ///< typed into or ended, and not written yet
     QPointer<QLineEdit> m_typed;    ///< written as unfinished
