@@ -19,6 +19,20 @@ QString session(const char* name)
     return Fixtures::path(QString("sessions/%1.jsonl").arg(name));
 }
 
+/// Puts @p values where their names say, as "Rules.0.Name".
+void put(Value& document, const Value& values)
+{
+    for (const QString& path : values.memberNames()) {
+        Value* place = &document;
+        for (const QString& part : path.split('.')) {
+            bool isIndex = false;
+            const int index = part.toInt(&isIndex);
+            place = isIndex ? &(*place)[index] : &(*place)[part.toStdString()];
+        }
+        *place = values[path.toStdString()];
+    }
+}
+
 } // namespace
 
 /// The built workbench with the built plug-in, run as a script runs them.
@@ -172,6 +186,32 @@ private slots:
     {
         const Outcome outcome = replay(session("undo"));
         QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+    }
+
+    void corrects_data() { Fixtures::addRows("correcting"); }
+
+    /// On a picture of 1024 x 576 pixels one to the right is 8 of 8192, and nine down are 128.
+    void corrects()
+    {
+        QFETCH(const Value, fixture);
+        const QString folder = ExampleFiles::folder(fixture["example"].asString());
+        Value expected = read(folder + "config.json");
+        put(expected, fixture["given"]);
+        const QByteArray config = expected.toStyledText().toUtf8();
+        put(expected, fixture["saved"]);
+        const Value& window = fixture["window"];
+        QString steps = QString(R"({"do":"size","window":%1})")
+                            .arg(window.isNull() ? "[1375,800]" : window.toCompactText());
+        steps += "\n{\"do\":\"wait\",\"picture\":true}\n";
+        for (int i = 0; i < fixture["steps"].size(); ++i)
+            steps += fixture["steps"][i].toCompactText() + '\n';
+        steps += R"({"do":"save","answer":"Yes"})";
+        const Outcome outcome =
+            run({"--template", folder + "template.json", "--config", file("given.json", config),
+                 "--replay", file("steps.jsonl", steps.toUtf8()), "--result", path("moved.json")});
+        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+        const Value written = read(path("moved.json"))["channelAbilityPO"];
+        QVERIFY2(written == expected, qPrintable(written.toCompactText()));
     }
 
     void tellsThatTheOperatorLeft()
