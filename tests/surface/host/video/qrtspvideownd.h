@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -12,8 +13,8 @@ namespace PreviewLogical
 struct RtspVideoParam;
 }
 
-/// A video surface that offers what the module needs, and nothing more. Its picture is where the
-/// test puts it.
+/// A video surface that offers what the module needs, and nothing more: it tells of a click with
+/// the press, and of no button let go. Its picture is where the test puts it.
 class QRtspVideoWnd : public QWidget
 {
     Q_OBJECT
@@ -49,6 +50,12 @@ signals:
     void sgnSWDbClicked(int pane, int x, int y);
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        emit SignalMousePress(event);
+        emit sgnWndClick(0, event->x(), event->y());
+    }
+    void mouseMoveEvent(QMouseEvent* event) override { emit SignalMoveEvent(event); }
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
