@@ -23,45 +23,74 @@ namespace
 
 constexpr int kLinePoints = 2;
 
-DrawItem* readLines(RuleData& data, const Value& json, const RuleDataInfo& entry)
+/// The lines of a lane, two points in 0..8192 each.
+struct Lines {
+    QVector<QPoint> left;
+    QVector<QPoint> right;
+
+    /// As @p json names them.
+    static Lines in(const Value& json);
+    /// As @p lane tells left from right: lines that run against each other do not, and keep the
+    /// order that they have.
+    static Lines of(const DrawItem& lane);
+    /// False for a figure, or a list of a document, of another number of points.
+    bool areWhole() const { return left.size() == kLinePoints && right.size() == kLinePoints; }
+};
+
+Lines Lines::in(const Value& json)
 {
-    const auto left = PointConversion::toPoints(json[ConfigMember::kLeftLine]);
-    const auto right = PointConversion::toPoints(json[ConfigMember::kRightLine]);
-    if (left.size() != kLinePoints || right.size() != kLinePoints)
-        return nullptr;
-    const RuleProtocolItem& item = *LanesTemplate::of(data)->laneItem();
-    return FigureReader(data).add(item, entry, left + right, item.caption());
+    return {PointConversion::toPoints(json[ConfigMember::kLeftLine]),
+            PointConversion::toPoints(json[ConfigMember::kRightLine])};
 }
 
-/// A rule without a lane number belongs to its lane all the same.
-void readLaneNumber(const LanesTemplate& lanes, bool hasRule, RuleDataInfo& entry)
-{
-    const RuleProtocolItem* number = lanes.ruleLaneNumberItem();
-    const bool hasNumber =
-        hasRule && number && (entry.value(number->key()).isValid() || entry.asRead(number->key()));
-    if (number && !hasNumber)
-        entry.setValue(number->key(), entry.value(lanes.numberItem()->key()));
-}
-
-/// The points of a lane, left line first where the lines tell left from right: lines that run
-/// against each other do not, and keep the order that they have.
-QVector<QPoint> lanePoints(const DrawItem& lane)
+Lines Lines::of(const DrawItem& lane)
 {
     const QVector<QPoint> points = lane.getPoints();
-    if (points.size() != 2 * kLinePoints)
-        return {};
-    const bool isLeftFirst = DrawGeometry::side(points[0], points[1], points[2]) >= 0;
-    return isLeftFirst ? points : lane.value().points();
+    const bool isLeftFirst = points.size() == 2 * kLinePoints &&
+                             DrawGeometry::side(points[0], points[1], points[2]) >= 0;
+    const QVector<QPoint> ordered = isLeftFirst ? points : lane.value().points();
+    return {ordered.mid(0, kLinePoints), ordered.mid(kLinePoints)};
+}
+
+DrawItem* readLines(RuleData& data, const Value& json, const RuleDataInfo& entry)
+{
+    const Lines lines = Lines::in(json);
+    const RuleProtocolItem& item = *LanesTemplate::of(data)->laneItem();
+    return lines.areWhole()
+               ? FigureReader(data).add(item, entry, lines.left + lines.right, item.caption())
+               : nullptr;
 }
 
 void writeLines(const RuleProtocolItem& item, const EntryFigures& figures, int dataId, Value& json)
 {
     const DrawItem* lane = figures.first(dataId, item);
-    const auto points = lane ? lanePoints(*lane) : QVector<QPoint>();
-    if (points.isEmpty())
+    const Lines lines = lane ? Lines::of(*lane) : Lines();
+    if (!lines.areWhole())
         return;
-    json[ConfigMember::kLeftLine] = PointConversion::toJson(points.mid(0, kLinePoints));
-    json[ConfigMember::kRightLine] = PointConversion::toJson(points.mid(kLinePoints));
+    json[ConfigMember::kLeftLine] = PointConversion::toJson(lines.left);
+    json[ConfigMember::kRightLine] = PointConversion::toJson(lines.right);
+}
+
+/// A lane and its rule have one number, which one row edits: where one of them has none, it is the
+/// other's. Where that is no number it stays none, not the skeleton's, which another lane may have.
+void shareNumber(const LanesTemplate& lanes, bool hasRule, RuleDataInfo& entry)
+{
+    const auto has = [&entry](const QString& key) {
+        return entry.value(key).isValid() || entry.asRead(key);
+    };
+    const auto share = [&](const QString& from, const QString& to) {
+        bool isNumber = false;
+        const int number = entry.value(from).toInt(&isNumber);
+        entry.setValue(to, isNumber ? QVariant(number) : QVariant());
+        if (!isNumber && has(from))
+            entry.keepAsRead(to, Value());
+    };
+    const QString& ofLane = LanesTemplate::kNumber;
+    const QString& ofRule = LanesTemplate::kRuleLaneNumber;
+    if (lanes.ruleLaneNumberItem() && !(hasRule && has(ofRule)))
+        share(ofLane, ofRule);
+    else if (lanes.ruleLaneNumberItem() && !has(ofLane))
+        share(ofRule, ofLane);
 }
 
 bool isRules(const TemplateSection& section)
@@ -83,7 +112,7 @@ void LanesProtocol::read(RuleData& data, const Value& document) const
         const Value* rule = rules.ruleOf(entry.sourceIndex());
         if (rule)
             ruleReader.readRule(*rule, entry, lane);
-        readLaneNumber(lanes, rule, entry);
+        shareNumber(lanes, rule, entry);
     });
     QStringList names;
     for (const Value* rule : rules.unpaired())
