@@ -328,16 +328,24 @@ private:
             FigureLayer::setQuality(onAbove);
             Gdiplus::Graphics* target = &onBelow;
             for (const DrawItem* item : scene.getItemList(BaseDrawType::None, 0)) {
+                if (isSkipped(*item, dataId))
+                    continue;
                 if (item == drawn && !item->isFinished())
                     target = &onAbove;
-                else if (!m_isByDataId || dataId < 1 || item->dataId() == dataId)
+                else
                     item->draw(target);
             }
         }
         picture.DrawImage(&below, 0, 0);
-        if (drawn && !drawn->isFinished())
+        if (drawn && !drawn->isFinished() && !isSkipped(*drawn, dataId))
             drawn->draw(&picture);
         picture.DrawImage(&above, 0, 0);
+    }
+
+    /// Also what is being drawn, where a child of an entry's figure has the id of another entry.
+    bool isSkipped(const DrawItem& item, int dataId) const
+    {
+        return m_isByDataId && dataId >= 1 && item.dataId() != dataId;
     }
 
     /// As over a picture of the canvas' size, to which the video surface clips.
