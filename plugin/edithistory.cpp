@@ -192,17 +192,27 @@ std::vector<EditStep> EditHistory::takeFrom(int index)
     return steps;
 }
 
+/// Positions of a scene's steps while something of it was in hand, the last one first. That may
+/// have finished it.
+std::vector<int> EditHistory::drawingSteps(int scene) const
+{
+    std::vector<int> steps;
+    for (int i = m_stack.index() - 1; i >= 0; --i) {
+        if (step(i).scene != scene)
+            continue;
+        if (i < m_stack.index() - 1 && !step(i).after.inHand())
+            break;
+        steps.push_back(i);
+    }
+    return steps;
+}
+
 /// Position of the step that began what is being drawn, from which on something was in hand; -1
-/// when the entry was only picked. The last step may have finished it.
+/// when the entry was only picked.
 int EditHistory::beginOf(int scene, int dataId) const
 {
-    for (int i = m_stack.index() - 1; i >= 0; --i) {
-        const EditStep& step = this->step(i);
-        if (step.scene != scene)
-            continue;
-        if (i < m_stack.index() - 1 && !step.after.inHand())
-            break;
-        if (step.change.kind == Kind::Begun && step.change.dataId == dataId)
+    for (const int i : drawingSteps(scene)) {
+        if (step(i).change.kind == Kind::Begun && step(i).change.dataId == dataId)
             return i;
     }
     return -1;
@@ -211,13 +221,8 @@ int EditHistory::beginOf(int scene, int dataId) const
 int EditHistory::firstPointOf(int scene, int itemId) const
 {
     int first = m_stack.index() - 1;
-    for (int i = first; i >= 0; --i) {
-        const EditStep& step = this->step(i);
-        if (step.scene != scene)
-            continue;
-        if (i < m_stack.index() - 1 && !step.after.inHand())
-            break;
-        if (step.change.kind == Kind::Drawn && step.change.itemId == itemId)
+    for (const int i : drawingSteps(scene)) {
+        if (step(i).change.kind == Kind::Drawn && step(i).change.itemId == itemId)
             first = i;
     }
     return first;

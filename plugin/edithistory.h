@@ -61,6 +61,7 @@ private:
     /// Makes one step of the points of a figure that is finished, and of an entry's figures.
     void fold(int scene, int dataId, int itemId);
     std::vector<EditStep> takeFrom(int index);
+    std::vector<int> drawingSteps(int scene) const;
     int beginOf(int scene, int dataId) const;
     int firstPointOf(int scene, int itemId) const;
     QString titleOf(const EditStep& step) const;
