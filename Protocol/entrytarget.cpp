@@ -11,6 +11,7 @@ namespace
 Value listOf(std::vector<Value> entries)
 {
     Value list(kql::Json::ValueType::Array);
+    list.reserve(entries.size());
     for (Value& entry : entries)
         list.append(std::move(entry));
     return list;

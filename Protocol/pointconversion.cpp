@@ -28,7 +28,10 @@ Value PointConversion::toJson(const QPoint& point)
 QVector<QPoint> PointConversion::toPoints(const Value& list)
 {
     QVector<QPoint> points;
-    for (int i = 0; list.isArray() && i < list.size(); ++i) {
+    if (!list.isArray())
+        return points;
+    points.reserve(list.size());
+    for (int i = 0; i < list.size(); ++i) {
         if (isPoint(list[i]))
             points.append(toPoint(list[i]));
     }
@@ -38,6 +41,7 @@ QVector<QPoint> PointConversion::toPoints(const Value& list)
 Value PointConversion::toJson(const QVector<QPoint>& points)
 {
     Value list(kql::Json::ValueType::Array);
+    list.reserve(std::size_t(points.size()));
     for (const QPoint& point : points)
         list.append(toJson(point));
     return list;

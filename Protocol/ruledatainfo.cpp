@@ -7,12 +7,15 @@ using kql::Json::Value;
 namespace
 {
 
+/// Any order will do; lengths are compared faster than texts.
 template<typename Values>
 auto placeOf(Values& values, const QString& key)
 {
-    return std::lower_bound(
-        values.begin(), values.end(), key,
-        [](const auto& keyed, const QString& wanted) { return keyed.key < wanted; });
+    return std::lower_bound(values.begin(), values.end(), key,
+                            [](const auto& keyed, const QString& wanted) {
+                                const int longer = keyed.key.size() - wanted.size();
+                                return longer < 0 || (longer == 0 && keyed.key < wanted);
+                            });
 }
 
 } // namespace
@@ -27,18 +30,18 @@ bool RuleDataInfo::operator==(const RuleDataInfo& other) const
 void RuleDataInfo::setName(const QString& name)
 {
     m_name = name;
-    forget({Member::Name, {}});
+    forget(Member::Name);
 }
 
 void RuleDataInfo::setEnabled(bool enabled)
 {
     m_enabled = enabled;
-    forget({Member::Enabled, {}});
+    forget(Member::Enabled);
 }
 
 void RuleDataInfo::setValue(const QString& key, const QVariant& value)
 {
-    forget({Member::Attribute, key});
+    forget(Member::Attribute, key);
     const auto place = placeOf(m_values, key);
     if (place != m_values.end() && place->key == key)
         place->value = value;
@@ -80,29 +83,31 @@ void RuleDataInfo::keepEnabledAsRead(const Value& json)
 
 const Value* RuleDataInfo::asRead(const QString& key) const
 {
-    return kept({Member::Attribute, key});
+    return kept(Member::Attribute, key);
 }
 
 const Value* RuleDataInfo::nameAsRead() const
 {
-    return kept({Member::Name, {}});
+    return kept(Member::Name);
 }
 
 const Value* RuleDataInfo::enabledAsRead() const
 {
-    return kept({Member::Enabled, {}});
+    return kept(Member::Enabled);
 }
 
-const Value* RuleDataInfo::kept(const MemberKey& member) const
+const Value* RuleDataInfo::kept(Member member, const QString& key) const
 {
-    const auto found = m_kept.constFind(member);
+    if (m_kept.isEmpty())
+        return nullptr;
+    const auto found = m_kept.constFind({member, key});
     return found == m_kept.constEnd() ? nullptr : &*found;
 }
 
-void RuleDataInfo::forget(const MemberKey& member)
+void RuleDataInfo::forget(Member member, const QString& key)
 {
     if (!m_kept.isEmpty())
-        m_kept.remove(member);
+        m_kept.remove({member, key});
 }
 
 bool RuleDataInfo::isMisfit(const QString& key) const

@@ -71,8 +71,8 @@ private:
     using MemberKey = QPair<Member, QString>;
 
     const QVariant* find(const QString& key) const;
-    const kql::Json::Value* kept(const MemberKey& member) const;
-    void forget(const MemberKey& member);
+    const kql::Json::Value* kept(Member member, const QString& key = {}) const;
+    void forget(Member member, const QString& key = {});
 
     std::vector<KeyedValue> m_values; ///< by key; there are many entries with many of them
     QStringList m_invalid;            ///< keys of the attributes that do not apply, sorted

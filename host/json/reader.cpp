@@ -25,6 +25,9 @@ using Document = rapidjson::GenericDocument<rapidjson::UTF8<>, rapidjson::CrtAll
 constexpr unsigned kFlags = rapidjson::kParseInsituFlag | rapidjson::kParseCommentsFlag |
                             rapidjson::kParseNumbersAsStringsFlag;
 
+/// Of a whole number in 63 bits.
+constexpr unsigned kDigitsThatFit = 18;
+
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// So many bytes at the start of a text, eight at a time, are ASCII.
@@ -125,6 +128,13 @@ bool Filter::RawNumber(const char* text, unsigned length, bool)
 {
     const char* end = text + length;
     std::int64_t whole = 0;
+    if (length <= kDigitsThatFit) { // as most are, and by far faster than what looks for overflows
+        const char* digit = text;
+        while (digit != end && *digit >= '0' && *digit <= '9')
+            whole = 10 * whole + (*digit++ - '0');
+        if (digit == end)
+            return m_document.Int64(whole);
+    }
     const auto [stop, error] = std::from_chars(text, end, whole);
     if (stop == end && error == std::errc())
         return m_document.Int64(whole);

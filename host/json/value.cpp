@@ -18,12 +18,6 @@ namespace
 
 constexpr int kLargestGap = 1'000'000;
 
-const Value& nullValue() noexcept
-{
-    static const Value null;
-    return null;
-}
-
 /// A null value of which the changes are lost.
 Value& thrownAway()
 {
@@ -46,6 +40,17 @@ qint64 truncated(double number) noexcept
 }
 
 } // namespace
+
+const Value& Value::nullValue() noexcept
+{
+    static const Value null;
+    return null;
+}
+
+int Value::memberCount() const noexcept
+{
+    return isObject() ? Members::count(m_node) : 0;
+}
 
 Value::Value(const QString& text) : Value(text.toStdString()) {}
 
@@ -145,12 +150,6 @@ int Value::bounded(std::size_t index) noexcept
     return index <= std::size_t(std::numeric_limits<int>::max()) ? int(index) : -1;
 }
 
-const Value& Value::operator[](int index) const
-{
-    const bool isInside = isArray() && index >= 0 && index < size();
-    return isInside ? of(m_node.Begin()[index]) : nullValue();
-}
-
 Value& Value::operator[](int index)
 {
     const int count = isArray() ? size() : 0;
@@ -161,22 +160,12 @@ Value& Value::operator[](int index)
     return of(m_node.Begin()[index]);
 }
 
-Value& Value::append(Value value)
+void Value::reserve(std::size_t count)
 {
     rapidjson::CrtAllocator heap;
     if (!isArray())
         m_node.SetArray();
-    if (m_node.Capacity() == 0)
-        m_node.Reserve(2, heap); // most are pairs of numbers
-    m_node.PushBack(value.m_node, heap);
-    return of(*(m_node.End() - 1));
-}
-
-int Value::size() const noexcept
-{
-    if (isArray())
-        return int(m_node.Size());
-    return isObject() ? Members::count(m_node) : 0;
+    m_node.Reserve(SizeType(count), heap);
 }
 
 QStringList Value::memberNames() const
@@ -221,7 +210,7 @@ bool Value::asBool() const
     return isDouble() ? m_node.GetDouble() != 0.0 : asInt64() != 0;
 }
 
-int Value::asInt() const
+int Value::nearestInt() const
 {
     return int(qBound(qint64(std::numeric_limits<int>::min()), asInt64(),
                       qint64(std::numeric_limits<int>::max())));

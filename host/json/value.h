@@ -83,7 +83,11 @@ public:
     void removeMember(std::string_view name);
 
     /// The element, or a null value outside.
-    const Value& operator[](int index) const;
+    const Value& operator[](int index) const
+    {
+        const bool isInside = isArray() && index >= 0 && SizeType(index) < m_node.Size();
+        return isInside ? of(m_node.Begin()[index]) : nullValue();
+    }
     const Value& operator[](std::size_t index) const { return (*this)[bounded(index)]; }
     /**
      * The element; the array grows with nulls up to it, a value of another kind becomes an array
@@ -92,11 +96,20 @@ public:
      */
     Value& operator[](int index);
     Value& operator[](std::size_t index) { return (*this)[bounded(index)]; }
+    /// Makes room for so many elements in all; a value of another kind becomes an array first.
+    void reserve(std::size_t count);
     /// Adds an element; a value of another kind becomes an array first. Returns the new element.
-    Value& append(Value value);
+    Value& append(Value value)
+    {
+        rapidjson::CrtAllocator heap;
+        if (!isArray() || m_node.Capacity() == 0)
+            reserve(2); // most are pairs of numbers
+        m_node.PushBack(value.m_node, heap);
+        return of(*(m_node.End() - 1));
+    }
 
     /// Number of elements or members; 0 for every other kind.
-    int size() const noexcept;
+    int size() const noexcept { return isArray() ? int(m_node.Size()) : memberCount(); }
     bool empty() const noexcept { return size() == 0; }
     /// Removes all elements or members; a value of another kind becomes null.
     void clear() { *this = isArray() || isObject() ? Value(type()) : Value(); }
@@ -110,7 +123,7 @@ public:
     /// A number is "not 0".
     bool asBool() const;
     /// A fraction is cut off, what is out of range becomes the nearest limit; a bool is 0 or 1.
-    int asInt() const;
+    int asInt() const { return m_node.IsInt() ? m_node.GetInt() : nearestInt(); }
     qint64 asInt64() const;
     double asDouble() const;
     QString asString() const;
@@ -133,6 +146,11 @@ public:
     QString toCompactText() const;
 
 private:
+    using SizeType = rapidjson::SizeType;
+
+    static const Value& nullValue() noexcept;
+    int nearestInt() const;
+    int memberCount() const noexcept;
     static const Value& of(const Node& node) noexcept
     {
         return reinterpret_cast<const Value&>(node);
