@@ -92,6 +92,8 @@ void SceneTitleBar::setSelected(bool selected)
 
 void SceneTitleBar::setLook(const char* property, bool on)
 {
+    if (this->property(property) == on)
+        return;
     setProperty(property, on);
     for (QWidget* widget : QList<QWidget*>{this, m_label, m_arrow})
         repolish(widget);
