@@ -3,7 +3,7 @@
 #include "bench/memoryreport.h"
 #include "bench/ratiotable.h"
 #include "bench/verdicts.h"
-#include "draw/labelfont.h"
+#include "plugin/modulelifetime.h"
 
 #include <QApplication>
 #include <algorithm>
@@ -43,6 +43,7 @@ int main(int argc, char* argv[])
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    IntelligentRulesUI::startModule(); // with its style sheet
     std::vector<char*> arguments = withDefaults(argc, argv);
     const bool isCheck = takeFlag(arguments, "--check");
     int count = int(arguments.size());
@@ -64,6 +65,6 @@ int main(int argc, char* argv[])
     table.print(verdicts);
     printMemoryReport(verdicts);
     printLimitReport();
-    LabelFont::release();
+    IntelligentRulesUI::endModule();
     return isCheck && verdicts.missed() > 0 ? 1 : 0;
 }
