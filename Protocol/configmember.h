@@ -24,6 +24,7 @@ constexpr std::string_view kRightLine = "RightLine";
 
 // A calibrate area and its staffs.
 constexpr std::string_view kMethod = "Method";
+constexpr std::string_view kStaffs = "Staffs";
 constexpr std::string_view kVertical = "Vertical";
 constexpr std::string_view kHorizontal = "Horizontal";
 constexpr std::string_view kLength = "Length";

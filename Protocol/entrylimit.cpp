@@ -1,11 +1,14 @@
 #include "Protocol/entrylimit.h"
 
 #include "Protocol/datatemplate.h"
+#include "Protocol/entryreader.h"
 #include "Protocol/entrywriter.h"
 #include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/sceneprotocol.h"
 #include "Protocol/sceneprotocols.h"
+#include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "host/api/limits.h"
 #include "host/json/value.h"
@@ -53,6 +56,18 @@ qint64 EntryLimit::textPerEntry(const RuleData& data, const Value& skeleton)
         cost += first ? first->styledLength() : 0;
     }
     return cost;
+}
+
+qint64 EntryLimit::textHeld(const RuleData& data)
+{
+    qint64 text = 0;
+    for (const DrawItem* figure : data.getDrawScene()->getItemList(BaseDrawType::None, 0))
+        text += Limits::kFigureText + qint64{Limits::kPointText} * figure->getPoints().size();
+    for (const auto& entry : data.getAllData()) {
+        for (const auto& item : data.getTemplate()->items())
+            text += Limits::kValueText + EntryReader::textIn(entry->value(item->key()));
+    }
+    return text;
 }
 
 int EntryLimit::countEntries(const RuleData& data, const Value& document)

@@ -17,6 +17,9 @@ namespace EntryLimit
 /// @p skeleton is the document that the entries are written into.
 qint64 textPerEntry(const RuleData& data, const kql::Json::Value& skeleton);
 
+/// What the entries and figures of @p data count of it now, as they do when they are read.
+qint64 textHeld(const RuleData& data);
+
 /// How many entries @p document has for the scene of @p data.
 int countEntries(const RuleData& data, const kql::Json::Value& document);
 

@@ -1,11 +1,14 @@
 #include "Protocol/entryname.h"
 
+#include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
 #include <QSet>
+
+#include <algorithm>
 
 namespace
 {
@@ -14,6 +17,34 @@ QString nameAt(const RuleData& data, int position)
 {
     const bool exists = position >= 0 && position < data.getDataCount();
     return exists ? data.getAllData()[static_cast<std::size_t>(position)]->name() : QString();
+}
+
+QSet<QString> takenNames(const RuleData& data)
+{
+    QSet<QString> taken(data.namesKeptAside().begin(), data.namesKeptAside().end());
+    for (int i = 0; i < data.getDataCount(); ++i) {
+        if (EntryName::isText(data, i))
+            taken.insert(EntryName::written(data, i));
+    }
+    return taken;
+}
+
+/// How many of the digits that @p name ends in are counted on.
+int digitsAtEnd(const QString& name)
+{
+    constexpr int kMostDigits = 9; // more do not fit a number
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    int count = 0;
+    while (count < qMin(kMostDigits, name.size()) && isDigit(name[name.size() - 1 - count]))
+        ++count;
+    return count;
+}
+
+QString cut(const QString& name, int most)
+{
+    const QString beginning = name.left(most);
+    const bool isInHalf = name.size() > most && most > 0 && beginning.back().isHighSurrogate();
+    return isInHalf ? beginning.chopped(1) : beginning;
 }
 
 } // namespace
@@ -31,14 +62,32 @@ bool EntryName::isText(const RuleData& data, int position)
 
 QString EntryName::unused(const RuleData& data, const QString& wanted)
 {
-    QSet<QString> taken(data.namesKeptAside().begin(), data.namesKeptAside().end());
-    for (int i = 0; i < data.getDataCount(); ++i) {
-        if (isText(data, i))
-            taken.insert(written(data, i));
-    }
+    const QSet<QString> taken = takenNames(data);
     QString name = wanted;
     for (int number = data.getDataCount() + 1; taken.contains(name); ++number)
         name = RuleData::tr("Rule") + QString::number(number);
+    return name;
+}
+
+bool EntryName::areKept(const RuleData& data)
+{
+    const auto sections = data.getTemplate()->sections();
+    return std::any_of(sections.begin(), sections.end(), [](const TemplateSection& section) {
+        return section.name == ConfigMember::kRuleSection;
+    });
+}
+
+QString EntryName::ofCopy(const RuleData& data, const QString& wanted)
+{
+    const QSet<QString> taken = takenNames(data);
+    const int digits = digitsAtEnd(wanted);
+    const QString stem = wanted.chopped(digits);
+    qint64 number = digits > 0 ? wanted.right(digits).toLongLong() : 1;
+    QString name = wanted;
+    while (taken.contains(name)) {
+        const QString count = QStringLiteral("%1").arg(++number, digits, 10, QLatin1Char('0'));
+        name = cut(stem, kMaxLength - count.size()) + count;
+    }
     return name;
 }
 

@@ -20,6 +20,17 @@ bool isText(const RuleData& data, int position);
 /// place.
 QString unused(const RuleData& data, const QString& wanted);
 
+/// Whether the entries of @p data have names at all, as rules have.
+bool areKept(const RuleData& data);
+
+/// The name for a copy of an entry called @p wanted: where another entry has that name, or one kept
+/// aside, with a number behind it, from 2 or on from the one that it ends in. It is cut before
+/// the number to be no longer than kMaxLength.
+QString ofCopy(const RuleData& data, const QString& wanted);
+
+/// Of a name, in characters, as an operator can type it.
+constexpr int kMaxLength = 20;
+
 /// Button text of the entry at @p position: its name, else the scene's word for an entry
 /// followed by the 1-based position where several are allowed.
 QString button(const RuleData& data, int position);

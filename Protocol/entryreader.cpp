@@ -17,18 +17,6 @@ using kql::Json::Value;
 namespace
 {
 
-qint64 textIn(const QVariant& value)
-{
-    if (value.userType() == QMetaType::QString)
-        return value.toString().size();
-    qint64 size = 0;
-    if (value.userType() == QMetaType::QStringList) {
-        for (const QString& text : value.toStringList())
-            size += Limits::kValueText + text.size();
-    }
-    return size;
-}
-
 QVector<QPoint> directionPoints(const Value& json)
 {
     const Value* points = ConfigMember::directionPath().readPath(json);
@@ -53,6 +41,18 @@ void readEnabled(const Value& enabled, RuleDataInfo& entry)
 
 } // namespace
 
+qint64 EntryReader::textIn(const QVariant& value)
+{
+    if (value.userType() == QMetaType::QString)
+        return value.toString().size();
+    qint64 size = 0;
+    if (value.userType() == QMetaType::QStringList) {
+        for (const QString& text : value.toStringList())
+            size += Limits::kValueText + text.size();
+    }
+    return size;
+}
+
 EntryReader::EntryReader(RuleData& data, const QString& section) : m_data(data), m_figures(data)
 {
     for (const auto& item : data.getTemplate()->items()) {
@@ -70,6 +70,11 @@ void EntryReader::read(const Value& json, RuleDataInfo& entry, DrawItem* parent)
 void EntryReader::readRule(const Value& json, RuleDataInfo& entry, DrawItem* parent) const
 {
     read(json, entry, parent);
+    readMembers(json, entry);
+}
+
+void EntryReader::readMembers(const Value& json, RuleDataInfo& entry)
+{
     readName(json[ConfigMember::kName], entry);
     readEnabled(json[ConfigMember::kEnable], entry);
 }

@@ -29,12 +29,17 @@ public:
     /// Reads a rule: its items, name and enabled state.
     void readRule(const kql::Json::Value& json, RuleDataInfo& entry,
                   DrawItem* parent = nullptr) const;
+    /// Reads the name and the enabled state of a rule.
+    static void readMembers(const kql::Json::Value& json, RuleDataInfo& entry);
+    /// The characters of the texts that @p value holds, as they count.
+    static qint64 textIn(const QVariant& value);
+    /// Reads @p found, which lies where @p item has its place, into @p entry.
+    void readValue(const RuleProtocolItem& item, const kql::Json::Value& found,
+                   RuleDataInfo& entry) const;
 
 private:
     void parseJsonToDataItem(const RuleProtocolItem& item, const kql::Json::Value& json,
                              RuleDataInfo& entry, DrawItem* parent) const;
-    void readValue(const RuleProtocolItem& item, const kql::Json::Value& found,
-                   RuleDataInfo& entry) const;
     QVariant parseValue(const RuleProtocolItem& item, const kql::Json::Value& found) const;
     void addFigure(const RuleProtocolItem& item, const kql::Json::Value& json,
                    const QVector<QPoint>& points, const RuleDataInfo& entry,

@@ -31,19 +31,23 @@ QString explain(const Value& json, bool isLost)
 
 void Misfit::tell(RuleData& data)
 {
+    for (const auto& entry : data.getAllData())
+        tell(data, *entry);
+}
+
+void Misfit::tell(RuleData& data, const RuleDataInfo& entry)
+{
     using Kind = SaveNotices::Kind;
-    for (const auto& entry : data.getAllData()) {
-        if (!entry->keepsAnything())
-            continue;
-        if (entry->nameAsRead())
-            data.saveNotices().add(Kind::NameNotShown, QStringLiteral("\"Name\""), *entry);
-        if (entry->enabledAsRead())
-            data.saveNotices().add(Kind::StateNotShown, QStringLiteral("\"Enable\""), *entry);
-        for (const auto& item : data.getTemplate()->items()) {
-            if (entry->isMisfit(item->key()))
-                data.saveNotices().add(Kind::NotShown, SaveNotices::subject(*item), *entry,
-                                       item->key());
-        }
+    if (!entry.keepsAnything())
+        return;
+    SaveNotices& notices = data.saveNotices();
+    if (entry.nameAsRead())
+        notices.add(Kind::NameNotShown, QStringLiteral("\"Name\""), entry);
+    if (entry.enabledAsRead())
+        notices.add(Kind::StateNotShown, QStringLiteral("\"Enable\""), entry);
+    for (const auto& item : data.getTemplate()->items()) {
+        if (entry.isMisfit(item->key()))
+            notices.add(Kind::NotShown, SaveNotices::subject(*item), entry, item->key());
     }
 }
 

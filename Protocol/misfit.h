@@ -12,6 +12,8 @@ namespace Misfit
 
 /// Tells @p data all those of its entries.
 void tell(RuleData& data);
+/// As above, of one entry.
+void tell(RuleData& data, const RuleDataInfo& entry);
 
 /// What the row of @p key says of it, for an entry of @p data; empty when there is none.
 QString explained(const RuleData& data, const RuleDataInfo& entry, const QString& key);

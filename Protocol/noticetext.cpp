@@ -25,6 +25,7 @@ bool stands(const SaveNotices::Topic& topic, const SaveNotices::Found& found, co
         return entry->enabledAsRead();
     case SaveNotices::Kind::Changed:
     case SaveNotices::Kind::Unnamed:
+    case SaveNotices::Kind::LeftOut:
         break;
     }
     return entry->value(topic.key) == found.value;
@@ -49,6 +50,9 @@ QString sentence(const SaveNotices::Topic& topic, const RuleData& data)
         return SaveNotices::tr("%1 is not saved as it was read.").arg(subject);
     if (topic.kind == SaveNotices::Kind::Unnamed)
         return SaveNotices::tr("%1 is not saved: no attribute names it.").arg(subject);
+    if (topic.kind == SaveNotices::Kind::LeftOut)
+        return SaveNotices::tr("%1 was left out of the copy: there is no such attribute here.")
+            .arg(subject);
     return SaveNotices::tr("%1 cannot be shown; it is saved as it was read until it is edited.")
         .arg(subject);
 }

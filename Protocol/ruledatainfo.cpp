@@ -1,6 +1,7 @@
 #include "Protocol/ruledatainfo.h"
 
 #include <algorithm>
+#include <utility>
 
 using kql::Json::Value;
 
@@ -24,7 +25,12 @@ bool RuleDataInfo::operator==(const RuleDataInfo& other) const
 {
     return m_id == other.m_id && m_enabled == other.m_enabled && m_name == other.m_name &&
            m_sourceIndex == other.m_sourceIndex && m_values == other.m_values &&
-           m_invalid == other.m_invalid && m_kept == other.m_kept;
+           m_invalid == other.m_invalid && m_kept == other.m_kept && m_source == other.m_source;
+}
+
+void RuleDataInfo::setSource(Value json)
+{
+    m_source = std::make_shared<const Value>(std::move(json));
 }
 
 void RuleDataInfo::setName(const QString& name)

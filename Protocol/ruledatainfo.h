@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <memory>
 #include <vector>
 
 /// One entry of a scene: a rule, a lane, an area. Holds the values of the control items by key.
@@ -31,6 +32,11 @@ public:
     /// Position in the configuration's list that the entry was read from; -1 for a new one.
     int sourceIndex() const { return m_sourceIndex; }
     void setSourceIndex(int index) { m_sourceIndex = index; }
+
+    /// What stands for the place that a copy from another configuration was read from; null for
+    /// other entries.
+    const kql::Json::Value* source() const { return m_source.get(); }
+    void setSource(kql::Json::Value json);
 
     void setValue(const QString& key, const QVariant& value);
     /// The value under @p key; invalid when there is none.
@@ -77,6 +83,7 @@ private:
     std::vector<KeyedValue> m_values; ///< by key; there are many entries with many of them
     QStringList m_invalid;            ///< keys of the attributes that do not apply, sorted
     QMap<MemberKey, kql::Json::Value> m_kept;
+    std::shared_ptr<const kql::Json::Value> m_source; ///< which no copy of this one changes
     QString m_name;
     int m_id;
     int m_sourceIndex = -1;

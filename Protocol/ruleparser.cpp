@@ -2,12 +2,14 @@
 
 #include "Protocol/datatemplate.h"
 #include "Protocol/documentloss.h"
+#include "Protocol/entryclip.h"
 #include "Protocol/entryid.h"
 #include "Protocol/entrylimit.h"
 #include "Protocol/misfit.h"
 #include "Protocol/noticetext.h"
 #include "Protocol/placecheck.h"
 #include "Protocol/ruledata.h"
+#include "Protocol/ruledatainfo.h"
 #include "Protocol/sceneprotocol.h"
 #include "Protocol/sceneprotocols.h"
 #include "Protocol/spelling.h"
@@ -15,6 +17,8 @@
 #include "host/api/dprintlog.h"
 #include "host/api/limits.h"
 #include "host/json/reader.h"
+
+#include <QCryptographicHash>
 
 #include <algorithm>
 #include <iterator>
@@ -258,6 +262,21 @@ bool RuleParser::writeData(QString& text) const
         return false;
     text = config.toStyledText();
     return !text.isEmpty();
+}
+
+Value RuleParser::copyOf(const RuleData& data, const RuleDataInfo& entry) const
+{
+    const TemplateSection section = data.getTemplate()->sections().front();
+    const JsonEntries sources =
+        sceneProtocol(data.getSceneType()).sources(data, section, m_configuration);
+    const auto position = static_cast<std::size_t>(data.indexOf(entry.id()));
+    return EntryClip::of(data, entry, documentDigest(), sources[position]);
+}
+
+QString RuleParser::documentDigest() const
+{
+    const QByteArray text = m_configuration.toCompactText().toUtf8();
+    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex());
 }
 
 RuleData* RuleParser::getData(SceneType type) const

@@ -9,6 +9,7 @@
 #include <vector>
 
 class RuleData;
+class RuleDataInfo;
 struct WriteContext;
 
 /**
@@ -65,6 +66,11 @@ public:
     /// What a save would leave out of the document as it is now, a sentence each; nothing before
     /// findLosses().
     QStringList notices() const;
+
+    /// @p entry of @p data, to be copied to where EntryPaste is told documentDigest().
+    kql::Json::Value copyOf(const RuleData& data, const RuleDataInfo& entry) const;
+    /// Digest of the configuration as it was read: the same for the same one alone.
+    QString documentDigest() const;
 
     const std::vector<std::unique_ptr<RuleData>>& getAllData() const { return m_data; }
     /// The scene of that type; null when the template has none.

@@ -42,6 +42,16 @@ void SaveNotices::add(Kind kind, const QString& subject, const RuleDataInfo& ent
     ++m_count;
 }
 
+void SaveNotices::forgetLeftOut()
+{
+    for (Topic& topic : m_topics) {
+        if (topic.kind != Kind::LeftOut)
+            continue;
+        m_count -= static_cast<int>(topic.found.size());
+        topic.found.clear();
+    }
+}
+
 bool SaveNotices::isUnsaved(const RuleDataInfo& entry, const QString& key) const
 {
     return m_unsavedKeys.contains(key) || m_changed.contains({entry.id(), key});

@@ -25,6 +25,7 @@ public:
         StateNotShown,
         Changed, ///< it is saved, but not as it was read
         Unnamed, ///< no attribute names it
+        LeftOut, ///< it was copied from where there is more
     };
 
     /// @p item has no place, and nothing else is told of it; @p sentence says why.
@@ -33,6 +34,9 @@ public:
     /// Tells @p subject of @p entry; @p key is that of the attribute that it belongs to, if any.
     void add(Kind kind, const QString& subject, const RuleDataInfo& entry,
              const QString& key = QString());
+
+    /// Tells no longer what was left out of copies.
+    void forgetLeftOut();
 
     /// Whether it was told that what @p entry was read with under @p key is not saved.
     bool isUnsaved(const RuleDataInfo& entry, const QString& key) const;

@@ -1,6 +1,7 @@
 #include "Protocol/sceneprotocol.h"
 
 #include "Protocol/datatemplate.h"
+#include "Protocol/entryname.h"
 #include "Protocol/entrywriter.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -64,6 +65,20 @@ bool SceneProtocol::put(std::vector<Value> entries, const TemplateSection& secti
     return EntryTarget(document, section.parent, whenMissing()).put(std::move(entries));
 }
 
+Value SceneProtocol::copiedPart(const Value&) const
+{
+    return {};
+}
+
+void SceneProtocol::setApart(const RuleData& data, RuleDataInfo& entry) const
+{
+    if (!EntryName::areKept(data) || entry.nameAsRead())
+        return;
+    const QString name =
+        entry.name().isEmpty() ? EntryName::written(data, data.getDataCount()) : entry.name();
+    entry.setName(EntryName::ofCopy(data, name));
+}
+
 RuleProtocolItem* SceneProtocol::entryFigureItem(const DataTemplate& dataTemplate) const
 {
     return dataTemplate.figureItems().value(0);
@@ -81,7 +96,7 @@ JsonEntries SceneProtocol::sources(const RuleData& data, const TemplateSection& 
     JsonEntries sources;
     for (const auto& entry : data.getAllData()) {
         const auto index = static_cast<std::size_t>(entry->sourceIndex());
-        sources.push_back(index < listed.size() ? listed[index] : nullptr);
+        sources.push_back(index < listed.size() ? listed[index] : entry->source());
     }
     return sources;
 }

@@ -53,6 +53,12 @@ public:
                                   const kql::Json::Value& document) const;
     /// What is made for the entries where the skeleton has no place for them.
     virtual EntryTarget::WhenMissing whenMissing() const { return EntryTarget::WhenMissing::List; }
+    /// What a copy of an entry takes along to other configurations of what the entry was read from,
+    /// @p asRead, because attributes and figures do not say it; null for nothing.
+    virtual kql::Json::Value copiedPart(const kql::Json::Value& asRead) const;
+    /// Gives @p entry, a copy that is about to become the last of @p data, what no two entries of
+    /// the scene may have in common.
+    virtual void setApart(const RuleData& data, RuleDataInfo& entry) const;
     /// The item whose first figure stands for an entry; null when none does.
     virtual RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const;
     /// Whether it is one of the calibrations: the module names their attributes itself, makes their

@@ -2,11 +2,11 @@
 
 #include "Protocol/configmember.h"
 #include "Protocol/entryname.h"
+#include "Protocol/lanes/lanenumbers.h"
 #include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
-#include "Protocol/validity.h"
 #include "draw/drawscene.h"
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/drawfucbutton.h"
@@ -17,7 +17,7 @@
 LanesScene::LanesScene(QWidget* parent) : BaseTabelScene(parent)
 {
     addFucButton(widgets().ruleFucBar, BaseDrawType::VehicleLane, tr("Lane"));
-    LanesScene::checkLayout();
+    checkLayout();
 }
 
 LanesTemplate* LanesScene::lanesTemplate() const
@@ -69,43 +69,11 @@ bool LanesScene::canAddEntry(BaseDrawType pressed) const
 
 void LanesScene::prepareNewEntry(RuleDataInfo& entry)
 {
-    const int number = freeLaneNumber();
-    entry.setValue(LanesTemplate::kNumber, number);
-    if (entry.hasValue(LanesTemplate::kRuleLaneNumber))
-        entry.setValue(LanesTemplate::kRuleLaneNumber, number);
-    Validity::update(*ruleData()->getTemplate(), entry);
-    m_laneNumbers.insert(number);
+    LaneNumbers::giveFree(*ruleData(), entry);
     const LanesTemplate* const dataTemplate = lanesTemplate();
     if (dataTemplate && dataTemplate->hasRuleItems()) {
         const RuleData& lanes = *ruleData();
         entry.setName(EntryName::unused(lanes, EntryName::written(lanes, lanes.getDataCount())));
-    }
-}
-
-int LanesScene::freeLaneNumber() const
-{
-    const CountRange count = ruleData()->getTemplate()->countRange();
-    int number = count.min;
-    while (number <= count.max && number < kAnyCount && m_laneNumbers.contains(number))
-        ++number;
-    return number;
-}
-
-void LanesScene::checkLayout()
-{
-    BaseTabelScene::checkLayout();
-    collectLaneNumbers();
-}
-
-void LanesScene::collectLaneNumbers()
-{
-    m_laneNumbers.clear();
-    if (!isBound())
-        return;
-    for (const auto& entry : ruleData()->getAllData()) {
-        const QVariant number = entry->value(LanesTemplate::kNumber);
-        if (number.isValid())
-            m_laneNumbers.insert(number.toInt());
     }
 }
 

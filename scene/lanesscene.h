@@ -2,8 +2,6 @@
 
 #include "scene/basetabelscene.h"
 
-#include <QSet>
-
 class LanesTemplate;
 
 /// The section of the vehicle lanes, and of the rules' attributes where these are edited per lane.
@@ -20,14 +18,9 @@ protected:
     void bindFixedRows() override;
     bool canAddEntry(BaseDrawType pressed) const override;
     void prepareNewEntry(RuleDataInfo& entry) override;
-    void checkLayout() override;
     void tabelAttrControlValueChange(const QString& key) override;
 
 private:
     LanesTemplate* lanesTemplate() const;
     void addRuleButtons();
-    int freeLaneNumber() const;
-    void collectLaneNumbers();
-
-    QSet<int> m_laneNumbers; ///< in use
 };

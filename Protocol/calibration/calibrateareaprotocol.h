@@ -16,6 +16,8 @@ public:
     {
         return writeCalibrateAreaData(data, section, context, document);
     }
+    /// The lengths of the staffs, each of which has its own.
+    kql::Json::Value copiedPart(const kql::Json::Value& asRead) const override;
     bool isCalibration() const override { return true; }
 
 private:

@@ -1,6 +1,7 @@
 #include "Protocol/calibration/calibrateareaprotocol.h"
 #include "Protocol/calibration/calibrateareatemplate.h"
 #include "Protocol/calibration/calibratestaffs.h"
+#include "Protocol/configmember.h"
 #include "Protocol/figurereader.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
@@ -48,6 +49,22 @@ void readLengths(const QVector<CalibrateStaffs::Kind>& kinds, const Value& staff
 }
 
 } // namespace
+
+Value CalibrateAreaProtocol::copiedPart(const Value& asRead) const
+{
+    const Value& staffs = asRead[ConfigMember::kStaffs];
+    Value copied;
+    for (int i = 0; staffs.isArray() && i < staffs.size(); ++i) {
+        const Value& length = staffs[i][ConfigMember::kLength];
+        Value staff;
+        if (length.isNumeric()) {
+            staff[ConfigMember::kType] = staffs[i][ConfigMember::kType];
+            staff[ConfigMember::kLength] = length;
+        }
+        copied[ConfigMember::kStaffs].append(std::move(staff));
+    }
+    return copied;
+}
 
 void CalibrateAreaProtocol::read(RuleData& data, const Value& document) const
 {

@@ -4,6 +4,7 @@
 #include "Protocol/entryreader.h"
 #include "Protocol/entrywriter.h"
 #include "Protocol/figurereader.h"
+#include "Protocol/lanes/lanenumbers.h"
 #include "Protocol/lanes/lanerules.h"
 #include "Protocol/lanes/lanestemplate.h"
 #include "Protocol/pointconversion.h"
@@ -160,6 +161,12 @@ JsonEntries LanesProtocol::sources(const RuleData& data, const TemplateSection& 
     for (const auto& entry : data.getAllData())
         sources.push_back(rules.ruleOf(entry->sourceIndex()));
     return sources;
+}
+
+void LanesProtocol::setApart(const RuleData& data, RuleDataInfo& entry) const
+{
+    SceneProtocol::setApart(data, entry);
+    LaneNumbers::giveFree(data, entry);
 }
 
 JsonEntries LanesProtocol::keptAside(const RuleData& data, const TemplateSection& section,

@@ -17,6 +17,7 @@ public:
                         const kql::Json::Value& document) const override;
     JsonEntries keptAside(const RuleData& data, const TemplateSection& section,
                           const kql::Json::Value& document) const override;
+    void setApart(const RuleData& data, RuleDataInfo& entry) const override;
 
 private:
     bool writeLanes(const RuleData& data, const TemplateSection& section,
