@@ -12,6 +12,7 @@
 #include "host/gdiplus.h"
 #include "host/video/qrtspvideownd.h"
 #include "plugin/editcommands.h"
+#include "plugin/entrymenu.h"
 #include "plugin/modulelifetime.h"
 #include "plugin/resultmessage.h"
 #include "scene/basetabelscene.h"
@@ -244,6 +245,7 @@ void CIntelligentRulesCtrl::initScenes()
     selectScene(m_scenes.first());
     if (!guard.holds())
         return;
+    m_editing->transfer().setParser(m_parser.get());
     m_editing->history().start(m_scenes);
     showSteps();
     focusFirstScene();
@@ -286,6 +288,7 @@ void CIntelligentRulesCtrl::addPanel(RuleData& sceneData)
             &CIntelligentRulesCtrl::sltTrySelectedlScene);
     connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::sceneChanged);
     connect(panel, &BaseTabelScene::sgnRowEdited, this, &CIntelligentRulesCtrl::sltRowEdited);
+    connect(panel, &BaseTabelScene::sgnMenuWanted, this, &CIntelligentRulesCtrl::sltMenuWanted);
 }
 
 void CIntelligentRulesCtrl::openPicture()
@@ -317,6 +320,8 @@ bool CIntelligentRulesCtrl::leaveFocus()
 void CIntelligentRulesCtrl::unload()
 {
     ++m_loadNumber;
+    if (m_menu)
+        m_menu->close();
     showHint({});
     m_drawScene = nullptr;
     if (m_playerWin && m_rtspOpened)
@@ -325,6 +330,7 @@ void CIntelligentRulesCtrl::unload()
         m_playerWin->resetToolBar(0);
     m_rtspOpened = false;
     m_editing->setPanel(nullptr, false);
+    m_editing->transfer().setParser(nullptr);
     m_editing->history().start({});
     const std::unique_ptr<RuleParser> parser = std::move(m_parser);
     const QList<BaseTabelScene*> scenes = std::exchange(m_scenes, {});
@@ -541,8 +547,11 @@ void CIntelligentRulesCtrl::sltSave()
         return;
     if (postResult()) {
         m_editing->history().setSaved();
-        for (BaseTabelScene* scene : qAsConst(m_scenes))
+        for (BaseTabelScene* scene : qAsConst(m_scenes)) {
             scene->SetDrawStatus(false);
+            scene->ruleData()->saveNotices().forgetLeftOut();
+        }
+        showNotices();
     }
     if (m_drawScene)
         m_drawScene->SetDrawOver(true);
@@ -747,17 +756,18 @@ void CIntelligentRulesCtrl::useKey(EditKey key)
     if (!finishEdits())
         return;
     // Rows and buttons that have the focus may be about to go.
-    if (m_playerWin)
+    if (m_playerWin && key != EditKey::Copy)
         m_playerWin->setFocus();
     if (!guard.holds() || !isEditable())
         return;
     const bool wasDrawing = m_drawScene && m_drawScene->isDrawing();
-    m_editing->use(key);
+    const QString why = m_editing->use(key);
     if (!guard.holds())
         return;
     if (m_drawScene && wasDrawing && EditCommands::draws(key))
         m_drawScene->SetDrawOver(false);
     sceneChanged();
+    showHint(why);
 }
 
 /// Keys that take points back are for the picture then, not for the button that began the drawing.
@@ -783,6 +793,8 @@ void CIntelligentRulesCtrl::showKeys()
         tr("Ctrl and a press: take the whole figure"),
         tr("Ctrl+Z: undo"),
         tr("Ctrl+Y, Ctrl+Shift+Z: redo"),
+        tr("Ctrl+C, Ctrl+V: copy the entry, paste a copied one"),
+        tr("Ctrl+D: duplicate the entry"),
     };
     KQGUI::KQMessageBox::ShowNotice(this, tr("Keys"), keys.join(QLatin1Char('\n')));
 }
@@ -797,6 +809,66 @@ void CIntelligentRulesCtrl::sltRestored(BaseTabelScene* panel)
     if (panel->getFold())
         panel->setFold(false);
     selectScene(panel);
+}
+
+void CIntelligentRulesCtrl::sltMenuWanted(int dataId, const QPoint& place)
+{
+    const QPointer<BaseTabelScene> panel = qobject_cast<BaseTabelScene*>(sender());
+    if (!panel || !isEditable() || !panel->takesEntries())
+        return;
+    if (m_menu)
+        m_menu->close();
+    m_menu = new EntryMenu(*panel, dataId, m_editing->transfer(), this);
+    // Not in the middle of the menu's own work: what was chosen may end the window.
+    connect(m_menu, &EntryMenu::sgnChosen, this,
+            [this, panel, dataId, load = m_loadNumber](EntryAction action) {
+                const auto use = [this, panel, dataId, load, action] {
+                    if (load == m_loadNumber)
+                        useMenu(panel, dataId, action);
+                };
+                QMetaObject::invokeMethod(this, use, Qt::QueuedConnection);
+            });
+    m_menu->popup(place);
+}
+
+void CIntelligentRulesCtrl::useMenu(BaseTabelScene* panel, int dataId, EntryAction action)
+{
+    const LoadGuard guard(this);
+    if (!panel || !isEditable() || !finishEdits())
+        return;
+    m_editing->correcting().end();
+    selectScene(panel);
+    if (!guard.holds() || !panel->ruleData()->getDataInfo(dataId))
+        return;
+    QString why;
+    switch (action) {
+    case EntryAction::Copy:
+        return showHint(m_editing->copy(dataId));
+    case EntryAction::Paste:
+        return useKey(EditKey::Paste);
+    case EntryAction::Duplicate:
+        why = m_editing->duplicate(dataId);
+        break;
+    default:
+        return editEntry(*panel, dataId, action);
+    }
+    if (!guard.holds())
+        return;
+    sceneChanged();
+    showHint(why);
+}
+
+void CIntelligentRulesCtrl::editEntry(BaseTabelScene& panel, int dataId, EntryAction action)
+{
+    const LoadGuard guard(this);
+    if (!panel.makeCurrent(dataId) || !guard.holds())
+        return;
+    if (action == EntryAction::Redraw)
+        return panel.sltRedrawItem();
+    if (action == EntryAction::Delete)
+        return panel.sltDeleteDrawItem();
+    sceneChanged();
+    panel.startRenaming();
 }
 
 void CIntelligentRulesCtrl::showSteps()
@@ -838,6 +910,8 @@ void CIntelligentRulesCtrl::hideEvent(QHideEvent* event)
     m_editing->correcting().end();
     if (!guard.holds())
         return;
+    if (m_menu)
+        m_menu->close();
     // Qt leaves the focus in what it hides when it finds no other place for it. It is still hiding
     // now, and who hears of the focus may delete the window.
     const auto leave = [this] {

@@ -4,6 +4,7 @@
 #include "plugin/rulesparameters.h"
 
 #include <QList>
+#include <QPointer>
 #include <QRect>
 #include <QWidget>
 #include <atomic>
@@ -26,6 +27,8 @@ namespace IntelligentRulesUI
 {
 
 class EditCommands;
+class EntryMenu;
+enum class EntryAction;
 
 /**
  * Content of one rules window: shows the channel's picture, the panels of the template's scenes,
@@ -78,6 +81,7 @@ private slots:
     void sltPictureRectChanged();
     void sltRowEdited(const QString& key);
     void sltRestored(BaseTabelScene* panel);
+    void sltMenuWanted(int dataId, const QPoint& place);
 
 protected:
     bool event(QEvent* event) override;
@@ -138,6 +142,9 @@ private:
     /// Ends edits, gives the picture the focus, and does what the key is for.
     void useKey(EditKey key);
     void showKeys();
+    /// Does what was chosen in the menu of an entry of @p panel, which need not be there any more.
+    void useMenu(BaseTabelScene* panel, int dataId, EntryAction action);
+    void editEntry(BaseTabelScene& panel, int dataId, EntryAction action);
     void focusDrawing();
     bool isEditable() const;
     /// Save and what stands beside it; not there in a read-only window.
@@ -148,6 +155,7 @@ private:
     std::unique_ptr<Ui_IntelligentRulesCtrl> m_form;
     QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers
     EditCommands* m_editing;              ///< owned as a child
+    QPointer<EntryMenu> m_menu;           ///< while it is open; a child
     EditKey m_usedKey = EditKey::None;
     QString m_editedRow;                  ///< key of the row whose edit is about to be noted
     std::unique_ptr<RuleParser> m_parser; ///< null while nothing is loaded

@@ -1,5 +1,6 @@
 #include "plugin/editcommands.h"
 
+#include "Protocol/entryname.h"
 #include "Protocol/ruledata.h"
 #include "draw/drawscene.h"
 #include "scene/basetabelscene.h"
@@ -53,6 +54,9 @@ bool EditCommands::claims(EditKey key) const
     case EditKey::Undo:
     case EditKey::Redo:
     case EditKey::Help:
+    case EditKey::Copy:
+    case EditKey::Paste:
+    case EditKey::Duplicate:
         return isUseful(key);
     default:
         return isDrawing() || m_correcting.figures().hasChosen() || m_crossHair.isShown();
@@ -72,6 +76,12 @@ bool EditCommands::isUseful(EditKey key) const
         return m_history.stack().canRedo();
     case EditKey::Help:
         return m_panel;
+    case EditKey::Copy:
+        return m_panel && m_transfer.whyNotCopied(*m_panel, currentEntry()).isEmpty();
+    case EditKey::Paste:
+        return m_panel && m_transfer.whyNotPasted(*m_panel).isEmpty();
+    case EditKey::Duplicate:
+        return m_panel && m_transfer.whyNotDuplicated(*m_panel, currentEntry()).isEmpty();
     case EditKey::Idle:
         return m_history.mayMerge();
     case EditKey::TakeBack:
@@ -105,15 +115,15 @@ bool EditCommands::repeats(EditKey key)
            key != EditKey::Remove;
 }
 
-void EditCommands::use(EditKey key)
+QString EditCommands::use(EditKey key)
 {
     if (!isUseful(key))
-        return;
+        return {};
     if (key == EditKey::Undo || key == EditKey::Redo) {
         const QPointer<EditCommands> self(this);
         m_correcting.end();
         if (!self)
-            return;
+            return {};
     }
     switch (key) {
     case EditKey::Undo:
@@ -140,10 +150,53 @@ void EditCommands::use(EditKey key)
     case EditKey::Remove:
         m_correcting.figures().removeChosen();
         break;
+    case EditKey::Copy:
+        return copy(currentEntry());
+    case EditKey::Paste:
+        return paste();
+    case EditKey::Duplicate:
+        return duplicate(currentEntry());
     default:
         move(editKeyWay(key));
         break;
     }
+    return {};
+}
+
+int EditCommands::currentEntry() const
+{
+    return m_panel && m_panel->ruleData() ? m_panel->ruleData()->getSelectedDataId() : 0;
+}
+
+QString EditCommands::copy(int dataId) const
+{
+    const QString why = m_transfer.whyNotCopied(*m_panel, dataId);
+    return why.isEmpty() ? m_transfer.copy(*m_panel, dataId) : why;
+}
+
+QString EditCommands::paste()
+{
+    return showAdded(m_transfer.paste(*m_panel), tr("Paste %1"));
+}
+
+QString EditCommands::duplicate(int dataId)
+{
+    const QString why = m_transfer.whyNotDuplicated(*m_panel, dataId);
+    return why.isEmpty() ? showAdded(m_transfer.duplicate(*m_panel, dataId), tr("Duplicate %1"))
+                         : why;
+}
+
+QString EditCommands::showAdded(int dataId, const QString& title)
+{
+    if (dataId == 0)
+        return tr("Nothing was added: there would be too much to be edited.");
+    const QPointer<EditCommands> self(this);
+    BaseTabelScene& panel = *m_panel;
+    if (!panel.makeCurrent(dataId) || !self || m_panel != &panel)
+        return {};
+    const RuleData& data = *panel.ruleData();
+    m_history.note({}, {}, title.arg(EntryName::button(data, data.indexOf(dataId))));
+    return {};
 }
 
 void EditCommands::finish()

@@ -4,6 +4,7 @@
 #include "plugin/correcting.h"
 #include "plugin/edithistory.h"
 #include "plugin/editkeys.h"
+#include "plugin/entrytransfer.h"
 
 #include <QObject>
 #include <QString>
@@ -15,9 +16,9 @@ namespace IntelligentRulesUI
 {
 
 /**
- * What an operator does with keys on the picture, and with the buttons beside Save: take back,
- * finish and leave, correct, draw at the cross-hair. It acts on the section that is selected, and
- * knows which keys have something to do.
+ * What an operator does with keys on the picture, with the buttons beside Save and in menus: take
+ * back, finish and leave, correct, draw at the cross-hair, copy. It acts on the section that is
+ * selected, and knows which keys have something to do.
  */
 class EditCommands : public QObject
 {
@@ -48,8 +49,15 @@ public:
     static bool draws(EditKey key);
     /// Whether it does so again and again while it is held.
     static bool repeats(EditKey key);
-    /// Does what the key is for.
-    void use(EditKey key);
+    /// Does what the key is for. Tells in a sentence when it could not, mostly an empty one.
+    QString use(EditKey key);
+
+    EntryTransfer& transfer() { return m_transfer; }
+    /// Puts an entry of the section into the clipboard. Tells as use() when it could not.
+    QString copy(int dataId) const;
+    /// Adds a copy of an entry of the section behind the others, as one step, and makes it
+    /// current. Tells as use() when it could not.
+    QString duplicate(int dataId);
 
 signals:
     /// A key presses or moves as the mouse would, in canvas pixels.
@@ -65,8 +73,12 @@ private:
     void finish();
     void press();
     void move(const QPoint& way);
+    int currentEntry() const;
+    QString paste();
+    QString showAdded(int dataId, const QString& title);
 
     EditHistory m_history;
+    EntryTransfer m_transfer;
     Correcting m_correcting;
     CrossHair m_crossHair;
     BaseTabelScene* m_panel = nullptr;

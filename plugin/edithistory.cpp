@@ -114,15 +114,16 @@ void EditHistory::start(const QList<BaseTabelScene*>& panels)
     m_stack.clear();
 }
 
-void EditHistory::note(const QString& row, const QString& series)
+void EditHistory::note(const QString& row, const QString& series, const QString& title)
 {
     if (m_isQuiet)
         return;
     for (int scene = 0; scene < m_panels.size(); ++scene)
-        noteScene(scene, row, series.isEmpty() ? row : series);
+        noteScene(scene, row, series.isEmpty() ? row : series, title);
 }
 
-void EditHistory::noteScene(int scene, const QString& row, const QString& series)
+void EditHistory::noteScene(int scene, const QString& row, const QString& series,
+                            const QString& title)
 {
     SceneState& known = m_known[static_cast<std::size_t>(scene)];
     EditStep step{
@@ -137,7 +138,7 @@ void EditHistory::noteScene(int scene, const QString& row, const QString& series
         step.change = {Kind::Attribute, step.after.selectedDataId(), 0};
     if (step.change.kind == Kind::None || step.change.kind == Kind::Picked)
         return;
-    step.title = titleOf(step);
+    step.title = title.isEmpty() ? titleOf(step) : title;
     const SceneChange change = step.change;
     const int drawn = m_stack.index() - firstPointOf(scene, change.itemId);
     {

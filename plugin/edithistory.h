@@ -33,8 +33,9 @@ public:
     void start(const QList<BaseTabelScene*>& panels);
     /// Looks for what the operator has changed. @p row is the key of the row that was edited,
     /// empty for anything else; edits of one row, or of one @p series, become one step while they
-    /// come one after the other.
-    void note(const QString& row, const QString& series = {});
+    /// come one after the other. @p title is what the step is called, where it does not follow from
+    /// what has changed.
+    void note(const QString& row, const QString& series = {}, const QString& title = {});
     /// What is edited now is what was saved.
     void setSaved();
     /// Whether the next edit could become one step with the last.
@@ -56,7 +57,7 @@ signals:
 private:
     class Command;
 
-    void noteScene(int scene, const QString& row, const QString& series);
+    void noteScene(int scene, const QString& row, const QString& series, const QString& title);
     void push(EditStep step);
     /// Makes one step of the points of a figure that is finished, and of an entry's figures.
     void fold(int scene, int dataId, int itemId);

@@ -40,6 +40,9 @@ constexpr Binding kBindings[] = {
     {int(Qt::ControlModifier) | Qt::Key_Z, EditKey::Undo},
     {int(Qt::ControlModifier) | int(Qt::ShiftModifier) | Qt::Key_Z, EditKey::Redo},
     {int(Qt::ControlModifier) | Qt::Key_Y, EditKey::Redo},
+    {int(Qt::ControlModifier) | Qt::Key_C, EditKey::Copy},
+    {int(Qt::ControlModifier) | Qt::Key_V, EditKey::Paste},
+    {int(Qt::ControlModifier) | Qt::Key_D, EditKey::Duplicate},
 };
 
 } // namespace

@@ -26,6 +26,9 @@ enum class EditKey {
     FarRight,
     FarUp,
     FarDown,
+    Copy, ///< the current entry
+    Paste,
+    Duplicate,
     Idle ///< ends a series of edits that are one step
 };
 

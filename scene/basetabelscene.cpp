@@ -12,6 +12,7 @@
 #include "Protocol/scenestate.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "host/api/limits.h"
 #include "host/api/rowcontract.h"
 #include "scene/drawinghint.h"
 #include "scene/entrybuttons.h"
@@ -79,6 +80,8 @@ void BaseTabelScene::connectWidgets()
             &BaseTabelScene::sltTabelDrawItemCheckBtnChanged);
     connect(widgets().drawItems, &RuleItemWidgetTabel::sgnEnableChanged, this,
             &BaseTabelScene::sltRuleEnableChanged);
+    connect(widgets().drawItems, &RuleItemWidgetTabel::sgnMenuWanted, this,
+            &BaseTabelScene::sgnMenuWanted);
     connect(widgets().childDrawItems, &RuleItemWidgetTabel::sgnCheckBtnChanged, this,
             &BaseTabelScene::sltTabelChildDrawItemCheckBtnChanged);
     connect(widgets().redrawButton, &QPushButton::clicked, this, &BaseTabelScene::sltRedrawItem);
@@ -214,6 +217,36 @@ void BaseTabelScene::restore(const SceneState& state, int dataId)
     getDrawScene()->resumeDrawing();
     SetDrawStatus(drewBefore || changesFigures);
     checkLayout();
+}
+
+bool BaseTabelScene::takesEntries() const
+{
+    return isBound() && !getSelectMode() && !widgets().ruleFucBar->buttons().isEmpty();
+}
+
+bool BaseTabelScene::isFull() const
+{
+    const CountRange count = m_data->getTemplate()->countRange();
+    return m_data->getDataCount() >= qMin(count.max, Limits::kEntries) ||
+           !canAddEntry(widgets().ruleFucBar->drawTypes().value(0));
+}
+
+bool BaseTabelScene::makeCurrent(int dataId)
+{
+    const QPointer<BaseTabelScene> self(this);
+    const bool isNew = isBound() && !widgets().drawItems->findDataButton(dataId);
+    const bool isThere = (!isNew || takeFocusFrom(*widgets().drawItems)) &&
+                         takeFocusFrom(*widgets().childDrawItems) && isBound() &&
+                         m_data->getDataInfo(dataId);
+    if (!isThere)
+        return false;
+    const QScopedValueRollback<bool> guard(m_nothingFollows, true);
+    m_data->setSelectedDataId(dataId);
+    if (isNew)
+        refreshTabelDrawItem();
+    showEntry(dataId);
+    checkLayout();
+    return self;
 }
 
 void BaseTabelScene::selectFigure(int itemId, int dataId)

@@ -51,6 +51,18 @@ public:
     /// the state has it, and what was in hand then in hand again. The data must be there.
     void restore(const SceneState& state, int dataId);
 
+    /// Whether the operator can add entries here at all, and work on those that are there.
+    bool takesEntries() const;
+    /// Whether there are as many as there may be.
+    bool isFull() const;
+    /// Makes the entry current, which may just have been added to the data, without starting what
+    /// it lacks. False when the section, or its data, is gone by then.
+    bool makeCurrent(int dataId);
+    /// Whether entries have a row for their name.
+    virtual bool canRename() const { return false; }
+    /// Gives the row for the current entry's name the focus.
+    virtual void startRenaming() {}
+
     /// A new row for @p item by its facade; null for no item and for facades without a row.
     ControlTabel* addControlTabel(RuleProtocolItem* item, QWidget* parent);
     /// A new figure of the template's first item of that kind, not yet on the canvas; null when
@@ -75,6 +87,8 @@ public slots:
 signals:
     /// The operator edited the row of that key; tells it before sgnRepaintCanvas().
     void sgnRowEdited(const QString& key);
+    /// The operator asks what can be done with an entry, at that place of the screen.
+    void sgnMenuWanted(int dataId, const QPoint& place);
     /// What is edited changed, or something on the canvas may look different now.
     void sgnRepaintCanvas();
 

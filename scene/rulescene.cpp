@@ -17,6 +17,7 @@
 #include "tabel/inputboxtabel.h"
 #include "tabel/ruleitemwidgettabel.h"
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QRegularExpressionValidator>
 
@@ -24,8 +25,6 @@
 
 namespace
 {
-
-constexpr int kMaxNameLength = 20;
 
 /// Names start with a letter or digit and go on with letters, digits, "#", "-" or "_". Letters
 /// are the ASCII ones and, punctuation and symbols aside, everything from U+04BB on: devices in
@@ -57,7 +56,7 @@ void RuleScene::bindFixedRows()
     m_nameRow->setTitle(tr("Rule name"));
     m_nameRow->setValidator(
         new QRegularExpressionValidator(QRegularExpression(namePattern()), m_nameRow));
-    m_nameRow->setMaxLength(kMaxNameLength);
+    m_nameRow->setMaxLength(EntryName::kMaxLength);
     connect(m_nameRow, &ControlTabel::sgnControlValueChange, this, &RuleScene::sltRuleNameChanged);
     widgets().controls->addControl(m_nameRow, false);
 }
@@ -87,6 +86,15 @@ void RuleScene::sltRuleNameChanged(const QString&)
     getDrawScene()->refreshMessage();
     emit sgnRowEdited(m_nameRow->objectName());
     emit sgnRepaintCanvas();
+}
+
+void RuleScene::startRenaming()
+{
+    auto* const edit = m_nameRow ? m_nameRow->findChild<QLineEdit*>() : nullptr;
+    if (!edit)
+        return;
+    edit->setFocus(Qt::ShortcutFocusReason);
+    edit->selectAll();
 }
 
 RuleProtocolItem* RuleScene::firstFigureItem(BaseDrawType) const

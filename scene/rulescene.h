@@ -15,6 +15,9 @@ class RuleScene : public BaseTabelScene
 public:
     explicit RuleScene(QWidget* parent = nullptr);
 
+    bool canRename() const override { return isBound() && m_nameRow; }
+    void startRenaming() override;
+
 public slots:
     void sltTabelDrawItemCheckBtnChanged() override;
     void sltDeleteDrawItem() override;

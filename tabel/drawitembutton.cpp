@@ -4,7 +4,7 @@
 #include "tabel/plaintext.h"
 
 #include <QCheckBox>
-#include <QEvent>
+#include <QContextMenuEvent>
 
 namespace
 {
@@ -95,6 +95,13 @@ bool DrawItemButton::event(QEvent* event)
         break;
     }
     return handled;
+}
+
+void DrawItemButton::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    emit sgnMenuWanted(m_dataId, isByKey ? mapToGlobal(rect().center()) : event->globalPos());
 }
 
 /// The base would take the other buttons of the group out of the tab order.

@@ -37,9 +37,12 @@ public:
 signals:
     /// The enable check box was clicked.
     void sgnEnableChanged(int dataId, bool on);
+    /// The operator asks what can be done with it, at that place of the screen.
+    void sgnMenuWanted(int dataId, const QPoint& place);
 
 protected:
     bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     /// A press never unchecks: the current button stays current.
     void nextCheckState() override;

@@ -30,6 +30,7 @@ void RuleItemWidgetTabel::addButton(DrawItemButton* button)
     connect(button, &DrawItemButton::clicked, this, [this, button] { pressed(button); });
     connect(button, &DrawItemButton::sgnEnableChanged, this,
             &RuleItemWidgetTabel::sgnEnableChanged);
+    connect(button, &DrawItemButton::sgnMenuWanted, this, &RuleItemWidgetTabel::sgnMenuWanted);
     addWidget(button, false);
 }
 

@@ -38,6 +38,8 @@ signals:
     void sgnBtnClicked(int id);
     /// The enable check box of an entry's button was clicked.
     void sgnEnableChanged(int dataId, bool on);
+    /// The operator asks what can be done with an entry, at that place of the screen.
+    void sgnMenuWanted(int dataId, const QPoint& place);
 
 protected:
     void forgetWidget(const QObject* child) override;

@@ -32,7 +32,8 @@ bool isOneOf(const Value& step, std::initializer_list<const char*> names)
 
 bool isEdit(const Value& step)
 {
-    return isOneOf(step, {"press", "drag", "double", "click", "set", "type", "enable", "key"});
+    return isOneOf(step,
+                   {"press", "drag", "double", "click", "set", "type", "enable", "key", "menu"});
 }
 
 /// Tells documents from others that have taken their places.
@@ -234,6 +235,7 @@ void Autosave::restore()
     }
     m_bar->hide();
     m_window.setReplaying(true);
+    m_clipboard.emplace();
     m_player = std::make_unique<SessionPlayer>(m_window, std::move(script));
     connect(m_player.get(), &SessionPlayer::sgnFinished, this, &Autosave::finishRestore);
     m_player->start();
@@ -250,6 +252,7 @@ bool Autosave::mayReplaceWork()
 void Autosave::finishRestore(const QString& error)
 {
     m_window.setReplaying(false);
+    m_clipboard.reset();
     if (m_player)
         m_player.release()->deleteLater();
     if (!error.isEmpty()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/autosavefile.h"
+#include "workbench/clipboardloan.h"
 #include "workbench/panelfinder.h"
 #include "workbench/recordedstep.h"
 
@@ -66,4 +67,5 @@ private:
     std::unique_ptr<AutosaveFile> m_left; ///< what a crash left behind; null for nothing
     QPointer<RestoreBar> m_bar;           ///< the window's
     std::unique_ptr<SessionPlayer> m_player;
+    std::optional<ClipboardLoan> m_clipboard; ///< while it plays
 };

@@ -2,12 +2,14 @@
 
 #include "host/api/rowcontract.h"
 #include "host/video/picturesize.h"
+#include "workbench/clipboardloan.h"
 #include "workbench/panelfinder.h"
 #include "workbench/rowhand.h"
 #include "workbench/sourcebook.h"
 #include "workbench/workbenchoptions.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QFileInfo>
 #include <QLineEdit>
 
@@ -221,6 +223,27 @@ Value key(const QString& keys)
     Value result = step("key");
     result["keys"] = keys;
     result["to"] = "picture";
+    if (keys == QLatin1String(RowContract::kPasteKey))
+        result[kClip] = ClipboardLoan::entry();
+    return result;
+}
+
+Value menu(const PanelFinder& finder, const QWidget& menu, const QAction& action)
+{
+    const QVariant id = menu.property(RowContract::kEntryId);
+    const auto isItsButton = [&id](const QAbstractButton* button) {
+        return button->property(RowContract::kEntryId) == id;
+    };
+    Value result = step("menu");
+    for (QWidget* panel : finder.panels()) {
+        if (const int entry = numberOf(finder.entryButtons(panel, false), isItsButton)) {
+            result["scene"] = panel->objectName();
+            result["entry"] = entry;
+        }
+    }
+    result["text"] = action.text().section(QLatin1Char('\t'), 0, 0);
+    if (action.objectName() == QLatin1String(RowContract::kPaste))
+        result[kClip] = ClipboardLoan::entry();
     return result;
 }
 

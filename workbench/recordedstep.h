@@ -8,6 +8,7 @@
 
 class PanelFinder;
 class QAbstractButton;
+class QAction;
 class QLineEdit;
 class QPoint;
 class QRect;
@@ -47,6 +48,13 @@ Value typed(const QWidget& row, const QLineEdit& edit);
 
 /// A key that the window takes for itself, whatever had the focus.
 Value key(const QString& keys);
+
+/// Choosing @p action in @p menu, the context menu of an entry's button. To be asked before it
+/// takes effect.
+Value menu(const PanelFinder& finder, const QWidget& menu, const QAction& action);
+
+/// Member of steps that take an entry from the clipboard: what was in it then.
+constexpr char kClip[] = "clip";
 
 /// Leaving an edit that is written as unfinished.
 Value finish();

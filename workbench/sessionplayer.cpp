@@ -4,9 +4,12 @@
 #include "host/video/maskedaddress.h"
 #include "host/video/qrtspvideownd.h"
 #include "workbench/boxwatcher.h"
+#include "workbench/clipboardloan.h"
 #include "workbench/eventwait.h"
+#include "workbench/menuhand.h"
 #include "workbench/modulehost.h"
 #include "workbench/operatorhand.h"
+#include "workbench/recordedstep.h"
 #include "workbench/rowhand.h"
 #include "workbench/sessionexpectation.h"
 #include "workbench/stepcheck.h"
@@ -157,6 +160,7 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
         {QStringLiteral("click"), &SessionPlayer::doClick},
         {QStringLiteral("key"), &SessionPlayer::doKey},
         {QStringLiteral("pick"), inSection(&SessionPlayer::doPick)},
+        {QStringLiteral("menu"), inSection(&SessionPlayer::doMenu)},
         {QStringLiteral("enable"), inSection(&SessionPlayer::doEnable)},
         {QStringLiteral("set"), inRow(&setRow)},
         {QStringLiteral("type"), inRow(&typeInRow)},
@@ -215,6 +219,11 @@ QString SessionPlayer::run(const Value& step)
         return doExpect(step);
     m_posted.clear();
     m_boxes->begin(step["answer"].asString());
+    std::optional<ClipboardLoan> clipboard;
+    if (step.isMember(RecordedStep::kClip)) {
+        clipboard.emplace();
+        ClipboardLoan::hold(step[RecordedStep::kClip]);
+    }
     const QString why = action(*this, step);
     if (why.isEmpty() && m_boxes->hadUnansweredQuestion())
         return tr("a question came up that the step does not answer: %1")
@@ -263,6 +272,16 @@ QString SessionPlayer::doPick(QWidget* panel, const Value& step)
     const auto buttons = m_finder.entryButtons(panel, child);
     const int index = step[child ? "child" : "entry"].asInt() - 1;
     return OperatorHand::click(buttons.value(index, nullptr));
+}
+
+QString SessionPlayer::doMenu(QWidget* panel, const Value& step)
+{
+    const auto buttons = m_finder.entryButtons(panel, false);
+    const QString why = MenuHand::choose(buttons.value(step["entry"].asInt() - 1, nullptr),
+                                         step["text"].asString());
+    // The window does what was chosen once the menu is done.
+    QCoreApplication::sendPostedEvents(m_finder.window(), QEvent::MetaCall);
+    return why;
 }
 
 QString SessionPlayer::doEnable(QWidget* panel, const Value& step)

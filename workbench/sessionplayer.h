@@ -59,6 +59,7 @@ private:
     QString doKey(const Value& step);
     QString doDrag(const Value& step);
     QString doPick(QWidget* panel, const Value& step);
+    QString doMenu(QWidget* panel, const Value& step);
     QString doEnable(QWidget* panel, const Value& step);
     QString doFinish(const Value& step);
     QString doFold(QWidget* panel, const Value& step);

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QLoggingCategory>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMetaMethod>
 #include <QMouseEvent>
@@ -112,8 +113,11 @@ bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
     if (m_rulesWindow && watched->isWidgetType()) {
         auto* widget = static_cast<QWidget*>(watched);
         auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(widget) : nullptr;
+        auto* menu = event->type() == QEvent::Show ? qobject_cast<QMenu*>(widget) : nullptr;
         if (box)
             watchQuestion(*box);
+        else if (menu && menu->objectName() == QLatin1String(RowContract::kEntryMenu))
+            watchMenu(*menu);
         else if (m_rulesWindow->isAncestorOf(widget))
             see(*widget, *event);
     }
@@ -359,6 +363,15 @@ void SessionRecorder::watchQuestion(QMessageBox& box)
         m_last["answer"] = result == QMessageBox::Yes ? "Yes" : "No";
         emit sgnLastReplaced(m_last);
     });
+}
+
+/// The menu tells of it before its actions do.
+void SessionRecorder::watchMenu(QMenu& menu)
+{
+    if (menu.parentWidget() == m_rulesWindow)
+        connect(&menu, &QMenu::triggered, this, [this, &menu](const QAction* action) {
+            record(RecordedStep::menu(m_finder, menu, *action));
+        });
 }
 
 void SessionRecorder::sltLoad()

@@ -11,6 +11,7 @@
 class QAbstractButton;
 class QKeyEvent;
 class QLineEdit;
+class QMenu;
 class QMessageBox;
 class QMouseEvent;
 class WorkbenchWindow;
@@ -59,6 +60,7 @@ private:
     using Value = kql::Json::Value;
 
     void watch(QWidget* widget);
+    void watchMenu(QMenu& menu);
     void watchQuestion(QMessageBox& box);
     void see(QWidget& widget, QEvent& event);
     void seePress(QWidget& widget, const QMouseEvent& event);

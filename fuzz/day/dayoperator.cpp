@@ -6,12 +6,16 @@
 #include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
 #include "tabel/controltabel.h"
+#include "workbench/clipboardloan.h"
 #include "workbench/recordedstep.h"
 #include "workbench/rowhand.h"
 #include "workbench/workbenchwindow.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <numeric>
 
 using kql::Json::ValueType;
@@ -57,19 +61,19 @@ int DayOperator::number(int from, int to)
 kql::Json::Value DayOperator::nextStep()
 {
     static const std::vector<Choice> idle = {
-        {60, &DayOperator::press},        {10, &DayOperator::rightClick},
-        {40, &DayOperator::move},         {15, &DayOperator::doubleClick},
-        {150, &DayOperator::click},       {120, &DayOperator::pick},
-        {60, &DayOperator::pickChild},    {100, &DayOperator::enable},
-        {220, &DayOperator::set},         {40, &DayOperator::type},
-        {40, &DayOperator::fold},         {60, &DayOperator::select},
-        {40, &DayOperator::save},         {6, &DayOperator::cancel},
-        {30, &DayOperator::query},        {12, &DayOperator::size},
-        {6, &DayOperator::loadAnew},      {2, &DayOperator::close},
-        {1, &DayOperator::wait},          {1, &DayOperator::screenshot},
-        {80, &DayOperator::travel},       {10, &DayOperator::key},
-        {100, &DayOperator::drag},        {20, &DayOperator::pressCorner},
-        {100, &DayOperator::keyOnPicture}};
+        {60, &DayOperator::press},         {10, &DayOperator::rightClick},
+        {40, &DayOperator::move},          {15, &DayOperator::doubleClick},
+        {150, &DayOperator::click},        {120, &DayOperator::pick},
+        {60, &DayOperator::pickChild},     {100, &DayOperator::enable},
+        {220, &DayOperator::set},          {40, &DayOperator::type},
+        {40, &DayOperator::fold},          {60, &DayOperator::select},
+        {40, &DayOperator::save},          {6, &DayOperator::cancel},
+        {30, &DayOperator::query},         {12, &DayOperator::size},
+        {6, &DayOperator::loadAnew},       {2, &DayOperator::close},
+        {1, &DayOperator::wait},           {1, &DayOperator::screenshot},
+        {80, &DayOperator::travel},        {20, &DayOperator::key},
+        {100, &DayOperator::drag},         {20, &DayOperator::pressCorner},
+        {100, &DayOperator::keyOnPicture}, {60, &DayOperator::menu}};
     static const std::vector<Choice> drawing = {
         {500, &DayOperator::press},      {120, &DayOperator::rightClick}, {100, &DayOperator::move},
         {30, &DayOperator::doubleClick}, {60, &DayOperator::travel},      {60, &DayOperator::key},
@@ -245,6 +249,38 @@ kql::Json::Value DayOperator::pick()
     return pickFrom(false);
 }
 
+/// Looks into the menu of an entry first.
+kql::Json::Value DayOperator::menu()
+{
+    Value result = pickFrom(false);
+    if (result.isNull())
+        return result;
+    QWidget* const panel = m_finder.panel({});
+    QAbstractButton* const button =
+        m_finder.entryButtons(panel, false).at(result["entry"].asInt() - 1);
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, button->rect().center());
+    QApplication::sendEvent(button, &wanted);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu)
+        return {};
+    QStringList offered;
+    for (const QAction* action : menu->actions()) {
+        if (!action->isSeparator() && action->isEnabled())
+            offered.append(action->text().section(QLatin1Char('\t'), 0, 0));
+    }
+    menu->close();
+    result["do"] = "menu";
+    result["text"] = oneOf(offered);
+    return result["text"].asString() == QLatin1String("Paste") ? withClip(result) : result;
+}
+
+kql::Json::Value DayOperator::withClip(Value step)
+{
+    if (const Value entry = ClipboardLoan::entry(); !entry.isNull())
+        step[RecordedStep::kClip] = entry;
+    return step;
+}
+
 kql::Json::Value DayOperator::pickChild()
 {
     return pickFrom(true);
@@ -387,11 +423,14 @@ kql::Json::Value DayOperator::travel()
 kql::Json::Value DayOperator::key()
 {
     static const QStringList keys{QStringLiteral("Backspace"), QStringLiteral("Escape"),
-                                  QStringLiteral("Return"), QStringLiteral("Delete")};
+                                  QStringLiteral("Return"),    QStringLiteral("Delete"),
+                                  QStringLiteral("Ctrl+C"),    QStringLiteral("Ctrl+V"),
+                                  QStringLiteral("Ctrl+D")};
     Value result = step("key");
     result["keys"] = oneOf(keys);
     result["to"] = "picture";
-    return result;
+    return result["keys"].asString() == QLatin1String(RowContract::kPasteKey) ? withClip(result)
+                                                                              : result;
 }
 
 /// Moves the cross-hair, or what was taken last, and presses there.

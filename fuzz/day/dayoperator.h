@@ -45,6 +45,7 @@ private:
     Value click();
     Value pick();
     Value pickChild();
+    Value menu();
     Value enable();
     Value set();
     Value type();
@@ -77,6 +78,8 @@ private:
     Value onPicture(const char* name);
     QPoint position(const QSize& picture);
     Value pickFrom(bool children);
+    /// @p step with what it would find in the clipboard, so that it can be played elsewhere.
+    static Value withClip(Value step);
     Value row(const char* name, ControlTabel*& found);
     Value valueFor(const QWidget& row);
     QString text();

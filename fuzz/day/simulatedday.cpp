@@ -83,7 +83,8 @@ bool isHarmless(const kql::Json::Value& step)
                                QStringLiteral("wait"),   QStringLiteral("fold"),
                                QStringLiteral("select"), QStringLiteral("save")};
     const bool stays = name == QLatin1String("cancel") && step["answer"].asString() != "Yes";
-    return stays || harmless.contains(name);
+    const bool copies = name == QLatin1String("menu") && step["text"].asString() == "Copy";
+    return stays || copies || harmless.contains(name);
 }
 
 } // namespace

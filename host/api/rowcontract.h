@@ -57,6 +57,15 @@ constexpr char kHint[] = "hint";
 /// Property that only the buttons of entries and figures have, an int.
 constexpr char kEntryId[] = "entryId";
 
+/// Object name of the context menu of an entry's button, which has kEntryId, too; and of its action
+/// that takes an entry from the clipboard.
+constexpr char kEntryMenu[] = "entryMenu";
+constexpr char kPaste[] = "paste";
+/// The key that does so, as QKeySequence writes it.
+constexpr char kPasteKey[] = "Ctrl+V";
+/// What an entry in the clipboard is: JSON.
+constexpr char kEntryType[] = "application/vnd.intelligentrules.entry+json";
+
 // Object names of the window's buttons, and of its label for notices.
 constexpr char kSave[] = "btnSave";
 constexpr char kCancel[] = "btnCancel";
