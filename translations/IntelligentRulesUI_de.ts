@@ -156,6 +156,45 @@
     </message>
 </context>
 <context>
+    <name>EntryTransfer</name>
+    <message>
+        <source>There is no entry to copy.</source>
+        <translation>Es gibt keinen Eintrag, der kopiert werden könnte.</translation>
+    </message>
+    <message>
+        <source>Its figures are not finished yet.</source>
+        <translation>Seine Figuren sind noch nicht fertig.</translation>
+    </message>
+    <message>
+        <source>Nothing can be added here.</source>
+        <translation>Hier kann nichts hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>Nothing was copied.</source>
+        <translation>Es wurde nichts kopiert.</translation>
+    </message>
+    <message>
+        <source>What was copied cannot be read.</source>
+        <translation>Was kopiert wurde, kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>What was copied belongs to another section.</source>
+        <translation>Was kopiert wurde, gehört in einen anderen Abschnitt.</translation>
+    </message>
+    <message>
+        <source>A figure is being drawn.</source>
+        <translation>Es wird gerade eine Figur gezeichnet.</translation>
+    </message>
+    <message>
+        <source>There are as many entries as there may be.</source>
+        <translation>Es gibt so viele Einträge, wie es geben darf.</translation>
+    </message>
+    <message>
+        <source>The entry is too large to be copied.</source>
+        <translation>Der Eintrag ist zu groß, um kopiert zu werden.</translation>
+    </message>
+</context>
+<context>
     <name>FightCalibrateScene</name>
     <message>
         <source>Calibrate area</source>
@@ -308,6 +347,12 @@
     <message>
         <source>Ctrl and a press: take the whole figure</source>
         <translation>Strg und ein Klick: die ganze Figur nehmen</translation>
+        <source>Ctrl+C, Ctrl+V: copy the entry, paste a copied one</source>
+        <translation>Strg+C, Strg+V: Eintrag kopieren, kopierten einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+D: duplicate the entry</source>
+        <translation>Strg+D: Eintrag duplizieren</translation>
     </message>
 </context>
 <context>
@@ -319,6 +364,21 @@
     <message>
         <source>IntelligentRulesDetail</source>
         <translation>Konfiguration der intelligenten Regeln eines Kanals</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::EditCommands</name>
+    <message>
+        <source>Paste %1</source>
+        <translation>%1 einfügen</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>%1 duplizieren</translation>
+    </message>
+    <message>
+        <source>Nothing was added: there would be too much to be edited.</source>
+        <translation>Nichts wurde hinzugefügt: Es wäre zu viel, um bearbeitet zu werden.</translation>
     </message>
 </context>
 <context>
@@ -350,6 +410,37 @@
     <message>
         <source>Correct %1</source>
         <translation>%1 korrigieren</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::EntryMenu</name>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>There is no row for a name here.</source>
+        <translation>Hier gibt es keine Zeile für einen Namen.</translation>
+    </message>
+    <message>
+        <source>Redraw</source>
+        <translation>Neu zeichnen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
@@ -632,6 +723,10 @@
     <message>
         <source>What is no entry under %1 is not saved.</source>
         <translation>Was unter %1 kein Eintrag ist, wird nicht gesichert.</translation>
+    </message>
+    <message>
+        <source>%1 was left out of the copy: there is no such attribute here.</source>
+        <translation>%1 fehlt in der Kopie: Ein solches Attribut gibt es hier nicht.</translation>
     </message>
 </context>
 <context>

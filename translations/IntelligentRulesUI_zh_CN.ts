@@ -156,6 +156,45 @@
     </message>
 </context>
 <context>
+    <name>EntryTransfer</name>
+    <message>
+        <source>There is no entry to copy.</source>
+        <translation>没有可复制的条目。</translation>
+    </message>
+    <message>
+        <source>Its figures are not finished yet.</source>
+        <translation>其图形尚未绘制完成。</translation>
+    </message>
+    <message>
+        <source>Nothing can be added here.</source>
+        <translation>此处不能添加任何内容。</translation>
+    </message>
+    <message>
+        <source>Nothing was copied.</source>
+        <translation>没有复制任何内容。</translation>
+    </message>
+    <message>
+        <source>What was copied cannot be read.</source>
+        <translation>复制的内容无法读取。</translation>
+    </message>
+    <message>
+        <source>What was copied belongs to another section.</source>
+        <translation>复制的内容属于另一个分区。</translation>
+    </message>
+    <message>
+        <source>A figure is being drawn.</source>
+        <translation>正在绘制图形。</translation>
+    </message>
+    <message>
+        <source>There are as many entries as there may be.</source>
+        <translation>条目数已达上限。</translation>
+    </message>
+    <message>
+        <source>The entry is too large to be copied.</source>
+        <translation>条目过大，无法复制。</translation>
+    </message>
+</context>
+<context>
     <name>FightCalibrateScene</name>
     <message>
         <source>Calibrate area</source>
@@ -308,6 +347,12 @@
     <message>
         <source>Ctrl and a press: take the whole figure</source>
         <translation>按住 Ctrl 点击：抓住整个图形</translation>
+        <source>Ctrl+C, Ctrl+V: copy the entry, paste a copied one</source>
+        <translation>Ctrl+C、Ctrl+V：复制条目，粘贴已复制的条目</translation>
+    </message>
+    <message>
+        <source>Ctrl+D: duplicate the entry</source>
+        <translation>Ctrl+D：复制一份条目</translation>
     </message>
 </context>
 <context>
@@ -319,6 +364,21 @@
     <message>
         <source>IntelligentRulesDetail</source>
         <translation>通道智能规则配置</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::EditCommands</name>
+    <message>
+        <source>Paste %1</source>
+        <translation>粘贴%1</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>复制一份%1</translation>
+    </message>
+    <message>
+        <source>Nothing was added: there would be too much to be edited.</source>
+        <translation>未添加任何内容：内容过多，无法编辑。</translation>
     </message>
 </context>
 <context>
@@ -350,6 +410,37 @@
     <message>
         <source>Correct %1</source>
         <translation>修正 %1</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::EntryMenu</name>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>There is no row for a name here.</source>
+        <translation>此处没有名称行。</translation>
+    </message>
+    <message>
+        <source>Redraw</source>
+        <translation>重绘</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制一份</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
     </message>
 </context>
 <context>
@@ -632,6 +723,10 @@
     <message>
         <source>What is no entry under %1 is not saved.</source>
         <translation>%1下不是条目的内容不会保存。</translation>
+    </message>
+    <message>
+        <source>%1 was left out of the copy: there is no such attribute here.</source>
+        <translation>副本中省略了%1：此处没有这样的属性。</translation>
     </message>
 </context>
 <context>

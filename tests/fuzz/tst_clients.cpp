@@ -3,6 +3,8 @@
 #include "tests/support/loadedplugin.h"
 #include "tests/support/mailbox.h"
 
+#include <QClipboard>
+
 using namespace SampleDocuments;
 
 namespace
@@ -32,6 +34,38 @@ bool hasFocus(const ClientWindow& window)
 {
     return window.content->isAncestorOf(QApplication::focusWidget());
 }
+
+/// A dialog of the client's around a window; it has commands with these keys.
+class CommandDialog : public QDialog
+{
+public:
+    CommandDialog(const ClientWindow& window, const QStringList& keys) : QDialog(window.parent)
+    {
+        (new QHBoxLayout(this))->addWidget(window.content);
+        for (const QString& key : keys) {
+            auto* const command = new QAction(this);
+            command->setShortcut(QKeySequence(key));
+            addAction(command);
+            connect(command, &QAction::triggered, command, [this] { ++m_commands; });
+        }
+        show();
+        QApplication::setActiveWindow(this);
+    }
+
+    /// Presses @p key in @p focused; whether no command had it.
+    bool leaves(QWidget* focused, const QString& key) const
+    {
+        focused->setFocus();
+        const int code = int(QKeySequence(key)[0]);
+        const int before = m_commands;
+        QTest::keyClick(windowHandle(), Qt::Key(code & ~Qt::CTRL),
+                        Qt::KeyboardModifiers(code & Qt::CTRL));
+        return m_commands == before;
+    }
+
+private:
+    int m_commands = 0;
+};
 
 } // namespace
 
@@ -123,27 +157,12 @@ private slots:
     void takesKeysOnlyWhereTheyAreNeeded()
     {
         const ClientWindow window(widget());
-        auto* const dialog = new QDialog(window.parent);
-        (new QHBoxLayout(dialog))->addWidget(window.content);
-        int commands = 0;
         const QStringList keys{"Ctrl+Z", "Ctrl+Y", "Backspace", "Return", "Esc", "Space"};
-        for (const QString& key : keys) {
-            auto* const command = new QAction(dialog);
-            command->setShortcut(QKeySequence(key));
-            dialog->addAction(command);
-            connect(command, &QAction::triggered, command, [&commands] { ++commands; });
-        }
-        dialog->show();
-        QApplication::setActiveWindow(dialog);
+        const auto* const dialog = new CommandDialog(window, keys);
         window.load("C1", rule("Gate"));
         auto* const picture = window.find<QWidget>("playerWin");
         const auto press = [&](QWidget* focused, const QString& key) {
-            focused->setFocus();
-            const int code = int(QKeySequence(key)[0]);
-            const int before = commands;
-            QTest::keyClick(dialog->windowHandle(), Qt::Key(code & ~Qt::CTRL),
-                            Qt::KeyboardModifiers(code & Qt::CTRL));
-            return commands == before;
+            return dialog->leaves(focused, key);
         };
         for (const QString& key : keys)
             QVERIFY2(!press(picture, key), qPrintable(key));
@@ -157,6 +176,43 @@ private slots:
         QVERIFY(press(editOf(window, "high"), "Ctrl+Z"));
         QCOMPARE(editOf(window, "high")->text(), QString("0"));
         QVERIFY(dialog->isVisible());
+    }
+
+    /// The clipboard is the client's, too.
+    void takesKeysOnlyWhereThereIsSomethingToCopy()
+    {
+        const ClientWindow window(widget());
+        const CommandDialog& dialog = *new CommandDialog(window, {"Ctrl+C", "Ctrl+V", "Ctrl+D"});
+        auto* const picture = window.find<QWidget>("playerWin");
+        const auto left = [&](QWidget* focused) {
+            QString keys;
+            for (const QString key : {"Ctrl+C", "Ctrl+V", "Ctrl+D"})
+                keys += dialog.leaves(focused, key) ? key.back() : QChar('-');
+            return keys;
+        };
+        const auto load = [&](const QByteArray& more = {}) {
+            window.load("C1", rule("Gate"), more);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        QGuiApplication::clipboard()->setText("client's");
+        QCOMPARE(left(picture), QString("---"));
+        load(R"(, "editable": false)");
+        QCOMPARE(left(picture), QString("---"));
+        load(R"(, "selectionMode": true)");
+        QCOMPARE(left(picture), QString("---"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString("client's"));
+        load();
+        QCOMPARE(left(editOf(window, "high")), QString("CVD"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString("client's"));
+        // Three rules are the most.
+        QCOMPARE(left(picture), QString("CV-"));
+        QVERIFY(!QGuiApplication::clipboard()->mimeData()->hasText());
+        QCOMPARE(left(editOf(window, "level")), QString("CV-"));
+        load();
+        window.click("addRule");
+        QCOMPARE(left(picture), QString("---"));
+        load();
+        QVERIFY(dialog.leaves(picture, "Ctrl+V"));
     }
 
     /// Whatever the client hears of while a window goes, it may answer by a message to it.

@@ -7,6 +7,8 @@
 #include "tests/support/loadedplugin.h"
 #include "tests/support/mailbox.h"
 
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <functional>
 #include <limits>
 #include <malloc.h>
@@ -75,6 +77,16 @@ private:
     void prepareTest() override { m_plugin.load(); }
     IAbstractWidget* widget() { return m_plugin.widget(); }
 
+    /// Of the first entry.
+    static QMenu* openMenu(const Window& window)
+    {
+        auto* const table = window.find<QWidget>("drawItems");
+        auto* const button = table->findChild<QAbstractButton*>();
+        QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {});
+        QApplication::sendEvent(button, &wanted);
+        return window.content->findChild<QMenu*>("entryMenu");
+    }
+
     /// A button that opens a box; posted before the click, the happening comes before the answer.
     static Moment box(const char* name, const QByteArray& rules, const char* button,
                       const char* posts = "", bool isUnfinished = false)
@@ -124,6 +136,17 @@ private:
                     SLOT(sltSizeReported()));
             window.load("C1", rule("Gate"));
         };
+        const auto opensMenu = [](const Window& window, const Happening& happen) {
+            window.load("C1", rule("Gate"));
+            openMenu(window);
+            happen();
+        };
+        const auto choosesInMenu = [](const Window& window, const Happening& happen) {
+            window.load("C1", rule("Gate"));
+            openMenu(window)->actions()[3]->trigger(); // duplicate
+            happen();
+            QCoreApplication::processEvents();
+        };
         return {box("error", kBroken, "btnSave"),
                 box("error about names", kTwins, "btnSave"),
                 box("question before it saves", rule("Gate"), "btnSave", "996"),
@@ -131,6 +154,8 @@ private:
                 box("notice", rule("Gate"), "delete"),
                 {"connecting", connects},
                 {"drawing", draws, "", true},
+                {"a menu is open", opensMenu},
+                {"something was chosen in a menu", choosesInMenu},
                 {"typing", types},
                 {"asking for the picture", loads},
                 {"told the picture's size", reports}};

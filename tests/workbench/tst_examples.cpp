@@ -214,6 +214,29 @@ private slots:
         QVERIFY2(written == expected, qPrintable(written.toCompactText()));
     }
 
+    void copiesEntries_data()
+    {
+        QTest::addColumn<QString>("example");
+        QTest::addColumn<QString>("session");
+        QTest::newRow("rules") << "perimeter"
+                               << "copyrules";
+        QTest::newRow("lanes and detection areas") << "traffic"
+                                                   << "copylanes";
+        QTest::newRow("calibrate areas") << "scene-calibration"
+                                         << "copyareas";
+        QTest::newRow("fights") << "fight-calibration"
+                                << "copyfights";
+    }
+
+    void copiesEntries()
+    {
+        QFETCH(const QString, example);
+        QFETCH(const QString, session);
+        const Outcome outcome = run(documents(ExampleFiles::folder(example)) +
+                                    QStringList{"--replay", ::session(qPrintable(session))});
+        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+    }
+
     void tellsThatTheOperatorLeft()
     {
         for (const char* steps : {"leave", "leaveloaded", "leavesaved"}) {
