@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 
 namespace
 {
@@ -102,6 +103,17 @@ void DrawItemButton::contextMenuEvent(QContextMenuEvent* event)
     event->accept();
     const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
     emit sgnMenuWanted(m_dataId, isByKey ? mapToGlobal(rect().center()) : event->globalPos());
+}
+
+void DrawItemButton::keyPressEvent(QKeyEvent* event)
+{
+    const bool isShifted = event->modifiers() == Qt::ShiftModifier;
+    if (event->key() != Qt::Key_Menu && !(event->key() == Qt::Key_F10 && isShifted)) {
+        QPushButton::keyPressEvent(event);
+        return;
+    }
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, rect().center());
+    contextMenuEvent(&wanted);
 }
 
 /// The base would take the other buttons of the group out of the tab order.

@@ -43,6 +43,8 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    /// The keys that open a menu do so on each platform, whatever it makes of them itself.
+    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     /// A press never unchecks: the current button stays current.
     void nextCheckState() override;

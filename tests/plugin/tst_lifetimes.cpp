@@ -7,7 +7,6 @@
 #include "tests/support/loadedplugin.h"
 #include "tests/support/mailbox.h"
 
-#include <QContextMenuEvent>
 #include <QMenu>
 #include <functional>
 #include <limits>
@@ -82,8 +81,7 @@ private:
     {
         auto* const table = window.find<QWidget>("drawItems");
         auto* const button = table->findChild<QAbstractButton*>();
-        QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {});
-        QApplication::sendEvent(button, &wanted);
+        QTest::keyClick(button, Qt::Key_F10, Qt::ShiftModifier);
         return window.content->findChild<QMenu*>("entryMenu");
     }
 
