@@ -8,15 +8,17 @@
 #include "Protocol/validity.h"
 #include "Protocol/valuecompare.h"
 #include "draw/drawitem.h"
+#include "draw/drawscene.h"
 
 #include <QCoreApplication>
 #include <QSize>
+#include <functional>
 #include <vector>
 
 namespace
 {
 
-using Failure = std::optional<QString>;
+using Failure = std::optional<CheckFault>;
 
 constexpr int kEmpty = -1;
 constexpr CountRange kAnyNumber{0, 0};
@@ -26,18 +28,16 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(RuleData)
 };
 
-Failure checkEntryCount(CountRange range, std::size_t count, const QString& entryTitle)
+QString wrongEntryCount(CountRange range, const QString& entryTitle)
 {
-    if (range.contains(static_cast<int>(count)))
-        return {};
     const QString minimum = QString::number(range.min);
     if (range.min == range.max)
         return Text::tr("Please add %1 %2.").arg(minimum, entryTitle);
     return Text::tr("Please add %1-%2 %3.").arg(minimum, QString::number(range.max), entryTitle);
 }
 
-/// A range that the operator sees must have both ends.
-Failure checkRange(const RuleProtocolItem& item)
+/// A range that the operator sees must have both ends; an empty text when it has.
+QString emptyEnd(const RuleProtocolItem& item)
 {
     const ControlRow* const row = item.row();
     if (item.valueType() != ValueType::ArrayInt || !row || !row->isRowVisible())
@@ -96,6 +96,7 @@ public:
     EntryCheck(const DataTemplate& dataTemplate, const DrawScene& scene);
 
     Failure firstFailure(const RuleDataInfo& entry) const;
+    Failure failureOf(const CheckFault& fault, const RuleDataInfo& entry) const;
 
 private:
     struct Comparison {
@@ -104,18 +105,23 @@ private:
         CheckRuleOperatorType operatorType;
     };
 
+    using IsAsked = std::function<bool(const Comparison& comparison)>;
+
+    Failure checkItem(const RuleDataInfo& entry, const RuleProtocolItem& item) const;
+    Failure checkRange(const RuleDataInfo& entry, const RuleProtocolItem& item) const;
     Failure checkFigures(const RuleDataInfo& entry, const RuleProtocolItem& item) const;
-    Failure checkValues(const RuleDataInfo& entry) const;
+    Failure checkValues(const RuleDataInfo& entry, const IsAsked& isAsked) const;
     static Failure compare(const RuleDataInfo& entry, const Comparison& comparison);
 
     const DataTemplate& m_template;
     EntryFigures m_figures;
+    int m_shownEntry;                             ///< id of the entry that the rows show
     std::vector<const RuleProtocolItem*> m_items; ///< those that there is something to check of
     std::vector<Comparison> m_comparisons;
 };
 
 EntryCheck::EntryCheck(const DataTemplate& dataTemplate, const DrawScene& scene)
-    : m_template(dataTemplate), m_figures(dataTemplate, scene)
+    : m_template(dataTemplate), m_figures(dataTemplate, scene), m_shownEntry(scene.currentDataId())
 {
     for (const auto& item : m_template.items()) {
         if (item->isFigure() || item->valueType() == ValueType::ArrayInt)
@@ -132,36 +138,77 @@ EntryCheck::EntryCheck(const DataTemplate& dataTemplate, const DrawScene& scene)
 Failure EntryCheck::firstFailure(const RuleDataInfo& entry) const
 {
     for (const RuleProtocolItem* const item : m_items) {
-        Failure failure = item->isFigure() ? checkFigures(entry, *item) : checkRange(*item);
-        if (failure)
+        if (Failure failure = checkItem(entry, *item))
             return failure;
     }
-    return m_comparisons.empty() ? Failure() : checkValues(entry);
+    return m_comparisons.empty() ? Failure()
+                                 : checkValues(entry, [](const Comparison&) { return true; });
+}
+
+Failure EntryCheck::failureOf(const CheckFault& fault, const RuleDataInfo& entry) const
+{
+    const RuleProtocolItem* const item = m_template.findItem(fault.key);
+    if (!item)
+        return {};
+    if (fault.comparedKey.isEmpty()) {
+        // Its row cannot tell while it shows another entry.
+        const bool isUnseen = !item->isFigure() && entry.id() != m_shownEntry;
+        return isUnseen ? fault : checkItem(entry, *item);
+    }
+    return checkValues(entry, [&fault](const Comparison& comparison) {
+        return comparison.first->key() == fault.key &&
+               comparison.second->key() == fault.comparedKey;
+    });
+}
+
+Failure EntryCheck::checkItem(const RuleDataInfo& entry, const RuleProtocolItem& item) const
+{
+    return item.isFigure() ? checkFigures(entry, item) : checkRange(entry, item);
+}
+
+Failure EntryCheck::checkRange(const RuleDataInfo& entry, const RuleProtocolItem& item) const
+{
+    const QString message = emptyEnd(item);
+    if (message.isEmpty())
+        return {};
+    return CheckFault{message, m_shownEntry > 0 ? m_shownEntry : entry.id(), item.key(), {}, 0};
 }
 
 Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolItem& item) const
 {
+    const CountRange range = item.countRange();
     int count = 0;
     const DrawItem* unfinished = nullptr;
+    const DrawItem* oneTooMany = nullptr;
     for (const DrawItem* figure : m_figures.of(entry.id())) {
         if (!m_template.isFigureFor(*figure, item))
             continue;
-        ++count;
+        if (count++ == range.max)
+            oneTooMany = figure;
         if (!unfinished && !figure->isFinished())
             unfinished = figure;
     }
-    if (!item.countRange().contains(count))
-        return item.countRange() == kAnyNumber ? Failure() : wrongFigureCount(item);
-    if (unfinished)
-        return Text::tr("Please finish drawing %1.").arg(unfinished->label());
-    return {};
+    CheckFault fault{{}, entry.id(), item.key(), {}, 0};
+    if (!range.contains(count)) {
+        if (range == kAnyNumber)
+            return {};
+        fault.message = wrongFigureCount(item);
+        fault.itemId = oneTooMany ? oneTooMany->itemId() : 0;
+        return fault;
+    }
+    if (!unfinished)
+        return {};
+    fault.message = Text::tr("Please finish drawing %1.").arg(unfinished->label());
+    fault.itemId = unfinished->itemId();
+    return fault;
 }
 
-Failure EntryCheck::checkValues(const RuleDataInfo& entry) const
+Failure EntryCheck::checkValues(const RuleDataInfo& entry, const IsAsked& isAsked) const
 {
     const auto hidden = Validity::hiddenItems(m_template, entry);
     for (const Comparison& comparison : m_comparisons) {
-        if (hidden.contains(comparison.first) || hidden.contains(comparison.second))
+        if (hidden.contains(comparison.first) || hidden.contains(comparison.second) ||
+            !isAsked(comparison))
             continue;
         if (Failure failure = compare(entry, comparison))
             return failure;
@@ -181,9 +228,11 @@ Failure EntryCheck::compare(const RuleDataInfo& entry, const Comparison& compari
         ValueCompare::holds(comparable(first, *comparison.first), comparison.operatorType,
                             comparable(second, *comparison.second)))
         return {};
-    return Text::tr("%1 must be %2 to %3")
-        .arg(comparison.first->caption(), reasonText(comparison.operatorType),
-             comparison.second->caption());
+    const QString message =
+        Text::tr("%1 must be %2 to %3")
+            .arg(comparison.first->caption(), reasonText(comparison.operatorType),
+                 comparison.second->caption());
+    return CheckFault{message, entry.id(), firstKey, secondKey, 0};
 }
 
 } // namespace
@@ -191,12 +240,19 @@ Failure EntryCheck::compare(const RuleDataInfo& entry, const Comparison& compari
 Failure RuleCheck::firstFailure(const DataTemplate& dataTemplate, const DrawScene& scene,
                                 const Entries& entries, const QString& entryTitle)
 {
-    if (Failure failure = checkEntryCount(dataTemplate.countRange(), entries.size(), entryTitle))
-        return failure;
+    const CountRange range = dataTemplate.countRange();
+    if (!range.contains(static_cast<int>(entries.size())))
+        return CheckFault{wrongEntryCount(range, entryTitle), 0, {}, {}, 0};
     const EntryCheck check(dataTemplate, scene);
     for (const auto& entry : entries) {
         if (Failure failure = check.firstFailure(*entry))
             return failure;
     }
     return {};
+}
+
+Failure RuleCheck::failureOf(const CheckFault& fault, const DataTemplate& dataTemplate,
+                             const DrawScene& scene, const RuleDataInfo& entry)
+{
+    return EntryCheck(dataTemplate, scene).failureOf(fault, entry);
 }

@@ -47,11 +47,25 @@ bool RuleData::checkData(QString& message) const
 {
     if (!m_template || !m_drawScene)
         return false;
-    const std::optional<QString> failure =
-        RuleCheck::firstFailure(*m_template, *m_drawScene, m_entries, m_ruleFucTitle);
-    if (failure)
-        message = *failure;
-    return !failure;
+    const std::optional<CheckFault> fault = firstFault();
+    if (fault)
+        message = fault->message;
+    return !fault;
+}
+
+std::optional<CheckFault> RuleData::firstFault() const
+{
+    if (!m_template || !m_drawScene)
+        return std::nullopt;
+    return RuleCheck::firstFailure(*m_template, *m_drawScene, m_entries, m_ruleFucTitle);
+}
+
+std::optional<CheckFault> RuleData::leftOf(const CheckFault& fault) const
+{
+    const RuleDataInfo* const entry = getDataInfo(fault.dataId);
+    if (!entry || !m_template || !m_drawScene)
+        return std::nullopt;
+    return RuleCheck::failureOf(fault, *m_template, *m_drawScene, *entry);
 }
 
 void RuleData::setTemplate(std::unique_ptr<DataTemplate> dataTemplate)

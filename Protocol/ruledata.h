@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Protocol/checkfault.h"
 #include "Protocol/entryfigures.h"
 #include "Protocol/ruletypes.h"
 #include "Protocol/savenotices.h"
@@ -10,6 +11,7 @@
 #include <QStringList>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class DataTemplate;
@@ -37,6 +39,10 @@ public:
 
     /// Checks whether the scene may be saved; on failure @p message says what to mend.
     virtual bool checkData(QString& message) const;
+    /// What checkData() finds, with its place; nothing, too, without template or canvas.
+    std::optional<CheckFault> firstFault() const;
+    /// What is left of a fault that was found: nothing once it was corrected or its entry is gone.
+    std::optional<CheckFault> leftOf(const CheckFault& fault) const;
     /// What was found when the scene was read that a save leaves out.
     SaveNotices& saveNotices() { return m_saveNotices; }
     const SaveNotices& saveNotices() const { return m_saveNotices; }

@@ -1,8 +1,6 @@
 #include "plugin/cintelligentrulesctrl.h"
 
-#include "Protocol/entryname.h"
 #include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleparser.h"
 #include "draw/drawscene.h"
 #include "draw/shortenedtext.h"
@@ -19,6 +17,7 @@
 #include "scene/scenefactory.h"
 #include "tabel/focus.h"
 #include "tabel/plaintext.h"
+#include "tabel/scrolling.h"
 #include "tabel/widgettabel.h"
 #include "ui_IntelligentRulesCtrl.h"
 
@@ -332,6 +331,7 @@ void CIntelligentRulesCtrl::unload()
     m_editing->setPanel(nullptr, false);
     m_editing->transfer().setParser(nullptr);
     m_editing->history().start({});
+    m_saveCheck.forget();
     const std::unique_ptr<RuleParser> parser = std::move(m_parser);
     const QList<BaseTabelScene*> scenes = std::exchange(m_scenes, {});
     for (BaseTabelScene* scene : scenes) {
@@ -437,6 +437,7 @@ void CIntelligentRulesCtrl::sceneChanged()
     m_editing->correcting().follow();
     m_editing->history().note(std::exchange(m_editedRow, {}), m_editing->takeSeries());
     showSteps();
+    m_saveCheck.refresh();
     for (BaseTabelScene* panel : qAsConst(m_scenes))
         panel->showHint();
     // Not at once: it is the host's chance to act, in the middle of a click.
@@ -541,8 +542,7 @@ void CIntelligentRulesCtrl::sltSave()
     if (!guard.holds() || !m_parser || !finishEdits())
         return;
     showHint({});
-    const bool allowed =
-        m_parameters.selectionMode ? checkSelection() : checkScenes() && confirmChange();
+    const bool allowed = checkSave() && (m_parameters.selectionMode || confirmChange());
     if (!guard.holds() || !allowed)
         return;
     if (postResult()) {
@@ -557,58 +557,48 @@ void CIntelligentRulesCtrl::sltSave()
         m_drawScene->SetDrawOver(true);
 }
 
-bool CIntelligentRulesCtrl::checkScenes()
+void CIntelligentRulesCtrl::sltCheck()
 {
-    std::set<QString> names;
-    for (BaseTabelScene* scene : qAsConst(m_scenes)) {
-        if (!checkScene(*scene) || !collectNames(*scene, names))
-            return false;
-    }
-    return true;
+    const LoadGuard guard(this);
+    m_editing->correcting().end();
+    if (guard.holds() && m_parser && finishEdits())
+        checkSave();
 }
 
-bool CIntelligentRulesCtrl::checkScene(BaseTabelScene& scene)
+bool CIntelligentRulesCtrl::checkSave()
 {
-    QString message;
-    if (scene.ruleData()->checkData(message))
+    const auto refusal = m_parameters.selectionMode ? SaveCheck::selectionRefusal(m_scenes)
+                                                    : SaveCheck::refusal(m_scenes);
+    if (!refusal)
         return true;
     const LoadGuard guard(this);
-    showError(message);
+    showError(refusal->fault.message);
+    if (guard.holds())
+        showRefusal(*refusal);
+    return false;
+}
+
+void CIntelligentRulesCtrl::showRefusal(const SaveCheck::Refusal& refusal)
+{
+    BaseTabelScene& panel = *refusal.panel;
+    const LoadGuard guard(this);
+    if (panel.getFold())
+        panel.setFold(false);
+    if (guard.holds())
+        selectScene(&panel);
+    if (guard.holds())
+        panel.showFault(refusal.fault);
     if (!guard.holds())
-        return false;
-    if (scene.getFold())
-        scene.setFold(false);
-    selectScene(&scene);
-    return false;
-}
-
-bool CIntelligentRulesCtrl::collectNames(const BaseTabelScene& scene, std::set<QString>& names)
-{
-    const RuleData& rules = *scene.ruleData();
-    if (rules.getSceneType() != SceneType::Rules)
-        return true;
-    for (int i = 0; i < rules.getDataCount(); ++i) {
-        if (EntryName::isText(rules, i) && !names.insert(EntryName::written(rules, i)).second) {
-            showError(tr("Duplicate rule name exists"));
-            return false;
-        }
-    }
-    return true;
-}
-
-bool CIntelligentRulesCtrl::checkSelection()
-{
-    const auto lacksSelection = [](const BaseTabelScene* scene) {
-        const RuleData& rules = *scene->ruleData();
-        const auto& entries = rules.getAllData();
-        return rules.getSceneType() == SceneType::Rules &&
-               std::none_of(entries.begin(), entries.end(),
-                            [](const auto& entry) { return entry->isSelected(); });
-    };
-    if (std::none_of(m_scenes.cbegin(), m_scenes.cend(), lacksSelection))
-        return true;
-    showError(tr("Please select at least one rule"));
-    return false;
+        return;
+    m_saveCheck.mark(refusal);
+    Scrolling::showWhole(panel);
+    QWidget* const place = panel.placeOf(refusal.fault);
+    if (place)
+        Scrolling::showWhole(*place);
+    if (place)
+        place->setFocus(Qt::TabFocusReason);
+    else if (m_drawScene && m_drawScene->isDrawing() && m_playerWin)
+        m_playerWin->setFocus();
 }
 
 bool CIntelligentRulesCtrl::confirmChange()

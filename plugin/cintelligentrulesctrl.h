@@ -2,6 +2,7 @@
 
 #include "plugin/editkeys.h"
 #include "plugin/rulesparameters.h"
+#include "plugin/savecheck.h"
 
 #include <QList>
 #include <QPointer>
@@ -9,7 +10,6 @@
 #include <QWidget>
 #include <atomic>
 #include <memory>
-#include <set>
 
 class BaseTabelScene;
 class DrawScene;
@@ -70,6 +70,8 @@ signals:
 public slots:
     void sltTrySelectedlScene();
     void sltSave();
+    /// Tells and shows what a save would be refused for, and saves nothing.
+    void sltCheck();
     void sltCancel();
     void sltNotifyVideoSize(int nWidth, int nHeight);
     void OnMouseMove(QMouseEvent* event);
@@ -126,10 +128,9 @@ private:
     /// Lets go of all that is loaded; the focus is elsewhere by then.
     void unload();
 
-    bool checkScenes();
-    bool checkScene(BaseTabelScene& scene);
-    bool collectNames(const BaseTabelScene& scene, std::set<QString>& names);
-    bool checkSelection();
+    /// Whether nothing stands against a save; else the operator is told and shown.
+    bool checkSave();
+    void showRefusal(const SaveCheck::Refusal& refusal);
     bool confirmChange();
     bool postResult();
     bool ask(const QString& question);
@@ -156,6 +157,7 @@ private:
     QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers
     EditCommands* m_editing;              ///< owned as a child
     QPointer<EntryMenu> m_menu;           ///< while it is open; a child
+    SaveCheck m_saveCheck;
     EditKey m_usedKey = EditKey::None;
     QString m_editedRow;                  ///< key of the row whose edit is about to be noted
     std::unique_ptr<RuleParser> m_parser; ///< null while nothing is loaded

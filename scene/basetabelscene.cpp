@@ -1,5 +1,6 @@
 #include "scene/basetabelscene.h"
 
+#include "Protocol/checkfault.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/figurelabels.h"
 #include "Protocol/figuremaker.h"
@@ -17,6 +18,7 @@
 #include "scene/drawinghint.h"
 #include "scene/entrybuttons.h"
 #include "scene/entryrows.h"
+#include "scene/faultmarks.h"
 #include "scene/scenefigures.h"
 #include "scene/scenetitlebar.h"
 #include "tabel/controlfactory.h"
@@ -254,6 +256,59 @@ void BaseTabelScene::selectFigure(int itemId, int dataId)
     if (DrawItemButton* child = widgets().childDrawItems->findButton(itemId))
         widgets().childDrawItems->setCurrentButton(child, false);
     getDrawScene()->setSelected(itemId, dataId);
+}
+
+void BaseTabelScene::showFault(const CheckFault& fault)
+{
+    perform([this, fault] {
+        const QPointer<BaseTabelScene> self(this);
+        m_nothingFollows = true;
+        pickFault(fault);
+        if (!self)
+            return;
+        m_nothingFollows = false;
+        if (isBound())
+            startMissing(fault);
+    });
+}
+
+void BaseTabelScene::pickFault(const CheckFault& fault)
+{
+    const QPointer<BaseTabelScene> self(this);
+    if (m_data->getDataInfo(fault.dataId) && m_data->getSelectedDataId() != fault.dataId) {
+        nameEntry(fault.dataId);
+        showEntry(fault.dataId);
+    }
+    const DrawItem* const figure =
+        self && isBound() ? getDrawScene()->findItem(fault.itemId) : nullptr;
+    if (!figure || figure->isSelected())
+        return;
+    selectFigure(fault.itemId, fault.dataId);
+    if (self && isBound())
+        getDrawScene()->resumeDrawing();
+}
+
+/// Children are left to the buttons that add them.
+void BaseTabelScene::startMissing(const CheckFault& fault)
+{
+    const RuleProtocolItem* const item = m_data->getTemplate()->findItem(fault.key);
+    const RuleDataInfo* const entry = m_data->getDataInfo(fault.dataId);
+    if (!item || !item->isFigure() || !entry || fault.itemId > 0 || !mayFollow() ||
+        getDrawScene()->isDrawing() ||
+        widgets().childFucBar->drawTypes().contains(item->drawType()))
+        return;
+    startFigure(*item, *entry);
+}
+
+void BaseTabelScene::markFault(const CheckFault* fault)
+{
+    if (isBound())
+        FaultMarks::show(widgets(), fault, m_data->getSelectedDataId());
+}
+
+QWidget* BaseTabelScene::placeOf(const CheckFault& fault) const
+{
+    return isBound() ? FaultMarks::placeOf(fault, widgets(), *m_data->getTemplate()) : nullptr;
 }
 
 void BaseTabelScene::loadEntry()
@@ -611,4 +666,11 @@ QString BaseTabelScene::hintText() const
 {
     const bool mayCorrect = m_uiEditable && !getSelectMode();
     return isBound() ? DrawingHint::of(*getDrawScene(), mayCorrect) : QString();
+}
+
+QString BaseTabelScene::actedOn() const
+{
+    const DrawItemButton* const child = widgets().childDrawItems->currentButton();
+    const DrawItemButton* const button = child ? child : widgets().drawItems->currentButton();
+    return button ? button->fullText() : QString();
 }

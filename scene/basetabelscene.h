@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+struct CheckFault;
 class ControlTabel;
 class DrawFucButton;
 class DrawItem;
@@ -63,6 +64,14 @@ public:
     /// Gives the row for the current entry's name the focus.
     virtual void startRenaming() {}
 
+    /// Makes the entry at fault the current one. Where it lacks a figure of its own that is
+    /// started; no other is.
+    void showFault(const CheckFault& fault);
+    /// Marks where a save was refused; without a fault nothing is marked.
+    void markFault(const CheckFault* fault);
+    /// The widget to mend it with; null when there is none that can be used now.
+    QWidget* placeOf(const CheckFault& fault) const;
+
     /// A new row for @p item by its facade; null for no item and for facades without a row.
     ControlTabel* addControlTabel(RuleProtocolItem* item, QWidget* parent);
     /// A new figure of the template's first item of that kind, not yet on the canvas; null when
@@ -95,6 +104,7 @@ signals:
 protected:
     bool hasCurrentEntry() const override;
     QString hintText() const override;
+    QString actedOn() const override;
     virtual void refreshTabelDrawItem();
     virtual void refreshChildTabelDrawItem();
     virtual void tabelAttrControlValueChange(const QString& key);
@@ -111,6 +121,8 @@ protected:
     virtual RuleProtocolItem* firstFigureItem(BaseDrawType pressed) const;
     virtual bool canAddEntry(BaseDrawType pressed) const;
     virtual void prepareNewEntry(RuleDataInfo& /*entry*/) {}
+    /// Called before an entry is picked.
+    virtual void nameEntry(int /*dataId*/) {}
     /// Item id of the figure that picking the entry selects; 0 for none.
     virtual int pickedFigure(int dataId) const;
     /// The figures that go when @p figure is drawn anew.
@@ -140,6 +152,8 @@ private:
     void showFirstEntry();
     void showEntry(int dataId);
     void selectFigure(int itemId, int dataId);
+    void pickFault(const CheckFault& fault);
+    void startMissing(const CheckFault& fault);
     void loadEntry();
     void addEntry(BaseDrawType pressed);
     /// Null when the item draws no figure; else one that is not on the canvas yet.

@@ -52,7 +52,7 @@ QString RuleScene::heading() const
 void RuleScene::bindFixedRows()
 {
     m_nameRow = new InputBoxTabel(widgets().controls);
-    m_nameRow->setObjectName(QStringLiteral("ruleName"));
+    m_nameRow->setObjectName(QString::fromLatin1(kNameRow));
     m_nameRow->setTitle(tr("Rule name"));
     m_nameRow->setValidator(
         new QRegularExpressionValidator(QRegularExpression(namePattern()), m_nameRow));

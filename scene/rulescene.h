@@ -13,6 +13,9 @@ class RuleScene : public BaseTabelScene
     Q_OBJECT
 
 public:
+    /// Object name of the row that edits a rule's name.
+    static constexpr char kNameRow[] = "ruleName";
+
     explicit RuleScene(QWidget* parent = nullptr);
 
     bool canRename() const override { return isBound() && m_nameRow; }
@@ -33,12 +36,12 @@ protected:
     int pickedFigure(int dataId) const override;
     QList<int> dropsOnRedraw(const DrawItem& figure) const override;
     RuleProtocolItem* missingFigureItem(int dataId) const override;
+    void nameEntry(int dataId) override;
 
 private:
     bool startNextFigure();
     /// The first item behind that of @p finished for which its entry has no figure; null for none.
     RuleProtocolItem* nextFigureItem(const DrawItem& finished) const;
-    void nameEntry(int dataId);
 
     InputBoxTabel* m_nameRow = nullptr; ///< child of the controls; made anew for each data
 };

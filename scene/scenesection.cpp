@@ -7,6 +7,7 @@
 #include "tabel/layoutpause.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tabel/rulewidgettabel.h"
+#include "tabel/scrolling.h"
 #include "tabel/titlelabel.h"
 
 #include <QApplication>
@@ -69,16 +70,20 @@ void SceneSection::setFold(bool folded)
 {
     if (folded && !m_widgets.titleBar->hasFocus() && !dropFocus())
         return;
+    const bool isOpened = m_folded && !folded;
     m_folded = folded;
     m_widgets.titleBar->setFolded(folded);
     relayout(0, 0);
     updateContentWidgets();
     updateMask();
+    if (isOpened)
+        Scrolling::showWhole(*this);
 }
 
 void SceneSection::showHint()
 {
     m_widgets.hint->setTitle(hintText());
+    m_widgets.nameActions(actedOn());
 }
 
 void SceneSection::updateContentWidgets()

@@ -31,7 +31,7 @@ public:
     bool getFold() const { return m_folded; }
     /// Commits an edit in progress, or restores the old value where its text is refused.
     void finishEdits();
-    /// Says again what works for the figure that is being drawn.
+    /// Says again what works for the figure that is being drawn, and what the actions act on.
     void showHint();
 
 signals:
@@ -46,6 +46,8 @@ protected:
     virtual void checkLayout();
     /// What to say under the entries.
     virtual QString hintText() const = 0;
+    /// The name of what the action buttons act on; empty for nothing.
+    virtual QString actedOn() const = 0;
     /// Whether there is an entry whose attributes can be shown.
     virtual bool hasCurrentEntry() const = 0;
 

@@ -3,6 +3,7 @@
 #include "host/api/rowcontract.h"
 #include "scene/scenetitlebar.h"
 #include "tabel/controlitemwidgettabel.h"
+#include "tabel/plaintext.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tabel/rulewidgettabel.h"
 #include "tabel/titlelabel.h"
@@ -44,6 +45,17 @@ SceneWidgets::SceneWidgets(WidgetTabel* panel)
     mask->hide();
     hint->setFixedHeight(kHintHeight);
     fillPanel(panel);
+}
+
+void SceneWidgets::nameActions(const QString& target) const
+{
+    const auto name = [&target](QPushButton* button, const QString& action) {
+        const QString named = target.isEmpty() ? QString() : action.arg(target);
+        button->setToolTip(PlainText::toolTip(named));
+        button->setAccessibleName(named);
+    };
+    name(redrawButton, tr("Redraw %1"));
+    name(deleteButton, tr("Delete %1"));
 }
 
 void SceneWidgets::nameWidgets()

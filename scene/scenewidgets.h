@@ -33,6 +33,9 @@ public:
     QPushButton* redrawButton;
     QPushButton* deleteButton;
 
+    /// Tells in tool tips and to readers of the screen what Redraw and Delete act on.
+    void nameActions(const QString& target) const;
+
 private:
     void nameWidgets();
     static void buildBar(WidgetTabel* bar, const QSize& buttonSize);

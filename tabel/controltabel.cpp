@@ -80,12 +80,32 @@ void ControlTabel::setRefusing(bool refuses)
     showMark(wasMarked);
 }
 
+void ControlTabel::setFault(const QString& message)
+{
+    if (m_fault == message)
+        return;
+    const bool wasMarked = isMarked();
+    m_fault = message;
+    showMark(wasMarked);
+    for (QWidget* widget : findChildren<QWidget*>()) {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            widget->setAccessibleDescription(message);
+    }
+}
+
+const QString& ControlTabel::reason() const
+{
+    if (!m_refusal.isEmpty())
+        return m_refusal;
+    return m_fault.isEmpty() ? m_mark : m_fault;
+}
+
 void ControlTabel::showMark(bool wasMarked)
 {
-    const QString& reason = m_refusal.isEmpty() ? m_mark : m_refusal;
-    setToolTip(PlainText::toolTip(reason.isEmpty() ? m_tip : reason));
+    setToolTip(PlainText::toolTip(isMarked() ? reason() : m_tip));
     if (wasMarked == isMarked())
         return;
+    titleLabel()->setWarning(isMarked());
     for (QWidget* widget : findChildren<QWidget*>())
         style()->polish(widget);
 }

@@ -52,7 +52,11 @@ public:
     /// Shows that the row needs the operator's eye, with @p reason as its tool tip; an empty
     /// reason takes the mark away. The property "marked" tells it to the skin and to hosts.
     void setMark(const QString& reason);
-    bool isMarked() const { return !m_mark.isEmpty() || !m_refusal.isEmpty(); }
+    bool isMarked() const { return !reason().isEmpty(); }
+    /// Marks the row besides setMark() while a save is refused for it, with @p message.
+    void setFault(const QString& message);
+    /// Whether the mark says that what is typed is refused.
+    bool isRefusing() const { return !m_refusal.isEmpty(); }
 
     bool isRowVisible() const override { return !isHidden(); }
     const QObject* rowObject() const override { return this; }
@@ -76,6 +80,8 @@ protected:
 
 private:
     void rememberLoaded();
+    /// Why the row is marked; empty while it is not.
+    const QString& reason() const;
     void showMark(bool wasMarked);
 
     RuleProtocolItem* m_item = nullptr;
@@ -83,5 +89,6 @@ private:
     bool m_touched = false;
     QString m_tip;
     QString m_mark;
+    QString m_fault;
     QString m_refusal;
 };

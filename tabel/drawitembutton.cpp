@@ -2,10 +2,13 @@
 
 #include "host/api/rowcontract.h"
 #include "tabel/plaintext.h"
+#include "tabel/warningsign.h"
 
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QEvent>
+#include <QStyle>
 
 namespace
 {
@@ -31,7 +34,25 @@ void DrawItemButton::setText(const QString& text)
     const bool isLong = text.size() > kMaxTextLength;
     const QString shown = isLong ? text.left(kMaxTextLength - 1) + QLatin1String("...") : text;
     QPushButton::setText(PlainText::button(shown));
-    setToolTip(PlainText::toolTip(text));
+    showTip();
+}
+
+void DrawItemButton::setFault(const QString& message)
+{
+    if (m_fault == message)
+        return;
+    m_fault = message;
+    setIcon(isMarked() ? WarningSign::icon() : QIcon());
+    setIconSize({WarningSign::kExtent, WarningSign::kExtent});
+    setAccessibleDescription(message);
+    style()->polish(this);
+    showTip();
+}
+
+void DrawItemButton::showTip()
+{
+    setToolTip(
+        PlainText::toolTip(isMarked() ? m_fullText + QLatin1Char('\n') + m_fault : m_fullText));
 }
 
 void DrawItemButton::setEnabledState(bool on)

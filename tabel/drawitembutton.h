@@ -15,6 +15,7 @@ class DrawItemButton : public QPushButton
 {
     Q_OBJECT
     Q_PROPERTY(int entryId READ dataId CONSTANT)
+    Q_PROPERTY(bool marked READ isMarked)
 
 public:
     /// @p id is the figure's item id, 0 without a figure; @p dataId the entry's.
@@ -28,6 +29,11 @@ public:
     /// Shows @p text, shortened where it is longer than five characters; the tool tip has it all.
     void setText(const QString& text);
     const QString& fullText() const { return m_fullText; }
+
+    /// Marks the button while a save is refused for what it stands for, with @p message besides
+    /// the text in its tool tip; an empty one takes the mark away.
+    void setFault(const QString& message);
+    bool isMarked() const { return !m_fault.isEmpty(); }
 
     bool enabledState() const { return m_enabledState; }
     /// Announces nothing.
@@ -50,6 +56,7 @@ protected:
     void nextCheckState() override;
 
 private:
+    void showTip();
     void createCheckBox();
     void syncCheckBox();
 
@@ -57,6 +64,7 @@ private:
     int m_dataId;
     BaseDrawType m_drawType;
     QString m_fullText;
+    QString m_fault;
     bool m_enabledState = true;
     bool m_carriesCheckBox = false;
     QPointer<QCheckBox> m_checkBox; ///< made when first asked for; the button's sibling

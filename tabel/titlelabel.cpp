@@ -1,6 +1,7 @@
 #include "tabel/titlelabel.h"
 
 #include "tabel/plaintext.h"
+#include "tabel/warningsign.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -11,6 +12,7 @@ namespace
 {
 
 constexpr int kMeasureRoom = 2000; // QLabel's
+constexpr int kSignGap = 4;
 
 } // namespace
 
@@ -29,7 +31,19 @@ void TitleLabel::setTitle(const QString& text)
 
 bool TitleLabel::isElided() const
 {
-    return m_isCut || fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+    const int room = contentsRect().width() - signWidth();
+    return m_isCut || fontMetrics().horizontalAdvance(text()) > room;
+}
+
+void TitleLabel::setWarning(bool on)
+{
+    m_hasSign = on;
+    update();
+}
+
+int TitleLabel::signWidth() const
+{
+    return m_hasSign ? WarningSign::kExtent + kSignGap : 0;
 }
 
 QSize TitleLabel::sizeHint() const
@@ -59,7 +73,12 @@ void TitleLabel::paintEvent(QPaintEvent*)
     drawFrame(&painter);
     QStyleOption option;
     option.initFrom(this);
-    const QRect area = contentsRect();
+    QRect area = contentsRect();
+    if (m_hasSign) {
+        const int top = area.top() + (area.height() - WarningSign::kExtent) / 2;
+        WarningSign::paint(painter, {area.left(), top});
+        area.setLeft(area.left() + signWidth());
+    }
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
     style()->drawItemText(&painter, area, int(alignment()), option.palette, isEnabled(), shown,
                           foregroundRole());

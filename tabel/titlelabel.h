@@ -13,6 +13,8 @@ public:
     /// text() stays the full text, but for texts longer than any screen has room for.
     void setTitle(const QString& text);
     bool isElided() const;
+    /// Puts the warning sign before the text.
+    void setWarning(bool on);
     /// The same as QLabel's, which measures the text three times for it.
     QSize sizeHint() const override;
 
@@ -21,5 +23,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int signWidth() const;
+
+    bool m_hasSign = false;
     bool m_isCut = false; ///< there is more in the tool tip, however wide the label is
 };

@@ -265,14 +265,6 @@
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesCtrl</name>
     <message>
-        <source>Duplicate rule name exists</source>
-        <translation>Ein Regelname kommt doppelt vor</translation>
-    </message>
-    <message>
-        <source>Please select at least one rule</source>
-        <translation>Bitte mindestens eine Regel auswählen</translation>
-    </message>
-    <message>
         <source>The current operation may affect the already running task. Please confirm whether to modify it?</source>
         <translation>Dieser Vorgang kann die bereits laufende Aufgabe beeinflussen. Soll sie wirklich geändert werden?</translation>
     </message>
@@ -353,6 +345,17 @@
     <message>
         <source>Ctrl+D: duplicate the entry</source>
         <translation>Strg+D: Eintrag duplizieren</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::SaveCheck</name>
+    <message>
+        <source>Duplicate rule name exists</source>
+        <translation>Ein Regelname kommt doppelt vor</translation>
+    </message>
+    <message>
+        <source>Please select at least one rule</source>
+        <translation>Bitte mindestens eine Regel auswählen</translation>
     </message>
 </context>
 <context>
@@ -738,6 +741,14 @@
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Redraw %1</source>
+        <translation>%1 neu zeichnen</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>%1 löschen</translation>
     </message>
 </context>
 <context>

@@ -265,14 +265,6 @@
 <context>
     <name>IntelligentRulesUI::CIntelligentRulesCtrl</name>
     <message>
-        <source>Duplicate rule name exists</source>
-        <translation>存在重复的规则名称</translation>
-    </message>
-    <message>
-        <source>Please select at least one rule</source>
-        <translation>请至少选择一条规则</translation>
-    </message>
-    <message>
         <source>The current operation may affect the already running task. Please confirm whether to modify it?</source>
         <translation>当前操作可能会影响正在运行的任务，请确认是否修改？</translation>
     </message>
@@ -353,6 +345,17 @@
     <message>
         <source>Ctrl+D: duplicate the entry</source>
         <translation>Ctrl+D：复制一份条目</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::SaveCheck</name>
+    <message>
+        <source>Duplicate rule name exists</source>
+        <translation>存在重复的规则名称</translation>
+    </message>
+    <message>
+        <source>Please select at least one rule</source>
+        <translation>请至少选择一条规则</translation>
     </message>
 </context>
 <context>
@@ -738,6 +741,14 @@
     <message>
         <source>Delete</source>
         <translation>删除</translation>
+    </message>
+    <message>
+        <source>Redraw %1</source>
+        <translation>重新绘制%1</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>删除%1</translation>
     </message>
 </context>
 <context>

@@ -77,4 +77,8 @@ constexpr char kRedo[] = "btnRedo";
 /// Its notify signal tells each that is pressed, before the window does what it is for.
 constexpr char kUsedKey[] = "usedKey";
 
+/// Slot of the window: tells and shows the operator what a save would be refused for, as Save does,
+/// and saves nothing.
+constexpr char kCheck[] = "sltCheck";
+
 } // namespace RowContract

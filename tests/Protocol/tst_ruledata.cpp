@@ -74,6 +74,15 @@ public:
         return ok == message.isEmpty() ? message : QString("result and message differ");
     }
 
+    /// Where that is: the keys, and the position of the figure from 1.
+    QString place() const
+    {
+        const CheckFault fault = data.firstFault().value_or(CheckFault());
+        const auto figures = data.getDrawScene()->getItemList(BaseDrawType::None, -1);
+        const int figure = figures.indexOf(data.getDrawScene()->findItem(fault.itemId)) + 1;
+        return QString("%1 %2 %3").arg(fault.key, fault.comparedKey).arg(figure).simplified();
+    }
+
     RuleData data;
 };
 
@@ -108,6 +117,7 @@ private slots:
         Scene scene({1, 1});
         scene.data.setRuleFucTitle("%1 Area");
         QCOMPARE(scene.complaint(), QString("Please add 1 %1 Area."));
+        QCOMPARE(scene.place(), QString("0"));
         RuleProtocolItem* const item = scene.add("zone", FacadeType::Region);
         const RuleDataInfo* const entry = scene.addEntry();
         const auto said = [&](CountRange range) {
@@ -115,12 +125,15 @@ private slots:
             return scene.complaint();
         };
         QCOMPARE(said({1, 1}), QString("Please draw 1 ZONE."));
+        QCOMPARE(scene.place(), QString("zone 0"));
         DrawItem* const first = scene.draw(entry, item, false);
         QCOMPARE(said({1, 1}), QString("Please finish drawing figure."));
+        QCOMPARE(scene.place(), QString("zone 1"));
         first->figure()->setFinished(true);
         QCOMPARE(said({1, 1}), QString());
         scene.draw(entry, item, false);
         QCOMPARE(said({1, 1}), QString("Please draw 1 ZONE."));
+        QCOMPARE(scene.place(), QString("zone 2"));
         QCOMPARE(said({3, 4}), QString("Please draw 3-4 ZONE."));
         QCOMPARE(said({0, 0}), QString());
         QCOMPARE(said({2, 2}), QString("Please finish drawing figure."));
@@ -149,6 +162,7 @@ private slots:
             const bool holds = Fixtures::textsOf(fixture["holds"]).contains(sign);
             const QString text = QString("A must be %1 to B").arg(reason);
             QCOMPARE(scene.complaint(), holds ? QString() : text);
+            QCOMPARE(scene.place(), QString(holds ? "0" : "a b 0"));
             for (const char* key : {"a", "b"}) { // of what does not apply nothing is told
                 entry->setValid(key, false);
                 QCOMPARE(scene.complaint(), QString());
