@@ -1,7 +1,6 @@
 #include "workbench/autosave.h"
 
 #include "host/api/kqmessagebox.h"
-#include "host/api/rowcontract.h"
 #include "host/video/qrtspvideownd.h"
 #include "workbench/messagerecord.h"
 #include "workbench/restorebar.h"
@@ -10,7 +9,6 @@
 #include "workbench/sessionscript.h"
 #include "workbench/workbenchwindow.h"
 
-#include <QAbstractButton>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
@@ -79,9 +77,6 @@ Autosave::Autosave(WorkbenchWindow& window, const QString& folder, int delay)
     connect(&m_timer, &QTimer::timeout, this, &Autosave::write);
     connect(&m_window, &WorkbenchWindow::sgnMessage, this, &Autosave::takeMessage);
     connect(&m_window, &WorkbenchWindow::sgnResultKept, this, &Autosave::takeKept);
-    // The module connected its own slot before, so that this one comes after what that did.
-    connect(m_finder.windowButton(QString::fromLatin1(RowContract::kSave)),
-            &QAbstractButton::clicked, this, &Autosave::keepAnswered);
     auto* const recorder = new SessionRecorder(m_window, this);
     connect(recorder, &SessionRecorder::sgnStep, this, &Autosave::append);
     connect(recorder, &SessionRecorder::sgnLastReplaced, this, &Autosave::replaceLast);
@@ -104,7 +99,6 @@ Autosave::~Autosave()
 void Autosave::begin()
 {
     settle();
-    m_beforeAnswer.reset();
     m_steps.clear();
     if (m_window.options().templateFile.isEmpty())
         return;
@@ -120,9 +114,7 @@ void Autosave::append(const Value& step)
     if (isOneOf(step, {"load"})) {
         begin();
     } else if (RecordedStep::isAnswer(step)) {
-        m_beforeAnswer.emplace(m_finder);
-        if (isOneOf(step, {"save"}) && m_finder.unfinishedEdit())
-            append(RecordedStep::finish());
+        appendAnswer(step);
     } else {
         m_steps.push_back(step.toCompactText().toUtf8());
         if (isEdit(step)) {
@@ -134,15 +126,15 @@ void Autosave::append(const Value& step)
     }
 }
 
-/// A save ends the edit in progress, and one that is refused selects and unfolds the section with
-/// the reason. That is done again; the save is not.
-void Autosave::keepAnswered()
+/// A save ends the edit in progress, and one that is refused shows its reason: the section, the
+/// entry and what it lacks. That is done again; the save is not.
+void Autosave::appendAnswer(const Value& step)
 {
-    const auto before = std::exchange(m_beforeAnswer, std::nullopt);
-    if (!before)
+    if (!isOneOf(step, {"save"}))
         return;
-    for (const Value& step : SectionState(m_finder).stepsFrom(*before))
-        append(step);
+    if (m_finder.unfinishedEdit())
+        append(RecordedStep::finish());
+    append(RecordedStep::check());
 }
 
 void Autosave::replaceLast(const Value& step)

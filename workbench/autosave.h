@@ -9,7 +9,6 @@
 #include <QPointer>
 #include <QTimer>
 #include <memory>
-#include <optional>
 #include <vector>
 
 struct MessageRecord;
@@ -42,8 +41,8 @@ private:
 
     void begin();
     void append(const Value& step);
+    void appendAnswer(const Value& step);
     void replaceLast(const Value& step);
-    void keepAnswered();
     void settle();
     bool write();
     void takeMessage(const MessageRecord& message);
@@ -59,8 +58,7 @@ private:
     WorkbenchWindow& m_window;
     PanelFinder m_finder;
     AutosaveFile m_file;
-    std::vector<QByteArray> m_steps;            ///< since the load, one line each
-    std::optional<SectionState> m_beforeAnswer; ///< at a press of Save that is not done yet
+    std::vector<QByteArray> m_steps; ///< since the load, one line each
     QTimer m_timer;
     bool m_isUnsaved = false;
     bool m_isResultOld = true;            ///< something was changed since the last result

@@ -2,9 +2,7 @@
 
 #include "host/json/value.h"
 
-#include <QMap>
 #include <QString>
-#include <vector>
 
 class PanelFinder;
 class QAbstractButton;
@@ -59,6 +57,9 @@ constexpr char kClip[] = "clip";
 /// Leaving an edit that is written as unfinished.
 Value finish();
 
+/// Stands for a save that is not done again: what it was refused for is shown again.
+Value check();
+
 /// Whether doing @p step again would tell the client something: it saves or cancels.
 bool isAnswer(const Value& step);
 
@@ -67,17 +68,3 @@ bool isAnswer(const Value& step);
 Value load(const WorkbenchOptions* before, const WorkbenchOptions& now);
 
 } // namespace RecordedStep
-
-/// Which section of a rules window is selected, and which are folded.
-class SectionState
-{
-public:
-    explicit SectionState(const PanelFinder& finder);
-
-    /// The steps of a session that lead from @p before to this.
-    std::vector<kql::Json::Value> stepsFrom(const SectionState& before) const;
-
-private:
-    QString m_selected; ///< a scene's name; empty for none
-    QMap<QString, bool> m_folded;
-};

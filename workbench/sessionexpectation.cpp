@@ -2,6 +2,7 @@
 
 #include "host/api/rowcontract.h"
 #include "host/json/reader.h"
+#include "host/video/qrtspvideownd.h"
 #include "workbench/eventwait.h"
 #include "workbench/panelfinder.h"
 #include "workbench/rowhand.h"
@@ -61,6 +62,8 @@ QString SessionExpectation::check(const Value& step) const
         why = checkPosted(step);
     if (why.isEmpty())
         why = checkNotice(step);
+    if (why.isEmpty())
+        why = checkFocus(step);
     return why.isEmpty() ? checkPanel(step) : why;
 }
 
@@ -110,6 +113,19 @@ QString SessionExpectation::checkNotice(const Value& step) const
     if (!step.isMember("notice") || isShown)
         return {};
     return say("the notices are %1, not %2").arg(shownText(notices), shownText(wanted));
+}
+
+QString SessionExpectation::checkFocus(const Value& step) const
+{
+    if (!step.isMember("focus"))
+        return {};
+    // Of a window that is not the active one, too.
+    const QWidget* widget = m_finder.window()->window()->focusWidget();
+    if (qobject_cast<const QRtspVideoWnd*>(widget))
+        return compare(say("the focus"), Value("picture"), step["focus"]);
+    while (widget && !PanelFinder::isRow(*widget))
+        widget = widget->parentWidget();
+    return compare(say("the focus"), widget ? Value(widget->objectName()) : Value(), step["focus"]);
 }
 
 QString SessionExpectation::checkPanel(const Value& step) const

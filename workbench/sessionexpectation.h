@@ -29,6 +29,7 @@ private:
     QString checkPosted(const Value& step) const;
     QString checkMembers(const Value& members) const;
     QString checkNotice(const Value& step) const;
+    QString checkFocus(const Value& step) const;
     QString checkPanel(const Value& step) const;
     QString checkHint(QWidget& panel, const Value& step) const;
     QString checkEntries(QWidget& panel, const Value& step) const;

@@ -156,6 +156,7 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
         {QStringLiteral("press"), withButton(&OperatorHand::clickAt)},
         {QStringLiteral("drag"), &SessionPlayer::doDrag},
         {QStringLiteral("move"), onPicture(&OperatorHand::moveTo)},
+        {QStringLiteral("hover"), onPicture(&OperatorHand::moveTo)},
         {QStringLiteral("double"), withButton(&OperatorHand::doubleClickAt)},
         {QStringLiteral("click"), &SessionPlayer::doClick},
         {QStringLiteral("key"), &SessionPlayer::doKey},
@@ -169,6 +170,7 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
         {QStringLiteral("select"), inSection(&SessionPlayer::doSelect)},
         {QStringLiteral("save"), onButton(RowContract::kSave)},
         {QStringLiteral("cancel"), onButton(RowContract::kCancel)},
+        {QStringLiteral("check"), &SessionPlayer::doCheck},
         {QStringLiteral("query"), &SessionPlayer::doQuery},
         {QStringLiteral("close"), &SessionPlayer::doClose},
         {QStringLiteral("load"), &SessionPlayer::doLoad},
@@ -317,6 +319,11 @@ QString SessionPlayer::doSelect(QWidget* panel, const Value&)
     OperatorHand::scrollIntoView(titleBar);
     const bool masked = mask && mask->isVisible();
     return OperatorHand::clickAt(masked ? mask : titleBar, QPoint(5, 5), Qt::LeftButton);
+}
+
+QString SessionPlayer::doCheck(const Value&)
+{
+    return m_window.checkSave() ? QString() : tr("the window does not tell what it would refuse");
 }
 
 QString SessionPlayer::doQuery(const Value&)

@@ -64,6 +64,7 @@ private:
     QString doFinish(const Value& step);
     QString doFold(QWidget* panel, const Value& step);
     QString doSelect(QWidget* panel, const Value& step);
+    QString doCheck(const Value& step);
     QString doQuery(const Value& step);
     QString doClose(const Value& step);
     QString doLoad(const Value& step);

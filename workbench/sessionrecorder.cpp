@@ -87,6 +87,8 @@ void SessionRecorder::start()
                   "sltKeyUsed()");
     connect(&m_window, &WorkbenchWindow::sgnLoad, this, &SessionRecorder::sltLoad,
             Qt::UniqueConnection);
+    connect(&m_window, &WorkbenchWindow::sgnCheck, this, &SessionRecorder::sltCheck,
+            Qt::UniqueConnection);
     qApp->installEventFilter(this);
     m_size = m_window.size();
     append(RecordedStep::size(m_window));
@@ -372,6 +374,11 @@ void SessionRecorder::watchMenu(QMenu& menu)
         connect(&menu, &QMenu::triggered, this, [this, &menu](const QAction* action) {
             record(RecordedStep::menu(m_finder, menu, *action));
         });
+}
+
+void SessionRecorder::sltCheck()
+{
+    record(RecordedStep::check());
 }
 
 void SessionRecorder::sltLoad()

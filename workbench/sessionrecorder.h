@@ -54,6 +54,7 @@ private slots:
     void sltTextEdited();
     void sltRowChanged();
     void sltOtherEdited();
+    void sltCheck();
     void sltLoad();
 
 private:

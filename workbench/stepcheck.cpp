@@ -89,6 +89,11 @@ bool isMessage(const Value& value)
     return value.isNull() || value.isObject();
 }
 
+bool isFocus(const Value& value)
+{
+    return value.isNull() || value.isString();
+}
+
 constexpr char kPosition[] = "a position, [x, y]";
 constexpr char kSwitch[] = "true or false";
 constexpr char kText[] = "a text";
@@ -103,6 +108,7 @@ const Member kMembers[] = {
     {"drag", "with", isHeld, "\"Ctrl\" or \"Shift\""},
     {"double", "with", isHeld, "\"Ctrl\" or \"Shift\""},
     {"move", "at", isPosition, kPosition},
+    {"hover", "at", isPosition, kPosition},
     {"double", "at", isPosition, kPosition},
     {"double", "button", isButton, "\"left\" or \"right\""},
     {"key", "keys", isKey, "one key with its modifiers"},
@@ -116,13 +122,14 @@ const Member kMembers[] = {
     {"type", "text", &Value::isString, kText},
     {"screenshot", "file", &Value::isString, kText},
     {"expect", "posted", isMessage, "members, or null"},
+    {"expect", "focus", isFocus, "a row's key, \"picture\" or null"},
     {"expect", "notice", isNotice, "a text that is not empty, or null"},
 };
 
 const QStringList kExpected{QStringLiteral("box"),     QStringLiteral("posted"),
                             QStringLiteral("hint"),    QStringLiteral("entries"),
                             QStringLiteral("current"), QStringLiteral("notice"),
-                            QStringLiteral("row")};
+                            QStringLiteral("row"),     QStringLiteral("focus")};
 const QStringList kOfRow{QStringLiteral("value"), QStringLiteral("visible"),
                          QStringLiteral("enabled"), QStringLiteral("marked")};
 

@@ -1,6 +1,7 @@
 #include "workbench/workbenchwindow.h"
 
 #include "host/api/kqsingleton.h"
+#include "host/api/rowcontract.h"
 #include "host/json/reader.h"
 #include "host/json/value.h"
 #include "host/video/channelsources.h"
@@ -105,6 +106,12 @@ bool WorkbenchWindow::start(QString& error)
 QRtspVideoWnd* WorkbenchWindow::videoSurface() const
 {
     return m_rulesWindow ? m_rulesWindow->findChild<QRtspVideoWnd*>() : nullptr;
+}
+
+bool WorkbenchWindow::checkSave()
+{
+    emit sgnCheck();
+    return QMetaObject::invokeMethod(m_rulesWindow, RowContract::kCheck);
 }
 
 bool WorkbenchWindow::load(const WorkbenchOptions& options, QString& error)

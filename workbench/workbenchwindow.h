@@ -33,6 +33,8 @@ public:
     bool start(QString& error);
     /// Loads what @p options name into the window; false with one line in @p error.
     bool load(const WorkbenchOptions& options, QString& error);
+    /// Has the rules window show what it would refuse to save; false when it cannot.
+    bool checkSave();
 
     const WorkbenchOptions& options() const { return m_options; }
     QWidget* rulesWindow() const { return m_rulesWindow; }
@@ -61,6 +63,8 @@ public:
 signals:
     /// options() are the new ones; the rules window does not show them yet.
     void sgnLoad();
+    /// The rules window is about to show what it would refuse to save.
+    void sgnCheck();
     void sgnMessage(const MessageRecord& message);
     /// The last result is in a file.
     void sgnResultKept();

@@ -73,7 +73,8 @@ kql::Json::Value DayOperator::nextStep()
         {1, &DayOperator::wait},           {1, &DayOperator::screenshot},
         {80, &DayOperator::travel},        {20, &DayOperator::key},
         {100, &DayOperator::drag},         {20, &DayOperator::pressCorner},
-        {100, &DayOperator::keyOnPicture}, {60, &DayOperator::menu}};
+        {100, &DayOperator::keyOnPicture}, {60, &DayOperator::menu},
+        {20, &DayOperator::hover},         {10, &DayOperator::check}};
     static const std::vector<Choice> drawing = {
         {500, &DayOperator::press},      {120, &DayOperator::rightClick}, {100, &DayOperator::move},
         {30, &DayOperator::doubleClick}, {60, &DayOperator::travel},      {60, &DayOperator::key},
@@ -194,6 +195,11 @@ kql::Json::Value DayOperator::pressCorner()
 kql::Json::Value DayOperator::move()
 {
     return onPicture("move");
+}
+
+kql::Json::Value DayOperator::hover()
+{
+    return onPicture("hover");
 }
 
 kql::Json::Value DayOperator::doubleClick()
@@ -464,6 +470,11 @@ kql::Json::Value DayOperator::cancel()
     Value result = step("cancel");
     result["answer"] = !m_isClosing && happens(25) ? "Yes" : "No";
     return result;
+}
+
+kql::Json::Value DayOperator::check()
+{
+    return step("check");
 }
 
 kql::Json::Value DayOperator::query()

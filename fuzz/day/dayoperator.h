@@ -40,6 +40,7 @@ private:
     Value choose(const std::vector<Choice>& choices);
     Value press();
     Value move();
+    Value hover();
     Value doubleClick();
     Value rightClick();
     Value click();
@@ -59,6 +60,7 @@ private:
     Value pressCorner();
     Value corner();
     Value travel();
+    Value check();
     Value query();
     Value close();
     Value loadAnew();

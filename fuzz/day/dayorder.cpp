@@ -177,6 +177,14 @@ std::string DayOrder::shown(const WorkbenchWindow& window)
     return text.toStdString();
 }
 
+bool DayOrder::isDrawing(const WorkbenchWindow& window)
+{
+    const auto panels = panelsOf(window);
+    return std::any_of(panels.begin(), panels.end(), [](const BaseTabelScene* panel) {
+        return panel->getDrawScene() && panel->getDrawScene()->isDrawing();
+    });
+}
+
 bool DayOrder::isEditing(const WorkbenchWindow& window)
 {
     const auto edits = window.rulesWindow()->findChildren<QLineEdit*>();
@@ -189,6 +197,6 @@ bool DayOrder::isEditing(const WorkbenchWindow& window)
     return std::any_of(edits.begin(), edits.end(),
                        [](const QLineEdit* edit) { return edit->isModified(); }) ||
            std::any_of(rows.begin(), rows.end(), [focused](const ControlTabel* row) {
-               return row->isMarked() && row->isAncestorOf(focused);
+               return row->isRefusing() && row->isAncestorOf(focused);
            });
 }

@@ -22,6 +22,9 @@ std::string contents(const WorkbenchWindow& window);
 /// all rows.
 std::string shown(const WorkbenchWindow& window);
 
+/// Whether a figure is in hand in a section.
+bool isDrawing(const WorkbenchWindow& window);
+
 /// Whether some row holds text that is not taken over yet.
 bool isEditing(const WorkbenchWindow& window);
 

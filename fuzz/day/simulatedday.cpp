@@ -81,7 +81,8 @@ bool isHarmless(const kql::Json::Value& step)
     const QStringList harmless{QStringLiteral("move"),   QStringLiteral("size"),
                                QStringLiteral("query"),  QStringLiteral("screenshot"),
                                QStringLiteral("wait"),   QStringLiteral("fold"),
-                               QStringLiteral("select"), QStringLiteral("save")};
+                               QStringLiteral("select"), QStringLiteral("save"),
+                               QStringLiteral("hover"),  QStringLiteral("check")};
     const bool stays = name == QLatin1String("cancel") && step["answer"].asString() != "Yes";
     const bool copies = name == QLatin1String("menu") && step["text"].asString() == "Copy";
     return stays || copies || harmless.contains(name);
@@ -223,6 +224,7 @@ void SimulatedDay::act(const Value& step)
     const bool wasEditing = DayOrder::isEditing(*m_window);
     const bool isChecked = isHarmless(step) && !wasEditing;
     const std::string before = isChecked ? DayOrder::contents(*m_window) : std::string();
+    const bool wasDrawing = DayOrder::isDrawing(*m_window);
     const std::map<int, int> counts = entryCounts();
     const QString why = m_player->run(step);
     QCoreApplication::processEvents();
@@ -230,7 +232,9 @@ void SimulatedDay::act(const Value& step)
     require(why.isEmpty(), "what is offered cannot be done: " + why.toStdString());
     DayOrder::require(*m_window);
     m_travel.note(*m_window, step, wasEditing);
-    if (isChecked)
+    // A save that is refused for a figure that is missing starts it.
+    const bool hasStarted = !wasDrawing && DayOrder::isDrawing(*m_window);
+    if (isChecked && !hasStarted)
         requireUnchanged(step, before);
     if (step["do"].asString() == QLatin1String("load"))
         m_loaded = DayOrder::contents(*m_window);

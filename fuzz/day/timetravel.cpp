@@ -15,14 +15,6 @@ using IntelligentRulesUI::EditHistory;
 namespace
 {
 
-bool isDrawing(const WorkbenchWindow& window)
-{
-    const auto panels = window.rulesWindow()->findChildren<BaseTabelScene*>();
-    return std::any_of(panels.begin(), panels.end(), [](const BaseTabelScene* panel) {
-        return panel->getDrawScene() && panel->getDrawScene()->isDrawing();
-    });
-}
-
 bool isStep(const kql::Json::Value& step, const char* key, const char* button)
 {
     return step["keys"].asString() == QLatin1String(key) ||
@@ -48,7 +40,7 @@ void TimeTravel::note(const WorkbenchWindow& window, const kql::Json::Value& ste
     else if (!endedEdit)
         seeEdit(before, contents);
     // What is in hand after a step back may have been begun long before.
-    if (!isDrawing(window))
+    if (!DayOrder::isDrawing(window))
         m_solid = m_index;
     else if (isBack || isForth)
         m_solid = -1;

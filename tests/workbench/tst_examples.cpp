@@ -182,6 +182,12 @@ private slots:
         QCOMPARE(QImage(path("step.png")).size(), QSize(1180, 800));
     }
 
+    void showsWhatIsRefused()
+    {
+        const Outcome outcome = replay(session("refused"));
+        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+    }
+
     void undoesAndRedoes()
     {
         const Outcome outcome = replay(session("undo"));
