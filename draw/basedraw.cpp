@@ -58,6 +58,15 @@ void BaseDraw::draw(Gdiplus::Graphics* graphics)
         paint(FigurePainter(*graphics, color()), shown);
 }
 
+void BaseDraw::drawBeneath(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
+                           float width) const
+{
+    const QMutexLocker lock(&m_mutex);
+    const CanvasFigure shown(m_preview.value_or(m_figure), m_movePoint, m_canvasSize);
+    if (shown.shownPoints().size() >= 2 && !(m_preview && m_isRefused))
+        paint(FigurePainter::ofBand(graphics, color, width), shown);
+}
+
 std::unique_ptr<Gdiplus::GraphicsPath> BaseDraw::getForbidenArea() const
 {
     return nullptr;

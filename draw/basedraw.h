@@ -38,6 +38,9 @@ public:
     virtual void setMovePoint(int x, int y);
     /// Paints the figure; nothing while it has fewer than two points, the moving one included.
     virtual void draw(Gdiplus::Graphics* graphics);
+    /// Paints the figure's lines so wide that they show beneath its strokes; nothing beneath one
+    /// that may not lie where it is.
+    void drawBeneath(Gdiplus::Graphics& graphics, const Gdiplus::Color& color, float width) const;
     /// How many more clicks the figure needs before it can be finished.
     virtual int clicksNeeded() const;
     virtual bool isPointCountValid() const { return figure().isPointCountValid(); }

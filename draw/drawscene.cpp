@@ -16,17 +16,6 @@ namespace
 
 const Gdiplus::ARGB kShade = 0x64000000;
 const Gdiplus::ARGB kMessageColor = 0xFFFFFFFF;
-void paintFigures(Gdiplus::Graphics& graphics, const std::vector<BaseDraw*>& figures)
-{
-    qint64 points = 0;
-    for (const BaseDraw* figure : figures)
-        points += figure->pointCount();
-    if (points > Limits::kSmoothPoints)
-        graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
-    for (BaseDraw* figure : figures)
-        figure->draw(&graphics);
-    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-}
 
 } // namespace
 
@@ -281,20 +270,17 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
         return;
     FigureLayer::setQuality(*graphics);
     const DrawItem* drawn = m_previewed ? m_previewed : itemBeingDrawn();
-    std::vector<BaseDraw*> below;
-    std::vector<BaseDraw*> above;
-    BaseDraw* live = nullptr;
+    std::vector<PaintedFigure> below;
+    std::vector<PaintedFigure> live;
+    std::vector<PaintedFigure> above;
     for (const DrawItem* item : qAsConst(m_items)) {
         if (!item->figure() || isSkipped(*item, m_currentDataId))
             continue;
-        if (item == drawn)
-            live = item->figure();
-        else
-            (live ? above : below).push_back(item->figure());
+        std::vector<PaintedFigure>& layer = item == drawn ? live : live.empty() ? below : above;
+        layer.push_back(m_looks.of(*item, m_currentDataId));
     }
     drawLayer(*graphics, m_below, below, true);
-    if (live)
-        paintFigures(*graphics, {live});
+    PaintedFigure::paint(*graphics, live);
     drawLayer(*graphics, m_above, above, false);
     drawMessage(*graphics);
 }
@@ -439,7 +425,7 @@ DrawItem* DrawScene::itemBeingDrawn() const
 }
 
 void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
-                          const std::vector<BaseDraw*>& figures, bool withForbidenArea) const
+                          const std::vector<PaintedFigure>& figures, bool withForbidenArea) const
 {
     const bool withArea = withForbidenArea && m_forbidenArea;
     if (figures.empty() && !withArea)
@@ -447,12 +433,12 @@ void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
     FigureLayer::Revisions shown;
     shown.reserve(figures.size() + 1);
     shown.push_back(withArea ? m_forbidenRevision : 0);
-    for (const BaseDraw* figure : figures)
-        shown.push_back(figure->revision());
+    for (const PaintedFigure& figure : figures)
+        shown.push_back(figure.revision());
     layer.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
         if (withArea)
             m_forbidenArea->paint(target);
-        paintFigures(target, figures);
+        PaintedFigure::paint(target, figures);
     });
 }
 

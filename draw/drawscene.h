@@ -2,6 +2,7 @@
 
 #include "draw/drawitem.h"
 #include "draw/figurelayer.h"
+#include "draw/figurelook.h"
 
 #include <QList>
 #include <QObject>
@@ -92,6 +93,12 @@ public:
     /// Another value after a mouse event that made the canvas look different.
     std::pair<quint64, bool> look() const;
 
+    /// Emphasises the figures of an entry, or one of them alone, until it is asked otherwise; 0 for
+    /// none. Changes no selection. Whether the canvas looks different now.
+    bool emphasise(int dataId, int itemId) { return m_looks.emphasise(dataId, itemId); }
+    /// Marks the figure of an item as one for which a save was refused; 0 for none.
+    bool setFaulty(int itemId) { return m_looks.setFaulty(itemId); }
+
     /// Whether a left press would go to a figure that is not finished.
     bool isDrawing() const { return itemBeingDrawn(); }
     bool HasDrawUnfinished() const;
@@ -137,7 +144,7 @@ private:
     std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item, const DrawItem* except) const;
     DrawItem* itemBeingDrawn() const;
     void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
-                   const std::vector<BaseDraw*>& figures, bool withForbidenArea) const;
+                   const std::vector<PaintedFigure>& figures, bool withForbidenArea) const;
     void drawMessage(Gdiplus::Graphics& graphics) const;
     QString getBeginDrawMsg(const DrawItem* item) const;
     QString getEndDrawMsg(const DrawItem* item) const;
@@ -152,6 +159,7 @@ private:
     std::unique_ptr<ForbidenArea> m_forbidenArea; ///< null: no point is forbidden
     const DrawItem* m_forbidenFor = nullptr;      ///< whose standing area it is; not owned
     quint64 m_forbidenRevision = 0;               ///< another one whenever the area is another
+    FigureLooks m_looks;
     FigureLayer m_below; ///< the area and the figures before the one being drawn
     FigureLayer m_above; ///< the figures after it
     bool m_drawByDataId = false;

@@ -44,20 +44,29 @@ void moveTo(Gdiplus::Graphics& graphics, const QPoint& origin, const QLine& segm
 } // namespace
 
 FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color)
-    : FigurePainter(graphics, color, Gdiplus::DashStyleSolid)
+    : FigurePainter(graphics, color, kPenWidth, Use::Strokes)
 {
 }
 
-FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
-                             Gdiplus::DashStyle dashes)
-    : m_graphics(graphics), m_color(color), m_pen(color, kPenWidth)
+FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color, float width,
+                             Use use)
+    : m_graphics(graphics), m_color(color), m_pen(color, width), m_hasNames(use != Use::Band)
 {
-    m_pen.SetDashStyle(dashes);
+    if (use == Use::Refused)
+        m_pen.SetDashStyle(Gdiplus::DashStyleDash);
+    if (use == Use::Band)
+        m_pen.SetLineCap(Gdiplus::LineCapRound, Gdiplus::LineCapRound, Gdiplus::DashCapRound);
 }
 
 FigurePainter FigurePainter::ofRefused(Gdiplus::Graphics& graphics)
 {
-    return {graphics, Gdiplus::Color(kRefusedColor), Gdiplus::DashStyleDash};
+    return {graphics, Gdiplus::Color(kRefusedColor), kPenWidth, Use::Refused};
+}
+
+FigurePainter FigurePainter::ofBand(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
+                                    float width)
+{
+    return {graphics, color, width, Use::Band};
 }
 
 void FigurePainter::line(const QLine& line) const
@@ -127,7 +136,7 @@ void FigurePainter::tick(const QPoint& at, const QLine& segment) const
 
 void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
 {
-    if (text.isEmpty())
+    if (text.isEmpty() || !m_hasNames)
         return;
     const StateScope scope(m_graphics);
     moveTo(m_graphics, segment.p1(), segment);

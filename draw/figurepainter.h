@@ -21,6 +21,9 @@ public:
 
     /// For a figure that may not lie where it is: red and dashed.
     static FigurePainter ofRefused(Gdiplus::Graphics& graphics);
+    /// For the band of @p width that lies beneath a figure's strokes: without its name.
+    static FigurePainter ofBand(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
+                                float width);
 
     void line(const QLine& line) const;
     /// A line that would become an edge: red, with a small square at each of @p crossings, when
@@ -45,12 +48,13 @@ public:
     void name(const CanvasFigure& shown) const;
 
 private:
-    FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
-                  Gdiplus::DashStyle dashes);
+    enum class Use { Strokes, Refused, Band };
+    FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color, float width, Use use);
     void stroke(float x1, float y1, float x2, float y2) const;
     void wing(float tipY, float degrees, float endY) const;
 
     Gdiplus::Graphics& m_graphics; ///< not owned
     Gdiplus::Color m_color;
     Gdiplus::Pen m_pen;
+    bool m_hasNames;
 };

@@ -11,6 +11,7 @@
 #include "host/video/qrtspvideownd.h"
 #include "plugin/editcommands.h"
 #include "plugin/entrymenu.h"
+#include "plugin/figurehover.h"
 #include "plugin/modulelifetime.h"
 #include "plugin/resultmessage.h"
 #include "scene/basetabelscene.h"
@@ -75,6 +76,7 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
     : QWidget(parent),
       m_form(std::make_unique<Ui_IntelligentRulesCtrl>()),
       m_editing(new EditCommands(this)),
+      m_hover(new FigureHover(this)),
       m_widgetId(widgetId)
 {
     m_form->setupUi(this);
@@ -130,8 +132,11 @@ void CIntelligentRulesCtrl::setInterfaceSetManager(CommonData::CInterfaceSetMana
 void CIntelligentRulesCtrl::connectSurface()
 {
     disconnect(m_playerWin, nullptr, this, nullptr);
+    disconnect(m_playerWin, nullptr, m_hover, nullptr);
     connect(m_playerWin, &QRtspVideoWnd::SignalMoveEvent, this,
             &CIntelligentRulesCtrl::OnMouseMove);
+    connect(m_playerWin, &QRtspVideoWnd::SignalMoveEvent, m_hover,
+            [this](QMouseEvent* event) { m_hover->pointAt(event->pos()); });
     connect(m_playerWin, &QRtspVideoWnd::SignalMousePress, this,
             &CIntelligentRulesCtrl::OnMousePress);
     connect(m_playerWin, &QRtspVideoWnd::sgnWndClick, this, &CIntelligentRulesCtrl::OnWndClick);
@@ -154,6 +159,7 @@ bool CIntelligentRulesCtrl::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         QMetaObject::invokeMethod(
             this, [this] { followPicture(); }, Qt::QueuedConnection);
+    m_hover->see(*event, m_videoRect);
     return QWidget::eventFilter(watched, event);
 }
 
@@ -286,6 +292,7 @@ void CIntelligentRulesCtrl::addPanel(RuleData& sceneData)
     connect(panel, &BaseTabelScene::sgnTrySelectedlScene, this,
             &CIntelligentRulesCtrl::sltTrySelectedlScene);
     connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::sceneChanged);
+    connect(panel, &BaseTabelScene::sgnLookChanged, this, &CIntelligentRulesCtrl::repaintPicture);
     connect(panel, &BaseTabelScene::sgnRowEdited, this, &CIntelligentRulesCtrl::sltRowEdited);
     connect(panel, &BaseTabelScene::sgnMenuWanted, this, &CIntelligentRulesCtrl::sltMenuWanted);
 }
@@ -331,6 +338,7 @@ void CIntelligentRulesCtrl::unload()
     m_editing->setPanel(nullptr, false);
     m_editing->transfer().setParser(nullptr);
     m_editing->history().start({});
+    m_hover->setPanel(nullptr);
     m_saveCheck.forget();
     const std::unique_ptr<RuleParser> parser = std::move(m_parser);
     const QList<BaseTabelScene*> scenes = std::exchange(m_scenes, {});
@@ -389,6 +397,7 @@ void CIntelligentRulesCtrl::showSelected(BaseTabelScene& panel)
             m_drawScene->dropPainting();
         m_drawScene = panel.getDrawScene();
         m_editing->setPanel(&panel, m_parameters.editable && !m_parameters.selectionMode);
+        m_hover->setPanel(&panel);
         fitCanvas();
     }
     if (!m_parameters.editable)
@@ -437,6 +446,7 @@ void CIntelligentRulesCtrl::sceneChanged()
     m_editing->correcting().follow();
     m_editing->history().note(std::exchange(m_editedRow, {}), m_editing->takeSeries());
     showSteps();
+    m_hover->leave();
     m_saveCheck.refresh();
     for (BaseTabelScene* panel : qAsConst(m_scenes))
         panel->showHint();

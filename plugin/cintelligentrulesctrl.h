@@ -29,6 +29,7 @@ namespace IntelligentRulesUI
 class EditCommands;
 class EntryMenu;
 enum class EntryAction;
+class FigureHover;
 
 /**
  * Content of one rules window: shows the channel's picture, the panels of the template's scenes,
@@ -157,6 +158,7 @@ private:
     QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers
     EditCommands* m_editing;              ///< owned as a child
     QPointer<EntryMenu> m_menu;           ///< while it is open; a child
+    FigureHover* m_hover;                 ///< owned as a child
     SaveCheck m_saveCheck;
     EditKey m_usedKey = EditKey::None;
     QString m_editedRow;                  ///< key of the row whose edit is about to be noted

@@ -86,6 +86,8 @@ void BaseTabelScene::connectWidgets()
             &BaseTabelScene::sgnMenuWanted);
     connect(widgets().childDrawItems, &RuleItemWidgetTabel::sgnCheckBtnChanged, this,
             &BaseTabelScene::sltTabelChildDrawItemCheckBtnChanged);
+    for (const RuleItemWidgetTabel* table : {widgets().drawItems, widgets().childDrawItems})
+        connect(table, &RuleItemWidgetTabel::sgnPointed, this, &BaseTabelScene::showPointed);
     connect(widgets().redrawButton, &QPushButton::clicked, this, &BaseTabelScene::sltRedrawItem);
     connect(widgets().deleteButton, &QPushButton::clicked, this,
             &BaseTabelScene::sltDeleteDrawItem);
@@ -302,8 +304,34 @@ void BaseTabelScene::startMissing(const CheckFault& fault)
 
 void BaseTabelScene::markFault(const CheckFault* fault)
 {
-    if (isBound())
-        FaultMarks::show(widgets(), fault, m_data->getSelectedDataId());
+    if (!isBound())
+        return;
+    FaultMarks::show(widgets(), fault, m_data->getSelectedDataId());
+    getDrawScene()->setFaulty(fault ? fault->itemId : 0);
+}
+
+void BaseTabelScene::emphasise(const DrawItem* item)
+{
+    DrawItemButton* button = item ? widgets().childDrawItems->findButton(item->itemId()) : nullptr;
+    if (item && !button)
+        button = widgets().drawItems->findDataButton(item->dataId());
+    if (m_emphasised == button)
+        return;
+    if (m_emphasised)
+        m_emphasised->setEmphasised(false);
+    m_emphasised = button;
+    if (button)
+        button->setEmphasised(true);
+}
+
+void BaseTabelScene::showPointed()
+{
+    if (!isBound())
+        return;
+    const DrawItemButton* const child = widgets().childDrawItems->pointedButton();
+    const DrawItemButton* const button = child ? child : widgets().drawItems->pointedButton();
+    if (getDrawScene()->emphasise(button ? button->dataId() : 0, child ? child->id() : 0))
+        emit sgnLookChanged();
 }
 
 QWidget* BaseTabelScene::placeOf(const CheckFault& fault) const
@@ -374,6 +402,7 @@ void BaseTabelScene::perform(const std::function<void()>& action)
     if (!self)
         return;
     checkLayout();
+    showPointed();
     emit sgnRepaintCanvas();
 }
 

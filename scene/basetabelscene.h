@@ -5,6 +5,7 @@
 #include "scene/statisticsdirection.h"
 
 #include <QList>
+#include <QPointer>
 #include <functional>
 #include <memory>
 
@@ -67,6 +68,8 @@ public:
     /// Makes the entry at fault the current one. Where it lacks a figure of its own that is
     /// started; no other is.
     void showFault(const CheckFault& fault);
+    /// Makes the button of that figure, else of its entry, stand out, and no other; null for none.
+    void emphasise(const DrawItem* item);
     /// Marks where a save was refused; without a fault nothing is marked.
     void markFault(const CheckFault* fault);
     /// The widget to mend it with; null when there is none that can be used now.
@@ -100,6 +103,8 @@ signals:
     void sgnMenuWanted(int dataId, const QPoint& place);
     /// What is edited changed, or something on the canvas may look different now.
     void sgnRepaintCanvas();
+    /// The canvas looks different, but nothing was changed.
+    void sgnLookChanged();
 
 protected:
     bool hasCurrentEntry() const override;
@@ -152,6 +157,8 @@ private:
     void showFirstEntry();
     void showEntry(int dataId);
     void selectFigure(int itemId, int dataId);
+    /// Emphasises on the canvas what the button under the pointer stands for.
+    void showPointed();
     void pickFault(const CheckFault& fault);
     void startMissing(const CheckFault& fault);
     void loadEntry();
@@ -172,6 +179,7 @@ private:
     void setPartsEnabled(bool enabled);
 
     RuleData* m_data = nullptr; ///< not owned
+    QPointer<DrawItemButton> m_emphasised;
     StatisticsDirection m_direction;
     QString m_pressedItem; ///< of the child-function button that is being answered
     bool m_drawStatus = false;

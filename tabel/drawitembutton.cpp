@@ -7,7 +7,7 @@
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QStyle>
 
 namespace
@@ -47,6 +47,14 @@ void DrawItemButton::setFault(const QString& message)
     setAccessibleDescription(message);
     style()->polish(this);
     showTip();
+}
+
+void DrawItemButton::setEmphasised(bool on)
+{
+    if (m_isEmphasised == on)
+        return;
+    m_isEmphasised = on;
+    style()->polish(this);
 }
 
 void DrawItemButton::showTip()
@@ -113,6 +121,10 @@ bool DrawItemButton::event(QEvent* event)
     case QEvent::EnabledChange:
         syncCheckBox();
         break;
+    case QEvent::Enter:
+    case QEvent::Leave:
+        emit sgnPointed();
+        break;
     default:
         break;
     }
@@ -141,6 +153,16 @@ void DrawItemButton::keyPressEvent(QKeyEvent* event)
 void DrawItemButton::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call): skipped on purpose
+    m_hasKeyFocus =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    emit sgnPointed();
+}
+
+void DrawItemButton::focusOutEvent(QFocusEvent* event)
+{
+    QPushButton::focusOutEvent(event);
+    m_hasKeyFocus = false;
+    emit sgnPointed();
 }
 
 void DrawItemButton::nextCheckState()

@@ -16,6 +16,7 @@ class DrawItemButton : public QPushButton
     Q_OBJECT
     Q_PROPERTY(int entryId READ dataId CONSTANT)
     Q_PROPERTY(bool marked READ isMarked)
+    Q_PROPERTY(bool emphasised READ isEmphasised)
 
 public:
     /// @p id is the figure's item id, 0 without a figure; @p dataId the entry's.
@@ -35,6 +36,12 @@ public:
     void setFault(const QString& message);
     bool isMarked() const { return !m_fault.isEmpty(); }
 
+    /// Makes the button stand out while the pointer is over its figure.
+    void setEmphasised(bool on);
+    bool isEmphasised() const { return m_isEmphasised; }
+    /// Whether the pointer is over the button, or the focus came to it by the keyboard.
+    bool isPointed() const { return isEnabled() && (underMouse() || m_hasKeyFocus); }
+
     bool enabledState() const { return m_enabledState; }
     /// Announces nothing.
     void setEnabledState(bool on);
@@ -45,6 +52,8 @@ signals:
     void sgnEnableChanged(int dataId, bool on);
     /// The operator asks what can be done with it, at that place of the screen.
     void sgnMenuWanted(int dataId, const QPoint& place);
+    /// isPointed() may be another one.
+    void sgnPointed();
 
 protected:
     bool event(QEvent* event) override;
@@ -52,6 +61,7 @@ protected:
     /// The keys that open a menu do so on each platform, whatever it makes of them itself.
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     /// A press never unchecks: the current button stays current.
     void nextCheckState() override;
 
@@ -67,5 +77,7 @@ private:
     QString m_fault;
     bool m_enabledState = true;
     bool m_carriesCheckBox = false;
+    bool m_isEmphasised = false;
+    bool m_hasKeyFocus = false;
     QPointer<QCheckBox> m_checkBox; ///< made when first asked for; the button's sibling
 };

@@ -31,6 +31,7 @@ void RuleItemWidgetTabel::addButton(DrawItemButton* button)
     connect(button, &DrawItemButton::sgnEnableChanged, this,
             &RuleItemWidgetTabel::sgnEnableChanged);
     connect(button, &DrawItemButton::sgnMenuWanted, this, &RuleItemWidgetTabel::sgnMenuWanted);
+    connect(button, &DrawItemButton::sgnPointed, this, &RuleItemWidgetTabel::sgnPointed);
     addWidget(button, false);
 }
 
@@ -79,6 +80,18 @@ DrawItemButton* RuleItemWidgetTabel::findDataButton(int dataId) const
         std::find_if(m_buttons.begin(), m_buttons.end(),
                      [dataId](const DrawItemButton* b) { return b->dataId() == dataId; });
     return found == m_buttons.end() ? nullptr : *found;
+}
+
+DrawItemButton* RuleItemWidgetTabel::pointedButton() const
+{
+    DrawItemButton* focused = nullptr;
+    for (DrawItemButton* button : m_buttons) {
+        if (button->isPointed() && button->underMouse())
+            return button;
+        if (button->isPointed())
+            focused = button;
+    }
+    return focused;
 }
 
 void RuleItemWidgetTabel::removeWidget(QWidget* widget)

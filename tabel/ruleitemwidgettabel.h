@@ -28,6 +28,8 @@ public:
     DrawItemButton* findButton(int id) const;
     /// The first button of that data entry; null when there is none.
     DrawItemButton* findDataButton(int dataId) const;
+    /// The button under the pointer, or the one with the keyboard's focus; null for none.
+    DrawItemButton* pointedButton() const;
 
     void removeWidget(QWidget* widget) override;
 
@@ -40,6 +42,8 @@ signals:
     void sgnEnableChanged(int dataId, bool on);
     /// The operator asks what can be done with an entry, at that place of the screen.
     void sgnMenuWanted(int dataId, const QPoint& place);
+    /// pointedButton() may be another one.
+    void sgnPointed();
 
 protected:
     void forgetWidget(const QObject* child) override;

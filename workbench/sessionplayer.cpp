@@ -156,7 +156,7 @@ SessionPlayer::Action SessionPlayer::actionFor(const QString& name)
         {QStringLiteral("press"), withButton(&OperatorHand::clickAt)},
         {QStringLiteral("drag"), &SessionPlayer::doDrag},
         {QStringLiteral("move"), onPicture(&OperatorHand::moveTo)},
-        {QStringLiteral("hover"), onPicture(&OperatorHand::moveTo)},
+        {QStringLiteral("hover"), &SessionPlayer::doHover},
         {QStringLiteral("double"), withButton(&OperatorHand::doubleClickAt)},
         {QStringLiteral("click"), &SessionPlayer::doClick},
         {QStringLiteral("key"), &SessionPlayer::doKey},
@@ -268,12 +268,28 @@ QString SessionPlayer::doKey(const Value& step)
     return {};
 }
 
-QString SessionPlayer::doPick(QWidget* panel, const Value& step)
+QAbstractButton* SessionPlayer::entryButton(QWidget* panel, const Value& step) const
 {
     const bool child = step.isMember("child");
-    const auto buttons = m_finder.entryButtons(panel, child);
     const int index = step[child ? "child" : "entry"].asInt() - 1;
-    return OperatorHand::click(buttons.value(index, nullptr));
+    return m_finder.entryButtons(panel, child).value(index, nullptr);
+}
+
+QString SessionPlayer::doPick(QWidget* panel, const Value& step)
+{
+    return OperatorHand::click(entryButton(panel, step));
+}
+
+/// Over an entry's button, or over the picture.
+QString SessionPlayer::doHover(const Value& step)
+{
+    if (!step.isMember("entry"))
+        return onPicture(&OperatorHand::moveTo)(*this, step);
+    return inSection([](SessionPlayer& player, QWidget* panel, const Value& given) {
+        QWidget* const button = player.entryButton(panel, given);
+        OperatorHand::scrollIntoView(button);
+        return OperatorHand::moveTo(button, button ? button->rect().center() : QPoint());
+    })(*this, step);
 }
 
 QString SessionPlayer::doMenu(QWidget* panel, const Value& step)

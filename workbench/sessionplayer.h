@@ -11,6 +11,7 @@
 #include <optional>
 
 class BoxWatcher;
+class QAbstractButton;
 class WorkbenchWindow;
 struct WorkbenchOptions;
 
@@ -58,8 +59,10 @@ private:
     QString doClick(const Value& step);
     QString doKey(const Value& step);
     QString doDrag(const Value& step);
+    QAbstractButton* entryButton(QWidget* panel, const Value& step) const;
     QString doPick(QWidget* panel, const Value& step);
     QString doMenu(QWidget* panel, const Value& step);
+    QString doHover(const Value& step);
     QString doEnable(QWidget* panel, const Value& step);
     QString doFinish(const Value& step);
     QString doFold(QWidget* panel, const Value& step);

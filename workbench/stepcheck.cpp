@@ -108,7 +108,6 @@ const Member kMembers[] = {
     {"drag", "with", isHeld, "\"Ctrl\" or \"Shift\""},
     {"double", "with", isHeld, "\"Ctrl\" or \"Shift\""},
     {"move", "at", isPosition, kPosition},
-    {"hover", "at", isPosition, kPosition},
     {"double", "at", isPosition, kPosition},
     {"double", "button", isButton, "\"left\" or \"right\""},
     {"key", "keys", isKey, "one key with its modifiers"},
@@ -165,6 +164,8 @@ QString fault(const Value& step)
     }
     if (name == QLatin1String("set") && !step.isMember("value"))
         return say("there is no \"value\" to set");
+    if (name == QLatin1String("hover") && !step.isMember("entry") && !isPosition(step["at"]))
+        return say("\"hover\" takes \"at\", a position, or an \"entry\"");
     if (name == QLatin1String("wait") && !isTimeOrPicture(step))
         return say("\"wait\" takes \"picture\": true, or \"ms\" of 0 to 600000");
     return name == QLatin1String("expect") ? expectationFault(step) : QString();

@@ -58,6 +58,10 @@ enum DashStyle {
     DashStyleDashDotDot = 4
 };
 
+enum LineCap { LineCapFlat = 0, LineCapSquare = 1, LineCapRound = 2 };
+
+enum DashCap { DashCapFlat = 0, DashCapRound = 2 };
+
 enum FontStyle {
     FontStyleRegular = 0,
     FontStyleBold = 1,

@@ -57,4 +57,14 @@ Status Pen::SetDashStyle(DashStyle dashStyle)
     return Ok;
 }
 
+Status Pen::SetLineCap(LineCap startCap, LineCap endCap, DashCap dashCap)
+{
+    const bool isRound = startCap == LineCapRound && dashCap == DashCapRound;
+    const bool isFlat = startCap == LineCapFlat && dashCap == DashCapFlat;
+    if (startCap != endCap || !(isRound || isFlat))
+        return InvalidParameter;
+    m_pen.setCapStyle(isRound ? Qt::RoundCap : Qt::FlatCap);
+    return Ok;
+}
+
 } // namespace Gdiplus

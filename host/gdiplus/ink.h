@@ -55,7 +55,7 @@ public:
     explicit SolidBrush(const Color& color);
 };
 
-/// A pen of flat caps and mitre joins, its width in the coordinates drawn with.
+/// A pen of mitre joins, and of flat caps at first; its width in the coordinates drawn with.
 class KQHOST_EXPORT Pen
 {
 public:
@@ -64,6 +64,8 @@ public:
     Pen& operator=(const Pen&) = delete;
 
     Status SetDashStyle(DashStyle dashStyle);
+    /// The same cap at all ends, or InvalidParameter.
+    Status SetLineCap(LineCap startCap, LineCap endCap, DashCap dashCap);
     DashStyle GetDashStyle() const { return m_dashStyle; }
     Status GetLastStatus() const { return m_status; }
 

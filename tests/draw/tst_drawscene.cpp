@@ -123,6 +123,12 @@ QImage painted(DrawScene& scene)
     return painted([&](Gdiplus::Graphics& graphics) { scene.draw(&graphics); });
 }
 
+/// On an upright line of a figure, and 2 and 6 pixels left of it.
+QList<QRgb> colors(const QImage& image, const QPoint& at)
+{
+    return {image.pixel(at), image.pixel(at - QPoint(2, 0)), image.pixel(at - QPoint(6, 0))};
+}
+
 constexpr int kNone = 1, kRough = 2, kSmooth = 3;
 
 /// How many colours are seen in the upper third, above the hint, the picture's among them.
@@ -176,6 +182,51 @@ private slots:
         bench.scene.addDrawPoint(DrawScene::DrawMouseMove, {0, 0});
         QCOMPARE(painted(bench.scene).pixel(5, 5), qRgb(255, 255, 255));
         bench.scene.draw(nullptr);
+    }
+
+    /// Under and behind the strokes, whatever is painted later.
+    void tellsFiguresApart()
+    {
+        Bench bench;
+        const QVector<QPoint> corners[] = {
+            {{20, 20}, {100, 100}}, {{40, 150}, {100, 200}}, {{60, 60}, {160, 240}}};
+        const QStringList names{"other", "picked", "last"};
+        for (int i = 0; i < 3; ++i) {
+            Value entry(kql::Json::ValueType::Object);
+            entry["entry"] = i == 0 ? 2 : 1;
+            bench.add(names[i], BaseDrawType::Rectangle, entry);
+            bench.select(names[i]);
+            bench.press(corners[i]);
+        }
+        bench.scene.setCurrentDataId(1);
+        bench.select("picked");
+        const QRgb blue = qRgb(0, 125, 255);
+        const QRgb gold = qRgb(255, 215, 0);
+        const QRgb white = qRgb(255, 255, 255);
+        const QImage image = painted(bench.scene);
+        QCOMPARE(colors(image, {160, 120}), (QList<QRgb>{blue, gold, white}));
+        QCOMPARE(colors(image, {100, 180}), (QList<QRgb>{gold, white, white}));
+        QCOMPARE(colors(image, {20, 80}), (QList<QRgb>{blue, white, white}));
+        // Where the last figure's line meets one that is painted before it.
+        QCOMPARE(image.pixel(98, 60), image.pixel(110, 60));
+        QCOMPARE(image.pixel(100, 58), blue);
+        QCOMPARE(bench.items["last"]->figure()->color().GetValue(), Gdiplus::ARGB(0xFF007DFF));
+
+        QVERIFY(bench.scene.emphasise(2, 0));
+        QVERIFY(!bench.scene.emphasise(2, 0));
+        const QRgb edge = qRgb(16, 20, 24);
+        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, white, edge}));
+        QCOMPARE(bench.scene.selectedItem(1), bench.items["picked"]);
+        QVERIFY(bench.scene.emphasise(0, bench.id("picked")));
+        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, white, white}));
+        QCOMPARE(colors(painted(bench.scene), {100, 180}), (QList<QRgb>{gold, white, edge}));
+        QVERIFY(bench.scene.emphasise(0, 0));
+        QCOMPARE(painted(bench.scene), image);
+        bench.scene.setFaulty(bench.id("last"));
+        QCOMPARE(painted(bench.scene).pixel(60, 44), qRgb(58, 32, 0)); // the sign
+        bench.scene.setFaulty(0);
+        bench.scene.setCurrentDataId(2);
+        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, gold, white}));
     }
 
     void finishedListenersMayRemoveTheItem()

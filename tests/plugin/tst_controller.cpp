@@ -5,6 +5,7 @@
 #include "host/video/channelsources.h"
 #include "host/video/qrtspvideownd.h"
 #include "scene/basetabelscene.h"
+#include "tabel/drawitembutton.h"
 #include "tabel/titlelabel.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/ruleswindow.h"
@@ -202,6 +203,42 @@ private slots:
         QFETCH(const Value, fixture);
         Desk desk;
         kScript.play(desk, fixture);
+    }
+
+    /// Both ways, and nothing else comes of it.
+    void pointsOutFiguresAndButtons()
+    {
+        Desk desk;
+        desk.load(rule("Gate") + ", " +
+                  rule("Yard", R"(, "Area": [[4500, 4500], [8000, 4500], [8000, 8000]])"));
+        const auto buttons = desk.panel("rules")->findChildren<DrawItemButton*>();
+        const auto emphasised = [&] {
+            return QPair<bool, bool>(buttons[0]->isEmphasised(), buttons[1]->isEmphasised());
+        };
+        const QSize size = desk.pictureRect().size();
+        const auto moveTo = [&](int x, int y) {
+            QTest::mouseMove(desk.picture(),
+                             desk.pictureRect().topLeft() +
+                                 QPoint(size.width() * x / 8192, size.height() * y / 8192));
+        };
+        QSignalSpy selections(desk.canvas(), &DrawScene::sgnSelectedStatusChange);
+        for (const auto& seen : {qMakePair(false, true), qMakePair(true, false)}) {
+            seen.second ? moveTo(7500, 5500) : moveTo(3000, 1500);
+            QCOMPARE(emphasised(), seen);
+        }
+        moveTo(1000, 7000);
+        QCOMPARE(emphasised(), qMakePair(false, false));
+        moveTo(3000, 1500);
+        QTest::mouseMove(desk.find("btnSave"));
+        QCOMPARE(emphasised(), qMakePair(false, false));
+        const QImage before = desk.picture()->grab(desk.pictureRect()).toImage();
+        QTest::mouseMove(buttons[1]);
+        QVERIFY(desk.picture()->grab(desk.pictureRect()).toImage() != before);
+        QTest::mouseMove(desk.find("btnSave"));
+        QCOMPARE(desk.picture()->grab(desk.pictureRect()).toImage(), before);
+        QCOMPARE(selections.count(), 0);
+        QCOMPARE(desk.canvas()->message(), QString());
+        QVERIFY(!desk.find("btnUndo")->isEnabled());
     }
 
     void refusedBlockLeavesNothing()

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QtGlobal>
+#include <vector>
+
+class BaseDraw;
+class DrawItem;
+namespace Gdiplus
+{
+class Graphics;
+}
+
+/// A figure to be painted, and how it stands out besides its own strokes.
+struct PaintedFigure {
+    enum Look {
+        Plain = 0,
+        OfCurrentEntry = 1, ///< but not the one that is selected
+        Emphasised = 2,
+        Faulty = 4
+    };
+    static constexpr quint64 kLooks = 8; ///< what they can be together
+
+    BaseDraw* figure; ///< not owned
+    int look = Plain;
+
+    /// As BaseDraw::revision(), and another number for another look.
+    quint64 revision() const;
+    /// Paints what lies beneath the strokes of all @p figures, and then those. With very many
+    /// points together they are not painted smooth.
+    static void paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
+
+private:
+    void paintBeneath(Gdiplus::Graphics& graphics) const;
+    void paintSign(Gdiplus::Graphics& graphics) const;
+};
+
+/// Which figures of a canvas stand out, by the ids of entries and items; 0 is none.
+class FigureLooks
+{
+public:
+    /// Emphasises the figures of an entry, or one of them alone. Whether it is another one now.
+    bool emphasise(int dataId, int itemId);
+    /// Marks a figure for which a save was refused. Whether it is another one now.
+    bool setFaulty(int itemId);
+    /// Of @p item, which has a figure, while the entry @p currentDataId is current.
+    PaintedFigure of(const DrawItem& item, int currentDataId) const;
+
+private:
+    int m_emphasisedEntry = 0;
+    int m_emphasisedItem = 0;
+    int m_faultyItem = 0;
+};
