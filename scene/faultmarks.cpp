@@ -83,7 +83,7 @@ void FaultMarks::show(const SceneWidgets& widgets, const CheckFault* fault, int 
     const bool isShown = fault && fault->dataId == shownEntry;
     const ControlTabel* const faulty = isShown ? rowOf(widgets, *fault) : nullptr;
     for (ControlTabel* row : widgets.controls->controls())
-        row->setFault(row == faulty ? message : QString());
+        row->setFault(faulty && row == faulty ? message : QString());
     for (DrawItemButton* button : widgets.drawItems->buttons())
         button->setFault(fault && button->dataId() == fault->dataId ? message : QString());
     for (DrawItemButton* button : widgets.childDrawItems->buttons())

@@ -205,6 +205,20 @@ private slots:
         kScript.play(desk, fixture);
     }
 
+    void unfoldedSectionsScrollIntoView()
+    {
+        Desk desk;
+        desk.window->resize(1000, 420);
+        desk.load();
+        desk.panel("global")->setFold(true);
+        QScrollBar& bar = *desk.find<QScrollArea>("sceneView")->verticalScrollBar();
+        QCOMPARE(bar.value(), 0);
+        desk.panel("global")->setFold(false);
+        const QWidget& last = *desk.find("level");
+        QCOMPARE(last.visibleRegion().boundingRect(), last.rect());
+        QVERIFY(bar.value() > 0);
+    }
+
     /// Both ways, and nothing else comes of it.
     void pointsOutFiguresAndButtons()
     {
