@@ -100,6 +100,22 @@ private slots:
               });
     }
 
+    void lineCaps()
+    {
+        Pen pen(Color(kInk), 6.0F);
+        const auto right = [&pen] {
+            return ink(painted([&pen](Graphics& g) { g.DrawLine(&pen, 10, 20, 30, 20); }))
+                .boundingRect()
+                .right();
+        };
+        QCOMPARE(pen.SetLineCap(LineCapRound, LineCapFlat, DashCapFlat), InvalidParameter);
+        QCOMPARE(right(), 29);
+        QCOMPARE(pen.SetLineCap(LineCapRound, LineCapRound, DashCapRound), Ok);
+        QCOMPARE(right(), 32);
+        QCOMPARE(pen.SetLineCap(LineCapFlat, LineCapFlat, DashCapFlat), Ok);
+        QCOMPARE(right(), 29);
+    }
+
     void smoothing()
     {
         const auto shades = [this](SmoothingMode mode) {
