@@ -7,7 +7,7 @@
 
 #include <QSet>
 
-int LaneNumbers::free(const RuleData& data)
+int LaneNumbers::smallestFree(const RuleData& data)
 {
     QSet<int> taken;
     for (const auto& entry : data.getAllData()) {
@@ -24,7 +24,7 @@ int LaneNumbers::free(const RuleData& data)
 
 void LaneNumbers::giveFree(const RuleData& data, RuleDataInfo& entry)
 {
-    const int number = free(data);
+    const int number = smallestFree(data);
     entry.setValue(LanesTemplate::kNumber, number);
     if (entry.hasValue(LanesTemplate::kRuleLaneNumber))
         entry.setValue(LanesTemplate::kRuleLaneNumber, number);

@@ -9,7 +9,7 @@ namespace LaneNumbers
 
 /// The smallest from the scene's least count on that no lane of @p data has; one above the largest
 /// count when all have been given out.
-int free(const RuleData& data);
+int smallestFree(const RuleData& data);
 /// Gives it to @p entry, and to its rule where it has one.
 void giveFree(const RuleData& data, RuleDataInfo& entry);
 
