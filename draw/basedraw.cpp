@@ -62,8 +62,8 @@ void BaseDraw::drawBeneath(Gdiplus::Graphics& graphics, const Gdiplus::Color& co
                            float width) const
 {
     const QMutexLocker lock(&m_mutex);
-    const CanvasFigure shown(m_preview.value_or(m_figure), m_movePoint, m_canvasSize);
-    if (shown.shownPoints().size() >= 2 && !(m_preview && m_isRefused))
+    const CanvasFigure shown(painted(), m_movePoint, m_canvasSize);
+    if (shown.shownPoints().size() >= 2 && !(m_preview && m_preview->isRefused))
         paint(FigurePainter::ofBand(graphics, color, width), shown);
 }
 

@@ -159,7 +159,7 @@ private:
     std::atomic<quint64> m_revision;
     Figure m_figure;
     std::unique_ptr<const Preview> m_preview; ///< null for none
-    std::optional<QPoint> m_movePoint; ///< normalized
+    std::optional<QPoint> m_movePoint;        ///< normalized
     QSize m_canvasSize{0, 0};
     bool m_selected = false;
     bool m_drawOver = true;

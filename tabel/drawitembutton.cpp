@@ -6,8 +6,8 @@
 
 #include <QCheckBox>
 #include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QStyle>
 
 namespace
