@@ -106,8 +106,8 @@ private:
         DrawItem* item = m_scene->findItem(id());
         switch (operation) {
         case 12:
-            m_isByDataId = m_bytes.byte() % 2 == 0;
-            m_scene->setDrawByDataId(m_isByDataId);
+
+            m_scene->setDrawByDataId(m_bytes.byte() % 2 == 0);
             return m_scene->setCurrentDataId(data());
         case 13:
             return m_scene->SetDrawOver(m_bytes.byte() % 2 == 0);
@@ -299,13 +299,11 @@ private:
             requireComposed();
     }
 
-    /// A canvas without hint and forbidden area shows its items painted one by one.
+    /// A canvas without hint, forbidden area and current entry shows its items painted one by one.
     void requireComposed() const
     {
         DrawScene bare;
         bare.copyItemsFrom(*m_scene);
-        bare.setDrawByDataId(m_isByDataId);
-        bare.setCurrentDataId(m_scene->currentDataId());
         require(painted([&](Gdiplus::Graphics& graphics) { bare.draw(&graphics); }) ==
                     painted([&](Gdiplus::Graphics& graphics) { compose(bare, graphics); }),
                 "a canvas shows something else than its items");
@@ -319,8 +317,7 @@ private:
         const QSize size = scene.canvasSize();
         Gdiplus::Bitmap below(size.width(), size.height(), &picture);
         Gdiplus::Bitmap above(size.width(), size.height(), &picture);
-        const int dataId = scene.currentDataId();
-        const DrawItem* drawn = scene.selectedItem(dataId);
+        const DrawItem* drawn = scene.selectedItem(scene.currentDataId());
         {
             Gdiplus::Graphics onBelow(&below);
             Gdiplus::Graphics onAbove(&above);
@@ -328,8 +325,6 @@ private:
             FigureLayer::setQuality(onAbove);
             Gdiplus::Graphics* target = &onBelow;
             for (const DrawItem* item : scene.getItemList(BaseDrawType::None, 0)) {
-                if (isSkipped(*item, dataId))
-                    continue;
                 if (item == drawn && !item->isFinished())
                     target = &onAbove;
                 else
@@ -337,15 +332,9 @@ private:
             }
         }
         picture.DrawImage(&below, 0, 0);
-        if (drawn && !drawn->isFinished() && !isSkipped(*drawn, dataId))
+        if (drawn && !drawn->isFinished())
             drawn->draw(&picture);
         picture.DrawImage(&above, 0, 0);
-    }
-
-    /// Also what is being drawn, where a child of an entry's figure has the id of another entry.
-    bool isSkipped(const DrawItem& item, int dataId) const
-    {
-        return m_isByDataId && dataId >= 1 && item.dataId() != dataId;
     }
 
     /// As over a picture of the canvas' size, to which the video surface clips.
@@ -372,7 +361,6 @@ private:
             require(pointsOf(*items[i]) == pointsOf(*copies[i]), "a copied figure is another one");
         if (m_bytes.byte() % 2 == 0) {
             m_scene = std::move(copied);
-            m_isByDataId = false;
         }
     }
 
@@ -447,7 +435,6 @@ private:
 
     InputBytes m_bytes;
     std::unique_ptr<DrawScene> m_scene;
-    bool m_isByDataId = false; ///< as the scene has it
 };
 
 } // namespace
