@@ -224,5 +224,5 @@ QPoint BaseDraw::normalizedMouse(const QPoint& canvasPoint) const
 
 void BaseDraw::change()
 {
-    m_revision = ++g_lastRevision;
+    m_revision.store(++g_lastRevision, std::memory_order_release);
 }

@@ -106,7 +106,6 @@ private:
         DrawItem* item = m_scene->findItem(id());
         switch (operation) {
         case 12:
-
             m_scene->setDrawByDataId(m_bytes.byte() % 2 == 0);
             return m_scene->setCurrentDataId(data());
         case 13:
@@ -359,9 +358,8 @@ private:
         require(items.size() == copies.size(), "a copy has another number of items");
         for (int i = 0; i < items.size(); ++i)
             require(pointsOf(*items[i]) == pointsOf(*copies[i]), "a copied figure is another one");
-        if (m_bytes.byte() % 2 == 0) {
+        if (m_bytes.byte() % 2 == 0)
             m_scene = std::move(copied);
-        }
     }
 
     void requireOrder() const
