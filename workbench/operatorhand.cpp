@@ -165,9 +165,13 @@ void focus(QWidget* widget)
 void press(QWidget* widget, const QKeySequence& key)
 {
     const int code = int(key[0]);
-    const int modifiers = code & int(Qt::KeyboardModifierMask);
-    QTest::keyClick(widget, Qt::Key(code & ~int(Qt::KeyboardModifierMask)),
-                    Qt::KeyboardModifiers(modifiers));
+    const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
+    const int plain = code & ~int(Qt::KeyboardModifierMask);
+    // Of a key QTest types the small letter, whatever is held with it.
+    if (modifiers == Qt::ShiftModifier && plain >= Qt::Key_A && plain <= Qt::Key_Z)
+        QTest::keyClick(widget, char(plain), modifiers);
+    else
+        QTest::keyClick(widget, Qt::Key(plain), modifiers);
 }
 
 } // namespace OperatorHand

@@ -258,6 +258,9 @@ QString SessionPlayer::doClick(const Value& step)
 QString SessionPlayer::doKey(const Value& step)
 {
     const QKeySequence keys(step["keys"].asString());
+    // Where nothing manages windows none is active after a box; keys come to the active one only.
+    if (!QApplication::activeWindow())
+        QApplication::setActiveWindow(&m_window);
     if (step["to"].asString() == QLatin1String("picture"))
         OperatorHand::focus(m_window.videoSurface());
     const int times = step.isMember("times") ? step["times"].asInt() : 1;
