@@ -26,7 +26,6 @@ InputBoxWidget::InputBoxWidget(QWidget* parent)
     m_unit->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_unit->setFixedHeight(kUnitHeight);
     m_unit->hide();
-    setFocusProxy(m_edit);
 }
 
 void InputBoxWidget::setUnit(const QString& unit)

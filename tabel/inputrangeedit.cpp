@@ -67,7 +67,6 @@ InputRangeEdit::InputRangeEdit(QWidget* parent)
     m_dash->setAlignment(Qt::AlignCenter);
     setEmptyValidator(*m_minimum);
     setEmptyValidator(*m_maximum);
-    setFocusProxy(m_minimum);
     connect(m_minimum, &RowEdit::textEdited, this, &InputRangeEdit::minimumEdited);
     connect(m_minimum, &RowEdit::editingFinished, this,
             [this] { setMiniValue(typedValue(*m_minimum), true); });
