@@ -51,6 +51,8 @@ private slots:
             const QString folder = ExampleFiles::folder(name);
             QTest::newRow(qPrintable(name))
                 << documents(folder) << folder + "session.jsonl" << folder + "saved.json";
+            QTest::newRow(qPrintable(name + ", without a mouse"))
+                << documents(folder) << folder + "keyboard.jsonl" << folder + "saved.json";
             for (const char* same : {"config.json", "saved.json"})
                 QTest::newRow(qPrintable(name + ", " + same + " unchanged"))
                     << documents(folder, same) << ::session("save") << folder + same;
