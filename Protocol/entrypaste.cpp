@@ -74,8 +74,10 @@ int EntryPaste::add(const Value& clip)
 
 void EntryPaste::readSource(const Value& clip, RuleDataInfo& entry)
 {
-    if (clip[EntryClip::kDocument].asString() == m_document) {
-        entry.setSourceIndex(qMax(-1, clip[EntryClip::kPlace].asInt()));
+    m_isFromHere = clip[EntryClip::kDocument].asString() == m_document;
+    const int place = clip[EntryClip::kPlace].asInt();
+    if (m_isFromHere && place >= 0) {
+        entry.setSourceIndex(place);
         return;
     }
     Value part = sceneProtocol(m_data.getSceneType()).copiedPart(clip[EntryClip::kSource]);
@@ -90,6 +92,9 @@ void EntryPaste::readAttributes(const Value& list, RuleDataInfo& entry)
         const RuleProtocolItem* const item =
             m_data.getTemplate()->findItem(list[i][EntryClip::kKey].asString());
         const Value& value = list[i][EntryClip::kValue];
+        // What the other document does not say has the default here.
+        if (value.isNull() && !m_isFromHere)
+            continue;
         if (item && !item->isFigure()) {
             RuleProtocolItem alone = *item;
             alone.setIndex(-1);

@@ -42,4 +42,5 @@ private:
     RuleData& m_data;
     QString m_document;
     FigureReader m_figures;
+    bool m_isFromHere = false; ///< from the same document
 };

@@ -3,6 +3,9 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace
 {
 
@@ -10,6 +13,11 @@ namespace
 constexpr std::size_t kMostTopics = 64;
 // No device has more to tell; keeps absurd documents from filling the memory.
 constexpr int kMostFound = 100000;
+
+QString nameOf(SaveNotices::Kind kind, const QString& subject)
+{
+    return QString::number(static_cast<int>(kind)) + subject;
+}
 
 } // namespace
 
@@ -27,10 +35,10 @@ void SaveNotices::add(Kind kind, const QString& subject, const RuleDataInfo& ent
         return;
     if (kind == Kind::Changed)
         m_changed.insert({entry.id(), key});
-    const QString name = QString::number(static_cast<int>(kind)) + subject;
+    const QString name = nameOf(kind, subject);
     auto topic = m_topicOf.constFind(name);
     if (topic == m_topicOf.constEnd()) {
-        if (m_topics.size() >= kMostTopics)
+        if (!hasRoomFor(kind))
             return;
         topic = m_topicOf.insert(name, m_topics.size());
         m_topics.push_back({kind, subject, key, {}});
@@ -42,14 +50,32 @@ void SaveNotices::add(Kind kind, const QString& subject, const RuleDataInfo& ent
     ++m_count;
 }
 
+/// What was left out of the last copies does not keep out the rest, nor the next ones.
+bool SaveNotices::hasRoomFor(Kind kind)
+{
+    const auto isLeftOut = [](const Topic& topic) { return topic.kind == Kind::LeftOut; };
+    const auto leftOut =
+        static_cast<std::size_t>(std::count_if(m_topics.begin(), m_topics.end(), isLeftOut));
+    if (kind != Kind::LeftOut)
+        return m_topics.size() - leftOut < kMostTopics;
+    if (leftOut >= kMostTopics)
+        forgetLeftOut();
+    return true;
+}
+
 void SaveNotices::forgetLeftOut()
 {
+    std::vector<Topic> kept;
+    m_topicOf.clear();
     for (Topic& topic : m_topics) {
-        if (topic.kind != Kind::LeftOut)
+        if (topic.kind == Kind::LeftOut) {
+            m_count -= static_cast<int>(topic.found.size());
             continue;
-        m_count -= static_cast<int>(topic.found.size());
-        topic.found.clear();
+        }
+        m_topicOf.insert(nameOf(topic.kind, topic.subject), kept.size());
+        kept.push_back(std::move(topic));
     }
+    m_topics = std::move(kept);
 }
 
 bool SaveNotices::isUnsaved(const RuleDataInfo& entry, const QString& key) const

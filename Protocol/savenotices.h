@@ -63,6 +63,7 @@ public:
     void setTakesOneEntry(bool takesOne) { m_takesOneEntry = takesOne; }
 
 private:
+    bool hasRoomFor(Kind kind);
     QStringList m_sentences;
     QSet<QString> m_unsavedKeys;
     QSet<QPair<int, QString>> m_changed; ///< by entry and key

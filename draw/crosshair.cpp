@@ -60,8 +60,8 @@ void CrossHair::draw(Gdiplus::Graphics& graphics, const QSize& canvas) const
     if (!m_isShown || canvas.isEmpty())
         return;
     const QPoint at = position(canvas);
-    paintArms(graphics, Gdiplus::Pen(Gdiplus::Color(kEdge), 3), at, 1);
-    paintArms(graphics, Gdiplus::Pen(Gdiplus::Color(kInk), 1), at, 0);
+    paintArms(graphics, Gdiplus::Pen(Gdiplus::Color(kEdge), 4), at, 1);
+    paintArms(graphics, Gdiplus::Pen(Gdiplus::Color(kInk), 2), at, 0);
     const QPoint place = DrawGeometry::toNormalized(at, canvas).value_or(QPoint());
     const QString text = QStringLiteral("%1, %2").arg(place.x()).arg(place.y());
     Gdiplus::RectF box;

@@ -273,20 +273,25 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
     std::vector<PaintedFigure> below;
     std::vector<PaintedFigure> live;
     std::vector<PaintedFigure> above;
+    std::vector<PaintedFigure> banded;
     for (const DrawItem* item : qAsConst(m_items)) {
         if (!item->figure() || isSkipped(*item, m_currentDataId))
             continue;
         std::vector<PaintedFigure>& layer = item == drawn ? live : live.empty() ? below : above;
         layer.push_back(m_looks.of(*item, m_currentDataId));
+        if (layer.back().look != PaintedFigure::Plain)
+            banded.push_back(layer.back());
     }
-    drawLayer(*graphics, m_below, below, true);
+    drawGround(*graphics, banded);
+    drawLayer(*graphics, m_below, below);
     PaintedFigure::paint(*graphics, live);
-    drawLayer(*graphics, m_above, above, false);
+    drawLayer(*graphics, m_above, above);
     drawMessage(*graphics);
 }
 
 void DrawScene::dropPainting()
 {
+    m_ground.drop();
     m_below.drop();
     m_above.drop();
 }
@@ -424,22 +429,31 @@ DrawItem* DrawScene::itemBeingDrawn() const
     return item && !item->isFinished() ? item : nullptr;
 }
 
-void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
-                          const std::vector<PaintedFigure>& figures, bool withForbidenArea) const
+void DrawScene::drawGround(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures)
 {
-    const bool withArea = withForbidenArea && m_forbidenArea;
-    if (figures.empty() && !withArea)
-        return layer.drop();
-    FigureLayer::Revisions shown;
-    shown.reserve(figures.size() + 1);
-    shown.push_back(withArea ? m_forbidenRevision : 0);
+    if (figures.empty() && !m_forbidenArea)
+        return m_ground.drop();
+    FigureLayer::Revisions shown{m_forbidenArea ? m_forbidenRevision : 0};
     for (const PaintedFigure& figure : figures)
         shown.push_back(figure.revision());
-    layer.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
-        if (withArea)
+    m_ground.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
+        if (m_forbidenArea)
             m_forbidenArea->paint(target);
-        PaintedFigure::paint(target, figures);
+        PaintedFigure::paintBands(target, figures);
     });
+}
+
+void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
+                          const std::vector<PaintedFigure>& figures) const
+{
+    if (figures.empty())
+        return layer.drop();
+    FigureLayer::Revisions shown;
+    shown.reserve(figures.size());
+    for (const PaintedFigure& figure : figures)
+        shown.push_back(figure.revision());
+    layer.draw(graphics, m_canvasSize, std::move(shown),
+               [&](Gdiplus::Graphics& target) { PaintedFigure::paint(target, figures); });
 }
 
 void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const

@@ -87,6 +87,7 @@ public:
     /// Shows @p figure in the place of the one of item @p itemId until there is none again; with
     /// @p isRefused as one that may not lie there. An unknown id does nothing.
     void setPreview(int itemId, const std::optional<Figure>& figure, bool isRefused);
+    bool hasPreview() const { return m_previewed; }
     /// The finished figures by where they are.
     const FigureIndex& figuresByPlace() const;
     FigureSurroundings surroundings() const;
@@ -143,8 +144,9 @@ private:
     void renewForbidenArea(const DrawItem& item);
     std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item, const DrawItem* except) const;
     DrawItem* itemBeingDrawn() const;
+    void drawGround(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
     void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
-                   const std::vector<PaintedFigure>& figures, bool withForbidenArea) const;
+                   const std::vector<PaintedFigure>& figures) const;
     void drawMessage(Gdiplus::Graphics& graphics) const;
     QString getBeginDrawMsg(const DrawItem* item) const;
     QString getEndDrawMsg(const DrawItem* item) const;
@@ -160,8 +162,9 @@ private:
     const DrawItem* m_forbidenFor = nullptr;      ///< whose standing area it is; not owned
     quint64 m_forbidenRevision = 0;               ///< another one whenever the area is another
     FigureLooks m_looks;
-    FigureLayer m_below; ///< the area and the figures before the one being drawn
-    FigureLayer m_above; ///< the figures after it
+    FigureLayer m_ground; ///< the area, and what lies beneath the strokes of all figures
+    FigureLayer m_below;  ///< the figures before the one being drawn
+    FigureLayer m_above;  ///< the figures after it
     bool m_drawByDataId = false;
     int m_currentDataId = -1;
 

@@ -105,6 +105,7 @@ bool FigureCorrector::moveTo(const QPoint& way)
     m_moved = std::make_unique<Figure>(moved);
     m_refusal = moved == m_move->original() ? DrawRefusal::None : m_check->ofMove(moved, *m_move);
     m_scene->setPreview(m_itemId, moved, m_refusal != DrawRefusal::None);
+    m_scene->setRefusal(m_refusal);
     return true;
 }
 
@@ -130,6 +131,7 @@ void FigureCorrector::putBack()
     if (!isMoving())
         return;
     m_scene->setPreview(m_itemId, std::nullopt, false);
+    m_scene->setRefusal(DrawRefusal::None);
     // A new corner goes with the move.
     if (isNewCorner())
         m_itemId = 0;
@@ -263,6 +265,17 @@ QPoint FigureCorrector::normalized(const QPoint& pixels) const
             normalizedStep(pixels.y(), canvas.height())};
 }
 
+/// The first point alone is no line yet.
+void FigureCorrector::drawPointsInHand(const HandlePainter& painter) const
+{
+    const DrawItem* drawn =
+        m_scene->isDrawing() ? m_scene->selectedItem(m_scene->currentDataId()) : nullptr;
+    if (!drawn || drawn->value().pointCount() > Limits::kCorrectedPoints)
+        return;
+    for (const QPoint& point : drawn->figure()->canvasPoints())
+        painter.handle(point, false, false);
+}
+
 bool FigureCorrector::isChosen(const FigureHandle& handle) const
 {
     // A new corner is the middle of a line until it is moved.
@@ -276,6 +289,7 @@ void FigureCorrector::draw(Gdiplus::Graphics* graphics) const
     if (!graphics || !m_scene)
         return;
     const HandlePainter painter(*graphics);
+    drawPointsInHand(painter);
     for (const int id : {m_hoveredId, m_itemId}) {
         const DrawItem* item = m_scene->findItem(id);
         if (!item || !mayTake(*item))

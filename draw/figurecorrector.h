@@ -12,6 +12,7 @@ class DrawItem;
 class DrawScene;
 class Figure;
 class FigureMove;
+class HandlePainter;
 struct FigureHandle;
 namespace Gdiplus
 {
@@ -70,7 +71,7 @@ public:
     /// Removes the corner at @p at. Whether it did.
     bool removeAt(const QPoint& at);
 
-    /// Paints the handles.
+    /// Paints the handles, and the points of a figure that is being drawn.
     void draw(Gdiplus::Graphics* graphics) const;
 
 private:
@@ -91,6 +92,7 @@ private:
     void choose(const DrawItem& item, int corner);
     bool isNewCorner() const;
     bool isChosen(const FigureHandle& handle) const;
+    void drawPointsInHand(const HandlePainter& painter) const;
     bool removeCorner(DrawItem& item, int corner);
     bool change(DrawItem& item, const Figure& figure, DrawRefusal refusal);
     QPoint normalized(const QPoint& pixels) const;

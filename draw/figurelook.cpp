@@ -42,6 +42,15 @@ void fillTriangle(Gdiplus::Graphics& graphics, Gdiplus::ARGB color, const QPoint
     graphics.FillPath(&brush, &path);
 }
 
+void setSmooth(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures)
+{
+    qint64 points = 0;
+    for (const PaintedFigure& painted : figures)
+        points += painted.figure->pointCount();
+    if (points > Limits::kSmoothPoints)
+        graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
+}
+
 } // namespace
 
 quint64 PaintedFigure::revision() const
@@ -49,15 +58,18 @@ quint64 PaintedFigure::revision() const
     return figure->revision() * kLooks + static_cast<quint64>(look);
 }
 
-void PaintedFigure::paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures)
+void PaintedFigure::paintBands(Gdiplus::Graphics& graphics,
+                               const std::vector<PaintedFigure>& figures)
 {
-    qint64 points = 0;
-    for (const PaintedFigure& painted : figures)
-        points += painted.figure->pointCount();
-    if (points > Limits::kSmoothPoints)
-        graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
+    setSmooth(graphics, figures);
     for (const PaintedFigure& painted : figures)
         painted.paintBeneath(graphics);
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+}
+
+void PaintedFigure::paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures)
+{
+    setSmooth(graphics, figures);
     for (const PaintedFigure& painted : figures)
         painted.figure->draw(&graphics);
     for (const PaintedFigure& painted : figures)

@@ -25,8 +25,10 @@ struct PaintedFigure {
 
     /// As BaseDraw::revision(), and another number for another look.
     quint64 revision() const;
-    /// Paints what lies beneath the strokes of all @p figures, and then those. With very many
-    /// points together they are not painted smooth.
+    /// Paints what lies beneath the strokes of all figures on the canvas.
+    static void paintBands(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
+    /// Paints strokes and signs. Neither is painted smooth where the figures have very many points
+    /// together, nor are bands.
     static void paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
 
 private:

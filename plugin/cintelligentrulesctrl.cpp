@@ -557,8 +557,10 @@ void CIntelligentRulesCtrl::sltSave()
         return;
     if (postResult()) {
         m_editing->history().setSaved();
+        m_saveCheck.forget();
         for (BaseTabelScene* scene : qAsConst(m_scenes)) {
             scene->SetDrawStatus(false);
+            scene->markFault(nullptr);
             scene->ruleData()->saveNotices().forgetLeftOut();
         }
         showNotices();

@@ -104,6 +104,13 @@ bool EditCommands::isForPicture(EditKey key)
     return key == EditKey::Idle || !editKeyWay(key).isNull();
 }
 
+/// What takes the figures as they are ends a move by keys first.
+bool EditCommands::actsOnWhole(EditKey key)
+{
+    return key == EditKey::Undo || key == EditKey::Redo || key == EditKey::Copy ||
+           key == EditKey::Paste || key == EditKey::Duplicate;
+}
+
 bool EditCommands::draws(EditKey key)
 {
     return key == EditKey::TakeBack || key == EditKey::Finish || key == EditKey::Leave;
@@ -119,7 +126,7 @@ QString EditCommands::use(EditKey key)
 {
     if (!isUseful(key))
         return {};
-    if (key == EditKey::Undo || key == EditKey::Redo) {
+    if (actsOnWhole(key)) {
         const QPointer<EditCommands> self(this);
         m_correcting.end();
         if (!self)

@@ -65,6 +65,7 @@ signals:
     void sgnMoved(const QPoint& at);
 
 private:
+    static bool actsOnWhole(EditKey key);
     bool isDrawing() const;
     int pointsInHand() const;
     DrawScene* canvas() const;

@@ -9,15 +9,38 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
+#include <algorithm>
+
 using kql::Json::Value;
 
 namespace
 {
 
+/// Of an entry, which is written deeper in a document than it lies in the clipboard.
+constexpr int kMostLevels = Limits::kJsonDepth / 2;
+
 const QString& mediaType()
 {
     static const QString type = QString::fromLatin1(RowContract::kEntryType);
     return type;
+}
+
+bool isNestedDeeper(const Value& value, int levels)
+{
+    if (levels == 0)
+        return true;
+    if (value.isArray()) {
+        for (int i = 0; i < value.size(); ++i) {
+            if (isNestedDeeper(value[i], levels - 1))
+                return true;
+        }
+    } else if (value.isObject()) {
+        const QStringList names = value.memberNames();
+        return std::any_of(names.begin(), names.end(), [&](const QString& name) {
+            return isNestedDeeper(value[std::string_view(name.toStdString())], levels - 1);
+        });
+    }
+    return false;
 }
 
 } // namespace
@@ -41,11 +64,11 @@ bool IntelligentRulesUI::EntryClipboard::hasEntry()
 
 Value IntelligentRulesUI::EntryClipboard::entry()
 {
-    const QByteArray text =
-        hasEntry() ? QGuiApplication::clipboard()->mimeData()->data(mediaType()) : QByteArray();
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    const QByteArray text = data ? data->data(mediaType()) : QByteArray();
     Value clip;
     const auto size = static_cast<std::size_t>(text.size());
     if (text.size() <= Limits::kMessageText)
         kql::Json::Reader().parse(std::string_view(text.constData(), size), clip);
-    return clip;
+    return isNestedDeeper(clip, kMostLevels) ? Value() : clip;
 }

@@ -71,7 +71,9 @@ int EntryTransfer::duplicate(const BaseTabelScene& panel, int dataId) const
 
 int EntryTransfer::paste(const BaseTabelScene& panel) const
 {
-    return add(panel, EntryClipboard::entry());
+    // It may have got other contents since it was asked.
+    const Value clip = EntryClipboard::entry();
+    return clip.isObject() && EntryClip::isFor(*panel.ruleData(), clip) ? add(panel, clip) : 0;
 }
 
 Value EntryTransfer::clipOf(const BaseTabelScene& panel, int dataId) const

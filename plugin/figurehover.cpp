@@ -19,7 +19,7 @@ void FigureHover::setPanel(BaseTabelScene* panel)
 void FigureHover::pointAt(const QPoint& at)
 {
     const DrawScene* const canvas = m_panel ? m_panel->getDrawScene() : nullptr;
-    if (!canvas || canvas->isDrawing())
+    if (!canvas || canvas->isDrawing() || canvas->hasPreview())
         return leave();
     const auto anyFigure = [](const DrawItem&) { return true; };
     m_panel->emphasise(canvas->figuresByPlace().under(at, anyFigure, false));

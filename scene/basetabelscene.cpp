@@ -221,6 +221,7 @@ void BaseTabelScene::restore(const SceneState& state, int dataId)
     getDrawScene()->resumeDrawing();
     SetDrawStatus(drewBefore || changesFigures);
     checkLayout();
+    showPointed();
 }
 
 bool BaseTabelScene::takesEntries() const
@@ -250,6 +251,8 @@ bool BaseTabelScene::makeCurrent(int dataId)
         refreshTabelDrawItem();
     showEntry(dataId);
     checkLayout();
+    if (self)
+        showPointed();
     return self;
 }
 
