@@ -112,6 +112,10 @@ private slots:
                     const Value expected = rotated(from.written(), scene, i);
                     QVERIFY2(to.written() == expected, qPrintable(to.written().toStyledText()));
                     QCOMPARE(to.parser.notices(), QStringList());
+                    const Value again = to.parser.copyOf(scene, *scene.getDataInfo(id));
+                    removeEntry(scene, id);
+                    EntryPaste(scene, digest).add(again);
+                    QVERIFY2(to.written() == expected, "a copy of the copy");
                     ++copied;
                 }
             }
@@ -147,6 +151,24 @@ private slots:
                  Fixtures::textsOf(fixture["notices"]).join('\n'));
         document.scene().saveNotices().forgetLeftOut();
         QVERIFY(!document.parser.notices().join(' ').contains("left out"));
+    }
+
+    /// However much was left out before.
+    void tellsWhatWasLeftOutLast()
+    {
+        const Document document(kTemplate, kGate);
+        Value many;
+        for (int i = 0; i < 200; ++i) {
+            Value attribute = Mailbox::json(R"({"value": 1})");
+            attribute["key"] = attribute["caption"] = QString("Unknown%1").arg(i);
+            many["attributes"].append(attribute);
+        }
+        EntryPaste(document.scene(), {}).add(many);
+        QVERIFY(document.parser.notices().join(' ').contains("Unknown199"));
+        EntryPaste(document.scene(), {})
+            .add(Mailbox::json(
+                R"({"attributes": [{"key": "Last", "caption": "Last", "value": 1}]})"));
+        QVERIFY(document.parser.notices().join(' ').contains("Last"));
     }
 
     void refusesTooMuch_data()
