@@ -96,7 +96,8 @@ private slots:
                 // The box of a name takes its beginning only.
                 if (qobject_cast<const QLineEdit*>(widget))
                     text += kText.mid(text.size());
-                text.remove(QRegularExpression("^(Redraw|Delete) |^(Whole n|N)umbers?, .*unit: |z*$"));
+                text.remove(
+                    QRegularExpression("^(Redraw|Delete) |^(Whole n|N)umbers?, .*unit: |z*$"));
                 QVERIFY2(text == kText, qPrintable(text));
                 ++kinds[widget->metaObject()->className()];
             }
