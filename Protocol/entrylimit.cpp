@@ -64,6 +64,7 @@ qint64 EntryLimit::textHeld(const RuleData& data)
     for (const DrawItem* figure : data.getDrawScene()->getItemList(BaseDrawType::None, 0))
         text += Limits::kFigureText + qint64{Limits::kPointText} * figure->getPoints().size();
     for (const auto& entry : data.getAllData()) {
+        text += entry->source() ? entry->source()->styledLength() : 0;
         for (const auto& item : data.getTemplate()->items())
             text += Limits::kValueText + EntryReader::textIn(entry->value(item->key()));
     }

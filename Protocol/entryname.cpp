@@ -32,7 +32,7 @@ QSet<QString> takenNames(const RuleData& data)
 /// How many of the digits that @p name ends in are counted on.
 int digitsAtEnd(const QString& name)
 {
-    constexpr int kMostDigits = 9; // more do not fit a number
+    constexpr int kMostDigits = 19; // more do not fit a number
     const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
     int count = 0;
     while (count < qMin(kMostDigits, name.size()) && isDigit(name[name.size() - 1 - count]))
@@ -82,7 +82,7 @@ QString EntryName::ofCopy(const RuleData& data, const QString& wanted)
     const QSet<QString> taken = takenNames(data);
     const int digits = digitsAtEnd(wanted);
     const QString stem = wanted.chopped(digits);
-    qint64 number = digits > 0 ? wanted.right(digits).toLongLong() : 1;
+    quint64 number = digits > 0 ? wanted.right(digits).toULongLong() : 1;
     QString name = wanted;
     while (taken.contains(name)) {
         const QString count = QStringLiteral("%1").arg(++number, digits, 10, QLatin1Char('0'));

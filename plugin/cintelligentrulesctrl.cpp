@@ -822,14 +822,13 @@ void CIntelligentRulesCtrl::sltMenuWanted(int dataId, const QPoint& place)
         m_menu->close();
     m_menu = new EntryMenu(*panel, dataId, m_editing->transfer(), this);
     // Not in the middle of the menu's own work: what was chosen may end the window.
-    connect(m_menu, &EntryMenu::sgnChosen, this,
-            [this, panel, dataId, load = m_loadNumber](EntryAction action) {
-                const auto use = [this, panel, dataId, load, action] {
-                    if (load == m_loadNumber)
-                        useMenu(panel, dataId, action);
-                };
-                QMetaObject::invokeMethod(this, use, Qt::QueuedConnection);
-            });
+    connect(
+        m_menu, &EntryMenu::sgnChosen, this,
+        [this, panel, dataId, load = m_loadNumber](EntryAction action) {
+            if (load == m_loadNumber)
+                useMenu(panel, dataId, action);
+        },
+        Qt::QueuedConnection);
     m_menu->popup(place);
 }
 

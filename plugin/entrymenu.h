@@ -36,3 +36,5 @@ private:
 };
 
 } // namespace IntelligentRulesUI
+
+Q_DECLARE_METATYPE(IntelligentRulesUI::EntryAction)

@@ -222,8 +222,10 @@ private slots:
         QTest::newRow("cut") << QStringList(twenty) << twenty << "abcdefghijklmnopqrs2";
         QTest::newRow("cut more") << QStringList("abcdefghijklmnopqr99") << "abcdefghijklmnopqr99"
                                   << "abcdefghijklmnopq100";
-        QTest::newRow("many digits")
-            << QStringList(QString(20, '9')) << QString(20, '9') << "99999999991000000000";
+        QTest::newRow("many digits") << QStringList("Gate9999999999") << "Gate9999999999"
+                                     << "Gate10000000000";
+        QTest::newRow("nothing but digits")
+            << QStringList(QString(20, '9')) << QString(20, '9') << "10000000000000000000";
         QTest::newRow("no half character")
             << QStringList("abcdefghijklmnopqr\U0001F6A6") << "abcdefghijklmnopqr\U0001F6A6"
             << "abcdefghijklmnopqr2";
