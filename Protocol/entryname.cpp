@@ -93,7 +93,11 @@ QString EntryName::ofCopy(const RuleData& data, const QString& wanted)
 
 QString EntryName::button(const RuleData& data, int position)
 {
-    const QString name = nameAt(data, position);
+    return button(data, nameAt(data, position), position);
+}
+
+QString EntryName::button(const RuleData& data, const QString& name, int position)
+{
     if (!name.isEmpty())
         return name;
     const bool isOnlyOne = data.getTemplate() && data.getTemplate()->countRange().max < 2;

@@ -34,6 +34,8 @@ constexpr int kMaxLength = 20;
 /// Button text of the entry at @p position: its name, else the scene's word for an entry
 /// followed by the 1-based position where several are allowed.
 QString button(const RuleData& data, int position);
+/// The same for an entry called @p name that is not there now.
+QString button(const RuleData& data, const QString& name, int position);
 
 /// Label of the @p number-th (from 1) figure of a child item: its caption, numbered where
 /// several are allowed.

@@ -15,6 +15,7 @@
 #include "Protocol/sceneprotocol.h"
 #include "Protocol/sceneprotocols.h"
 #include "Protocol/validity.h"
+#include "Protocol/valuefit.h"
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
@@ -92,17 +93,32 @@ void EntryPaste::readAttributes(const Value& list, RuleDataInfo& entry)
         const RuleProtocolItem* const item =
             m_data.getTemplate()->findItem(list[i][EntryClip::kKey].asString());
         const Value& value = list[i][EntryClip::kValue];
-        // What the other document does not say has the default here.
-        if (value.isNull() && !m_isFromHere)
+        // What the other entry does not say has the default here.
+        if (value.isNull())
             continue;
-        if (item && !item->isFigure()) {
-            RuleProtocolItem alone = *item;
-            alone.setIndex(-1);
-            reader.readValue(alone, value, entry);
-        } else if (!value.isNull()) {
+        if (item && !item->isFigure())
+            readAttribute(reader, *item, value, entry);
+        else
             leaveOut(list[i], entry);
-        }
     }
+}
+
+/// Values that no row here could have been given are not sent unseen. Within one document they are
+/// what the device sent.
+void EntryPaste::readAttribute(const EntryReader& reader, const RuleProtocolItem& item,
+                               const Value& value, RuleDataInfo& entry)
+{
+    const RuleDataInfo before = entry;
+    RuleProtocolItem alone = item;
+    alone.setIndex(-1);
+    reader.readValue(alone, value, entry);
+    const QString& key = item.key();
+    if (m_isFromHere || (!entry.isMisfit(key) && ValueFit::isPossible(item, entry.value(key))))
+        return;
+    entry = before;
+    m_data.saveNotices().add(SaveNotices::Kind::NotTaken,
+                             ShortenedText::line(SaveNotices::subject(item), kLongestCaption),
+                             entry);
 }
 
 std::vector<CopiedFigure> EntryPaste::readFigures(const Value& list, const RuleDataInfo& entry)

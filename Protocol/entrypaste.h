@@ -6,6 +6,7 @@
 #include <QString>
 #include <vector>
 
+class EntryReader;
 class RuleData;
 class RuleDataInfo;
 class RuleProtocolItem;
@@ -28,13 +29,15 @@ public:
     }
 
     /// Adds @p clip as the last entry, with its figures, and tells the scene what the template has
-    /// no attribute for. Returns its id; 0, with nothing added, when the scene would hold more than
-    /// a document may, or has no template.
+    /// no attribute for, or other values. Returns its id; 0, with nothing added, when the scene
+    /// would hold more than a document may, or has no template.
     int add(const kql::Json::Value& clip);
 
 private:
     void readSource(const kql::Json::Value& clip, RuleDataInfo& entry);
     void readAttributes(const kql::Json::Value& list, RuleDataInfo& entry);
+    void readAttribute(const EntryReader& reader, const RuleProtocolItem& item,
+                       const kql::Json::Value& value, RuleDataInfo& entry);
     std::vector<CopiedFigure> readFigures(const kql::Json::Value& list, const RuleDataInfo& entry);
     void draw(const std::vector<CopiedFigure>& figures, const RuleDataInfo& entry);
     void leaveOut(const kql::Json::Value& left, const RuleDataInfo& entry);

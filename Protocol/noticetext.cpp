@@ -26,6 +26,7 @@ bool stands(const SaveNotices::Topic& topic, const SaveNotices::Found& found, co
     case SaveNotices::Kind::Changed:
     case SaveNotices::Kind::Unnamed:
     case SaveNotices::Kind::LeftOut:
+    case SaveNotices::Kind::NotTaken:
         break;
     }
     return entry->value(topic.key) == found.value;
@@ -52,6 +53,9 @@ QString sentence(const SaveNotices::Topic& topic, const RuleData& data)
         return SaveNotices::tr("%1 is not saved: no attribute names it.").arg(subject);
     if (topic.kind == SaveNotices::Kind::LeftOut)
         return SaveNotices::tr("%1 was left out of the copy: there is no such attribute here.")
+            .arg(subject);
+    if (topic.kind == SaveNotices::Kind::NotTaken)
+        return SaveNotices::tr("%1 has its default in the copy: the value is not possible here.")
             .arg(subject);
     return SaveNotices::tr("%1 cannot be shown; it is saved as it was read until it is edited.")
         .arg(subject);

@@ -14,6 +14,11 @@ constexpr std::size_t kMostTopics = 64;
 // No device has more to tell; keeps absurd documents from filling the memory.
 constexpr int kMostFound = 100000;
 
+bool isOfCopy(SaveNotices::Kind kind)
+{
+    return kind == SaveNotices::Kind::LeftOut || kind == SaveNotices::Kind::NotTaken;
+}
+
 QString nameOf(SaveNotices::Kind kind, const QString& subject)
 {
     return QString::number(static_cast<int>(kind)) + subject;
@@ -53,10 +58,10 @@ void SaveNotices::add(Kind kind, const QString& subject, const RuleDataInfo& ent
 /// What was left out of the last copies does not keep out the rest, nor the next ones.
 bool SaveNotices::hasRoomFor(Kind kind)
 {
-    const auto isLeftOut = [](const Topic& topic) { return topic.kind == Kind::LeftOut; };
+    const auto isLeftOut = [](const Topic& topic) { return isOfCopy(topic.kind); };
     const auto leftOut =
         static_cast<std::size_t>(std::count_if(m_topics.begin(), m_topics.end(), isLeftOut));
-    if (kind != Kind::LeftOut)
+    if (!isOfCopy(kind))
         return m_topics.size() - leftOut < kMostTopics;
     if (leftOut >= kMostTopics)
         forgetLeftOut();
@@ -68,7 +73,7 @@ void SaveNotices::forgetLeftOut()
     std::vector<Topic> kept;
     m_topicOf.clear();
     for (Topic& topic : m_topics) {
-        if (topic.kind == Kind::LeftOut) {
+        if (isOfCopy(topic.kind)) {
             m_count -= static_cast<int>(topic.found.size());
             continue;
         }

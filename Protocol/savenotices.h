@@ -23,9 +23,10 @@ public:
         NotShown, ///< no row can show it; it is saved as it was read
         NameNotShown,
         StateNotShown,
-        Changed, ///< it is saved, but not as it was read
-        Unnamed, ///< no attribute names it
-        LeftOut, ///< it was copied from where there is more
+        Changed,  ///< it is saved, but not as it was read
+        Unnamed,  ///< no attribute names it
+        LeftOut,  ///< it was copied from where there is more
+        NotTaken, ///< it was copied from where other values are possible
     };
 
     /// @p item has no place, and nothing else is told of it; @p sentence says why.
@@ -35,7 +36,7 @@ public:
     void add(Kind kind, const QString& subject, const RuleDataInfo& entry,
              const QString& key = QString());
 
-    /// Tells no longer what was left out of copies.
+    /// Tells no longer what copies lack.
     void forgetLeftOut();
 
     /// Whether it was told that what @p entry was read with under @p key is not saved.

@@ -14,7 +14,7 @@ struct SceneChange {
     };
 
     Kind kind = Kind::None;
-    int dataId = 0; ///< of the entry that was changed; 0 when it is gone
+    int dataId = 0; ///< of the entry that was changed, or is gone
     int itemId = 0; ///< of the figure drawn; 0 for none
 
     static SceneChange between(const SceneState& before, const SceneState& after);

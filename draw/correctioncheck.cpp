@@ -46,7 +46,10 @@ CorrectionCheck::CorrectionCheck(const FigureSurroundings& surroundings, const D
         return;
     const auto out = outside(m_original);
     for (const auto& child : item.children()) {
-        const QVector<QPoint> points = child->value().points();
+        const Figure inside = child->value();
+        if (FigureMove::carries(m_original, inside))
+            continue;
+        const QVector<QPoint> points = inside.points();
         for (const QPoint& point : points) {
             if (!out->contains(onCanvas(point)))
                 m_inside.append(onCanvas(point));

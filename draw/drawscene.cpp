@@ -404,6 +404,12 @@ void DrawScene::resumeDrawing()
         renewForbidenArea(*item);
 }
 
+void DrawScene::selectNothing(int dataId)
+{
+    m_message.clear();
+    setSelected(0, dataId);
+}
+
 void DrawScene::setForbidenArea(std::unique_ptr<ForbidenArea> area, const DrawItem* item)
 {
     m_forbidenArea = std::move(area);

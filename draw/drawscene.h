@@ -81,6 +81,8 @@ public:
     /// Goes on with the figure being drawn, which has points already: what is forbidden to it is
     /// what was while they were drawn.
     void resumeDrawing();
+    /// Selects no figure of that entry, and says no more what is to be drawn.
+    void selectNothing(int dataId);
     /// Clears the item's figure so that it is drawn again.
     void redrawItem(int id);
 

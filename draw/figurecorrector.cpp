@@ -80,7 +80,7 @@ void FigureCorrector::start(const Target& target)
                                                 m_rule(*target.item));
     choose(*target.item, target.line >= 0 ? target.line + 1 : target.corner);
     m_hoveredId = m_itemId;
-    moveTo({});
+    moveTo({}, {});
 }
 
 void FigureCorrector::choose(const DrawItem& item, int corner)
@@ -95,11 +95,11 @@ bool FigureCorrector::isNewCorner() const
     return isMoving() && m_corner != kWhole && m_move->originOf(m_corner) < 0;
 }
 
-bool FigureCorrector::moveTo(const QPoint& way)
+bool FigureCorrector::moveTo(const QPoint& from, const QPoint& to)
 {
     if (!isMoving())
         return false;
-    const Figure moved = m_move->by(normalized(way));
+    const Figure moved = m_move->by(normalized(pastBorder(from, to)));
     if (m_moved && *m_moved == moved)
         return false;
     m_moved = std::make_unique<Figure>(moved);
@@ -109,18 +109,34 @@ bool FigureCorrector::moveTo(const QPoint& way)
     return true;
 }
 
+/// A handle that was taken beside its middle gets there with the mouse, which goes no farther.
+QPoint FigureCorrector::pastBorder(const QPoint& from, const QPoint& to) const
+{
+    const QSize canvas = m_scene->canvasSize();
+    const auto further = [](int start, int end, int extent) {
+        const bool isAtBorder = start != end && (end <= 0 || end >= extent);
+        return !isAtBorder ? 0 : end <= 0 ? -FigureShape::kReach : FigureShape::kReach;
+    };
+    const QPoint way = to - from;
+    if (m_corner == kWhole)
+        return way;
+    return way + QPoint(further(from.x(), to.x(), canvas.width()),
+                        further(from.y(), to.y(), canvas.height()));
+}
+
 bool FigureCorrector::letGo()
 {
     if (!isMoving())
         return false;
-    const Figure original = m_move->original();
+    const FigureMove way = *m_move;
     const Figure moved = *m_moved;
     const DrawRefusal refusal = m_refusal;
     const int corner = m_corner;
     DrawItem* item = chosenItem();
     putBack();
     // Something else may have drawn it anew meanwhile.
-    const bool isChanged = item && item->value() == original && change(*item, moved, refusal);
+    const bool isChanged =
+        item && item->value() == way.original() && move(*item, moved, way, refusal);
     if (isChanged)
         choose(*item, corner);
     return isChanged;
@@ -169,11 +185,11 @@ bool FigureCorrector::moveChosen(const QPoint& pixels)
     if (!item || isMoving() || !mayTake(*item))
         return false;
     const Figure figure = item->value();
-    const FigureMove move =
+    const FigureMove way =
         m_corner == kWhole ? FigureMove::ofWhole(figure) : FigureMove::ofCorner(figure, m_corner);
     const CorrectionCheck check(m_scene->surroundings(), *item, m_rule(*item));
-    const Figure moved = move.by(normalized(pixels));
-    return change(*item, moved, check.ofMove(moved, move));
+    const Figure moved = way.by(normalized(pixels));
+    return move(*item, moved, way, check.ofMove(moved, way));
 }
 
 bool FigureCorrector::removeChosen()
@@ -213,6 +229,20 @@ bool FigureCorrector::change(DrawItem& item, const Figure& figure, DrawRefusal r
     return item.figure()->setFigure(figure);
 }
 
+/// The same, with what the figure carries.
+bool FigureCorrector::move(DrawItem& item, const Figure& moved, const FigureMove& move,
+                           DrawRefusal refusal)
+{
+    if (!change(item, moved, refusal))
+        return false;
+    for (const auto& child : item.children()) {
+        const Figure was = child->value();
+        if (FigureMove::carries(move.original(), was))
+            child->figure()->setFigure(move.carried(was, moved));
+    }
+    return true;
+}
+
 FigureCorrector::Target FigureCorrector::handleAt(const QPoint& at) const
 {
     Target found;
@@ -249,8 +279,11 @@ DrawItem* FigureCorrector::hoveredAt(const QPoint& at) const
 
 bool FigureCorrector::mayTake(const DrawItem& item) const
 {
+    const bool isCarried =
+        item.parent() && FigureMove::carries(item.parent()->value(), item.value());
     return item.figure() && item.isFinished() && item.dataId() == m_scene->currentDataId() &&
-           item.value().pointCount() <= Limits::kCorrectedPoints && !m_scene->isDrawing();
+           !isCarried && item.value().pointCount() <= Limits::kCorrectedPoints &&
+           !m_scene->isDrawing();
 }
 
 DrawItem* FigureCorrector::chosenItem() const
@@ -263,17 +296,6 @@ QPoint FigureCorrector::normalized(const QPoint& pixels) const
     const QSize canvas = m_scene->canvasSize();
     return {normalizedStep(pixels.x(), canvas.width()),
             normalizedStep(pixels.y(), canvas.height())};
-}
-
-/// The first point alone is no line yet.
-void FigureCorrector::drawPointsInHand(const HandlePainter& painter) const
-{
-    const DrawItem* drawn =
-        m_scene->isDrawing() ? m_scene->selectedItem(m_scene->currentDataId()) : nullptr;
-    if (!drawn || drawn->value().pointCount() > Limits::kCorrectedPoints)
-        return;
-    for (const QPoint& point : drawn->figure()->canvasPoints())
-        painter.handle(point, false, false);
 }
 
 bool FigureCorrector::isChosen(const FigureHandle& handle) const
@@ -289,7 +311,6 @@ void FigureCorrector::draw(Gdiplus::Graphics* graphics) const
     if (!graphics || !m_scene)
         return;
     const HandlePainter painter(*graphics);
-    drawPointsInHand(painter);
     for (const int id : {m_hoveredId, m_itemId}) {
         const DrawItem* item = m_scene->findItem(id);
         if (!item || !mayTake(*item))

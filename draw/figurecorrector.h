@@ -50,8 +50,9 @@ public:
     /// where there is nothing to take; then nothing is chosen.
     bool take(const QPoint& at, bool isWhole);
     bool isMoving() const { return m_move != nullptr; }
-    /// Shows what was taken as far as @p way from where it was. Whether it looks different now.
-    bool moveTo(const QPoint& way);
+    /// Shows what was taken as far from where it was as @p to is from @p from. A corner follows
+    /// onto the border of the picture. Whether it looks different now.
+    bool moveTo(const QPoint& from, const QPoint& to);
     /// Ends the move where it is, or where it began when it may not be there. Whether the figure
     /// is another one now.
     bool letGo();
@@ -71,7 +72,7 @@ public:
     /// Removes the corner at @p at. Whether it did.
     bool removeAt(const QPoint& at);
 
-    /// Paints the handles, and the points of a figure that is being drawn.
+    /// Paints the handles.
     void draw(Gdiplus::Graphics* graphics) const;
 
 private:
@@ -92,9 +93,10 @@ private:
     void choose(const DrawItem& item, int corner);
     bool isNewCorner() const;
     bool isChosen(const FigureHandle& handle) const;
-    void drawPointsInHand(const HandlePainter& painter) const;
     bool removeCorner(DrawItem& item, int corner);
     bool change(DrawItem& item, const Figure& figure, DrawRefusal refusal);
+    bool move(DrawItem& item, const Figure& moved, const FigureMove& move, DrawRefusal refusal);
+    QPoint pastBorder(const QPoint& from, const QPoint& to) const;
     QPoint normalized(const QPoint& pixels) const;
 
     DrawScene* m_scene = nullptr; ///< not owned

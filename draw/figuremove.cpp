@@ -92,6 +92,26 @@ Figure FigureMove::by(const QPoint& difference) const
     return moved;
 }
 
+bool FigureMove::carries(const Figure& area, const Figure& child)
+{
+    const QVector<QPoint>& ends = child.points();
+    return area.edgeLabelMode() == EdgeLabelMode::LengthAndWidth && ends.size() == 2 &&
+           std::all_of(ends.begin(), ends.end(),
+                       [&area](const QPoint& end) { return area.points().contains(end); });
+}
+
+Figure FigureMove::carried(const Figure& child, const Figure& moved) const
+{
+    Figure along = child;
+    for (int i = 0; i < child.pointCount(); ++i) {
+        for (int corner = 0; corner < moved.pointCount(); ++corner) {
+            if (m_original.pointAt(originOf(corner)) == child.points()[i])
+                along.setPoint(i, moved.points()[corner]);
+        }
+    }
+    return along;
+}
+
 int FigureMove::originOf(int index) const
 {
     if (m_newIndex < 0 || index < m_newIndex)

@@ -24,6 +24,11 @@ public:
     /// The figure moved by @p difference, or as far of it as the picture goes: it stops where a
     /// point would leave, on each axis. By nothing it is the original.
     Figure by(const QPoint& difference) const;
+    /// Whether @p child is a line from one corner of an area of known size to another, as the
+    /// staffs that say its length and width are. It is no figure of its own.
+    static bool carries(const Figure& area, const Figure& child);
+    /// Where @p child goes that is carried when the figure becomes @p moved.
+    Figure carried(const Figure& child, const Figure& moved) const;
     /// The point of the original that came to be point @p index; -1 for a new one.
     int originOf(int index) const;
 

@@ -153,14 +153,20 @@ bool CIntelligentRulesCtrl::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Paint)
         followPicture();
-    if (event->type() == QEvent::Leave && m_editing->correcting().leave())
-        repaintPicture();
     // The surface places its picture while it handles these.
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         QMetaObject::invokeMethod(
             this, [this] { followPicture(); }, Qt::QueuedConnection);
-    m_hover->see(*event, m_videoRect);
+    if (FigureHover::isLeaving(*event, m_videoRect))
+        leavePicture();
     return QWidget::eventFilter(watched, event);
+}
+
+void CIntelligentRulesCtrl::leavePicture()
+{
+    m_hover->leave();
+    if (m_editing->correcting().leave())
+        repaintPicture();
 }
 
 void CIntelligentRulesCtrl::sltPictureRectChanged()

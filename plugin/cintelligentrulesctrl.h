@@ -115,6 +115,7 @@ private:
     void followPicture();
     void fitCanvas();
     void tellSurface();
+    void leavePicture();
     void repaintPicture();
     /// What a press and a move do, of the mouse or by keys; canvas pixels.
     void pressAt(Qt::MouseButton button, const QPoint& at, Qt::KeyboardModifiers modifiers);

@@ -38,7 +38,7 @@ public:
     /// Takes or lets go at @p at with a key, so that moveTo() moves.
     void toggle(const QPoint& at);
     bool isMovedByKeys() const { return m_by == By::Keys; }
-    bool moveTo(const QPoint& at) { return m_figures.moveTo(at - m_takenAt); }
+    bool moveTo(const QPoint& at) { return m_figures.moveTo(m_takenAt, at); }
 
     /// The mouse has left the surface. Whether the canvas looks different now.
     bool leave() { return m_figures.hover(std::nullopt); }

@@ -1,10 +1,8 @@
 #include "plugin/edithistory.h"
 
-#include "Protocol/datatemplate.h"
-#include "Protocol/entryname.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
-#include "Protocol/ruleprotocolitem.h"
+#include "plugin/steptitle.h"
 #include "scene/basetabelscene.h"
 
 #include <QPointer>
@@ -43,10 +41,13 @@ void putAfter(EditStep& drawing, std::vector<EditStep>& others)
         return;
     const int entry = lastMine->change.dataId;
     const bool isWhole = last.withEntry(lastMine->after.entry(entry)).isSameAs(last);
-    const bool isOneEntry = std::all_of(others.begin(), others.end(), [&](const EditStep& step) {
-        return !isMine(step) || step.change.dataId == entry;
+    // A row may have turned the figure, too.
+    const bool areValues = std::all_of(others.begin(), others.end(), [&](const EditStep& step) {
+        return !isMine(step) ||
+               (step.change.dataId == entry &&
+                step.before.withEntry(step.after.entry(entry)).isSameAs(step.after));
     });
-    if (!isWhole || !isOneEntry) {
+    if (!isWhole || !areValues) {
         others.erase(std::remove_if(others.begin(), others.end(), isMine), others.end());
         return;
     }
@@ -135,10 +136,13 @@ void EditHistory::noteScene(int scene, const QString& row, const QString& series
     step.change = SceneChange::between(step.before, step.after);
     // A row may turn the figure that it describes.
     if (step.change.kind != Kind::None && !row.isEmpty())
-        step.change = {Kind::Attribute, step.after.selectedDataId(), 0};
+        step.change = {Kind::Attribute,
+                       step.change.kind == Kind::Attribute ? step.change.dataId
+                                                           : step.after.selectedDataId(),
+                       0};
     if (step.change.kind == Kind::None || step.change.kind == Kind::Picked)
         return;
-    step.title = title.isEmpty() ? titleOf(step) : title;
+    step.title = title.isEmpty() ? StepTitle::of(step, *m_panels[scene]->ruleData()) : title;
     const SceneChange change = step.change;
     const int drawn = m_stack.index() - firstPointOf(scene, change.itemId);
     {
@@ -232,36 +236,6 @@ int EditHistory::firstPointOf(int scene, int itemId) const
 const EditStep& EditHistory::step(int index) const
 {
     return static_cast<const Command*>(m_stack.command(index))->step();
-}
-
-QString EditHistory::titleOf(const EditStep& step) const
-{
-    const RuleData& data = *m_panels[step.scene]->ruleData();
-    const int position = data.indexOf(step.change.dataId);
-    const QString name = position < 0 ? QString() : EntryName::button(data, position);
-    switch (step.change.kind) {
-    case Kind::Attribute: {
-        const RuleProtocolItem* const item = data.getTemplate()->findItem(step.row);
-        return item ? QStringLiteral("%1 (%2)").arg(item->caption(), name) : name;
-    }
-    case Kind::Drawn:
-        return tr("Point");
-    case Kind::Begun: {
-        const bool isNew =
-            !step.before.entry(step.change.dataId) || !step.before.figure(step.change.itemId);
-        return (isNew ? tr("Add %1") : tr("Redraw %1")).arg(name);
-    }
-    default:
-        break;
-    }
-    if (step.before.entries().size() < step.after.entries().size())
-        return tr("Add %1").arg(name);
-    const FigureState* const figure = step.after.figure(step.change.itemId);
-    if (figure && step.before.figure(step.change.itemId))
-        return tr("Correct %1").arg(figure->figure.label());
-    return step.before.figures().size() > step.after.figures().size() || name.isEmpty()
-               ? tr("Delete")
-               : name;
 }
 
 void EditHistory::setSaved()

@@ -65,7 +65,6 @@ private:
     std::vector<int> drawingSteps(int scene) const;
     int beginOf(int scene, int dataId) const;
     int firstPointOf(int scene, int itemId) const;
-    QString titleOf(const EditStep& step) const;
     void show(int scene, const SceneState& state, int dataId);
     const EditStep& step(int index) const;
 

@@ -31,14 +31,13 @@ void FigureHover::leave()
         m_panel->emphasise(nullptr);
 }
 
-void FigureHover::see(const QEvent& event, const QRect& picture)
+bool FigureHover::isLeaving(const QEvent& event, const QRect& picture)
 {
     constexpr int reach = FigureShape::kReach;
     const bool isBeside = event.type() == QEvent::MouseMove &&
                           !picture.adjusted(-reach, -reach, reach, reach)
                                .contains(static_cast<const QMouseEvent&>(event).pos());
-    if (event.type() == QEvent::Leave || isBeside)
-        leave();
+    return event.type() == QEvent::Leave || isBeside;
 }
 
 } // namespace IntelligentRulesUI

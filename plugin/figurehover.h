@@ -26,9 +26,9 @@ public:
     /// The pointer is at @p at, in canvas pixels.
     void pointAt(const QPoint& at);
     void leave();
-    /// Leaves, too, when an event of the surface tells that the pointer is not over @p picture, in
-    /// pixels of the surface: it delivers no moves there.
-    void see(const QEvent& event, const QRect& picture);
+    /// Whether an event of the surface tells that the pointer is not over @p picture, in pixels of
+    /// the surface: it delivers no moves there.
+    static bool isLeaving(const QEvent& event, const QRect& picture);
 
 private:
     QPointer<BaseTabelScene> m_panel;

@@ -240,7 +240,7 @@ bool BaseTabelScene::makeCurrent(int dataId)
 {
     const QPointer<BaseTabelScene> self(this);
     const bool isNew = isBound() && !widgets().drawItems->findDataButton(dataId);
-    const bool isThere = (!isNew || takeFocusFrom(*widgets().drawItems)) &&
+    const bool isThere = takeFocusFrom(*widgets().drawItems) &&
                          takeFocusFrom(*widgets().childDrawItems) && isBound() &&
                          m_data->getDataInfo(dataId);
     if (!isThere)
@@ -260,7 +260,10 @@ void BaseTabelScene::selectFigure(int itemId, int dataId)
 {
     if (DrawItemButton* child = widgets().childDrawItems->findButton(itemId))
         widgets().childDrawItems->setCurrentButton(child, false);
-    getDrawScene()->setSelected(itemId, dataId);
+    if (itemId == 0)
+        getDrawScene()->selectNothing(dataId);
+    else
+        getDrawScene()->setSelected(itemId, dataId);
 }
 
 void BaseTabelScene::showFault(const CheckFault& fault)

@@ -3,6 +3,22 @@
 #include "draw/basedraw.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
+#include "host/api/limits.h"
+
+#include <algorithm>
+
+namespace
+{
+
+bool hasCorrectable(const DrawScene& canvas)
+{
+    const auto figures = canvas.getItemListByDataId(canvas.currentDataId());
+    return std::any_of(figures.begin(), figures.end(), [](const DrawItem* figure) {
+        return figure->value().pointCount() <= Limits::kCorrectedPoints;
+    });
+}
+
+} // namespace
 
 QString DrawingHint::of(const DrawScene& canvas, bool mayCorrect)
 {
@@ -17,7 +33,7 @@ QString DrawingHint::of(const DrawScene& canvas, bool mayCorrect)
     if (canvas.refusal() == DrawRefusal::Needed)
         return tr("Refused: it needs all its corners.");
     if (!canvas.isDrawing())
-        return mayCorrect && !canvas.getItemListByDataId(canvas.currentDataId()).isEmpty()
+        return mayCorrect && hasCorrectable(canvas)
                    ? tr("Drag corners to correct, with Ctrl the figure.")
                    : tr("Redraw draws the figure anew.");
     const BaseDraw& drawn = *canvas.selectedItem(canvas.currentDataId())->figure();

@@ -37,7 +37,7 @@ ControlTabel* rowOf(const SceneWidgets& widgets, const CheckFault& fault)
 
 bool isUsable(const QWidget* widget)
 {
-    return widget && widget->isEnabled() && !widget->isHidden();
+    return widget && widget->isEnabled() && widget->isVisible();
 }
 
 /// What the row is edited with: an edit that is empty, an option that is chosen, or the first.

@@ -15,6 +15,12 @@ namespace
 
 constexpr int kMaxTextLength = 5;
 
+/// The focus goes to a menu or another window, or comes back from there.
+bool isForAWhile(Qt::FocusReason reason)
+{
+    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
+}
+
 } // namespace
 
 DrawItemButton::DrawItemButton(int id, int dataId, BaseDrawType type, QWidget* parent)
@@ -153,15 +159,18 @@ void DrawItemButton::keyPressEvent(QKeyEvent* event)
 void DrawItemButton::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call): skipped on purpose
-    m_hasKeyFocus =
-        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    // Coming back from a menu or another window is neither by mouse nor by key.
+    if (!isForAWhile(event->reason()))
+        m_hasKeyFocus =
+            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     emit sgnPointed();
 }
 
 void DrawItemButton::focusOutEvent(QFocusEvent* event)
 {
     QPushButton::focusOutEvent(event);
-    m_hasKeyFocus = false;
+    if (!isForAWhile(event->reason()))
+        m_hasKeyFocus = false;
     emit sgnPointed();
 }
 

@@ -403,16 +403,24 @@
         <translation>%1 neu zeichnen</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
-    </message>
-    <message>
         <source>Leave drawing</source>
         <translation>Zeichnen verlassen</translation>
     </message>
     <message>
         <source>Correct %1</source>
         <translation>%1 korrigieren</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>%1 löschen</translation>
+    </message>
+    <message>
+        <source>Rename %1</source>
+        <translation>%1 umbenennen</translation>
+    </message>
+    <message>
+        <source>Switch %1</source>
+        <translation>%1 umschalten</translation>
     </message>
 </context>
 <context>
@@ -730,6 +738,10 @@
     <message>
         <source>%1 was left out of the copy: there is no such attribute here.</source>
         <translation>%1 fehlt in der Kopie: Ein solches Attribut gibt es hier nicht.</translation>
+    </message>
+    <message>
+        <source>%1 has its default in the copy: the value is not possible here.</source>
+        <translation>%1 hat in der Kopie den Vorgabewert: Der kopierte Wert ist hier nicht möglich.</translation>
     </message>
 </context>
 <context>

@@ -403,16 +403,24 @@
         <translation>重绘%1</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>删除</translation>
-    </message>
-    <message>
         <source>Leave drawing</source>
         <translation>退出绘制</translation>
     </message>
     <message>
         <source>Correct %1</source>
         <translation>修正 %1</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>删除%1</translation>
+    </message>
+    <message>
+        <source>Rename %1</source>
+        <translation>重命名%1</translation>
+    </message>
+    <message>
+        <source>Switch %1</source>
+        <translation>切换%1</translation>
     </message>
 </context>
 <context>
@@ -730,6 +738,10 @@
     <message>
         <source>%1 was left out of the copy: there is no such attribute here.</source>
         <translation>副本中省略了%1：此处没有这样的属性。</translation>
+    </message>
+    <message>
+        <source>%1 has its default in the copy: the value is not possible here.</source>
+        <translation>%1在副本中为默认值：此处不允许该值。</translation>
     </message>
 </context>
 <context>

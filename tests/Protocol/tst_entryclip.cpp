@@ -26,7 +26,10 @@ const char* const kTemplate = R"({
         {"key": "T", "protocol": {"name": "T", "type": "array int", "index": -1}},
         {"key": "O", "protocol": {"name": "O", "type": "object", "index": -1}},
         {"key": "P[]", "protocol": {"name": "P[]", "type": "point", "index": -1}}]}}},
-    "configItems": {"A": {"describe": "a", "facade": "inputBoxNumber"},
+    "configItems": {"A": {"describe": "a", "facade": "inputBoxNumber", "range": [1, 600]},
+                    "S": {"describe": "s", "facade": "checkbox", "enumeration": [
+                        {"name": "D", "value": "d"}, {"name": "E", "value": "e"},
+                        {"name": "F", "value": "f"}]},
                     "T": {"describe": "t", "facade": "numericalInterval"},
                     "P[]": {"describe": "p", "facade": "region"}},
     "configTemplate": {"R": [{"A": 5, "S": ["d"], "T": [1, 2], "O": {"X": 1}, "P": [[1, 1]]}]}})";
@@ -160,7 +163,8 @@ private slots:
         Value many;
         for (int i = 0; i < 200; ++i) {
             Value attribute = Mailbox::json(R"({"value": 1})");
-            attribute["key"] = attribute["caption"] = QString("Unknown%1").arg(i);
+            attribute["key"] = QString("Unknown%1").arg(i);
+            attribute["caption"] = QString("Unknown%1").arg(i);
             many["attributes"].append(attribute);
         }
         EntryPaste(document.scene(), {}).add(many);
