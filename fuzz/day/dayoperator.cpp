@@ -16,6 +16,7 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <cmath>
 #include <numeric>
 
 using kql::Json::ValueType;
@@ -24,6 +25,8 @@ namespace
 {
 
 constexpr int kExtent = 8192;
+constexpr int kBeside = 8;      // pixels beside the picture that count as its border
+constexpr int kLongStay = 3000; ///< actions, among which are more steps than can be undone
 
 kql::Json::Value step(const char* name)
 {
@@ -60,6 +63,7 @@ int DayOperator::number(int from, int to)
 
 kql::Json::Value DayOperator::nextStep()
 {
+    --m_staysFor;
     static const std::vector<Choice> idle = {
         {60, &DayOperator::press},         {10, &DayOperator::rightClick},
         {40, &DayOperator::move},          {15, &DayOperator::doubleClick},
@@ -71,13 +75,14 @@ kql::Json::Value DayOperator::nextStep()
         {30, &DayOperator::query},         {12, &DayOperator::size},
         {6, &DayOperator::loadAnew},       {2, &DayOperator::close},
         {1, &DayOperator::wait},           {1, &DayOperator::screenshot},
-        {80, &DayOperator::travel},        {20, &DayOperator::key},
+        {150, &DayOperator::travel},       {20, &DayOperator::key},
         {100, &DayOperator::drag},         {20, &DayOperator::pressCorner},
         {100, &DayOperator::keyOnPicture}, {60, &DayOperator::menu},
-        {20, &DayOperator::hover},         {10, &DayOperator::check}};
+        {20, &DayOperator::hover},         {20, &DayOperator::hoverButton},
+        {10, &DayOperator::check}};
     static const std::vector<Choice> drawing = {
         {500, &DayOperator::press},      {120, &DayOperator::rightClick}, {100, &DayOperator::move},
-        {30, &DayOperator::doubleClick}, {60, &DayOperator::travel},      {60, &DayOperator::key},
+        {30, &DayOperator::doubleClick}, {100, &DayOperator::travel},     {60, &DayOperator::key},
         {20, &DayOperator::drag},        {60, &DayOperator::keyOnPicture}};
     static const std::vector<Choice> empty = {
         {300, &DayOperator::loadAnew}, {30, &DayOperator::query},  {20, &DayOperator::move},
@@ -107,8 +112,10 @@ kql::Json::Value DayOperator::choose(const std::vector<Choice>& choices)
     return query();
 }
 
-QPoint DayOperator::position(const QSize& picture)
+QPoint DayOperator::position(const QRect& picture)
 {
+    if (happens(10))
+        return borderPosition(picture);
     const QPoint end(kExtent * (picture.width() - 1) / picture.width(),
                      kExtent * (picture.height() - 1) / picture.height());
     const QPoint anywhere(number(0, end.x()), number(0, end.y()));
@@ -119,9 +126,30 @@ QPoint DayOperator::position(const QSize& picture)
     return {qBound(0, near.x(), end.x()), qBound(0, near.y(), end.y())};
 }
 
+/// On a border of the picture, or beside it as far as that counts and there is room.
+QPoint DayOperator::borderPosition(const QRect& picture)
+{
+    const QMargins beside(kBeside, kBeside, kBeside, kBeside);
+    const QRect room = picture.marginsAdded(beside) & m_window.videoSurface()->rect();
+    QPoint at(number(room.left(), room.right()), number(room.top(), room.bottom()));
+    const bool isFirst = happens(50);
+    if (happens(50))
+        at.setX(isFirst ? number(room.left(), picture.left())
+                        : number(picture.right(), room.right()));
+    else
+        at.setY(isFirst ? number(room.top(), picture.top())
+                        : number(picture.bottom(), room.bottom()));
+    const auto scaled = [](int pixel, int extent) {
+        const double exact = double(pixel) * kExtent / extent;
+        return static_cast<int>(pixel < 0 || pixel > extent ? std::ceil(exact) : exact);
+    };
+    at -= picture.topLeft();
+    return {scaled(at.x(), picture.width()), scaled(at.y(), picture.height())};
+}
+
 kql::Json::Value DayOperator::onPicture(const char* name)
 {
-    const QSize picture = m_window.videoSurface()->paneRect(0).size();
+    const QRect picture = m_window.videoSurface()->paneRect(0);
     if (picture.isEmpty())
         return {};
     m_last = position(picture);
@@ -131,9 +159,17 @@ kql::Json::Value DayOperator::onPicture(const char* name)
     return result;
 }
 
+/// @p step, sometimes with a key held meanwhile.
+kql::Json::Value DayOperator::held(Value step)
+{
+    if (!step.isNull() && happens(15))
+        step["with"] = happens(70) ? "Ctrl" : "Shift";
+    return step;
+}
+
 kql::Json::Value DayOperator::press()
 {
-    Value result = onPicture("press");
+    Value result = held(onPicture("press"));
     if (!result.isNull())
         result["button"] = "left";
     return result;
@@ -167,7 +203,7 @@ kql::Json::Value DayOperator::corner()
 
 kql::Json::Value DayOperator::drag()
 {
-    const QSize picture = m_window.videoSurface()->paneRect(0).size();
+    const QRect picture = m_window.videoSurface()->paneRect(0);
     if (picture.isEmpty())
         return {};
     Value result = step("drag");
@@ -188,7 +224,7 @@ kql::Json::Value DayOperator::pressCorner()
     result["button"] = "left";
     result["at"] = corner();
     if (happens(60))
-        result["with"] = "Shift";
+        result["with"] = happens(80) ? "Shift" : "Ctrl";
     return result;
 }
 
@@ -202,9 +238,23 @@ kql::Json::Value DayOperator::hover()
     return onPicture("hover");
 }
 
+kql::Json::Value DayOperator::hoverButton()
+{
+    Value result = pickFrom(happens(30));
+    if (result.isNull())
+        return result;
+    result["do"] = "hover";
+    if (result.isMember("child"))
+        result["entry"] = 1;
+    return result;
+}
+
 kql::Json::Value DayOperator::doubleClick()
 {
-    return onPicture("double");
+    Value result = held(onPicture("double"));
+    if (!result.isNull() && happens(30))
+        result["button"] = "right";
+    return result;
 }
 
 BaseTabelScene* DayOperator::openPanel() const
@@ -416,7 +466,7 @@ kql::Json::Value DayOperator::travel()
         m_isGoingBack = happens(60);
     Value result = step(happens(80) ? "key" : "click");
     if (result["do"].asString() == QLatin1String("key")) {
-        result["keys"] = m_isGoingBack ? "Ctrl+Z" : "Ctrl+Y";
+        result["keys"] = m_isGoingBack ? "Ctrl+Z" : happens(70) ? "Ctrl+Y" : "Ctrl+Shift+Z";
         result["to"] = "picture";
         return result;
     }
@@ -431,7 +481,7 @@ kql::Json::Value DayOperator::key()
     static const QStringList keys{QStringLiteral("Backspace"), QStringLiteral("Escape"),
                                   QStringLiteral("Return"),    QStringLiteral("Delete"),
                                   QStringLiteral("Ctrl+C"),    QStringLiteral("Ctrl+V"),
-                                  QStringLiteral("Ctrl+D")};
+                                  QStringLiteral("Ctrl+D"),    QStringLiteral("F1")};
     Value result = step("key");
     result["keys"] = oneOf(keys);
     result["to"] = "picture";
@@ -468,7 +518,7 @@ kql::Json::Value DayOperator::cancel()
     if (!m_finder.windowButton(QStringLiteral("btnCancel"))->isVisible())
         return {};
     Value result = step("cancel");
-    result["answer"] = !m_isClosing && happens(25) ? "Yes" : "No";
+    result["answer"] = !stays() && happens(25) ? "Yes" : "No";
     return result;
 }
 
@@ -484,16 +534,17 @@ kql::Json::Value DayOperator::query()
 
 kql::Json::Value DayOperator::close()
 {
-    return m_isClosing ? Value() : step("close");
+    return stays() ? Value() : step("close");
 }
 
 kql::Json::Value DayOperator::loadAnew()
 {
-    return m_isClosing ? Value() : load();
+    return stays() ? Value() : load();
 }
 
 kql::Json::Value DayOperator::load()
 {
+    m_staysFor = happens(8) ? kLongStay : 0;
     Value result = step("load");
     result["template"] = m_window.options().templateFile;
     result["config"] = happens(10) ? Value() : Value(oneOf(m_configs));

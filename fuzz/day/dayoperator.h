@@ -4,7 +4,7 @@
 #include "workbench/panelfinder.h"
 
 #include <QPoint>
-#include <QSize>
+#include <QRect>
 #include <QStringList>
 #include <random>
 
@@ -41,6 +41,7 @@ private:
     Value press();
     Value move();
     Value hover();
+    Value hoverButton();
     Value doubleClick();
     Value rightClick();
     Value click();
@@ -68,6 +69,7 @@ private:
     Value wait();
     Value screenshot();
 
+    bool stays() const { return m_isClosing || m_staysFor > 0; }
     int number(int from, int to);
     bool happens(int percent) { return number(1, 100) <= percent; }
     template<class T>
@@ -78,7 +80,9 @@ private:
     /// The selected section; null when there is none, or it is folded.
     BaseTabelScene* openPanel() const;
     Value onPicture(const char* name);
-    QPoint position(const QSize& picture);
+    QPoint position(const QRect& picture);
+    QPoint borderPosition(const QRect& picture);
+    Value held(Value step);
     Value pickFrom(bool children);
     /// @p step with what it would find in the clipboard, so that it can be played elsewhere.
     static Value withClip(Value step);
@@ -93,4 +97,5 @@ private:
     QPoint m_last; ///< where the picture was pressed last, 0..8192
     bool m_isGoingBack = false;
     bool m_isClosing = false;
+    int m_staysFor = 0; ///< actions until something else may be loaded
 };

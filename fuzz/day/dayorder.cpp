@@ -169,6 +169,19 @@ std::string DayOrder::contents(const WorkbenchWindow& window)
     return text;
 }
 
+std::string DayOrder::ids(const WorkbenchWindow& window)
+{
+    std::string text;
+    for (const BaseTabelScene* panel : panelsOf(window)) {
+        for (const auto& entry : panel->ruleData()->getAllData())
+            text += " " + std::to_string(entry->id());
+        for (const DrawItem* item : panel->getDrawScene()->getItemList(BaseDrawType::None, 0))
+            text += " " + std::to_string(item->itemId());
+        text += '\n';
+    }
+    return text;
+}
+
 std::string DayOrder::shown(const WorkbenchWindow& window)
 {
     QString text;

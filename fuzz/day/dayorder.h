@@ -18,6 +18,9 @@ void require(const WorkbenchWindow& window);
 /// All entries and figures of the window's sections, as text.
 std::string contents(const WorkbenchWindow& window);
 
+/// Their ids, which stay as long as nothing else is loaded.
+std::string ids(const WorkbenchWindow& window);
+
 /// What the sections show of them: which is selected or folded, the current entry and figure, and
 /// all rows.
 std::string shown(const WorkbenchWindow& window);

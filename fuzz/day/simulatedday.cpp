@@ -307,6 +307,9 @@ void SimulatedDay::takeMessages()
             ++m_saves;
             m_saved = text;
             SavedCheck::require(*m_window, text);
+            require(m_travel.document().text(*m_window) ==
+                        message["channelAbilityPO"].toCompactText().toStdString(),
+                    "another document is saved than is compared");
         }
     }
 }
@@ -355,13 +358,14 @@ void SimulatedDay::readBack()
 QString SimulatedDay::summary(qint64 milliseconds) const
 {
     return QStringLiteral("%1: %2 actions in %3 s, %4 loads, %5 saves read back, %6 "
-                          "unfinished drawings asked about")
+                          "unfinished drawings asked about, %7 steps back and forth compared")
         .arg(m_example)
         .arg(m_actions)
         .arg(milliseconds / 1000)
         .arg(m_loads)
         .arg(m_saves)
-        .arg(m_drawingReplies);
+        .arg(m_drawingReplies)
+        .arg(m_travel.compared());
 }
 
 QString SimulatedDay::fault(const std::string& what) const

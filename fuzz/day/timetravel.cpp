@@ -8,7 +8,10 @@
 #include "scene/basetabelscene.h"
 #include "workbench/workbenchwindow.h"
 
+#include <QUndoStack>
+
 #include <algorithm>
+#include <utility>
 
 using IntelligentRulesUI::EditHistory;
 
@@ -18,26 +21,43 @@ namespace
 bool isStep(const kql::Json::Value& step, const char* key, const char* button)
 {
     return step["keys"].asString() == QLatin1String(key) ||
-           step["object"].asString() == QLatin1String(button);
+           (button && step["object"].asString() == QLatin1String(button));
+}
+
+/// Positions that are @p dropped fewer now.
+void shift(std::map<int, std::string>& known, int dropped)
+{
+    std::map<int, std::string> moved;
+    for (auto& [index, contents] : known) {
+        if (index >= dropped)
+            moved[index - dropped] = std::move(contents);
+    }
+    known = std::move(moved);
 }
 
 } // namespace
 
 void TimeTravel::note(const WorkbenchWindow& window, const kql::Json::Value& step, bool endedEdit)
 {
-    const auto* history = window.rulesWindow()->findChild<EditHistory*>();
-    const std::string contents = DayOrder::contents(window);
-    const int index = history->stack().index();
-    const bool isBack = isStep(step, "Ctrl+Z", "btnUndo") && index < m_index;
-    const bool isForth = isStep(step, "Ctrl+Y", "btnRedo") && index > m_index;
-    const bool isFull = history->stack().count() == history->stack().undoLimit();
-    if (history->stack().count() == 0 || isFull || endedEdit)
-        forgetFrom(0);
+    if (step["do"].asString() == QLatin1String("load"))
+        m_document.load(window);
+    const QUndoStack& stack = window.rulesWindow()->findChild<EditHistory*>()->stack();
+    const std::string contents =
+        DayOrder::contents(window) + DayOrder::ids(window) + m_document.text(window);
+    forgetDropped(stack);
     const int before = m_index;
-    m_index = index;
-    if ((isBack || isForth) && qAbs(index - before) == 1)
+    m_index = stack.index();
+    const bool isBack = isStep(step, "Ctrl+Z", "btnUndo") && m_index < before;
+    const bool isForth =
+        (isStep(step, "Ctrl+Y", "btnRedo") || isStep(step, "Ctrl+Shift+Z", nullptr)) &&
+        m_index > before;
+    if (stack.count() == 0)
+        forgetFrom(0);
+    else if (endedEdit)
+        forgetFrom(std::min({before, m_index, m_solid + 1}));
+    else if ((isBack || isForth) && qAbs(m_index - before) == 1)
         seeTravel(isBack, contents);
-    else if (!endedEdit)
+    else
         seeEdit(before, contents);
     // What is in hand after a step back may have been begun long before.
     if (!DayOrder::isDrawing(window))
@@ -51,6 +71,7 @@ void TimeTravel::seeTravel(bool isBack, const std::string& contents)
 {
     const std::map<int, std::string>& known = isBack ? m_left : m_reached;
     const auto there = known.find(m_index);
+    m_compared += there == known.end() ? 0 : 1;
     Fuzz::require(there == known.end() || there->second == contents,
                   (isBack ? "undone, " : "done again, ") + contents + "\nis there instead of\n" +
                       (there == known.end() ? std::string() : there->second));
@@ -74,4 +95,23 @@ void TimeTravel::forgetFrom(int index)
 {
     m_left.erase(m_left.lower_bound(index), m_left.end());
     m_reached.erase(m_reached.lower_bound(index), m_reached.end());
+}
+
+/// A full stack drops its first steps for new ones.
+void TimeTravel::forgetDropped(const QUndoStack& stack)
+{
+    std::vector<const QUndoCommand*> steps;
+    for (int i = 0; i < stack.count(); ++i)
+        steps.push_back(stack.command(i));
+    const bool isFull = static_cast<int>(m_steps.size()) == stack.undoLimit() && !steps.empty();
+    const auto first =
+        isFull ? std::find(m_steps.begin(), m_steps.end(), steps.front()) : m_steps.begin();
+    const auto dropped = static_cast<int>(first - m_steps.begin());
+    m_steps = std::move(steps);
+    if (dropped == 0)
+        return;
+    shift(m_left, dropped);
+    shift(m_reached, dropped);
+    m_index -= dropped;
+    m_solid = std::max(m_solid - dropped, -1);
 }
