@@ -9,8 +9,8 @@
 #include <QGraphicsScene>
 #include <QGraphicsSimpleTextItem>
 #include <QGuiApplication>
-#include <QPen>
 #include <QRandomGenerator>
+#include <QTransform>
 #include <cmath>
 #include <memory>
 
@@ -33,6 +33,31 @@ std::unique_ptr<DrawItem> item(const FigureScene::Shape& figure, bool finished)
     }
     made->figure()->setFinished(finished);
     return made;
+}
+
+/// With labels at each of @p places; returns the polygon in the middle.
+QGraphicsPolygonItem* addPolygons(QGraphicsScene& scene,
+                                  const std::vector<FigureScene::Shape>& figures, const QPen& pen,
+                                  const QVector<QPoint>& places)
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(16);
+    QGraphicsPolygonItem* middle = nullptr;
+    scene.setSceneRect(QRect({}, FigureScene::kPicture));
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        const QPolygonF outline(figures[i].outline);
+        auto* polygon = scene.addPolygon(outline, pen);
+        const double angle = -QLineF(outline[0], outline[1]).angle();
+        for (const QPoint& place : places) {
+            auto* text = scene.addSimpleText(figures[i].label, font);
+            text->setBrush(pen.color());
+            text->setPos(outline[0] + QTransform().rotate(angle).map(QPointF(place)));
+            text->setRotation(angle);
+        }
+        if (i == figures.size() / 2)
+            middle = polygon;
+    }
+    return middle;
 }
 
 } // namespace
@@ -67,23 +92,25 @@ void FigureScene::fill(DrawScene& scene, const std::vector<Shape>& figures, int 
     }
 }
 
+QPen FigureScene::casing()
+{
+    return QPen(QColor(255, 255, 255, 0xEE), 4, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin);
+}
+
+QVector<QPoint> FigureScene::around()
+{
+    return {{-1, -1}, {-1, 1}, {1, -1}, {1, 1}};
+}
+
 QGraphicsPolygonItem* FigureScene::fill(QGraphicsScene& scene, const std::vector<Shape>& figures)
 {
-    QFont font = QGuiApplication::font();
-    font.setPixelSize(16);
-    QPen pen(QColor(0, 125, 255), 2);
+    QPen pen(kBlue, 2);
     pen.setJoinStyle(Qt::MiterJoin);
-    QGraphicsPolygonItem* middle = nullptr;
-    scene.setSceneRect(QRect({}, kPicture));
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-        const QPolygonF outline(figures[i].outline);
-        auto* polygon = scene.addPolygon(outline, pen);
-        auto* text = scene.addSimpleText(figures[i].label, font);
-        text->setBrush(pen.color());
-        text->setPos(outline[0]);
-        text->setRotation(-QLineF(outline[0], outline[1]).angle());
-        if (i == figures.size() / 2)
-            middle = polygon;
-    }
-    return middle;
+    return addPolygons(scene, figures, pen, {{0, 0}});
+}
+
+QGraphicsPolygonItem* FigureScene::fillBeneath(QGraphicsScene& scene,
+                                               const std::vector<Shape>& figures)
+{
+    return addPolygons(scene, figures, casing(), around());
 }

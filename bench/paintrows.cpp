@@ -59,6 +59,7 @@ void paintSteady(benchmark::State& state, int size)
 void renderSteady(benchmark::State& state, int size)
 {
     QGraphicsScene scene;
+    FigureScene::fillBeneath(scene, FigureScene::figures(size));
     FigureScene::fill(scene, FigureScene::figures(size));
     QImage image = picture();
     render(scene, image);
@@ -82,6 +83,7 @@ void paintChanging(benchmark::State& state, int size)
 void renderChanging(benchmark::State& state, int size)
 {
     QGraphicsScene scene;
+    QGraphicsPolygonItem* beneath = FigureScene::fillBeneath(scene, FigureScene::figures(size));
     QGraphicsPolygonItem* moving = FigureScene::fill(scene, FigureScene::figures(size));
     QPolygonF outline = moving->polygon();
     QImage image = picture();
@@ -89,6 +91,7 @@ void renderChanging(benchmark::State& state, int size)
     int step = 0;
     for (auto _ : state) {
         outline.last() = mousePosition(++step);
+        beneath->setPolygon(outline);
         moving->setPolygon(outline);
         render(scene, image);
     }
@@ -111,28 +114,37 @@ void paintFirst(benchmark::State& state, int size)
     }
 }
 
+/// Lines with @p pen, and the label in its colour at each of @p places.
+void paintStraight(QPainter& painter, const Shape& figure, const QPen& pen,
+                   const QVector<QPoint>& places)
+{
+    painter.setPen(pen);
+    for (int i = 0; i < figure.outline.size(); ++i)
+        painter.drawLine(figure.outline[i], figure.outline[(i + 1) % figure.outline.size()]);
+    painter.save();
+    painter.translate(figure.outline[0]);
+    painter.rotate(-QLineF(figure.outline[0], figure.outline[1]).angle());
+    const int ascent = painter.fontMetrics().ascent();
+    for (const QPoint& place : places)
+        painter.drawText(place + QPoint(3, ascent), figure.label);
+    painter.restore();
+}
+
 void paintStraight(benchmark::State& state, int size)
 {
     const std::vector<Shape> figures = FigureScene::figures(size);
+    const QPen pen(FigureScene::kBlue, 2, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
     QFont font = QGuiApplication::font();
     font.setPixelSize(16);
     QImage image = picture();
     for (auto _ : state) {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor(0, 125, 255), 2, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         painter.setFont(font);
-        const int ascent = painter.fontMetrics().ascent();
-        for (const Shape& figure : figures) {
-            for (int i = 0; i < figure.outline.size(); ++i)
-                painter.drawLine(figure.outline[i],
-                                 figure.outline[(i + 1) % figure.outline.size()]);
-            painter.save();
-            painter.translate(figure.outline[0]);
-            painter.rotate(-QLineF(figure.outline[0], figure.outline[1]).angle());
-            painter.drawText(3, ascent, figure.label);
-            painter.restore();
-        }
+        for (const Shape& figure : figures)
+            paintStraight(painter, figure, FigureScene::casing(), FigureScene::around());
+        for (const Shape& figure : figures)
+            paintStraight(painter, figure, pen, {{0, 0}});
     }
 }
 

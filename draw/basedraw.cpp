@@ -49,22 +49,32 @@ void BaseDraw::draw(Gdiplus::Graphics* graphics)
     if (!graphics)
         return;
     const QMutexLocker lock(&m_mutex);
-    const CanvasFigure shown(painted(), m_movePoint, m_canvasSize);
-    if (shown.shownPoints().size() < 2)
-        return;
-    if (m_preview && m_preview->isRefused)
-        paint(FigurePainter::ofRefused(*graphics), shown);
+    if (isRefused())
+        paintShown(FigurePainter::ofRefused(*graphics));
     else
-        paint(FigurePainter(*graphics, color()), shown);
+        paintShown(FigurePainter(*graphics, color()));
 }
 
 void BaseDraw::drawBeneath(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
                            float width) const
 {
     const QMutexLocker lock(&m_mutex);
+    if (!isRefused())
+        paintShown(FigurePainter::ofBand(graphics, color, width));
+}
+
+void BaseDraw::drawCasing(Gdiplus::Graphics& graphics) const
+{
+    const QMutexLocker lock(&m_mutex);
+    const Gdiplus::Color red(FigurePainter::kRefusedColor);
+    paintShown(FigurePainter::ofCasing(graphics, isRefused() ? red : color()));
+}
+
+void BaseDraw::paintShown(const FigurePainter& painter) const
+{
     const CanvasFigure shown(painted(), m_movePoint, m_canvasSize);
-    if (shown.shownPoints().size() >= 2 && !(m_preview && m_preview->isRefused))
-        paint(FigurePainter::ofBand(graphics, color, width), shown);
+    if (shown.shownPoints().size() >= 2)
+        paint(painter, shown);
 }
 
 std::unique_ptr<Gdiplus::GraphicsPath> BaseDraw::getForbidenArea() const

@@ -41,6 +41,8 @@ public:
     /// Paints the figure's lines so wide that they show beneath its strokes; nothing beneath one
     /// that may not lie where it is.
     void drawBeneath(Gdiplus::Graphics& graphics, const Gdiplus::Color& color, float width) const;
+    /// Paints what lets the figure's strokes and names be told from any picture; they come on top.
+    void drawCasing(Gdiplus::Graphics& graphics) const;
     /// How many more clicks the figure needs before it can be finished.
     virtual int clicksNeeded() const;
     virtual bool isPointCountValid() const { return figure().isPointCountValid(); }
@@ -152,6 +154,8 @@ private:
             change();
     }
     const Figure& painted() const { return m_preview ? m_preview->figure : m_figure; }
+    bool isRefused() const { return m_preview && m_preview->isRefused; }
+    void paintShown(const FigurePainter& painter) const;
     QPoint normalizedMouse(const QPoint& canvasPoint) const;
     void change();
 

@@ -15,6 +15,7 @@ namespace
 {
 
 const Gdiplus::ARGB kShade = 0x64000000;
+const Gdiplus::ARGB kMessageGround = 0x80000000; ///< for white to be read on snow
 const Gdiplus::ARGB kMessageColor = 0xFFFFFFFF;
 
 } // namespace
@@ -270,22 +271,26 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
         return;
     FigureLayer::setQuality(*graphics);
     const DrawItem* drawn = m_previewed ? m_previewed : itemBeingDrawn();
-    std::vector<PaintedFigure> below;
+    std::vector<PaintedFigure> resting;
     std::vector<PaintedFigure> live;
-    std::vector<PaintedFigure> above;
-    std::vector<PaintedFigure> banded;
+    std::ptrdiff_t before = 0; // the live one
     for (const DrawItem* item : qAsConst(m_items)) {
         if (!item->figure() || isSkipped(*item, m_currentDataId))
             continue;
-        std::vector<PaintedFigure>& layer = item == drawn ? live : live.empty() ? below : above;
-        layer.push_back(m_looks.of(*item, m_currentDataId));
-        if (layer.back().look != PaintedFigure::Plain)
-            banded.push_back(layer.back());
+        if (item == drawn)
+            before = std::ptrdiff_t(resting.size());
+        (item == drawn ? live : resting).push_back(m_looks.of(*item, m_currentDataId));
     }
-    drawGround(*graphics, banded);
-    drawLayer(*graphics, m_below, below);
+    // Without a live one a single layer does for all.
+    const bool isLive = !live.empty();
+    drawLayer(*graphics, m_ground, isLive ? Beneath : Beneath | Strokes, resting);
+    const auto middle = isLive ? resting.begin() + before : resting.begin();
+    const std::vector<PaintedFigure> below(resting.begin(), middle);
+    const std::vector<PaintedFigure> above(middle, isLive ? resting.end() : middle);
+    PaintedFigure::paintBeneath(*graphics, live);
+    drawLayer(*graphics, m_below, Strokes, below);
     PaintedFigure::paint(*graphics, live);
-    drawLayer(*graphics, m_above, above);
+    drawLayer(*graphics, m_above, Strokes, above);
     drawMessage(*graphics);
 }
 
@@ -435,31 +440,24 @@ DrawItem* DrawScene::itemBeingDrawn() const
     return item && !item->isFinished() ? item : nullptr;
 }
 
-void DrawScene::drawGround(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures)
-{
-    if (figures.empty() && !m_forbidenArea)
-        return m_ground.drop();
-    FigureLayer::Revisions shown{m_forbidenArea ? m_forbidenRevision : 0};
-    for (const PaintedFigure& figure : figures)
-        shown.push_back(figure.revision());
-    m_ground.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
-        if (m_forbidenArea)
-            m_forbidenArea->paint(target);
-        PaintedFigure::paintBands(target, figures);
-    });
-}
-
-void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
+void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer, int parts,
                           const std::vector<PaintedFigure>& figures) const
 {
-    if (figures.empty())
+    const ForbidenArea* area = parts & Beneath ? m_forbidenArea.get() : nullptr;
+    if (figures.empty() && !area)
         return layer.drop();
-    FigureLayer::Revisions shown;
-    shown.reserve(figures.size());
+    FigureLayer::Revisions shown{quint64(parts), area ? m_forbidenRevision : 0};
+    shown.reserve(shown.size() + figures.size());
     for (const PaintedFigure& figure : figures)
         shown.push_back(figure.revision());
-    layer.draw(graphics, m_canvasSize, std::move(shown),
-               [&](Gdiplus::Graphics& target) { PaintedFigure::paint(target, figures); });
+    layer.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
+        if (area)
+            area->paint(target);
+        if (parts & Beneath)
+            PaintedFigure::paintBeneath(target, figures);
+        if (parts & Strokes)
+            PaintedFigure::paint(target, figures);
+    });
 }
 
 void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
@@ -472,8 +470,10 @@ void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
     graphics.MeasureString(LabelFont::wide(shown), -1, &font, Gdiplus::PointF(0, 0), &text);
     text.X = std::trunc((float(m_canvasSize.width()) - text.Width) / 2);
     text.Y = std::trunc((float(m_canvasSize.height()) - text.Height) / 2);
-    const Gdiplus::SolidBrush shade{Gdiplus::Color(kShade)};
-    graphics.FillRectangle(&shade, text.X, text.Y, text.Width, text.Height);
+    for (const Gdiplus::ARGB color : {kMessageGround, kShade}) {
+        const Gdiplus::SolidBrush ground{Gdiplus::Color(color)};
+        graphics.FillRectangle(&ground, text.X, text.Y, text.Width, text.Height);
+    }
     const Gdiplus::StringFormat format;
     const Gdiplus::SolidBrush ink{Gdiplus::Color(kMessageColor)};
     graphics.DrawString(LabelFont::wide(shown), -1, &font, text, &format, &ink);

@@ -128,6 +128,9 @@ signals:
     void sgnSelectedStatusChange();
 
 private:
+    /// Of figures, on a layer.
+    enum Part { Beneath = 1, Strokes = 2 };
+
     void itemAdded(DrawItem& item) override;
     void itemGone(DrawItem& item) override;
     void itemIdsChanged() override;
@@ -146,8 +149,7 @@ private:
     void renewForbidenArea(const DrawItem& item);
     std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item, const DrawItem* except) const;
     DrawItem* itemBeingDrawn() const;
-    void drawGround(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
-    void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
+    void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer, int parts,
                    const std::vector<PaintedFigure>& figures) const;
     void drawMessage(Gdiplus::Graphics& graphics) const;
     QString getBeginDrawMsg(const DrawItem* item) const;
@@ -164,7 +166,7 @@ private:
     const DrawItem* m_forbidenFor = nullptr;      ///< whose standing area it is; not owned
     quint64 m_forbidenRevision = 0;               ///< another one whenever the area is another
     FigureLooks m_looks;
-    FigureLayer m_ground; ///< the area, and what lies beneath the strokes of all figures
+    FigureLayer m_ground; ///< the area, what lies beneath all strokes, and these while none is live
     FigureLayer m_below;  ///< the figures before the one being drawn
     FigureLayer m_above;  ///< the figures after it
     bool m_drawByDataId = false;

@@ -20,10 +20,10 @@ struct Band {
 
 /// From the bottom up. What is emphasised is to be told from any picture by a dark edge.
 constexpr Band kBands[] = {
-    {PaintedFigure::Emphasised, 0xFF101418, 13.0F},
-    {PaintedFigure::Emphasised, 0xFFFFFFFF, 10.0F},
-    {PaintedFigure::Faulty, 0xFFC4271B, 8.0F},
-    {PaintedFigure::OfCurrentEntry, 0xFFFFD700, 6.0F},
+    {PaintedFigure::Emphasised, 0xFF101418, 15.0F},
+    {PaintedFigure::Emphasised, 0xFFFFFFFF, 12.0F},
+    {PaintedFigure::Faulty, 0xFFC4271B, 10.0F},
+    {PaintedFigure::OfCurrentEntry, 0xFFFFD700, 8.0F},
 };
 
 const Gdiplus::ARGB kSignEdge = 0xFF3A2000;
@@ -58,12 +58,14 @@ quint64 PaintedFigure::revision() const
     return figure->revision() * kLooks + static_cast<quint64>(look);
 }
 
-void PaintedFigure::paintBands(Gdiplus::Graphics& graphics,
-                               const std::vector<PaintedFigure>& figures)
+void PaintedFigure::paintBeneath(Gdiplus::Graphics& graphics,
+                                 const std::vector<PaintedFigure>& figures)
 {
     setSmooth(graphics, figures);
     for (const PaintedFigure& painted : figures)
-        painted.paintBeneath(graphics);
+        painted.paintBands(graphics);
+    for (const PaintedFigure& painted : figures)
+        painted.figure->drawCasing(graphics);
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
 }
 
@@ -77,7 +79,7 @@ void PaintedFigure::paint(Gdiplus::Graphics& graphics, const std::vector<Painted
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
 }
 
-void PaintedFigure::paintBeneath(Gdiplus::Graphics& graphics) const
+void PaintedFigure::paintBands(Gdiplus::Graphics& graphics) const
 {
     for (const Band& band : kBands) {
         if (look & band.look)

@@ -25,14 +25,16 @@ struct PaintedFigure {
 
     /// As BaseDraw::revision(), and another number for another look.
     quint64 revision() const;
-    /// Paints what lies beneath the strokes of all figures on the canvas.
-    static void paintBands(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
+    /// Paints what lies beneath the strokes of all figures on the canvas: bands, and the casings
+    /// of @p figures on these.
+    static void paintBeneath(Gdiplus::Graphics& graphics,
+                             const std::vector<PaintedFigure>& figures);
     /// Paints strokes and signs. Neither is painted smooth where the figures have very many points
-    /// together, nor are bands.
+    /// together, nor is what lies beneath.
     static void paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
 
 private:
-    void paintBeneath(Gdiplus::Graphics& graphics) const;
+    void paintBands(Gdiplus::Graphics& graphics) const;
     void paintSign(Gdiplus::Graphics& graphics) const;
 };
 

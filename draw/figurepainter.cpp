@@ -11,8 +11,12 @@
 namespace
 {
 
-const Gdiplus::ARGB kRefusedColor = 0xFFFF0000;
 const Gdiplus::REAL kPenWidth = 2.0F;
+const Gdiplus::REAL kCasing = 1.0F; ///< on each side, in pixels
+// As opaque as it takes for 3:1 between them and blue or red, or gold, on any picture from which
+// these cannot be told.
+const Gdiplus::ARGB kLightCasing = 0xEEFFFFFF;
+const Gdiplus::ARGB kDarkCasing = 0x99000000;
 const float kHalfShaft = 20.0F;
 const float kWing = 10.0F;
 const float kLeftWingDegrees = -135.0F;
@@ -35,6 +39,12 @@ private:
     Gdiplus::GraphicsState m_state;
 };
 
+Gdiplus::Color casingOf(const Gdiplus::Color& color)
+{
+    const int brightness = (2 * color.GetR() + 5 * color.GetG() + color.GetB()) / 8;
+    return Gdiplus::Color(brightness > 0x80 ? kDarkCasing : kLightCasing);
+}
+
 void moveTo(Gdiplus::Graphics& graphics, const QPoint& origin, const QLine& segment)
 {
     graphics.TranslateTransform(float(origin.x()), float(origin.y()));
@@ -50,11 +60,11 @@ FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& 
 
 FigurePainter::FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color, float width,
                              Use use)
-    : m_graphics(graphics), m_color(color), m_pen(color, width), m_hasNames(use != Use::Band)
+    : m_graphics(graphics), m_color(color), m_pen(color, width), m_use(use)
 {
     if (use == Use::Refused)
         m_pen.SetDashStyle(Gdiplus::DashStyleDash);
-    if (use == Use::Band)
+    if (use == Use::Band || use == Use::Casing)
         m_pen.SetLineCap(Gdiplus::LineCapRound, Gdiplus::LineCapRound, Gdiplus::DashCapRound);
 }
 
@@ -69,6 +79,11 @@ FigurePainter FigurePainter::ofBand(Gdiplus::Graphics& graphics, const Gdiplus::
     return {graphics, color, width, Use::Band};
 }
 
+FigurePainter FigurePainter::ofCasing(Gdiplus::Graphics& graphics, const Gdiplus::Color& color)
+{
+    return {graphics, casingOf(color), kPenWidth + 2 * kCasing, Use::Casing};
+}
+
 void FigurePainter::line(const QLine& line) const
 {
     m_graphics.DrawLine(&m_pen, line.x1(), line.y1(), line.x2(), line.y2());
@@ -76,14 +91,17 @@ void FigurePainter::line(const QLine& line) const
 
 void FigurePainter::rubberBand(const QLine& line, const QVector<QPoint>& crossings) const
 {
-    if (crossings.isEmpty()) {
+    const Gdiplus::Color red(kRefusedColor);
+    if (crossings.isEmpty() || m_use == Use::Band) {
         this->line(line);
-        return;
+    } else if (m_use == Use::Casing) {
+        const FigurePainter casing = ofCasing(m_graphics, red);
+        casing.squares(crossings);
+        casing.line(line);
+    } else {
+        FigurePainter(m_graphics, red).squares(crossings);
+        ofRefused(m_graphics).line(line);
     }
-    const Gdiplus::Pen pen(Gdiplus::Color(kRefusedColor), kPenWidth);
-    for (const QPoint& at : crossings)
-        m_graphics.DrawRectangle(&pen, at.x(), at.y(), 2, 2);
-    m_graphics.DrawLine(&pen, line.x1(), line.y1(), line.x2(), line.y2());
 }
 
 void FigurePainter::polyline(const QVector<QPoint>& points) const
@@ -136,14 +154,22 @@ void FigurePainter::tick(const QPoint& at, const QLine& segment) const
 
 void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
 {
-    if (text.isEmpty() || !m_hasNames)
+    if (text.isEmpty() || m_use == Use::Band)
         return;
     const StateScope scope(m_graphics);
     moveTo(m_graphics, segment.p1(), segment);
     const Gdiplus::SolidBrush brush(m_color);
     const QString shown = ShortenedText::middle(text, Limits::kLabel);
-    m_graphics.DrawString(LabelFont::wide(shown), -1, &LabelFont::font(), Gdiplus::PointF(0, 0),
-                          &brush);
+    const auto write = [&](float x, float y) {
+        m_graphics.DrawString(LabelFont::wide(shown), -1, &LabelFont::font(), Gdiplus::PointF(x, y),
+                              &brush);
+    };
+    if (m_use != Use::Casing)
+        return write(0, 0);
+    for (const float x : {-kCasing, kCasing}) {
+        write(x, -kCasing);
+        write(x, kCasing);
+    }
 }
 
 void FigurePainter::name(const CanvasFigure& shown) const
@@ -155,6 +181,12 @@ void FigurePainter::name(const CanvasFigure& shown) const
 void FigurePainter::stroke(float x1, float y1, float x2, float y2) const
 {
     m_graphics.DrawLine(&m_pen, x1, y1, x2, y2);
+}
+
+void FigurePainter::squares(const QVector<QPoint>& places) const
+{
+    for (const QPoint& at : places)
+        m_graphics.DrawRectangle(&m_pen, at.x(), at.y(), 2, 2);
 }
 
 void FigurePainter::wing(float tipY, float degrees, float endY) const

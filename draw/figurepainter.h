@@ -16,6 +16,8 @@ class CanvasFigure;
 class FigurePainter
 {
 public:
+    static constexpr Gdiplus::ARGB kRefusedColor = 0xFFFF0000;
+
     /// @p graphics must outlive the painter.
     FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color);
 
@@ -24,10 +26,13 @@ public:
     /// For the band of @p width that lies beneath a figure's strokes: without its name.
     static FigurePainter ofBand(Gdiplus::Graphics& graphics, const Gdiplus::Color& color,
                                 float width);
+    /// For what lies beneath strokes and names of @p color, a pixel wider on each side, so that
+    /// they can be told from any picture: dark beneath bright colours, else light.
+    static FigurePainter ofCasing(Gdiplus::Graphics& graphics, const Gdiplus::Color& color);
 
     void line(const QLine& line) const;
-    /// A line that would become an edge: red, with a small square at each of @p crossings, when
-    /// it would be refused for crossing others.
+    /// A line that would become an edge: red and dashed, with a small square at each of
+    /// @p crossings, when it would be refused for crossing others.
     void rubberBand(const QLine& line, const QVector<QPoint>& crossings) const;
     /// Lines between consecutive points.
     void polyline(const QVector<QPoint>& points) const;
@@ -48,13 +53,14 @@ public:
     void name(const CanvasFigure& shown) const;
 
 private:
-    enum class Use { Strokes, Refused, Band };
+    enum class Use { Strokes, Refused, Band, Casing };
     FigurePainter(Gdiplus::Graphics& graphics, const Gdiplus::Color& color, float width, Use use);
     void stroke(float x1, float y1, float x2, float y2) const;
+    void squares(const QVector<QPoint>& places) const;
     void wing(float tipY, float degrees, float endY) const;
 
     Gdiplus::Graphics& m_graphics; ///< not owned
     Gdiplus::Color m_color;
     Gdiplus::Pen m_pen;
-    bool m_hasNames;
+    Use m_use;
 };

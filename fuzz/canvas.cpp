@@ -309,31 +309,51 @@ private:
     }
 
     /// The figure being drawn straight on the picture, and below and above it the other ones,
-    /// which are painted one after the other on transparent pictures.
+    /// which are painted one after the other on transparent pictures; beneath all the casings. A
+    /// single picture while none is being drawn.
     void compose(const DrawScene& scene, Gdiplus::Graphics& picture) const
     {
         FigureLayer::setQuality(picture);
-        const QSize size = scene.canvasSize();
-        Gdiplus::Bitmap below(size.width(), size.height(), &picture);
-        Gdiplus::Bitmap above(size.width(), size.height(), &picture);
         const DrawItem* drawn = scene.selectedItem(scene.currentDataId());
-        {
-            Gdiplus::Graphics onBelow(&below);
-            Gdiplus::Graphics onAbove(&above);
-            FigureLayer::setQuality(onBelow);
-            FigureLayer::setQuality(onAbove);
-            Gdiplus::Graphics* target = &onBelow;
-            for (const DrawItem* item : scene.getItemList(BaseDrawType::None, 0)) {
-                if (item == drawn && !item->isFinished())
-                    target = &onAbove;
-                else
-                    item->draw(target);
+        if (drawn && drawn->isFinished())
+            drawn = nullptr;
+        const QList<DrawItem*> all = scene.getItemList(BaseDrawType::None, 0);
+        const int middle = drawn ? all.indexOf(const_cast<DrawItem*>(drawn)) : all.size();
+        const QList<DrawItem*> below = all.mid(0, middle);
+        const QList<DrawItem*> above = all.mid(middle + 1);
+        const auto casings = [&](Gdiplus::Graphics& target) {
+            for (const DrawItem* item : below + above) {
+                if (item->figure())
+                    item->figure()->drawCasing(target);
             }
+        };
+        const auto strokes = [](const QList<DrawItem*>& items, Gdiplus::Graphics& target) {
+            for (const DrawItem* item : items)
+                item->draw(&target);
+        };
+        if (!drawn)
+            return lay(picture, [&](Gdiplus::Graphics& target) {
+                casings(target);
+                strokes(below, target);
+            });
+        lay(picture, casings);
+        drawn->figure()->drawCasing(picture);
+        lay(picture, [&](Gdiplus::Graphics& target) { strokes(below, target); });
+        drawn->draw(&picture);
+        lay(picture, [&](Gdiplus::Graphics& target) { strokes(above, target); });
+    }
+
+    /// Lays what @p paint paints on a transparent picture of the canvas' size over @p picture.
+    void lay(Gdiplus::Graphics& picture, const std::function<void(Gdiplus::Graphics&)>& paint) const
+    {
+        const QSize size = m_scene->canvasSize();
+        Gdiplus::Bitmap layer(size.width(), size.height(), &picture);
+        {
+            Gdiplus::Graphics target(&layer);
+            FigureLayer::setQuality(target);
+            paint(target);
         }
-        picture.DrawImage(&below, 0, 0);
-        if (drawn && !drawn->isFinished())
-            drawn->draw(&picture);
-        picture.DrawImage(&above, 0, 0);
+        picture.DrawImage(&layer, 0, 0);
     }
 
     /// As over a picture of the canvas' size, to which the video surface clips.

@@ -4,6 +4,7 @@
 #include "draw/figurelayer.h"
 #include "draw/labelfont.h"
 #include "host/gdiplus.h"
+#include "tests/support/contrast.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/script.h"
 
@@ -107,26 +108,50 @@ const Script<Bench> kScript{
      {"parent", [](Bench& b, Step s) { return b.items.key(itemOf(b, s).parent()); }},
      {"entry", [](Bench& b, Step s) { return itemOf(b, s).dataId(); }}}};
 
-QImage painted(const std::function<void(Gdiplus::Graphics&)>& paint, int pixelRatio = 1)
+QImage painted(const std::function<void(Gdiplus::Graphics&)>& paint, int pixelRatio = 1,
+               const QColor& picture = Qt::white)
 {
     QImage image(kCanvas * pixelRatio, kCanvas * pixelRatio, QImage::Format_RGB32);
     image.setDevicePixelRatio(pixelRatio);
-    image.fill(Qt::white);
+    image.fill(picture);
     QPainter painter(&image);
     Gdiplus::Graphics graphics(&painter);
     paint(graphics);
     return image;
 }
 
-QImage painted(DrawScene& scene)
+QImage painted(DrawScene& scene, const QColor& picture = Qt::white)
 {
-    return painted([&](Gdiplus::Graphics& graphics) { scene.draw(&graphics); });
+    return painted([&](Gdiplus::Graphics& graphics) { scene.draw(&graphics); }, 1, picture);
 }
 
-/// On an upright line of a figure, and 2 and 6 pixels left of it.
+/// On an upright line of a figure, on its casing, and on what lies around that.
 QList<QRgb> colors(const QImage& image, const QPoint& at)
 {
-    return {image.pixel(at), image.pixel(at - QPoint(2, 0)), image.pixel(at - QPoint(6, 0))};
+    QList<QRgb> found;
+    for (const int left : {0, 2, 4, 7})
+        found.append(image.pixel(at - QPoint(left, 0)));
+    return found;
+}
+
+/// Of all pixels in @p area that have the very @p color the worst ratio to the best of those
+/// around it; 0 where there are hardly any.
+double worstRatio(const QImage& image, const QRect& area, QRgb color)
+{
+    int count = 0;
+    double worst = 21;
+    for (int i = 0; i < area.width() * area.height(); ++i) {
+        const QPoint at = area.topLeft() + QPoint(i % area.width(), i / area.width());
+        if (image.pixel(at) != color)
+            continue;
+        double best = 1;
+        for (int around = 0; around < 25; ++around)
+            best = qMax(best, Contrast::ratio(color, image.pixel(at.x() + around % 5 - 2,
+                                                                 at.y() + around / 5 - 2)));
+        worst = qMin(worst, best);
+        ++count;
+    }
+    return count < 5 ? 0 : worst;
 }
 
 constexpr int kNone = 1, kRough = 2, kSmooth = 3;
@@ -178,6 +203,8 @@ private slots:
             ++margin;
         QVERIFY_BOTH(margin > 20, image.pixel(margin - 2, y) == shaded);
         QVERIFY(qRed(image.pixel(margin + 1, y)) < qRed(shaded));
+        const QRgb ground = image.pixel(kCanvas - 2 - margin, y);
+        QVERIFY(Contrast::ratio(qRgb(255, 255, 255), ground) >= Contrast::kTexts);
         bench.select({});
         bench.scene.addDrawPoint(DrawScene::DrawMouseMove, {0, 0});
         QCOMPARE(painted(bench.scene).pixel(5, 5), qRgb(255, 255, 255));
@@ -204,9 +231,11 @@ private slots:
         const QRgb gold = qRgb(255, 215, 0);
         const QRgb white = qRgb(255, 255, 255);
         const QImage image = painted(bench.scene);
-        QCOMPARE(colors(image, {160, 120}), (QList<QRgb>{blue, gold, white}));
-        QCOMPARE(colors(image, {100, 180}), (QList<QRgb>{gold, white, white}));
-        QCOMPARE(colors(image, {20, 80}), (QList<QRgb>{blue, white, white}));
+        const QRgb dark = qRgb(102, 102, 102);
+        const QRgb onGold = qRgb(255, 252, 238);
+        QCOMPARE(colors(image, {160, 120}), (QList<QRgb>{blue, onGold, gold, white}));
+        QCOMPARE(colors(image, {100, 180}), (QList<QRgb>{gold, dark, white, white}));
+        QCOMPARE(colors(image, {20, 80}), (QList<QRgb>{blue, white, white, white}));
         // Where the last figure's line meets one that is painted before it.
         QCOMPARE(image.pixel(98, 60), image.pixel(110, 60));
         QCOMPARE(image.pixel(100, 58), blue);
@@ -215,18 +244,79 @@ private slots:
         QVERIFY(bench.scene.emphasise(2, 0));
         QVERIFY(!bench.scene.emphasise(2, 0));
         const QRgb edge = qRgb(16, 20, 24);
-        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, white, edge}));
+        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, white, white, edge}));
         QCOMPARE(bench.scene.selectedItem(1), bench.items["picked"]);
         QVERIFY(bench.scene.emphasise(0, bench.id("picked")));
-        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, white, white}));
-        QCOMPARE(colors(painted(bench.scene), {100, 180}), (QList<QRgb>{gold, white, edge}));
+        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, white, white, white}));
+        QCOMPARE(colors(painted(bench.scene), {100, 180}), (QList<QRgb>{gold, dark, white, edge}));
         QVERIFY(bench.scene.emphasise(0, 0));
         QCOMPARE(painted(bench.scene), image);
         bench.scene.setFaulty(bench.id("last"));
         QCOMPARE(painted(bench.scene).pixel(60, 44), qRgb(58, 32, 0)); // the sign
         bench.scene.setFaulty(0);
         bench.scene.setCurrentDataId(2);
-        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, gold, white}));
+        QCOMPARE(colors(painted(bench.scene), {20, 80}), (QList<QRgb>{blue, onGold, gold, white}));
+    }
+
+    void standsOutOnAnyPicture_data()
+    {
+        QTest::addColumn<QColor>("picture");
+        QTest::newRow("asphalt") << QColor(96, 98, 102);
+        QTest::newRow("grass") << QColor(104, 140, 62);
+        QTest::newRow("sky") << QColor(140, 185, 225);
+        QTest::newRow("snow") << QColor(252, 252, 255);
+        QTest::newRow("night") << QColor(14, 16, 24);
+    }
+
+    /// Lines and labels of either colour, and what would cross.
+    void standsOutOnAnyPicture()
+    {
+        QFETCH(const QColor, picture);
+        Bench bench;
+        bench.add("other", BaseDrawType::Parallelogram);
+        bench.add("picked", BaseDrawType::Parallelogram);
+        bench.add("drawn", BaseDrawType::Polygon);
+        const QRect places[] = {{30, 20, 60, 40}, {120, 20, 60, 40}};
+        const QRgb blue = qRgb(0, 125, 255);
+        const QRgb gold = qRgb(255, 215, 0);
+        for (const int i : {0, 1}) {
+            const QRect& place = places[i];
+            bench.select(i == 0 ? "other" : "picked");
+            bench.press({place.topLeft(), place.topRight(), place.bottomRight()});
+        }
+        const QImage image = painted(bench.scene, picture);
+        for (const int i : {0, 1}) {
+            const QRgb color = i == 0 ? blue : gold;
+            const QRect label = places[i].adjusted(4, 5, -4, -14);
+            QVERIFY(worstRatio(image, label, color) >= Contrast::kMarks);
+            QVERIFY(worstRatio(image, places[i].adjusted(-2, -2, 2, 2), color) >= Contrast::kMarks);
+        }
+        bench.select("drawn");
+        bench.press({{30, 190}, {200, 190}, {200, 230}});
+        bench.scene.addDrawPoint(DrawScene::DrawMouseMove, {100, 170});
+        const QImage crossing = painted(bench.scene, picture);
+        const QRect left(30, 165, 170, 65);
+        QVERIFY(worstRatio(crossing, left, qRgb(255, 0, 0)) >= Contrast::kMarks);
+        QVERIFY(worstRatio(crossing, left, gold) >= Contrast::kMarks);
+    }
+
+    void showsCrossingsWithoutColors()
+    {
+        Bench bench;
+        bench.add("drawn", BaseDrawType::Polygon);
+        bench.select("drawn");
+        const QPoint last(200, 240);
+        bench.press({{20, 100}, {200, 104}, last});
+        const auto gaps = [&](const QPoint& end) {
+            bench.scene.addDrawPoint(DrawScene::DrawMouseMove, end);
+            const QImage image = painted(bench.scene);
+            int found = 0;
+            for (int percent = 10; percent < 90; ++percent)
+                found += qBlue(image.pixel(last + percent * (end - last) / 100)) > 150 ? 1 : 0;
+            return found;
+        };
+        QVERIFY(gaps({60, 20}) > 5);
+        QCOMPARE(gaps({60, 230}), 0);
     }
 
     void finishedListenersMayRemoveTheItem()
