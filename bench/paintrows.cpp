@@ -115,8 +115,8 @@ void paintFirst(benchmark::State& state, int size)
 }
 
 /// Lines with @p pen, and the label in its colour at each of @p places.
-void paintStraight(QPainter& painter, const Shape& figure, const QPen& pen,
-                   const QVector<QPoint>& places)
+void strokeFigure(QPainter& painter, const Shape& figure, const QPen& pen,
+                  const QVector<QPoint>& places)
 {
     painter.setPen(pen);
     for (int i = 0; i < figure.outline.size(); ++i)
@@ -142,9 +142,9 @@ void paintStraight(benchmark::State& state, int size)
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setFont(font);
         for (const Shape& figure : figures)
-            paintStraight(painter, figure, FigureScene::casing(), FigureScene::around());
+            strokeFigure(painter, figure, FigureScene::casing(), FigureScene::around());
         for (const Shape& figure : figures)
-            paintStraight(painter, figure, pen, {{0, 0}});
+            strokeFigure(painter, figure, pen, {{0, 0}});
     }
 }
 
