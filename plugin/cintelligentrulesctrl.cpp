@@ -6,14 +6,13 @@
 #include "draw/shortenedtext.h"
 #include "host/api/kqmessagebox.h"
 #include "host/api/limits.h"
-#include "host/api/skin.h"
 #include "host/gdiplus.h"
 #include "host/video/qrtspvideownd.h"
 #include "plugin/editcommands.h"
 #include "plugin/entrymenu.h"
 #include "plugin/figurehover.h"
-#include "plugin/modulelifetime.h"
 #include "plugin/resultmessage.h"
+#include "plugin/windowskin.h"
 #include "scene/basetabelscene.h"
 #include "scene/scenefactory.h"
 #include "tabel/focus.h"
@@ -88,7 +87,8 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
     m_form->lblHint->hide();
     m_form->lblNotices->hide();
     connectEditing();
-    applySkin();
+    m_form->btnSave->setStyleSheet(QString::fromLatin1(kSaveButtonStyle));
+    new WindowSkin(this);
 }
 
 CIntelligentRulesCtrl::~CIntelligentRulesCtrl()
@@ -100,16 +100,6 @@ CIntelligentRulesCtrl::~CIntelligentRulesCtrl()
     }
     Focus::endIn(*this);
     unload();
-}
-
-void CIntelligentRulesCtrl::applySkin()
-{
-    m_form->btnSave->setStyleSheet(QString::fromLatin1(kSaveButtonStyle));
-    const QString path = UICommonMdl::GetSkinPath(QString::fromLatin1(kModuleName),
-                                                  objectName() + QStringLiteral(".qss"));
-    QString text;
-    if (UICommonMdl::loadStyleSheet(path, text))
-        setStyleSheet(text);
 }
 
 void CIntelligentRulesCtrl::setInterfaceSetManager(CommonData::CInterfaceSetManager* manager)

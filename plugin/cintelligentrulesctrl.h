@@ -101,7 +101,6 @@ private:
     static void drawOverPicture(void* deviceContext, void* user);
     static void reportVideoSize(int width, int height, void* user);
 
-    void applySkin();
     void connectSurface();
     void resetToDefaults();
     void showParameters();

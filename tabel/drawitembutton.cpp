@@ -111,7 +111,11 @@ void DrawItemButton::syncCheckBox()
     const bool shown = m_carriesCheckBox && !isHidden() && parentWidget();
     m_checkBox->setVisible(shown);
     // Named only while it shows, so that nobody finds the box of a button that is going away.
-    m_checkBox->setObjectName(shown ? QString::fromLatin1(RowContract::kEnable) : QString());
+    const QString name = shown ? QString::fromLatin1(RowContract::kEnable) : QString();
+    if (m_checkBox->objectName() != name) {
+        m_checkBox->setObjectName(name);
+        m_checkBox->style()->polish(m_checkBox); // it has another look by that name
+    }
     m_checkBox->raise();
 }
 

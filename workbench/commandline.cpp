@@ -1,6 +1,7 @@
 #include "workbench/commandline.h"
 
 #include "host/video/maskedaddress.h"
+#include "workbench/theme.h"
 
 #include <QCoreApplication>
 
@@ -11,6 +12,8 @@ QString translated(const char* source)
 {
     return QCoreApplication::translate("CommandLine", source);
 }
+
+constexpr char kTheme[] = "theme";
 
 struct TextOption {
     const char* name;
@@ -41,6 +44,8 @@ const TextOption kTextOptions[] = {
      &WorkbenchOptions::screenshotFile, "F"},
     {"replay", "Do what this session says, then close.", &WorkbenchOptions::replayFile, "F"},
     {"record", "Write what the operator does to this session.", &WorkbenchOptions::recordFile, "F"},
+    {kTheme, "Colours of the windows, light or dark, in place of the desktop's.",
+     &WorkbenchOptions::theme, "NAME", false},
 };
 
 constexpr char kType[] = "type";
@@ -110,7 +115,7 @@ bool CommandLine::readOptions()
         }
     }
     m_options.selectionMode = m_parser.isSet(QString::fromLatin1(kSelectionMode));
-    return readChannelSources() &&
+    return readChannelSources() && knowsTheme() &&
            readNumber(QString::fromLatin1(kType), m_options.algorithmType) &&
            readSwitch(QString::fromLatin1(kEditable), m_options.editable) && keepsFiles();
 }
@@ -136,6 +141,16 @@ bool CommandLine::readChannelSources()
         m_options.channelSources.insert(channel, address);
     }
     return true;
+}
+
+bool CommandLine::knowsTheme()
+{
+    const QString& theme = m_options.theme;
+    const bool isKnown = Theme::names().contains(theme);
+    if (!isKnown && m_parser.isSet(QString::fromLatin1(kTheme)))
+        m_text = translated("--%1 takes light or dark, not \"%2\"")
+                     .arg(QString::fromLatin1(kTheme), theme);
+    return m_text.isEmpty();
 }
 
 bool CommandLine::keepsFiles()

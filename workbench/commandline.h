@@ -22,6 +22,7 @@ public:
 private:
     bool readOptions();
     bool readChannelSources();
+    bool knowsTheme();
     bool keepsFiles();
     bool readNumber(const QString& name, int& target);
     bool readSwitch(const QString& name, std::optional<bool>& target);

@@ -1,5 +1,6 @@
 #include "workbench/commandline.h"
 #include "workbench/display.h"
+#include "workbench/theme.h"
 #include "workbench/workbench.h"
 
 #include <QApplication>
@@ -54,5 +55,6 @@ int main(int argc, char* argv[])
         return refuse(QStringLiteral("there is no display; only --replay works without one"));
 
     QApplication application(argc, argv);
+    Theme::apply(commandLine.options().theme);
     return Workbench(commandLine.options()).run();
 }

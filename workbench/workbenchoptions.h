@@ -23,6 +23,7 @@ struct WorkbenchOptions {
     QString screenshotFile;
     QString replayFile;
     QString recordFile;
+    QString theme; ///< "light" or "dark"; empty: the desktop's colours
 
     /// The files that are read: documents, session, pictures, plug-in; addresses are among them.
     QStringList inputs() const;
