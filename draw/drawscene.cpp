@@ -10,6 +10,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+
+using Part = PaintedFigure::Part;
 
 namespace
 {
@@ -271,26 +274,28 @@ void DrawScene::draw(Gdiplus::Graphics* graphics)
         return;
     FigureLayer::setQuality(*graphics);
     const DrawItem* drawn = m_previewed ? m_previewed : itemBeingDrawn();
-    std::vector<PaintedFigure> resting;
+    std::vector<PaintedFigure> below;
     std::vector<PaintedFigure> live;
-    std::ptrdiff_t before = 0; // the live one
+    std::vector<PaintedFigure> above;
+    std::vector<PaintedFigure> ground;
     for (const DrawItem* item : qAsConst(m_items)) {
         if (!item->figure() || isSkipped(*item, m_currentDataId))
             continue;
-        if (item == drawn)
-            before = std::ptrdiff_t(resting.size());
-        (item == drawn ? live : resting).push_back(m_looks.of(*item, m_currentDataId));
+        std::vector<PaintedFigure>& layer = item == drawn ? live : live.empty() ? below : above;
+        layer.push_back(m_looks.of(*item, m_currentDataId));
     }
-    // Without a live one a single layer does for all.
+    // Casings lie beneath all strokes; while none is live one layer does for both.
     const bool isLive = !live.empty();
-    drawLayer(*graphics, m_ground, isLive ? Beneath : Beneath | Strokes, resting);
-    const auto middle = isLive ? resting.begin() + before : resting.begin();
-    const std::vector<PaintedFigure> below(resting.begin(), middle);
-    const std::vector<PaintedFigure> above(middle, isLive ? resting.end() : middle);
-    PaintedFigure::paintBeneath(*graphics, live);
-    drawLayer(*graphics, m_below, Strokes, below);
-    PaintedFigure::paint(*graphics, live);
-    drawLayer(*graphics, m_above, Strokes, above);
+    const int groundParts = isLive ? Part::Bands | Part::Casings : Part::Bands;
+    const int parts = isLive ? Part::Strokes : Part::Casings | Part::Strokes;
+    for (const std::vector<PaintedFigure>* layer : {&below, &above})
+        std::copy_if(layer->begin(), layer->end(), std::back_inserter(ground),
+                     [&](const auto& one) { return isLive || one.look != PaintedFigure::Plain; });
+    drawLayer(*graphics, m_ground, ground, groundParts);
+    PaintedFigure::paint(*graphics, live, Part::Bands | Part::Casings);
+    drawLayer(*graphics, m_below, below, parts);
+    PaintedFigure::paint(*graphics, live, Part::Strokes);
+    drawLayer(*graphics, m_above, above, parts);
     drawMessage(*graphics);
 }
 
@@ -440,23 +445,20 @@ DrawItem* DrawScene::itemBeingDrawn() const
     return item && !item->isFinished() ? item : nullptr;
 }
 
-void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer, int parts,
-                          const std::vector<PaintedFigure>& figures) const
+void DrawScene::drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
+                          const std::vector<PaintedFigure>& figures, int parts) const
 {
-    const ForbidenArea* area = parts & Beneath ? m_forbidenArea.get() : nullptr;
+    const ForbidenArea* area = parts & Part::Bands ? m_forbidenArea.get() : nullptr;
     if (figures.empty() && !area)
         return layer.drop();
     FigureLayer::Revisions shown{quint64(parts), area ? m_forbidenRevision : 0};
     shown.reserve(shown.size() + figures.size());
     for (const PaintedFigure& figure : figures)
-        shown.push_back(figure.revision());
+        shown.push_back(figure.revision(parts));
     layer.draw(graphics, m_canvasSize, std::move(shown), [&](Gdiplus::Graphics& target) {
         if (area)
             area->paint(target);
-        if (parts & Beneath)
-            PaintedFigure::paintBeneath(target, figures);
-        if (parts & Strokes)
-            PaintedFigure::paint(target, figures);
+        PaintedFigure::paint(target, figures, parts);
     });
 }
 

@@ -128,9 +128,6 @@ signals:
     void sgnSelectedStatusChange();
 
 private:
-    /// Of figures, on a layer.
-    enum Part { Beneath = 1, Strokes = 2 };
-
     void itemAdded(DrawItem& item) override;
     void itemGone(DrawItem& item) override;
     void itemIdsChanged() override;
@@ -149,8 +146,8 @@ private:
     void renewForbidenArea(const DrawItem& item);
     std::unique_ptr<ForbidenArea> forbidenArea(const DrawItem& item, const DrawItem* except) const;
     DrawItem* itemBeingDrawn() const;
-    void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer, int parts,
-                   const std::vector<PaintedFigure>& figures) const;
+    void drawLayer(Gdiplus::Graphics& graphics, FigureLayer& layer,
+                   const std::vector<PaintedFigure>& figures, int parts) const;
     void drawMessage(Gdiplus::Graphics& graphics) const;
     QString getBeginDrawMsg(const DrawItem* item) const;
     QString getEndDrawMsg(const DrawItem* item) const;
@@ -166,7 +163,7 @@ private:
     const DrawItem* m_forbidenFor = nullptr;      ///< whose standing area it is; not owned
     quint64 m_forbidenRevision = 0;               ///< another one whenever the area is another
     FigureLooks m_looks;
-    FigureLayer m_ground; ///< the area, what lies beneath all strokes, and these while none is live
+    FigureLayer m_ground; ///< the area, bands, and all casings while a figure is being drawn
     FigureLayer m_below;  ///< the figures before the one being drawn
     FigureLayer m_above;  ///< the figures after it
     bool m_drawByDataId = false;

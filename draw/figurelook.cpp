@@ -53,29 +53,24 @@ void setSmooth(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& fi
 
 } // namespace
 
-quint64 PaintedFigure::revision() const
+quint64 PaintedFigure::revision(int parts) const
 {
-    return figure->revision() * kLooks + static_cast<quint64>(look);
+    const int seen = parts & Bands ? look : look & Faulty;
+    return figure->revision() * kLooks + static_cast<quint64>(seen);
 }
 
-void PaintedFigure::paintBeneath(Gdiplus::Graphics& graphics,
-                                 const std::vector<PaintedFigure>& figures)
+void PaintedFigure::paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures,
+                          int parts)
 {
     setSmooth(graphics, figures);
-    for (const PaintedFigure& painted : figures)
-        painted.paintBands(graphics);
-    for (const PaintedFigure& painted : figures)
-        painted.figure->drawCasing(graphics);
-    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-}
-
-void PaintedFigure::paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures)
-{
-    setSmooth(graphics, figures);
-    for (const PaintedFigure& painted : figures)
-        painted.figure->draw(&graphics);
-    for (const PaintedFigure& painted : figures)
-        painted.paintSign(graphics);
+    const auto each = [&](int part, const auto& paintOne) {
+        if (parts & part)
+            std::for_each(figures.begin(), figures.end(), paintOne);
+    };
+    each(Bands, [&](const PaintedFigure& painted) { painted.paintBands(graphics); });
+    each(Casings, [&](const PaintedFigure& painted) { painted.figure->drawCasing(graphics); });
+    each(Strokes, [&](const PaintedFigure& painted) { painted.figure->draw(&graphics); });
+    each(Strokes, [&](const PaintedFigure& painted) { painted.paintSign(graphics); });
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
 }
 

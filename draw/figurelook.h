@@ -20,18 +20,22 @@ struct PaintedFigure {
     };
     static constexpr quint64 kLooks = 8; ///< what they can be together
 
+    /// What is painted of figures, from the bottom up.
+    enum Part {
+        Bands = 1,   ///< around what stands out
+        Casings = 2, ///< what lets strokes and names be told from any picture
+        Strokes = 4  ///< with signs
+    };
+
     BaseDraw* figure; ///< not owned
     int look = Plain;
 
-    /// As BaseDraw::revision(), and another number for another look.
-    quint64 revision() const;
-    /// Paints what lies beneath the strokes of all figures on the canvas: bands, and the casings
-    /// of @p figures on these.
-    static void paintBeneath(Gdiplus::Graphics& graphics,
-                             const std::vector<PaintedFigure>& figures);
-    /// Paints strokes and signs. Neither is painted smooth where the figures have very many points
-    /// together, nor is what lies beneath.
-    static void paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures);
+    /// As BaseDraw::revision(), and another number where @p parts look otherwise for another look.
+    quint64 revision(int parts) const;
+    /// Paints @p parts of all figures, each part of all before the next. Nothing is painted smooth
+    /// where the figures have very many points together.
+    static void paint(Gdiplus::Graphics& graphics, const std::vector<PaintedFigure>& figures,
+                      int parts);
 
 private:
     void paintBands(Gdiplus::Graphics& graphics) const;
