@@ -19,6 +19,18 @@ QString session(const char* name)
     return Fixtures::path(QString("sessions/%1.jsonl").arg(name));
 }
 
+/// The steps of a case, in its window and with a picture, and a save.
+QByteArray session(const Value& fixture)
+{
+    const Value& window = fixture["window"];
+    QString steps = QString(R"({"do":"size","window":%1})")
+                        .arg(window.isNull() ? "[1375,800]" : window.toCompactText());
+    steps += "\n{\"do\":\"wait\",\"picture\":true}\n";
+    for (int i = 0; i < fixture["steps"].size(); ++i)
+        steps += fixture["steps"][i].toCompactText() + '\n';
+    return steps.toUtf8() + R"({"do":"save","answer":"Yes"})";
+}
+
 /// Puts @p values where their names say, as "Rules.0.Name".
 void put(Value& document, const Value& values)
 {
@@ -190,12 +202,6 @@ private slots:
         QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
     }
 
-    void undoesAndRedoes()
-    {
-        const Outcome outcome = replay(session("undo"));
-        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
-    }
-
     void corrects_data() { Fixtures::addRows("correcting"); }
 
     /// On a picture of 1024 x 576 pixels one to the right is 8 of 8192, and nine down are 128.
@@ -207,42 +213,15 @@ private slots:
         put(expected, fixture["given"]);
         const QByteArray config = expected.toStyledText().toUtf8();
         put(expected, fixture["saved"]);
-        const Value& window = fixture["window"];
-        QString steps = QString(R"({"do":"size","window":%1})")
-                            .arg(window.isNull() ? "[1375,800]" : window.toCompactText());
-        steps += "\n{\"do\":\"wait\",\"picture\":true}\n";
-        for (int i = 0; i < fixture["steps"].size(); ++i)
-            steps += fixture["steps"][i].toCompactText() + '\n';
-        steps += R"({"do":"save","answer":"Yes"})";
+        const QString name = fixture["session"].asString();
+        const QString steps =
+            name.isEmpty() ? file("steps.jsonl", session(fixture)) : session(qPrintable(name));
         const Outcome outcome =
             run({"--template", folder + "template.json", "--config", file("given.json", config),
-                 "--replay", file("steps.jsonl", steps.toUtf8()), "--result", path("moved.json")});
+                 "--replay", steps, "--result", path("moved.json")});
         QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
         const Value written = read(path("moved.json"))["channelAbilityPO"];
         QVERIFY2(written == expected, qPrintable(written.toCompactText()));
-    }
-
-    void copiesEntries_data()
-    {
-        QTest::addColumn<QString>("example");
-        QTest::addColumn<QString>("session");
-        QTest::newRow("rules") << "perimeter"
-                               << "copyrules";
-        QTest::newRow("lanes and detection areas") << "traffic"
-                                                   << "copylanes";
-        QTest::newRow("calibrate areas") << "scene-calibration"
-                                         << "copyareas";
-        QTest::newRow("fights") << "fight-calibration"
-                                << "copyfights";
-    }
-
-    void copiesEntries()
-    {
-        QFETCH(const QString, example);
-        QFETCH(const QString, session);
-        const Outcome outcome = run(documents(ExampleFiles::folder(example)) +
-                                    QStringList{"--replay", ::session(qPrintable(session))});
-        QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
     }
 
     void tellsThatTheOperatorLeft()
