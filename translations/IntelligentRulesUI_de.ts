@@ -337,8 +337,6 @@
         <translation>Entf, oder Umschalt und ein Klick: eine Ecke entfernen</translation>
     </message>
     <message>
-        <source>Ctrl and a press: take the whole figure</source>
-        <translation>Strg und ein Klick: die ganze Figur nehmen</translation>
         <source>Ctrl+C, Ctrl+V: copy the entry, paste a copied one</source>
         <translation>Strg+C, Strg+V: Eintrag kopieren, kopierten einfügen</translation>
     </message>
@@ -346,16 +344,9 @@
         <source>Ctrl+D: duplicate the entry</source>
         <translation>Strg+D: Eintrag duplizieren</translation>
     </message>
-</context>
-<context>
-    <name>IntelligentRulesUI::SaveCheck</name>
     <message>
-        <source>Duplicate rule name exists</source>
-        <translation>Ein Regelname kommt doppelt vor</translation>
-    </message>
-    <message>
-        <source>Please select at least one rule</source>
-        <translation>Bitte mindestens eine Regel auswählen</translation>
+        <source>Ctrl and a press: take the whole figure</source>
+        <translation>Strg und ein Klick: die ganze Figur nehmen</translation>
     </message>
 </context>
 <context>
@@ -452,6 +443,111 @@
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::SaveCheck</name>
+    <message>
+        <source>Duplicate rule name exists</source>
+        <translation>Ein Regelname kommt doppelt vor</translation>
+    </message>
+    <message>
+        <source>Please select at least one rule</source>
+        <translation>Bitte mindestens eine Regel auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>Json</name>
+    <message>
+        <source>The document is empty.</source>
+        <translation>Das Dokument ist leer.</translation>
+    </message>
+    <message>
+        <source>The document root must not be followed by other values.</source>
+        <translation>Nach dem Wert des Dokuments darf kein weiterer folgen.</translation>
+    </message>
+    <message>
+        <source>Missing a name for object member.</source>
+        <translation>Einem Mitglied des Objekts fehlt der Name.</translation>
+    </message>
+    <message>
+        <source>Missing a colon after a name of object member.</source>
+        <translation>Nach dem Namen eines Mitglieds fehlt ein Doppelpunkt.</translation>
+    </message>
+    <message>
+        <source>Missing a comma or &apos;}&apos; after an object member.</source>
+        <translation>Nach einem Mitglied des Objekts fehlt ein Komma oder &apos;}&apos;.</translation>
+    </message>
+    <message>
+        <source>Missing a comma or &apos;]&apos; after an array element.</source>
+        <translation>Nach einem Element der Liste fehlt ein Komma oder &apos;]&apos;.</translation>
+    </message>
+    <message>
+        <source>Incorrect hex digit after \u escape in string.</source>
+        <translation>Im Text steht nach \u keine hexadezimale Ziffer.</translation>
+    </message>
+    <message>
+        <source>The surrogate pair in string is invalid.</source>
+        <translation>Das Surrogatpaar im Text ist ungültig.</translation>
+    </message>
+    <message>
+        <source>Invalid escape character in string.</source>
+        <translation>Im Text steht nach \ ein ungültiges Zeichen.</translation>
+    </message>
+    <message>
+        <source>Missing a closing quotation mark in string.</source>
+        <translation>Dem Text fehlt das schließende Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>Miss fraction part in number.</source>
+        <translation>Der Zahl fehlen die Nachkommastellen.</translation>
+    </message>
+    <message>
+        <source>Miss exponent in number.</source>
+        <translation>Der Zahl fehlt der Exponent.</translation>
+    </message>
+    <message>
+        <source>Invalid value.</source>
+        <translation>Ungültiger Wert.</translation>
+    </message>
+    <message>
+        <source>The document is nested too deeply.</source>
+        <translation>Das Dokument ist zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>The number is too large.</source>
+        <translation>Die Zahl ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The text holds half of a surrogate pair.</source>
+        <translation>Der Text enthält ein halbes Surrogatpaar.</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>Der Text ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8.</source>
+        <translation>Der Text ist kein gültiges UTF-8.</translation>
+    </message>
+    <message>
+        <source>The text goes on after a NUL.</source>
+        <translation>Nach einem NUL geht der Text weiter.</translation>
+    </message>
+</context>
+<context>
+    <name>KQMessageBox</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
     </message>
 </context>
 <context>
@@ -555,6 +651,13 @@
     </message>
 </context>
 <context>
+    <name>PictureSource</name>
+    <message>
+        <source>The picture&apos;s size, %1 x %2, is out of range.</source>
+        <translation>Die Größe des Bildes, %1 x %2, liegt außerhalb des Erlaubten.</translation>
+    </message>
+</context>
+<context>
     <name>PolygonDraw</name>
     <message>
         <source>Length</source>
@@ -563,6 +666,49 @@
     <message>
         <source>Width</source>
         <translation>Breite</translation>
+    </message>
+</context>
+<context>
+    <name>QRtspVideoWnd</name>
+    <message>
+        <source>No signal</source>
+        <translation>Kein Signal</translation>
+    </message>
+    <message>
+        <source>Last picture: %1</source>
+        <translation>Letztes Bild: %1</translation>
+    </message>
+    <message>
+        <source>Try again now</source>
+        <translation>Jetzt erneut versuchen</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+    <message>
+        <source>Connecting ...</source>
+        <translation>Verbinden ...</translation>
+    </message>
+    <message>
+        <source>The picture is held still</source>
+        <translation>Das Bild ist angehalten</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Beendet</translation>
+    </message>
+    <message>
+        <source>Save snapshot</source>
+        <translation>Schnappschuss speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.bmp)</source>
+        <translation>Bilder (*.png *.jpg *.bmp)</translation>
+    </message>
+    <message>
+        <source>The picture cannot be saved: %1</source>
+        <translation>Das Bild kann nicht gespeichert werden: %1</translation>
     </message>
 </context>
 <context>
@@ -779,6 +925,226 @@
     </message>
 </context>
 <context>
+    <name>StillPicture</name>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>&quot;%1&quot; ist kein Bild, das gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a picture of a kind that is not supported: %2.</source>
+        <translation>&quot;%1&quot; ist ein Bild einer Art, die nicht unterstützt wird: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: %2.</source>
+        <translation>&quot;%1&quot; ist beschädigt: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>StreamDecoder</name>
+    <message>
+        <source>What comes cannot be decoded.</source>
+        <translation>Was kommt, kann nicht decodiert werden.</translation>
+    </message>
+    <message>
+        <source>The coding of the video is not known.</source>
+        <translation>Die Codierung des Videos ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Video coded as %1 cannot be decoded.</source>
+        <translation>Als %1 codiertes Video kann nicht decodiert werden.</translation>
+    </message>
+    <message>
+        <source>There is no picture in it that can be decoded.</source>
+        <translation>Es enthält kein Bild, das decodiert werden kann.</translation>
+    </message>
+    <message>
+        <source>Its pictures cannot be converted.</source>
+        <translation>Seine Bilder können nicht umgewandelt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>StreamErrors</name>
+    <message>
+        <source>The connection is refused.</source>
+        <translation>Die Verbindung wird abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The host cannot be reached.</source>
+        <translation>Der Rechner ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The network cannot be reached.</source>
+        <translation>Das Netz ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The connection cannot be made, or broke.</source>
+        <translation>Die Verbindung kommt nicht zustande oder brach ab.</translation>
+    </message>
+    <message>
+        <source>The connection was lost.</source>
+        <translation>Die Verbindung ging verloren.</translation>
+    </message>
+    <message>
+        <source>There is no answer, or nothing comes any more.</source>
+        <translation>Es gibt keine Antwort, oder es kommt nichts mehr.</translation>
+    </message>
+    <message>
+        <source>The stream was ended by the other side.</source>
+        <translation>Die Gegenseite hat den Strom beendet.</translation>
+    </message>
+    <message>
+        <source>The user name or the password is not accepted.</source>
+        <translation>Benutzername oder Passwort wird nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>Access is forbidden.</source>
+        <translation>Der Zugriff ist verboten.</translation>
+    </message>
+    <message>
+        <source>The camera sends its viewers to another server. It is not followed: user name and password would go along.</source>
+        <translation>Die Kamera verweist auf einen anderen Server. Dem wird nicht gefolgt: Benutzername und Passwort gingen mit.</translation>
+    </message>
+    <message>
+        <source>There is no stream of this name.</source>
+        <translation>Es gibt keinen Strom dieses Namens.</translation>
+    </message>
+    <message>
+        <source>The request is refused.</source>
+        <translation>Die Anfrage wird abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The server has a fault of its own.</source>
+        <translation>Der Server hat selbst einen Fehler.</translation>
+    </message>
+    <message>
+        <source>Neither TCP nor UDP is accepted.</source>
+        <translation>Weder TCP noch UDP wird angenommen.</translation>
+    </message>
+    <message>
+        <source>There is no video in it.</source>
+        <translation>Es enthält kein Video.</translation>
+    </message>
+    <message>
+        <source>It is no video that can be read.</source>
+        <translation>Es ist kein Video, das gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Eine solche Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>It may not be read.</source>
+        <translation>Es darf nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The address, or the login in it, is too long.</source>
+        <translation>Die Adresse oder die Anmeldung darin ist zu lang.</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>Es ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>It cannot be played: %1.</source>
+        <translation>Es kann nicht wiedergegeben werden: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>StreamInput</name>
+    <message>
+        <source>A web server answers there, not a camera&apos;s RTSP.</source>
+        <translation>Dort antwortet ein Webserver, nicht das RTSP einer Kamera.</translation>
+    </message>
+</context>
+<context>
+    <name>StreamLibrary</name>
+    <message>
+        <source>The library that plays streams and video files cannot be loaded.</source>
+        <translation>Die Bibliothek, die Ströme und Videodateien wiedergibt, kann nicht geladen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>UICommonMdl::ChannelSources</name>
+    <message>
+        <source>The address is empty.</source>
+        <translation>Die Adresse ist leer.</translation>
+    </message>
+    <message>
+        <source>Only rtsp and rtsps addresses and files can be played, not %1.</source>
+        <translation>Nur Adressen mit rtsp und rtsps und Dateien können wiedergegeben werden, nicht %1.</translation>
+    </message>
+    <message>
+        <source>Only rtsp and rtsps addresses of a client can be played.</source>
+        <translation>Von einem Client können nur Adressen mit rtsp und rtsps wiedergegeben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>UICommonMdl::PictureStrip</name>
+    <message>
+        <source>Codec: %1</source>
+        <translation>Codec: %1</translation>
+    </message>
+    <message>
+        <source>Size: %1 x %2</source>
+        <translation>Größe: %1 x %2</translation>
+    </message>
+    <message>
+        <source>Pictures a second: %1</source>
+        <translation>Bilder je Sekunde: %1</translation>
+    </message>
+    <message>
+        <source>Dropped: %1</source>
+        <translation>Verworfen: %1</translation>
+    </message>
+    <message>
+        <source>Freeze</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Hold the picture still</source>
+        <translation>Das Bild anhalten</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Save the picture as a file</source>
+        <translation>Das Bild als Datei speichern</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Show facts about the picture</source>
+        <translation>Angaben zum Bild zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>UICommonMdl::StreamSource</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>Trying again ...</source>
+        <translation>Neuer Versuch ...</translation>
+    </message>
+    <message>
+        <source>It is tried again only when you ask for it.</source>
+        <translation>Erst auf Wunsch wird es erneut versucht.</translation>
+    </message>
+    <message>
+        <source>Next try at %1</source>
+        <translation>Nächster Versuch um %1</translation>
+    </message>
+</context>
+<context>
     <name>VehicleLaneDraw</name>
     <message>
         <source>Left</source>
@@ -787,6 +1153,21 @@
     <message>
         <source>Right</source>
         <translation>Rechts</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>the old file stands</source>
+        <translation>die alte Datei bleibt</translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>%1: it is no regular file, and is not replaced</source>
+        <translation>%1: ist keine gewöhnliche Datei und wird nicht ersetzt</translation>
     </message>
 </context>
 </TS>

@@ -337,8 +337,6 @@
         <translation>Delete，或按住 Shift 点击：删除角点</translation>
     </message>
     <message>
-        <source>Ctrl and a press: take the whole figure</source>
-        <translation>按住 Ctrl 点击：抓住整个图形</translation>
         <source>Ctrl+C, Ctrl+V: copy the entry, paste a copied one</source>
         <translation>Ctrl+C、Ctrl+V：复制条目，粘贴已复制的条目</translation>
     </message>
@@ -346,16 +344,9 @@
         <source>Ctrl+D: duplicate the entry</source>
         <translation>Ctrl+D：复制一份条目</translation>
     </message>
-</context>
-<context>
-    <name>IntelligentRulesUI::SaveCheck</name>
     <message>
-        <source>Duplicate rule name exists</source>
-        <translation>存在重复的规则名称</translation>
-    </message>
-    <message>
-        <source>Please select at least one rule</source>
-        <translation>请至少选择一条规则</translation>
+        <source>Ctrl and a press: take the whole figure</source>
+        <translation>按住 Ctrl 点击：抓住整个图形</translation>
     </message>
 </context>
 <context>
@@ -452,6 +443,111 @@
     <message>
         <source>Delete</source>
         <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::SaveCheck</name>
+    <message>
+        <source>Duplicate rule name exists</source>
+        <translation>存在重复的规则名称</translation>
+    </message>
+    <message>
+        <source>Please select at least one rule</source>
+        <translation>请至少选择一条规则</translation>
+    </message>
+</context>
+<context>
+    <name>Json</name>
+    <message>
+        <source>The document is empty.</source>
+        <translation>文档为空。</translation>
+    </message>
+    <message>
+        <source>The document root must not be followed by other values.</source>
+        <translation>文档的根值之后不能再有其他值。</translation>
+    </message>
+    <message>
+        <source>Missing a name for object member.</source>
+        <translation>对象成员缺少名称。</translation>
+    </message>
+    <message>
+        <source>Missing a colon after a name of object member.</source>
+        <translation>对象成员的名称后缺少冒号。</translation>
+    </message>
+    <message>
+        <source>Missing a comma or &apos;}&apos; after an object member.</source>
+        <translation>对象成员后缺少逗号或“}”。</translation>
+    </message>
+    <message>
+        <source>Missing a comma or &apos;]&apos; after an array element.</source>
+        <translation>数组元素后缺少逗号或“]”。</translation>
+    </message>
+    <message>
+        <source>Incorrect hex digit after \u escape in string.</source>
+        <translation>字符串中 \u 之后的十六进制数字不正确。</translation>
+    </message>
+    <message>
+        <source>The surrogate pair in string is invalid.</source>
+        <translation>字符串中的代理对无效。</translation>
+    </message>
+    <message>
+        <source>Invalid escape character in string.</source>
+        <translation>字符串中的转义字符无效。</translation>
+    </message>
+    <message>
+        <source>Missing a closing quotation mark in string.</source>
+        <translation>字符串缺少右引号。</translation>
+    </message>
+    <message>
+        <source>Miss fraction part in number.</source>
+        <translation>数字缺少小数部分。</translation>
+    </message>
+    <message>
+        <source>Miss exponent in number.</source>
+        <translation>数字缺少指数部分。</translation>
+    </message>
+    <message>
+        <source>Invalid value.</source>
+        <translation>值无效。</translation>
+    </message>
+    <message>
+        <source>The document is nested too deeply.</source>
+        <translation>文档嵌套过深。</translation>
+    </message>
+    <message>
+        <source>The number is too large.</source>
+        <translation>数字过大。</translation>
+    </message>
+    <message>
+        <source>The text holds half of a surrogate pair.</source>
+        <translation>文本含有半个代理对。</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>文本过长。</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8.</source>
+        <translation>文本不是有效的 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The text goes on after a NUL.</source>
+        <translation>NUL 之后仍有文本。</translation>
+    </message>
+</context>
+<context>
+    <name>KQMessageBox</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -555,6 +651,13 @@
     </message>
 </context>
 <context>
+    <name>PictureSource</name>
+    <message>
+        <source>The picture&apos;s size, %1 x %2, is out of range.</source>
+        <translation>图像尺寸 %1 x %2 超出范围。</translation>
+    </message>
+</context>
+<context>
     <name>PolygonDraw</name>
     <message>
         <source>Length</source>
@@ -563,6 +666,49 @@
     <message>
         <source>Width</source>
         <translation>宽度</translation>
+    </message>
+</context>
+<context>
+    <name>QRtspVideoWnd</name>
+    <message>
+        <source>No signal</source>
+        <translation>无信号</translation>
+    </message>
+    <message>
+        <source>Last picture: %1</source>
+        <translation>最后画面：%1</translation>
+    </message>
+    <message>
+        <source>Try again now</source>
+        <translation>立即重试</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>无画面</translation>
+    </message>
+    <message>
+        <source>Connecting ...</source>
+        <translation>正在连接……</translation>
+    </message>
+    <message>
+        <source>The picture is held still</source>
+        <translation>画面已冻结</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>已结束</translation>
+    </message>
+    <message>
+        <source>Save snapshot</source>
+        <translation>保存快照</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.bmp)</source>
+        <translation>图片 (*.png *.jpg *.bmp)</translation>
+    </message>
+    <message>
+        <source>The picture cannot be saved: %1</source>
+        <translation>无法保存图片：%1</translation>
     </message>
 </context>
 <context>
@@ -779,6 +925,226 @@
     </message>
 </context>
 <context>
+    <name>StillPicture</name>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read.</source>
+        <translation>“%1”不是可读取的图片。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a picture of a kind that is not supported: %2.</source>
+        <translation>“%1”的图片类型不受支持：%2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: %2.</source>
+        <translation>“%1”已损坏：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>StreamDecoder</name>
+    <message>
+        <source>What comes cannot be decoded.</source>
+        <translation>收到的内容无法解码。</translation>
+    </message>
+    <message>
+        <source>The coding of the video is not known.</source>
+        <translation>视频编码未知。</translation>
+    </message>
+    <message>
+        <source>Video coded as %1 cannot be decoded.</source>
+        <translation>无法解码 %1 编码的视频。</translation>
+    </message>
+    <message>
+        <source>There is no picture in it that can be decoded.</source>
+        <translation>其中没有可解码的画面。</translation>
+    </message>
+    <message>
+        <source>Its pictures cannot be converted.</source>
+        <translation>其画面无法转换。</translation>
+    </message>
+</context>
+<context>
+    <name>StreamErrors</name>
+    <message>
+        <source>The connection is refused.</source>
+        <translation>连接被拒绝。</translation>
+    </message>
+    <message>
+        <source>The host cannot be reached.</source>
+        <translation>无法访问主机。</translation>
+    </message>
+    <message>
+        <source>The network cannot be reached.</source>
+        <translation>无法访问网络。</translation>
+    </message>
+    <message>
+        <source>The connection cannot be made, or broke.</source>
+        <translation>连接无法建立或已中断。</translation>
+    </message>
+    <message>
+        <source>The connection was lost.</source>
+        <translation>连接已丢失。</translation>
+    </message>
+    <message>
+        <source>There is no answer, or nothing comes any more.</source>
+        <translation>没有应答，或不再有数据。</translation>
+    </message>
+    <message>
+        <source>The stream was ended by the other side.</source>
+        <translation>对方已结束视频流。</translation>
+    </message>
+    <message>
+        <source>The user name or the password is not accepted.</source>
+        <translation>用户名或密码不被接受。</translation>
+    </message>
+    <message>
+        <source>Access is forbidden.</source>
+        <translation>禁止访问。</translation>
+    </message>
+    <message>
+        <source>The camera sends its viewers to another server. It is not followed: user name and password would go along.</source>
+        <translation>摄像机将观看者转到另一台服务器。未跟随：用户名和密码会一并发送。</translation>
+    </message>
+    <message>
+        <source>There is no stream of this name.</source>
+        <translation>没有该名称的视频流。</translation>
+    </message>
+    <message>
+        <source>The request is refused.</source>
+        <translation>请求被拒绝。</translation>
+    </message>
+    <message>
+        <source>The server has a fault of its own.</source>
+        <translation>服务器自身出错。</translation>
+    </message>
+    <message>
+        <source>Neither TCP nor UDP is accepted.</source>
+        <translation>TCP 和 UDP 均不被接受。</translation>
+    </message>
+    <message>
+        <source>There is no video in it.</source>
+        <translation>其中没有视频。</translation>
+    </message>
+    <message>
+        <source>It is no video that can be read.</source>
+        <translation>这不是可读取的视频。</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>没有此文件。</translation>
+    </message>
+    <message>
+        <source>It may not be read.</source>
+        <translation>不允许读取。</translation>
+    </message>
+    <message>
+        <source>The address, or the login in it, is too long.</source>
+        <translation>地址或其中的登录信息过长。</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>这是一个文件夹。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+    <message>
+        <source>It cannot be played: %1.</source>
+        <translation>无法播放：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>StreamInput</name>
+    <message>
+        <source>A web server answers there, not a camera&apos;s RTSP.</source>
+        <translation>应答的是网页服务器，而不是摄像机的 RTSP。</translation>
+    </message>
+</context>
+<context>
+    <name>StreamLibrary</name>
+    <message>
+        <source>The library that plays streams and video files cannot be loaded.</source>
+        <translation>无法加载播放视频流和视频文件的库。</translation>
+    </message>
+</context>
+<context>
+    <name>UICommonMdl::ChannelSources</name>
+    <message>
+        <source>The address is empty.</source>
+        <translation>地址为空。</translation>
+    </message>
+    <message>
+        <source>Only rtsp and rtsps addresses and files can be played, not %1.</source>
+        <translation>只能播放 rtsp、rtsps 地址和文件，不能播放 %1。</translation>
+    </message>
+    <message>
+        <source>Only rtsp and rtsps addresses of a client can be played.</source>
+        <translation>只能播放客户端的 rtsp 和 rtsps 地址。</translation>
+    </message>
+</context>
+<context>
+    <name>UICommonMdl::PictureStrip</name>
+    <message>
+        <source>Codec: %1</source>
+        <translation>编码：%1</translation>
+    </message>
+    <message>
+        <source>Size: %1 x %2</source>
+        <translation>尺寸：%1 x %2</translation>
+    </message>
+    <message>
+        <source>Pictures a second: %1</source>
+        <translation>每秒帧数：%1</translation>
+    </message>
+    <message>
+        <source>Dropped: %1</source>
+        <translation>丢弃：%1</translation>
+    </message>
+    <message>
+        <source>Freeze</source>
+        <translation>冻结</translation>
+    </message>
+    <message>
+        <source>Hold the picture still</source>
+        <translation>使画面静止</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>快照</translation>
+    </message>
+    <message>
+        <source>Save the picture as a file</source>
+        <translation>将画面保存为文件</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
+    </message>
+    <message>
+        <source>Show facts about the picture</source>
+        <translation>显示画面信息</translation>
+    </message>
+</context>
+<context>
+    <name>UICommonMdl::StreamSource</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+    <message>
+        <source>Trying again ...</source>
+        <translation>正在重试……</translation>
+    </message>
+    <message>
+        <source>It is tried again only when you ask for it.</source>
+        <translation>仅在您要求时才会重试。</translation>
+    </message>
+    <message>
+        <source>Next try at %1</source>
+        <translation>下次重试：%1</translation>
+    </message>
+</context>
+<context>
     <name>VehicleLaneDraw</name>
     <message>
         <source>Left</source>
@@ -787,6 +1153,21 @@
     <message>
         <source>Right</source>
         <translation>右</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>the old file stands</source>
+        <translation>保留原文件</translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>未写入任何内容</translation>
+    </message>
+    <message>
+        <source>%1: it is no regular file, and is not replaced</source>
+        <translation>%1：不是普通文件，不会被替换</translation>
     </message>
 </context>
 </TS>

@@ -4,14 +4,14 @@
 #include "workbench/theme.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace
 {
 
-QString translated(const char* source)
-{
-    return QCoreApplication::translate("CommandLine", source);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
 
 constexpr char kTheme[] = "theme";
 
@@ -24,31 +24,52 @@ struct TextOption {
 };
 
 const TextOption kTextOptions[] = {
-    {"template", "Template document to load.", &WorkbenchOptions::templateFile, "F"},
-    {"config", "Configuration document to load, or a result with one; none is an empty one.",
+    {"template", QT_TRANSLATE_NOOP("CommandLine", "Template document to load."),
+     &WorkbenchOptions::templateFile, "F"},
+    {"config",
+     QT_TRANSLATE_NOOP(
+         "CommandLine",
+         "Configuration document to load, or a result with one; none is an empty one."),
      &WorkbenchOptions::configFile, "F"},
     {"source",
-     "Address or file that gives the channel's picture, in place of the sample camera: an RTSP "
-     "address, a video, a still picture.",
+     QT_TRANSLATE_NOOP(
+         "CommandLine",
+         "Address or file that gives the channel's picture, in place of the sample camera: an RTSP "
+         "address, a video, a still picture."),
      &WorkbenchOptions::source, "ADDRESS-OR-FILE"},
-    {"picture", "The same as --source.", &WorkbenchOptions::source, "F"},
-    {"channel", "Channel id.", &WorkbenchOptions::channelId, "ID", false},
-    {"name", "Channel name.", &WorkbenchOptions::channelName, "TEXT", false},
-    {"algorithm", "Algorithm id.", &WorkbenchOptions::algorithmId, "ID", false},
-    {"code", "Algorithm code.", &WorkbenchOptions::algorithmCode, "TEXT", false},
-    {"plugin", "Plug-in to load in place of the one beside the program.",
+    {"picture", QT_TRANSLATE_NOOP("CommandLine", "The same as --source."),
+     &WorkbenchOptions::source, "F"},
+    {"channel", QT_TRANSLATE_NOOP("CommandLine", "Channel id."), &WorkbenchOptions::channelId, "ID",
+     false},
+    {"name", QT_TRANSLATE_NOOP("CommandLine", "Channel name."), &WorkbenchOptions::channelName,
+     "TEXT", false},
+    {"algorithm", QT_TRANSLATE_NOOP("CommandLine", "Algorithm id."), &WorkbenchOptions::algorithmId,
+     "ID", false},
+    {"code", QT_TRANSLATE_NOOP("CommandLine", "Algorithm code."), &WorkbenchOptions::algorithmCode,
+     "TEXT", false},
+    {"plugin",
+     QT_TRANSLATE_NOOP("CommandLine", "Plug-in to load in place of the one beside the program."),
      &WorkbenchOptions::pluginFile, "FILE"},
-    {"result", "Write the object of the last result message here; leaving keeps what was saved.",
+    {"result",
+     QT_TRANSLATE_NOOP(
+         "CommandLine",
+         "Write the object of the last result message here; leaving keeps what was saved."),
      &WorkbenchOptions::resultFile, "F"},
-    {"screenshot", "Save a picture of the window here before it closes.",
+    {"screenshot",
+     QT_TRANSLATE_NOOP("CommandLine", "Save a picture of the window here before it closes."),
      &WorkbenchOptions::screenshotFile, "F"},
-    {"replay", "Do what this session says, then close.", &WorkbenchOptions::replayFile, "F"},
-    {"record", "Write what the operator does to this session.", &WorkbenchOptions::recordFile, "F"},
-    {kTheme, "Colours of the windows, light or dark, in place of the desktop's.",
+    {"replay", QT_TRANSLATE_NOOP("CommandLine", "Do what this session says, then close."),
+     &WorkbenchOptions::replayFile, "F"},
+    {"record", QT_TRANSLATE_NOOP("CommandLine", "Write what the operator does to this session."),
+     &WorkbenchOptions::recordFile, "F"},
+    {kTheme,
+     QT_TRANSLATE_NOOP("CommandLine",
+                       "Colours of the windows, light or dark, in place of the desktop's."),
      &WorkbenchOptions::theme, "NAME", false},
 };
 
 constexpr char kType[] = "type";
+constexpr char kLanguage[] = "language";
 constexpr char kChannelSource[] = "channel-source";
 constexpr char kEditable[] = "editable";
 constexpr char kSelectionMode[] = "selection-mode";
@@ -57,24 +78,28 @@ constexpr char kSelectionMode[] = "selection-mode";
 
 CommandLine::CommandLine()
 {
-    m_parser.setApplicationDescription(translated(
+    m_parser.setApplicationDescription(Texts::tr(
         "Stand-alone host of the rules window.\n"
         "Exit status: 0 saved or closed, 1 left without saving what was changed since, "
         "2 unusable arguments or files, 3 a replayed session failed, or did not come to its end."));
     for (const TextOption& option : kTextOptions)
-        m_parser.addOption({QString::fromLatin1(option.name), translated(option.description),
+        m_parser.addOption({QString::fromLatin1(option.name), Texts::tr(option.description),
                             QString::fromLatin1(option.valueName)});
     m_parser.addOption({QString::fromLatin1(kChannelSource),
-                        translated("Address or file that gives this channel's picture; may be "
-                                   "repeated."),
+                        Texts::tr("Address or file that gives this channel's picture; may be "
+                                  "repeated."),
                         QStringLiteral("ID=ADDRESS")});
     m_parser.addOption(
-        {QString::fromLatin1(kType), translated("Algorithm type, a number."), QStringLiteral("N")});
+        {QString::fromLatin1(kType), Texts::tr("Algorithm type, a number."), QStringLiteral("N")});
+    m_parser.addOption({QString::fromLatin1(kLanguage),
+                        Texts::tr("Language of all texts, in place of the desktop's: de, zh_CN or "
+                                  "en."),
+                        QStringLiteral("NAME")});
     m_parser.addOption({QString::fromLatin1(kSelectionMode),
-                        translated("Let the operator select rules, not edit them.")});
+                        Texts::tr("Let the operator select rules, not edit them.")});
     m_parser.addOption({QString::fromLatin1(kEditable),
-                        translated("Pass the member \"editable\". Its presence locks the window, "
-                                   "whatever its value, unless selection mode is on."),
+                        Texts::tr("Pass the member \"editable\". Its presence locks the window, "
+                                  "whatever its value, unless selection mode is on."),
                         QStringLiteral("true|false")});
     m_parser.addHelpOption();
     m_parser.addVersionOption();
@@ -95,7 +120,7 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
         return Outcome::ShowText;
     }
     if (!m_parser.positionalArguments().isEmpty()) {
-        m_text = translated("Unexpected argument: %1").arg(m_parser.positionalArguments().first());
+        m_text = Texts::tr("Unexpected argument: %1").arg(m_parser.positionalArguments().first());
         return Outcome::Unusable;
     }
     return readOptions() ? Outcome::Run : Outcome::Unusable;
@@ -110,14 +135,19 @@ bool CommandLine::readOptions()
         m_options.*option.target = m_parser.value(name);
         // A script's variable that is not set would be no file, and so none that is missed.
         if (option.isFile && m_parser.values(name).contains(QString())) {
-            m_text = translated("--%1 takes the name of a file").arg(name);
+            m_text = Texts::tr("--%1 takes the name of a file").arg(name);
             return false;
         }
     }
     m_options.selectionMode = m_parser.isSet(QString::fromLatin1(kSelectionMode));
-    return readChannelSources() && knowsTheme() &&
+    return readChannelSources() && knowsTheme() && readLanguage() &&
            readNumber(QString::fromLatin1(kType), m_options.algorithmType) &&
            readSwitch(QString::fromLatin1(kEditable), m_options.editable) && keepsFiles();
+}
+
+QString CommandLine::language() const
+{
+    return m_parser.value(QString::fromLatin1(kLanguage));
 }
 
 QString CommandLine::text() const
@@ -134,7 +164,7 @@ bool CommandLine::readChannelSources()
         // An address alone may have an equals sign as well.
         if (separator < 1 || address.isEmpty() || channel.contains(QStringLiteral("://")) ||
             UICommonMdl::maskedAddress(channel) != channel) {
-            m_text = translated("--%1 takes ID=ADDRESS, not \"%2\"")
+            m_text = Texts::tr("--%1 takes ID=ADDRESS, not \"%2\"")
                          .arg(QString::fromLatin1(kChannelSource), value);
             return false;
         }
@@ -148,9 +178,20 @@ bool CommandLine::knowsTheme()
     const QString& theme = m_options.theme;
     const bool isKnown = Theme::names().contains(theme);
     if (!isKnown && m_parser.isSet(QString::fromLatin1(kTheme)))
-        m_text = translated("--%1 takes light or dark, not \"%2\"")
+        m_text = Texts::tr("--%1 takes light or dark, not \"%2\"")
                      .arg(QString::fromLatin1(kTheme), theme);
     return m_text.isEmpty();
+}
+
+bool CommandLine::readLanguage()
+{
+    m_options.language = language();
+    const bool isKnown = !m_parser.isSet(QString::fromLatin1(kLanguage)) ||
+                         QLocale(m_options.language).language() != QLocale::C;
+    if (!isKnown)
+        m_text = Texts::tr("--%1 takes a language as \"de\", not \"%2\"")
+                     .arg(QString::fromLatin1(kLanguage), m_options.language);
+    return isKnown;
 }
 
 bool CommandLine::keepsFiles()
@@ -166,7 +207,7 @@ bool CommandLine::readNumber(const QString& name, int& target)
     bool isNumber = false;
     target = m_parser.value(name).toInt(&isNumber);
     if (!isNumber)
-        m_text = translated("--%1 takes a number, not \"%2\"").arg(name, m_parser.value(name));
+        m_text = Texts::tr("--%1 takes a number, not \"%2\"").arg(name, m_parser.value(name));
     return isNumber;
 }
 
@@ -176,7 +217,7 @@ bool CommandLine::readSwitch(const QString& name, std::optional<bool>& target)
         return true;
     const QString value = m_parser.value(name);
     if (value != QLatin1String("true") && value != QLatin1String("false")) {
-        m_text = translated("--%1 takes true or false, not \"%2\"").arg(name, value);
+        m_text = Texts::tr("--%1 takes true or false, not \"%2\"").arg(name, value);
         return false;
     }
     target = value == QLatin1String("true");

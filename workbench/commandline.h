@@ -15,6 +15,8 @@ public:
     Outcome parse(const QStringList& arguments);
 
     const WorkbenchOptions& options() const { return m_options; }
+    /// Of what parse() was given, whatever its outcome; empty: the desktop's.
+    QString language() const;
     /// Help, version, or the one line that says what is wrong. Help needs an application, of
     /// whatever kind.
     QString text() const;
@@ -24,6 +26,7 @@ private:
     bool readChannelSources();
     bool knowsTheme();
     bool keepsFiles();
+    bool readLanguage();
     bool readNumber(const QString& name, int& target);
     bool readSwitch(const QString& name, std::optional<bool>& target);
 

@@ -40,4 +40,11 @@ bool useOffscreen()
     return qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen"));
 }
 
+void setPlainDensity()
+{
+    if (qgetenv("QT_QPA_PLATFORM").startsWith("offscreen") &&
+        !qEnvironmentVariableIsSet("QT_FONT_DPI"))
+        qputenv("QT_FONT_DPI", QByteArrayLiteral("96"));
+}
+
 } // namespace WorkbenchDisplay

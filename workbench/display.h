@@ -11,4 +11,8 @@ bool isThere();
 /// Returns whether that could be set up.
 bool useOffscreen();
 
+/// Has a window without a display, whose screen would have 100 dots an inch, be drawn at 100 %
+/// unless QT_FONT_DPI says otherwise. Without effect on a display.
+void setPlainDensity();
+
 } // namespace WorkbenchDisplay

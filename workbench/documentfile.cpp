@@ -20,10 +20,9 @@ namespace
 /// In bytes: what is longer is no document; a part of a session would be another one.
 constexpr qint64 kLongest = Limits::kJsonText;
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("DocumentFile", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(DocumentFile)
+};
 
 bool isDevice(const QString& path)
 {
@@ -56,16 +55,16 @@ bool read(const QString& path, kql::Json::Value& document, QString& error)
 bool readBytes(const QString& path, QByteArray& bytes, QString& error)
 {
     if (isDevice(path)) {
-        error = say("%1: it is no file").arg(path);
+        error = Texts::tr("%1: it is no file").arg(path);
         return false;
     }
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         bytes = file.read(kLongest + 1);
     if (file.error() != QFileDevice::NoError)
-        error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        error = QStringLiteral("%1: %2").arg(path, UICommonMdl::WholeFile::faultOf(file));
     else if (bytes.size() > kLongest)
-        error = say("%1: it is longer than 128 MB").arg(path);
+        error = Texts::tr("%1: it is longer than 128 MB").arg(path);
     else
         return true;
     return false;

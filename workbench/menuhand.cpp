@@ -14,10 +14,9 @@
 namespace
 {
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("MenuHand", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(MenuHand)
+};
 
 /// Without the key behind it.
 QString nameOf(const QAction* action)
@@ -32,9 +31,9 @@ QString pick(QMenu* menu, const QString& text)
         return !action->isSeparator() && nameOf(action) == text;
     });
     if (found == actions.end())
-        return say("there is no \"%1\" in the menu").arg(text);
+        return Texts::tr("there is no \"%1\" in the menu").arg(text);
     if (!(*found)->isEnabled())
-        return say("it is disabled: %1")
+        return Texts::tr("it is disabled: %1")
             .arg(QTextDocumentFragment::fromHtml((*found)->toolTip()).toPlainText());
     QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(*found).center());
     return {};
@@ -53,7 +52,7 @@ QString MenuHand::choose(QWidget* button, const QString& text)
     QApplication::sendEvent(button, &wanted);
     const QPointer<QMenu> menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!menu)
-        return say("it has no menu now");
+        return Texts::tr("it has no menu now");
     const QString whyNot = pick(menu, text);
     if (menu)
         menu->close();

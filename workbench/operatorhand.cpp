@@ -20,22 +20,21 @@ namespace
 
 constexpr int kOptionInset = 12;
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("OperatorHand", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(OperatorHand)
+};
 
 QString obstacle(QWidget* widget, const QPoint& position)
 {
     if (!widget)
-        return say("there is no such widget");
+        return Texts::tr("there is no such widget");
     if (!widget->isVisible())
-        return say("it is hidden");
+        return Texts::tr("it is hidden");
     if (!widget->isEnabled())
-        return say("it is disabled");
+        return Texts::tr("it is disabled");
     const QWidget* hit = widget->window()->childAt(widget->mapTo(widget->window(), position));
     if (hit != widget && !(hit && widget->isAncestorOf(hit)))
-        return say("it is covered; select its section first");
+        return Texts::tr("it is covered; select its section first");
     return {};
 }
 

@@ -21,10 +21,9 @@ namespace
 
 constexpr int kMessageTimeout = 5000; // milliseconds
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("SessionExpectation", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(SessionExpectation)
+};
 
 QString shownText(const Value& value)
 {
@@ -44,7 +43,7 @@ QString compare(const QString& what, const Value& found, const Value& wanted)
 {
     if (isSame(found, wanted))
         return {};
-    return say("%1 is %2, not %3").arg(what, shownText(found), shownText(wanted));
+    return Texts::tr("%1 is %2, not %3").arg(what, shownText(found), shownText(wanted));
 }
 
 } // namespace
@@ -71,7 +70,7 @@ QString SessionExpectation::checkBox(const Value& step) const
 {
     if (!step.isMember("box"))
         return {};
-    return compare(say("the last box"), m_box ? Value(*m_box) : Value(), step["box"]);
+    return compare(Texts::tr("the last box"), m_box ? Value(*m_box) : Value(), step["box"]);
 }
 
 QString SessionExpectation::checkPosted(const Value& step) const
@@ -82,11 +81,11 @@ QString SessionExpectation::checkPosted(const Value& step) const
     if (members.isNull()) {
         // The bus delivers later, so give it a turn before saying that nothing came.
         EventWait::until(0, [] { return false; });
-        return m_posted.isEmpty() ? QString() : say("a message was posted");
+        return m_posted.isEmpty() ? QString() : Texts::tr("a message was posted");
     }
     if (!EventWait::until(kMessageTimeout, [this] { return !m_posted.isEmpty(); }))
-        return m_box ? say("no message was posted; the last box said: %1").arg(*m_box)
-                     : say("no message was posted");
+        return m_box ? Texts::tr("no message was posted; the last box said: %1").arg(*m_box)
+                     : Texts::tr("no message was posted");
     return checkMembers(members);
 }
 
@@ -112,7 +111,7 @@ QString SessionExpectation::checkNotice(const Value& step) const
     const bool isShown = wanted.isNull() ? notices.isEmpty() : notices.contains(wanted.asString());
     if (!step.isMember("notice") || isShown)
         return {};
-    return say("the notices are %1, not %2").arg(shownText(notices), shownText(wanted));
+    return Texts::tr("the notices are %1, not %2").arg(shownText(notices), shownText(wanted));
 }
 
 QString SessionExpectation::checkFocus(const Value& step) const
@@ -122,10 +121,11 @@ QString SessionExpectation::checkFocus(const Value& step) const
     // Of a window that is not the active one, too.
     const QWidget* widget = m_finder.window()->window()->focusWidget();
     if (qobject_cast<const QRtspVideoWnd*>(widget))
-        return compare(say("the focus"), Value("picture"), step["focus"]);
+        return compare(Texts::tr("the focus"), Value("picture"), step["focus"]);
     while (widget && !PanelFinder::isRow(*widget))
         widget = widget->parentWidget();
-    return compare(say("the focus"), widget ? Value(widget->objectName()) : Value(), step["focus"]);
+    return compare(Texts::tr("the focus"), widget ? Value(widget->objectName()) : Value(),
+                   step["focus"]);
 }
 
 QString SessionExpectation::checkPanel(const Value& step) const
@@ -135,7 +135,7 @@ QString SessionExpectation::checkPanel(const Value& step) const
         return {};
     QWidget* panel = m_finder.panel(step["scene"].asString());
     if (!panel)
-        return say("there is no such section");
+        return Texts::tr("there is no such section");
     QString why = checkHint(*panel, step);
     if (why.isEmpty())
         why = checkEntries(*panel, step);
@@ -149,14 +149,15 @@ QString SessionExpectation::checkHint(QWidget& panel, const Value& step) const
     const auto* hint =
         qobject_cast<QLabel*>(m_finder.part(&panel, QString::fromLatin1(RowContract::kHint)));
     const Value shown = hint && !hint->isHidden() ? Value(hint->text()) : Value();
-    return compare(say("the hint"), shown, step["hint"]);
+    return compare(Texts::tr("the hint"), shown, step["hint"]);
 }
 
 QString SessionExpectation::checkEntries(QWidget& panel, const Value& step) const
 {
     const auto buttons = m_finder.entryButtons(&panel, false);
     if (step.isMember("entries")) {
-        const QString why = compare(say("the number of entries"), buttons.size(), step["entries"]);
+        const QString why =
+            compare(Texts::tr("the number of entries"), buttons.size(), step["entries"]);
         if (!why.isEmpty())
             return why;
     }
@@ -165,7 +166,7 @@ QString SessionExpectation::checkEntries(QWidget& panel, const Value& step) cons
     const auto current = std::find_if(buttons.begin(), buttons.end(),
                                       [](const QAbstractButton* b) { return b->isChecked(); });
     const bool none = current == buttons.end();
-    return compare(say("the current entry"),
+    return compare(Texts::tr("the current entry"),
                    none ? Value() : Value(static_cast<int>(current - buttons.begin()) + 1),
                    step["current"]);
 }
@@ -176,15 +177,17 @@ QString SessionExpectation::checkRow(QWidget& panel, const Value& step) const
         return {};
     QWidget* row = m_finder.row(&panel, step["row"].asString());
     if (!row)
-        return say("there is no such row");
+        return Texts::tr("there is no such row");
     QString why;
     if (step.isMember("value"))
-        why = compare(say("the row's value"), RowHand::shown(row), step["value"]);
+        why = compare(Texts::tr("the row's value"), RowHand::shown(row), step["value"]);
     if (why.isEmpty() && step.isMember("visible"))
-        why = compare(say("the row's visibility"), !row->isHidden(), step["visible"]);
+        why = compare(Texts::tr("the row's visibility"), !row->isHidden(), step["visible"]);
     if (why.isEmpty() && step.isMember("enabled"))
-        why = compare(say("the row's enabled state"), RowHand::isUsable(row), step["enabled"]);
+        why =
+            compare(Texts::tr("the row's enabled state"), RowHand::isUsable(row), step["enabled"]);
     if (why.isEmpty() && step.isMember("marked"))
-        why = compare(say("the row's mark"), row->property("marked").toBool(), step["marked"]);
+        why =
+            compare(Texts::tr("the row's mark"), row->property("marked").toBool(), step["marked"]);
     return why;
 }

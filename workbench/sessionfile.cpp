@@ -16,10 +16,9 @@ namespace WholeFile = UICommonMdl::WholeFile;
 namespace
 {
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("SessionFile", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(SessionFile)
+};
 
 } // namespace
 
@@ -34,11 +33,11 @@ bool SessionFile::open(const QString& path, QString& error)
     if (WholeFile::isForeign(path))
         error = WholeFile::foreignText(path);
     else if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
-        error = QStringLiteral("%1: %2").arg(path, m_file.errorString());
+        error = QStringLiteral("%1: %2").arg(path, WholeFile::faultOf(m_file));
     else if (!lock())
-        error = say("%1: another recording is being written there").arg(path);
+        error = Texts::tr("%1: another recording is being written there").arg(path);
     else if (!m_file.resize(0))
-        error = QStringLiteral("%1: %2").arg(path, m_file.errorString());
+        error = QStringLiteral("%1: %2").arg(path, WholeFile::faultOf(m_file));
     return error.isEmpty();
 }
 
@@ -64,8 +63,8 @@ void SessionFile::append(const kql::Json::Value& step)
 
 void SessionFile::fail()
 {
-    const QString error =
-        say("%1: %2; nothing more is recorded").arg(m_file.fileName(), m_file.errorString());
+    const QString error = Texts::tr("%1: %2; nothing more is recorded")
+                              .arg(m_file.fileName(), WholeFile::faultOf(m_file));
     // Half a line would make all of it unreadable.
     m_file.resize(m_lastStart);
     std::exchange(m_failed, nullptr)(error);

@@ -94,35 +94,37 @@ bool isFocus(const Value& value)
     return value.isNull() || value.isString();
 }
 
-constexpr char kPosition[] = "a position, [x, y]";
-constexpr char kSwitch[] = "true or false";
-constexpr char kText[] = "a text";
+constexpr char kPosition[] = QT_TRANSLATE_NOOP("StepCheck", "a position, [x, y]");
+constexpr char kSwitch[] = QT_TRANSLATE_NOOP("StepCheck", "true or false");
+constexpr char kText[] = QT_TRANSLATE_NOOP("StepCheck", "a text");
 
 const Member kMembers[] = {
-    {"size", "window", isSize, "a width and a height of 1 to 8192"},
+    {"size", "window", isSize, QT_TRANSLATE_NOOP("StepCheck", "a width and a height of 1 to 8192")},
     {"press", "at", isPosition, kPosition},
-    {"press", "button", isButton, "\"left\" or \"right\""},
-    {"press", "with", isHeld, "\"Ctrl\" or \"Shift\""},
+    {"press", "button", isButton, QT_TRANSLATE_NOOP("StepCheck", "\"left\" or \"right\"")},
+    {"press", "with", isHeld, QT_TRANSLATE_NOOP("StepCheck", "\"Ctrl\" or \"Shift\"")},
     {"drag", "from", isPosition, kPosition},
     {"drag", "to", isPosition, kPosition},
-    {"drag", "with", isHeld, "\"Ctrl\" or \"Shift\""},
-    {"double", "with", isHeld, "\"Ctrl\" or \"Shift\""},
+    {"drag", "with", isHeld, QT_TRANSLATE_NOOP("StepCheck", "\"Ctrl\" or \"Shift\"")},
+    {"double", "with", isHeld, QT_TRANSLATE_NOOP("StepCheck", "\"Ctrl\" or \"Shift\"")},
     {"move", "at", isPosition, kPosition},
     {"double", "at", isPosition, kPosition},
-    {"double", "button", isButton, "\"left\" or \"right\""},
-    {"key", "keys", isKey, "one key with its modifiers"},
-    {"key", "times", isCount, "a number from 1 to 1000"},
-    {"key", "to", isTarget, "\"picture\""},
+    {"double", "button", isButton, QT_TRANSLATE_NOOP("StepCheck", "\"left\" or \"right\"")},
+    {"key", "keys", isKey, QT_TRANSLATE_NOOP("StepCheck", "one key with its modifiers")},
+    {"key", "times", isCount, QT_TRANSLATE_NOOP("StepCheck", "a number from 1 to 1000")},
+    {"key", "to", isTarget, QT_TRANSLATE_NOOP("StepCheck", "\"picture\"")},
     {"menu", "text", &Value::isString, kText},
-    {"menu", "clip", isMessage, "an entry"},
-    {"key", "clip", isMessage, "an entry"},
+    {"menu", "clip", isMessage, QT_TRANSLATE_NOOP("StepCheck", "an entry")},
+    {"key", "clip", isMessage, QT_TRANSLATE_NOOP("StepCheck", "an entry")},
     {"enable", "on", &Value::isBool, kSwitch},
     {"fold", "fold", &Value::isBool, kSwitch},
     {"type", "text", &Value::isString, kText},
     {"screenshot", "file", &Value::isString, kText},
-    {"expect", "posted", isMessage, "members, or null"},
-    {"expect", "focus", isFocus, "a row's key, \"picture\" or null"},
-    {"expect", "notice", isNotice, "a text that is not empty, or null"},
+    {"expect", "posted", isMessage, QT_TRANSLATE_NOOP("StepCheck", "members, or null")},
+    {"expect", "focus", isFocus,
+     QT_TRANSLATE_NOOP("StepCheck", "a row's key, \"picture\" or null")},
+    {"expect", "notice", isNotice,
+     QT_TRANSLATE_NOOP("StepCheck", "a text that is not empty, or null")},
 };
 
 const QStringList kExpected{QStringLiteral("box"),     QStringLiteral("posted"),
@@ -132,10 +134,9 @@ const QStringList kExpected{QStringLiteral("box"),     QStringLiteral("posted"),
 const QStringList kOfRow{QStringLiteral("value"), QStringLiteral("visible"),
                          QStringLiteral("enabled"), QStringLiteral("marked")};
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("StepCheck", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(StepCheck)
+};
 
 /// What is compared with nothing would hold always.
 QString expectationFault(const Value& step)
@@ -146,11 +147,11 @@ QString expectationFault(const Value& step)
     for (const QString& name : qAsConst(names)) {
         const bool isOfRow = kOfRow.contains(name);
         if (!isOfRow && !kExpected.contains(name))
-            return say("there is no expectation \"%1\"").arg(name);
+            return Texts::tr("there is no expectation \"%1\"").arg(name);
         if (isOfRow && !step.isMember("row"))
-            return say("\"%1\" is expected of a \"row\" only").arg(name);
+            return Texts::tr("\"%1\" is expected of a \"row\" only").arg(name);
     }
-    return names.isEmpty() ? say("there is nothing to expect") : QString();
+    return names.isEmpty() ? Texts::tr("there is nothing to expect") : QString();
 }
 
 } // namespace
@@ -160,14 +161,15 @@ QString fault(const Value& step)
     const QString name = step["do"].asString();
     for (const Member& member : kMembers) {
         if (name == QLatin1String(member.step) && !member.isRight(step[member.name]))
-            return say("\"%1\" takes %2").arg(QString::fromLatin1(member.name), say(member.takes));
+            return Texts::tr("\"%1\" takes %2")
+                .arg(QString::fromLatin1(member.name), Texts::tr(member.takes));
     }
     if (name == QLatin1String("set") && !step.isMember("value"))
-        return say("there is no \"value\" to set");
+        return Texts::tr("there is no \"value\" to set");
     if (name == QLatin1String("hover") && !step.isMember("entry") && !isPosition(step["at"]))
-        return say("\"hover\" takes \"at\", a position, or an \"entry\"");
+        return Texts::tr("\"hover\" takes \"at\", a position, or an \"entry\"");
     if (name == QLatin1String("wait") && !isTimeOrPicture(step))
-        return say("\"wait\" takes \"picture\": true, or \"ms\" of 0 to 600000");
+        return Texts::tr("\"wait\" takes \"picture\": true, or \"ms\" of 0 to 600000");
     return name == QLatin1String("expect") ? expectationFault(step) : QString();
 }
 

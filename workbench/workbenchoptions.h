@@ -24,6 +24,7 @@ struct WorkbenchOptions {
     QString replayFile;
     QString recordFile;
     QString theme; ///< "light" or "dark"; empty: the desktop's colours
+    QString language; ///< as a locale's name; empty: the desktop's
 
     /// The files that are read: documents, session, pictures, plug-in; addresses are among them.
     QStringList inputs() const;

@@ -2,6 +2,8 @@
 
 #include "host/api/limits.h"
 
+#include <QAbstractButton>
+#include <QCoreApplication>
 #include <QPointer>
 
 namespace KQGUI
@@ -18,6 +20,21 @@ QString shortened(const QString& text)
     return shown.size() < text.size() ? shown + QChar(0x2026) : shown;
 }
 
+/// Qt's own texts of the buttons are translated only where a translation of Qt is loaded.
+void nameButtons(const QMessageBox& box)
+{
+    const struct {
+        QMessageBox::StandardButton button;
+        QString text;
+    } names[] = {{QMessageBox::Ok, QCoreApplication::translate("KQMessageBox", "OK")},
+                 {QMessageBox::Yes, QCoreApplication::translate("KQMessageBox", "&Yes")},
+                 {QMessageBox::No, QCoreApplication::translate("KQMessageBox", "&No")}};
+    for (const auto& name : names) {
+        if (QAbstractButton* const button = box.button(name.button))
+            button->setText(name.text);
+    }
+}
+
 QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const QString& title,
                                  const QString& text, QMessageBox::StandardButtons buttons)
 {
@@ -28,6 +45,7 @@ QMessageBox::StandardButton show(QWidget* parent, QMessageBox::Icon icon, const 
     box->setTextFormat(Qt::PlainText);
     box->setText(shortened(text));
     box->setStandardButtons(buttons);
+    nameButtons(*box);
     const auto answer = static_cast<QMessageBox::StandardButton>(box->exec());
     if (!box)
         return QMessageBox::NoButton;

@@ -15,10 +15,9 @@ namespace UICommonMdl::WholeFile
 namespace
 {
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("WholeFile", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(WholeFile)
+};
 
 /// What shares and quotas refuse is often told here first, and commit() does not listen.
 bool reachesDisk(const QFileDevice& file, QString& why)
@@ -48,7 +47,7 @@ bool replace(const QString& path, const QByteArray& content, QFileDevice::Permis
         return false;
     if (isWritten && file.commit())
         return true;
-    why = file.errorString();
+    why = faultOf(file);
     return false;
 }
 
@@ -65,9 +64,10 @@ bool write(const QString& path, const QByteArray& content, QString& error,
     QString why;
     if (replace(old.exists() ? old.canonicalFilePath() : path, content, permissions, why))
         return true;
-    error =
-        QStringLiteral("%1: %2; %3")
-            .arg(path, why, old.exists() ? say("the old file stands") : say("nothing was written"));
+    error = QStringLiteral("%1: %2; %3")
+                .arg(path, why,
+                     old.exists() ? Texts::tr("the old file stands")
+                                  : Texts::tr("nothing was written"));
     return false;
 }
 
@@ -84,6 +84,11 @@ bool writeAll(QFileDevice& file, const QByteArray& content)
     return true;
 }
 
+QString faultOf(const QFileDevice& file)
+{
+    return QCoreApplication::translate("QIODevice", file.errorString().toUtf8().constData());
+}
+
 bool isForeign(const QString& path)
 {
     const QFileInfo info(path);
@@ -92,7 +97,7 @@ bool isForeign(const QString& path)
 
 QString foreignText(const QString& path)
 {
-    return say("%1: it is no regular file, and is not replaced").arg(path);
+    return Texts::tr("%1: it is no regular file, and is not replaced").arg(path);
 }
 
 } // namespace UICommonMdl::WholeFile

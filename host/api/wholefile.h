@@ -18,6 +18,10 @@ KQHOST_EXPORT bool write(const QString& path, const QByteArray& content, QString
 /// its errorString().
 KQHOST_EXPORT bool writeAll(QFileDevice& file, const QByteArray& content);
 
+/// What went wrong with @p file, in the operator's language where Qt's texts are translated: Qt
+/// leaves its errors of files in English.
+KQHOST_EXPORT QString faultOf(const QFileDevice& file);
+
 /// Whether @p path is something else than a file: a folder, a device, a pipe. Replacing it would
 /// take it from all who use it, so that write() refuses.
 KQHOST_EXPORT bool isForeign(const QString& path);

@@ -1,14 +1,16 @@
 #include "host/json/reader.h"
 
 #include "host/api/limits.h"
+#include "host/json/parseerrors.h"
 #include "host/json/value.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
 
-#include <rapidjson/error/en.h>
 #include <rapidjson/reader.h>
 
 namespace kql
@@ -109,7 +111,8 @@ private:
     bool addReal(std::string_view text);
     bool enter()
     {
-        return ++m_depth <= Limits::kJsonDepth || refuse("The document is nested too deeply.");
+        return ++m_depth <= Limits::kJsonDepth ||
+               refuse(QT_TRANSLATE_NOOP("Json", "The document is nested too deeply."));
     }
     bool leave() { return --m_depth >= 0; }
     bool refuse(const char* fault)
@@ -151,7 +154,7 @@ bool Filter::addReal(std::string_view text)
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
     if (result.ec != std::errc()) {
         if (isTooLarge(text))
-            return refuse("The number is too large.");
+            return refuse(QT_TRANSLATE_NOOP("Json", "The number is too large."));
         number = 0;
     }
     return m_document.Double(number);
@@ -160,7 +163,7 @@ bool Filter::addReal(std::string_view text)
 bool Filter::String(const char* text, unsigned length, bool)
 {
     if (m_hasEscapes && hasSurrogate({text, length}))
-        return refuse("The text holds half of a surrogate pair.");
+        return refuse(QT_TRANSLATE_NOOP("Json", "The text holds half of a surrogate pair."));
     constexpr bool kCopy = true;
     return m_document.String(text, length, kCopy);
 }
@@ -194,10 +197,10 @@ bool Reader::parse(const QString& text, Value& root, bool)
 Reader::Fault Reader::parsed(std::string_view utf8, Value& root)
 {
     if (utf8.size() > std::size_t(Limits::kJsonText))
-        return {"The text is too long.", 0};
+        return {QT_TRANSLATE_NOOP("Json", "The text is too long."), 0};
     const std::size_t invalid = firstInvalidUtf8(utf8);
     if (invalid < utf8.size())
-        return {"The text is not valid UTF-8.", invalid};
+        return {QT_TRANSLATE_NOOP("Json", "The text is not valid UTF-8."), invalid};
 
     std::string copy(utf8); // for the parser to write in
     rapidjson::InsituStringStream stream(copy.data());
@@ -212,9 +215,9 @@ Reader::Fault Reader::parsed(std::string_view utf8, Value& root)
         return {filter.fault(), parser.GetErrorOffset() - bracket};
     }
     if (parser.HasParseError())
-        return {rapidjson::GetParseError_En(parser.GetParseErrorCode()), parser.GetErrorOffset()};
+        return {parseErrorText(parser.GetParseErrorCode()), parser.GetErrorOffset()};
     if (stream.Tell() < utf8.size())
-        return {"The text goes on after a NUL.", stream.Tell()};
+        return {QT_TRANSLATE_NOOP("Json", "The text goes on after a NUL."), stream.Tell()};
     Node& tree = document;
     Members::complete(tree);
     root = Value(std::move(tree));
@@ -223,10 +226,11 @@ Reader::Fault Reader::parsed(std::string_view utf8, Value& root)
 
 void Reader::report(std::string_view utf8, const Fault& fault)
 {
-    m_errorText = QString::fromLatin1(fault.text);
+    m_errorText.clear();
     m_errorLine = m_errorColumn = 0;
     if (!fault.text)
         return;
+    m_errorText = QCoreApplication::translate("Json", fault.text);
     const std::string_view before = utf8.substr(0, std::min(fault.offset, utf8.size()));
     const std::string_view line = before.substr(before.rfind('\n') + 1);
     m_errorLine = 1 + int(std::count(before.begin(), before.end(), '\n'));

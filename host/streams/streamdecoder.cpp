@@ -28,14 +28,13 @@ constexpr int kHeavyThreads = 4;
 constexpr int64_t kMostPixels = 16384LL * 16384;
 constexpr AVRational kMicroseconds{1, 1000000};
 
-QString text(const char* source)
-{
-    return QCoreApplication::translate("StreamDecoder", source);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(StreamDecoder)
+};
 
 QString undecodableText()
 {
-    return text("What comes cannot be decoded.");
+    return Texts::tr("What comes cannot be decoded.");
 }
 
 QString codecName(AVCodecID codec)
@@ -119,9 +118,10 @@ QString StreamDecoder::openCodec()
     const AVCodecParameters& parameters = *stream.codecpar;
     const AVCodec* const codec = avcodec_find_decoder(parameters.codec_id);
     if (!codec && parameters.codec_id == AV_CODEC_ID_NONE)
-        return text("The coding of the video is not known.");
+        return Texts::tr("The coding of the video is not known.");
     if (!codec)
-        return text("Video coded as %1 cannot be decoded.").arg(codecName(parameters.codec_id));
+        return Texts::tr("Video coded as %1 cannot be decoded.")
+            .arg(codecName(parameters.codec_id));
     m_codec.reset(avcodec_alloc_context3(codec));
     if (!m_codec)
         return streamErrorText(AVERROR(ENOMEM));
@@ -219,7 +219,7 @@ QString StreamDecoder::startOver()
     if (!reason.isEmpty())
         return reason;
     if (m_decoded == 0 && !m_mailbox.isClosed())
-        return text("There is no picture in it that can be decoded.");
+        return Texts::tr("There is no picture in it that can be decoded.");
     avcodec_flush_buffers(m_codec.get());
     m_decoded = 0;
     m_clock.restartAt(m_due + m_period);
@@ -247,7 +247,7 @@ QString StreamDecoder::show(AvFramePointer frame)
     const QImage picture =
         decoded->scaled(m_scaler, target.isEmpty() ? sizeUnasked(decoded->shownSize()) : target);
     if (picture.isNull())
-        return text("Its pictures cannot be converted.");
+        return Texts::tr("Its pictures cannot be converted.");
     m_lastShown = PacketQueue::Clock::now();
     m_mailbox.postPicture(picture, decoded);
     return {};

@@ -19,10 +19,9 @@ namespace UICommonMdl
 namespace
 {
 
-QString text(const char* source)
-{
-    return QCoreApplication::translate("StillPicture", source);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(StillPicture)
+};
 
 class StillImage : public DecodedPicture
 {
@@ -53,8 +52,8 @@ QString unreadableText(const QString& path)
     const QMimeType type = typeByContent(path);
     const bool isKnown =
         QImageReader::supportedMimeTypes().contains(type.name().toLatin1()) || !isPictureType(type);
-    return isKnown ? text("\"%1\" is not a picture that can be read.").arg(name)
-                   : text("\"%1\" is a picture of a kind that is not supported: %2.")
+    return isKnown ? Texts::tr("\"%1\" is not a picture that can be read.").arg(name)
+                   : Texts::tr("\"%1\" is a picture of a kind that is not supported: %2.")
                          .arg(name, type.comment());
 }
 
@@ -77,7 +76,8 @@ QImage load(const QString& path, QString& reason)
     const QImage picture = reader.read();
     if (isPlausibleSize(picture.size()))
         return picture.convertToFormat(QImage::Format_RGB32);
-    reason = text("\"%1\" is damaged: %2.").arg(QFileInfo(path).fileName(), reader.errorString());
+    reason =
+        Texts::tr("\"%1\" is damaged: %2.").arg(QFileInfo(path).fileName(), reader.errorString());
     return {};
 }
 

@@ -17,6 +17,32 @@ QStringList markers(const QString& text)
     return found;
 }
 
+struct Translation {
+    QString source;
+    QString type; ///< empty for one that is finished and used
+    QString text;
+};
+
+QVector<Translation> translationsIn(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QVector<Translation> found;
+    QXmlStreamReader xml(&file);
+    QString source;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == QString("source"))
+            source = xml.readElementText();
+        else if (xml.isStartElement() && xml.name() == QString("translation")) {
+            const QString type = xml.attributes().value("type").toString();
+            found.append({source, type, xml.readElementText()});
+        }
+    }
+    return xml.hasError() ? QVector<Translation>() : found;
+}
+
 QString textOf(const QWidget* widget)
 {
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
@@ -34,35 +60,56 @@ class TstTranslations : public RulesTest
 private slots:
     void everyTextIsTranslated_data()
     {
-        QTest::addColumn<QString>("locale");
-        QTest::newRow("German") << "de";
-        QTest::newRow("Chinese") << "zh_CN";
+        QTest::addColumn<QString>("path");
+        const QDir folder(RULES_SOURCE_DIR "/translations");
+        for (const QFileInfo& file : folder.entryInfoList({"*.ts"}))
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
     }
 
     void everyTextIsTranslated()
     {
-        QFETCH(const QString, locale);
-        QFile file(QString(RULES_SOURCE_DIR "/translations/IntelligentRulesUI_%1.ts").arg(locale));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QXmlStreamReader xml(&file);
-        QString source;
+        QFETCH(const QString, path);
         int count = 0;
-        while (!xml.atEnd()) {
-            xml.readNext();
-            if (!xml.isStartElement())
-                continue;
-            if (xml.name() == QString("source"))
-                source = xml.readElementText();
-            if (xml.name() != QString("translation"))
-                continue;
-            QVERIFY2(!xml.attributes().hasAttribute("type"), qPrintable(source));
-            const QString translation = xml.readElementText();
-            QVERIFY2(!translation.isEmpty(), qPrintable(source));
-            QCOMPARE(markers(translation), markers(source));
+        for (const Translation& text : translationsIn(path)) {
+            QVERIFY2(text.type.isEmpty() && !text.text.isEmpty(), qPrintable(text.source));
+            QCOMPARE(markers(text.text), markers(text.source));
             ++count;
         }
-        QVERIFY(!xml.hasError());
         QVERIFY(count > 0);
+    }
+
+    void sourcesAndFilesHaveTheSameTexts_data()
+    {
+        QTest::addColumn<QString>("stem");
+        QTest::addColumn<QStringList>("folders");
+        QTest::newRow("module and host")
+            << "IntelligentRulesUI"
+            << QStringList{"plugin", "scene", "tabel", "Protocol", "draw", "host"};
+        QTest::newRow("workbench") << "Workbench" << QStringList{"workbench"};
+    }
+
+    void sourcesAndFilesHaveTheSameTexts()
+    {
+        QFETCH(const QString, stem);
+        QFETCH(const QStringList, folders);
+        QTemporaryDir copies;
+        QStringList arguments{"-silent", "-I", ".", "-disable-heuristic", "sametext"};
+        arguments += folders;
+        arguments.append("-ts");
+        for (const QString language : {"de", "zh_CN"}) {
+            const QString name = QString("/%1_%2.ts").arg(stem, language);
+            QVERIFY(QFile::copy(RULES_SOURCE_DIR "/translations" + name, copies.path() + name));
+            arguments.append(copies.path() + name);
+        }
+        QProcess update;
+        update.setWorkingDirectory(RULES_SOURCE_DIR);
+        update.start(RULES_LUPDATE, arguments);
+        QVERIFY(update.waitForFinished() && update.exitCode() == 0);
+        for (const QFileInfo& file : QDir(copies.path()).entryInfoList({"*.ts"})) {
+            for (const Translation& text : translationsIn(file.filePath()))
+                QVERIFY2(text.type.isEmpty(),
+                         qPrintable(file.fileName() + ": " + text.type + ": " + text.source));
+        }
     }
 
     void windowSpeaksTheLocale_data() { Fixtures::addRows("locales.json"); }
