@@ -5,6 +5,8 @@
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 
+#include <QHash>
+
 namespace
 {
 
@@ -32,7 +34,8 @@ bool stands(const SaveNotices::Topic& topic, const SaveNotices::Found& found, co
     return entry->value(topic.key) == found.value;
 }
 
-QString sentence(const SaveNotices::Topic& topic, const RuleData& data)
+/// The entries that @p topic still is about; empty for none.
+QString entriesOf(const SaveNotices::Topic& topic, const RuleData& data)
 {
     QStringList names;
     for (const SaveNotices::Found& found : topic.found) {
@@ -43,22 +46,55 @@ QString sentence(const SaveNotices::Topic& topic, const RuleData& data)
         return {};
     if (names.size() > kMostNames)
         names.last() = QStringLiteral("…");
+    return names.join(QStringLiteral(", "));
+}
+
+QString sentence(const SaveNotices::Topic& topic, const RuleData& data)
+{
+    const QString entries = entriesOf(topic, data);
+    if (entries.isEmpty())
+        return {};
     const bool isOnlyOne = data.getTemplate()->countRange().max < 2;
     const QString subject =
-        isOnlyOne ? topic.subject
-                  : QStringLiteral("%1 (%2)").arg(topic.subject, names.join(QStringLiteral(", ")));
+        isOnlyOne ? topic.subject : QStringLiteral("%1 (%2)").arg(topic.subject, entries);
     if (topic.kind == SaveNotices::Kind::Changed)
         return SaveNotices::tr("%1 is not saved as it was read.").arg(subject);
     if (topic.kind == SaveNotices::Kind::Unnamed)
         return SaveNotices::tr("%1 is not saved: no attribute names it.").arg(subject);
-    if (topic.kind == SaveNotices::Kind::LeftOut)
-        return SaveNotices::tr("%1 was left out of the copy: there is no such attribute here.")
-            .arg(subject);
     if (topic.kind == SaveNotices::Kind::NotTaken)
         return SaveNotices::tr("%1 has its default in the copy: the value is not possible here.")
             .arg(subject);
     return SaveNotices::tr("%1 cannot be shown; it is saved as it was read until it is edited.")
         .arg(subject);
+}
+
+/// One for each copy, which may have left out much.
+QStringList leftOutOfCopies(const RuleData& data)
+{
+    QStringList copies;
+    QHash<QString, QStringList> subjects;
+    for (const SaveNotices::Topic& topic : data.saveNotices().topics()) {
+        if (topic.kind != SaveNotices::Kind::LeftOut)
+            continue;
+        const QString entries = entriesOf(topic, data);
+        if (!entries.isEmpty() && !copies.contains(entries))
+            copies.append(entries);
+        subjects[entries].append(topic.subject);
+    }
+    QStringList sentences;
+    for (const QString& entries : copies) {
+        const QStringList& names = subjects[entries];
+        const QString what =
+            QStringLiteral("%1 (%2)").arg(names.join(QStringLiteral(", ")), entries);
+        sentences.append(
+            names.size() == 1
+                ? SaveNotices::tr("%1 was left out of the copy: there is no such attribute here.")
+                      .arg(what)
+                : SaveNotices::tr(
+                      "%1 were left out of the copy: there are no such attributes here.")
+                      .arg(what));
+    }
+    return sentences;
 }
 
 } // namespace
@@ -67,10 +103,13 @@ QStringList NoticeText::of(const RuleData& data)
 {
     QStringList all = data.saveNotices().sentences();
     for (const SaveNotices::Topic& topic : data.saveNotices().topics()) {
+        if (topic.kind == SaveNotices::Kind::LeftOut)
+            continue;
         const QString said = sentence(topic, data);
         if (!said.isEmpty())
             all.append(said);
     }
+    all += leftOutOfCopies(data);
     if (data.saveNotices().takesOneEntry() && data.getDataCount() > 1)
         all.append(RuleData::tr("Only %1 is saved: the template has room for one.")
                        .arg(EntryName::button(data, 0)));

@@ -708,6 +708,10 @@ bool CIntelligentRulesCtrl::isEditable() const
 
 bool CIntelligentRulesCtrl::event(QEvent* event)
 {
+    if (event->type() == QEvent::ApplicationFontChange) {
+        for (BaseTabelScene* scene : qAsConst(m_scenes))
+            scene->fitToFont();
+    }
     if (event->type() != QEvent::ShortcutOverride)
         return QWidget::event(event);
     auto& key = static_cast<QKeyEvent&>(*event);

@@ -2,6 +2,7 @@
 
 #include "host/api/skin.h"
 #include "plugin/modulelifetime.h"
+#include "plugin/skinfont.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -46,6 +47,10 @@ bool WindowSkin::eventFilter(QObject* watched, QEvent* event)
     case QEvent::PaletteChange:
         follow();
         break;
+    case QEvent::ApplicationFontChange:
+        if (watched == m_window)
+            apply();
+        break;
     default:
         break;
     }
@@ -81,7 +86,7 @@ void WindowSkin::apply()
     QString dark;
     if (m_isDark && UICommonMdl::loadStyleSheet(path + QString::fromLatin1(kDarkSuffix), dark))
         text += QLatin1Char('\n') + dark;
-    m_window->setStyleSheet(text);
+    m_window->setStyleSheet(SkinFont::fitted(text, QApplication::font()));
 }
 
 } // namespace IntelligentRulesUI

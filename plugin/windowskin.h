@@ -8,9 +8,10 @@ namespace IntelligentRulesUI
 {
 
 /**
- * Gives the rules window the style sheet that the skin has for it, on dark desktops with that for
- * these on top, and follows the desktop while the window lives. Dark is where the ground is darker
- * than the text on it: Qt 5 tells no more. A skin without a sheet for dark desktops stays light.
+ * Gives the rules window the style sheet that the skin has for it, in sizes for the desktop's font,
+ * on dark desktops with that for these on top, and follows the desktop while the window lives. Dark
+ * is where the ground is darker than the text on it: Qt 5 tells no more. A skin without a sheet for
+ * dark desktops stays light.
  */
 class WindowSkin : public QObject
 {

@@ -45,12 +45,13 @@ constexpr int kRowLeft = 5;
 constexpr int kRowTop = 4;
 constexpr int kMinCaptionWidth = 96;
 constexpr int kMaxCaptionWidth = 128;
+constexpr int kSignWidth = TitleLabel::kSignWidth; // a row that is marked shows its caption whole
 
 void alignRows(const QList<ControlTabel*>& rows)
 {
     int captionWidth = kMinCaptionWidth;
     for (const ControlTabel* row : rows)
-        captionWidth = qMax(captionWidth, row->titleLabel()->sizeHint().width());
+        captionWidth = qMax(captionWidth, row->titleLabel()->sizeHint().width() + kSignWidth);
     for (ControlTabel* row : rows) {
         row->setPaddingLeft(kRowLeft);
         row->setPaddingTop(kRowTop);
@@ -111,6 +112,12 @@ void BaseTabelScene::setRuleData(RuleData* newData)
         showFirstEntry();
         setFold(false);
     }
+    checkLayout();
+}
+
+void BaseTabelScene::fitToFont()
+{
+    alignRows(widgets().controls->controls());
     checkLayout();
 }
 

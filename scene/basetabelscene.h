@@ -46,6 +46,9 @@ public:
     virtual void SetDrawStatus(bool drawing) { m_drawStatus = drawing; }
     virtual bool GetDrawStatus() const { return m_drawStatus; }
 
+    /// Lays the section out again after its font changed.
+    void fitToFont();
+
     /// Read-only sections start no drawing by themselves; whoever holds them disables them.
     void setUIEditable(bool editable) { m_uiEditable = editable; }
 

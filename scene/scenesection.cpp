@@ -104,6 +104,7 @@ void SceneSection::updateMask()
 void SceneSection::checkLayout()
 {
     const LayoutPause pause(this);
+    m_widgets.fitHint();
     const auto hasButtons = [this](RuleWidgetTabel* bar) {
         return !m_selectMode && !bar->getVisibleItems().isEmpty();
     };

@@ -2,7 +2,9 @@
 
 #include "host/api/rowcontract.h"
 #include "scene/scenetitlebar.h"
+#include "tabel/actionbar.h"
 #include "tabel/controlitemwidgettabel.h"
+#include "tabel/elidedbutton.h"
 #include "tabel/plaintext.h"
 #include "tabel/ruleitemwidgettabel.h"
 #include "tabel/rulewidgettabel.h"
@@ -26,7 +28,7 @@ SceneWidgets::SceneWidgets(WidgetTabel* panel)
     : titleBar(new SceneTitleBar(panel)),
       ruleFucBar(new RuleWidgetTabel(panel)),
       drawItems(new RuleItemWidgetTabel(panel)),
-      actions(new WidgetTabel(panel)),
+      actions(new ActionBar(panel)),
       hint(new TitleLabel(panel)),
       childFucBar(new RuleWidgetTabel(panel)),
       childDrawItems(new RuleItemWidgetTabel(panel)),
@@ -43,7 +45,6 @@ SceneWidgets::SceneWidgets(WidgetTabel* panel)
     controls->setPaddingTop(kMargin);
     mask->setAttribute(Qt::WA_StyledBackground);
     mask->hide();
-    hint->setFixedHeight(kHintHeight);
     fillPanel(panel);
 }
 
@@ -56,6 +57,12 @@ void SceneWidgets::nameActions(const QString& target) const
     };
     name(redrawButton, tr("Redraw %1"));
     name(deleteButton, tr("Delete %1"));
+}
+
+void SceneWidgets::fitHint() const
+{
+    hint->ensurePolished();
+    hint->setFixedHeight(qMax(kHintHeight, hint->fontMetrics().height()));
 }
 
 void SceneWidgets::nameWidgets()
@@ -81,7 +88,7 @@ void SceneWidgets::buildBar(WidgetTabel* bar, const QSize& buttonSize)
 
 QPushButton* SceneWidgets::buildAction(const QString& name, const QString& text)
 {
-    auto* button = new QPushButton(text, actions);
+    auto* button = new ElidedButton(text, actions);
     button->setObjectName(name);
     button->setVisible(true);
     actions->addWidget(button, false);

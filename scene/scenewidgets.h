@@ -35,6 +35,8 @@ public:
 
     /// Tells in tool tips and to readers of the screen what Redraw and Delete act on.
     void nameActions(const QString& target) const;
+    /// Gives the hint the height that its font asks.
+    void fitHint() const;
 
 private:
     void nameWidgets();

@@ -3,7 +3,7 @@
 #include "tabel/plaintext.h"
 
 DrawFucButton::DrawFucButton(BaseDrawType type, const QString& text, QWidget* parent)
-    : QPushButton(PlainText::button(text), parent), m_drawType(type)
+    : ElidedButton(PlainText::button(text), parent), m_drawType(type)
 {
     setObjectName(QStringLiteral("fuc%1").arg(int(type)));
     setToolTip(PlainText::toolTip(text));

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "draw/figuretypes.h"
+#include "tabel/elidedbutton.h"
 
-#include <QPushButton>
 #include <QString>
 
 /// Push button of a scene's function: draws one kind of figure, the template's first of that kind
 /// or another.
-class DrawFucButton : public QPushButton
+class DrawFucButton : public ElidedButton
 {
     Q_OBJECT
 

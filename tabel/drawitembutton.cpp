@@ -24,7 +24,7 @@ bool isForAWhile(Qt::FocusReason reason)
 } // namespace
 
 DrawItemButton::DrawItemButton(int id, int dataId, BaseDrawType type, QWidget* parent)
-    : QPushButton(parent), m_id(id), m_dataId(dataId), m_drawType(type)
+    : ElidedButton(parent), m_id(id), m_dataId(dataId), m_drawType(type)
 {
     setCheckable(true);
 }
@@ -39,7 +39,7 @@ void DrawItemButton::setText(const QString& text)
     m_fullText = text;
     const bool isLong = text.size() > kMaxTextLength;
     const QString shown = isLong ? text.left(kMaxTextLength - 1) + QLatin1String("...") : text;
-    QPushButton::setText(PlainText::button(shown));
+    ElidedButton::setText(PlainText::button(shown));
     showTip();
 }
 
@@ -121,7 +121,7 @@ void DrawItemButton::syncCheckBox()
 
 bool DrawItemButton::event(QEvent* event)
 {
-    const bool handled = QPushButton::event(event);
+    const bool handled = ElidedButton::event(event);
     switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
@@ -152,7 +152,7 @@ void DrawItemButton::keyPressEvent(QKeyEvent* event)
 {
     const bool isShifted = event->modifiers() == Qt::ShiftModifier;
     if (event->key() != Qt::Key_Menu && !(event->key() == Qt::Key_F10 && isShifted)) {
-        QPushButton::keyPressEvent(event);
+        ElidedButton::keyPressEvent(event);
         return;
     }
     QContextMenuEvent wanted(QContextMenuEvent::Keyboard, rect().center());
@@ -172,7 +172,7 @@ void DrawItemButton::focusInEvent(QFocusEvent* event)
 
 void DrawItemButton::focusOutEvent(QFocusEvent* event)
 {
-    QPushButton::focusOutEvent(event);
+    ElidedButton::focusOutEvent(event);
     if (!isForAWhile(event->reason()))
         m_hasKeyFocus = false;
     emit sgnPointed();

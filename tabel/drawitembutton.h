@@ -1,9 +1,9 @@
 #pragma once
 
 #include "draw/figuretypes.h"
+#include "tabel/elidedbutton.h"
 
 #include <QPointer>
-#include <QPushButton>
 
 class QCheckBox;
 
@@ -11,7 +11,7 @@ class QCheckBox;
  * Stands for one drawn figure, or for an entry without one. It may carry an enable check box,
  * which is a sibling of the button: it follows it, hides with it and goes with it.
  */
-class DrawItemButton : public QPushButton
+class DrawItemButton : public ElidedButton
 {
     Q_OBJECT
     Q_PROPERTY(int entryId READ dataId CONSTANT)

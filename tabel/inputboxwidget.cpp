@@ -1,10 +1,11 @@
 #include "tabel/inputboxwidget.h"
 
 #include "host/api/rowcontract.h"
-#include "tabel/plaintext.h"
 #include "tabel/rowedit.h"
+#include "tabel/titlelabel.h"
 
-#include <QLabel>
+#include <QCoreApplication>
+#include <QHelpEvent>
 
 namespace
 {
@@ -16,13 +17,12 @@ constexpr int kUnitMargin = 5;
 } // namespace
 
 InputBoxWidget::InputBoxWidget(QWidget* parent)
-    : QWidget(parent), m_edit(new RowEdit(this)), m_unit(new QLabel(this))
+    : QWidget(parent), m_edit(new RowEdit(this)), m_unit(new TitleLabel(this))
 {
     setFixedHeight(kEditHeight);
     m_edit->setObjectName(QString::fromLatin1(RowContract::kEdit));
     m_edit->setFixedHeight(kEditHeight);
     m_unit->setObjectName(QStringLiteral("unit"));
-    m_unit->setTextFormat(Qt::PlainText);
     m_unit->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_unit->setFixedHeight(kUnitHeight);
     m_unit->hide();
@@ -30,9 +30,18 @@ InputBoxWidget::InputBoxWidget(QWidget* parent)
 
 void InputBoxWidget::setUnit(const QString& unit)
 {
-    m_unit->setText(PlainText::line(unit));
+    m_unit->setTitle(unit);
     m_unit->setVisible(!unit.isEmpty());
     place();
+}
+
+bool InputBoxWidget::event(QEvent* event)
+{
+    // Presses on the unit are the edit's, and so is the pointer.
+    const bool isOnUnit = event->type() == QEvent::ToolTip && !m_unit->isHidden() &&
+                          m_unit->geometry().contains(static_cast<QHelpEvent*>(event)->pos());
+    return isOnUnit && m_unit->isElided() ? QCoreApplication::sendEvent(m_unit, event)
+                                          : QWidget::event(event);
 }
 
 void InputBoxWidget::resizeEvent(QResizeEvent* event)

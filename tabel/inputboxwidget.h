@@ -2,10 +2,11 @@
 
 #include <QWidget>
 
-class QLabel;
 class RowEdit;
+class TitleLabel;
 
-/// A line edit with a unit inside its right edge.
+/// A line edit with a unit inside its right edge, which is elided where it would leave no room for
+/// the number.
 class InputBoxWidget : public QWidget
 {
     Q_OBJECT
@@ -18,11 +19,12 @@ public:
     RowEdit* lineEdit() const { return m_edit; }
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void place();
 
     RowEdit* m_edit;
-    QLabel* m_unit;
+    TitleLabel* m_unit;
 };

@@ -12,10 +12,3 @@ void bindOption(QAbstractButton& box, const EnumOption& option)
         PlainText::toolTip(option.description.isEmpty() ? option.text : option.description));
     box.setProperty(RowContract::kOption, option.value);
 }
-
-void elideOption(const QAbstractButton& box, QStyle::SubElement contents, QStyleOptionButton& look)
-{
-    const int width = box.style()->subElementRect(contents, &look, &box).width();
-    look.text =
-        box.fontMetrics().elidedText(look.text, Qt::ElideRight, width, Qt::TextShowMnemonic);
-}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/ruleprotocolitem.h"
+#include "tabel/elision.h"
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -9,9 +10,6 @@ class QAbstractButton;
 
 /// Gives @p box text, tool tip and the dynamic property "value" (the stored text).
 void bindOption(QAbstractButton& box, const EnumOption& option);
-
-/// Elides the text of @p look to what @p box has room for beside its mark, a QStyle::SubElement.
-void elideOption(const QAbstractButton& box, QStyle::SubElement contents, QStyleOptionButton& look);
 
 /// A check box or radio button bound to one option; its dynamic property "value" holds the stored
 /// text.
@@ -32,7 +30,7 @@ protected:
     {
         QStyleOptionButton look;
         this->initStyleOption(&look);
-        elideOption(*this, kContents, look);
+        Elision::fit(*this, kContents, look);
         QStylePainter(this).drawControl(kElement, look);
     }
 

@@ -12,7 +12,8 @@ namespace
 {
 
 constexpr int kMeasureRoom = 2000; // QLabel's
-constexpr int kSignGap = 4;
+
+static_assert(TitleLabel::kSignWidth > WarningSign::kExtent);
 
 } // namespace
 
@@ -39,11 +40,6 @@ void TitleLabel::setWarning(bool on)
 {
     m_hasSign = on;
     update();
-}
-
-int TitleLabel::signWidth() const
-{
-    return m_hasSign ? WarningSign::kExtent + kSignGap : 0;
 }
 
 QSize TitleLabel::sizeHint() const

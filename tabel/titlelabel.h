@@ -8,6 +8,8 @@ class TitleLabel : public QLabel
     Q_OBJECT
 
 public:
+    static constexpr int kSignWidth = 16; ///< of the warning sign, with the gap after it
+
     explicit TitleLabel(QWidget* parent = nullptr);
 
     /// text() stays the full text, but for texts longer than any screen has room for.
@@ -23,7 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    int signWidth() const;
+    int signWidth() const { return m_hasSign ? kSignWidth : 0; }
 
     bool m_hasSign = false;
     bool m_isCut = false; ///< there is more in the tool tip, however wide the label is

@@ -47,7 +47,8 @@ void WidgetTabelView::fit()
 {
     layOut(viewport()->width());
     // The bar comes by the event loop. While nothing shows it is cheaper to leave it its place.
-    if (!isOverfull() || m_content->isVisible())
+    // After a load that needed the bar it stands there still, and the viewport is without it.
+    if (!isOverfull() || m_content->isVisible() || verticalScrollBar()->isVisibleTo(this))
         return;
     layOut(viewport()->width() - verticalScrollBar()->sizeHint().width());
     if (!isOverfull())

@@ -94,7 +94,7 @@
     <name>DetectionScene</name>
     <message>
         <source>Detection area</source>
-        <translation>Erkennungsbereich</translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>Detection configuration</source>
@@ -247,11 +247,11 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Zurück</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>Nothing was saved. %1</source>
-        <translation>Es wurde nichts gesichert. %1</translation>
+        <translation>Es wurde nichts gespeichert. %1</translation>
     </message>
     <message>
         <source>The documents are too long.</source>
@@ -608,11 +608,11 @@
     <name>Misfit</name>
     <message>
         <source>The configuration has %1 here, which this row cannot show. It is saved as it is until the row is edited.</source>
-        <translation>Die Konfiguration hat hier %1, was diese Zeile nicht anzeigen kann. Es wird unverändert gesichert, bis die Zeile bearbeitet wird.</translation>
+        <translation>Die Konfiguration hat hier %1, was diese Zeile nicht anzeigen kann. Es wird unverändert gespeichert, bis die Zeile bearbeitet wird.</translation>
     </message>
     <message>
         <source>The configuration has %1 here, which this row cannot show. It is not saved as it is.</source>
-        <translation>Die Konfiguration hat hier %1, was diese Zeile nicht anzeigen kann. Es wird nicht so gesichert, wie es ist.</translation>
+        <translation>Die Konfiguration hat hier %1, was diese Zeile nicht anzeigen kann. Es wird nicht so gespeichert, wie es ist.</translation>
     </message>
 </context>
 <context>
@@ -722,7 +722,7 @@
     <name>RuleData</name>
     <message>
         <source>Rule</source>
-        <translation>Regel</translation>
+        <translation>Reg.</translation>
     </message>
     <message>
         <source>Please add %1 %2.</source>
@@ -782,15 +782,15 @@
     </message>
     <message>
         <source>Area</source>
-        <translation>Bereich</translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>Lanes</source>
-        <translation>Fahrspur</translation>
+        <translation>Spur</translation>
     </message>
     <message>
         <source>Only %1 is saved: the template has room for one.</source>
-        <translation>Nur %1 wird gesichert: Die Vorlage hat Platz für eines.</translation>
+        <translation>Nur %1 wird gespeichert: Die Vorlage hat Platz für eines.</translation>
     </message>
 </context>
 <context>
@@ -855,31 +855,31 @@
     <name>SaveNotices</name>
     <message>
         <source>%1 is not saved as it was read.</source>
-        <translation>%1 wird nicht so gesichert, wie es gelesen wurde.</translation>
+        <translation>%1 wird nicht so gespeichert, wie es gelesen wurde.</translation>
     </message>
     <message>
         <source>%1 is not saved: no attribute names it.</source>
-        <translation>%1 wird nicht gesichert: Kein Attribut nennt es.</translation>
+        <translation>%1 wird nicht gespeichert: Kein Attribut nennt es.</translation>
     </message>
     <message>
         <source>%1 cannot be shown; it is saved as it was read until it is edited.</source>
-        <translation>%1 kann nicht angezeigt werden; es wird wie gelesen gesichert, bis es bearbeitet wird.</translation>
+        <translation>%1 kann nicht angezeigt werden; es wird wie gelesen gespeichert, bis es bearbeitet wird.</translation>
     </message>
     <message>
         <source>%1 is not saved: the template has no place &quot;%2&quot; for it.</source>
-        <translation>%1 wird nicht gesichert: In der Vorlage fehlt der Platz &quot;%2&quot; dafür.</translation>
+        <translation>%1 wird nicht gespeichert: In der Vorlage fehlt der Platz &quot;%2&quot; dafür.</translation>
     </message>
     <message>
         <source>%1 is not saved: it has no type that a row can have.</source>
-        <translation>%1 wird nicht gesichert: Es hat keinen Typ, den eine Zeile haben kann.</translation>
+        <translation>%1 wird nicht gespeichert: Es hat keinen Typ, den eine Zeile haben kann.</translation>
     </message>
     <message>
         <source>%1 is not saved: the template has something else in its place &quot;%2&quot;.</source>
-        <translation>%1 wird nicht gesichert: An seinem Platz &quot;%2&quot; steht in der Vorlage etwas anderes.</translation>
+        <translation>%1 wird nicht gespeichert: An seinem Platz &quot;%2&quot; steht in der Vorlage etwas anderes.</translation>
     </message>
     <message>
         <source>What is no entry under %1 is not saved.</source>
-        <translation>Was unter %1 kein Eintrag ist, wird nicht gesichert.</translation>
+        <translation>Was unter %1 kein Eintrag ist, wird nicht gespeichert.</translation>
     </message>
     <message>
         <source>%1 was left out of the copy: there is no such attribute here.</source>
@@ -889,12 +889,16 @@
         <source>%1 has its default in the copy: the value is not possible here.</source>
         <translation>%1 hat in der Kopie den Vorgabewert: Der kopierte Wert ist hier nicht möglich.</translation>
     </message>
+    <message>
+        <source>%1 were left out of the copy: there are no such attributes here.</source>
+        <translation>%1 fehlen in der Kopie: Solche Attribute gibt es hier nicht.</translation>
+    </message>
 </context>
 <context>
     <name>SceneWidgets</name>
     <message>
         <source>Redraw</source>
-        <translation>Neu</translation>
+        <translation>Neu zeichnen</translation>
     </message>
     <message>
         <source>Delete</source>

@@ -889,6 +889,10 @@
         <source>%1 has its default in the copy: the value is not possible here.</source>
         <translation>%1在副本中为默认值：此处不允许该值。</translation>
     </message>
+    <message>
+        <source>%1 were left out of the copy: there are no such attributes here.</source>
+        <translation>副本中省略了%1：此处没有这些属性。</translation>
+    </message>
 </context>
 <context>
     <name>SceneWidgets</name>
