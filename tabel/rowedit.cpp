@@ -2,12 +2,15 @@
 
 #include "draw/shortenedtext.h"
 #include "host/api/limits.h"
+#include "tabel/editmenu.h"
 #include "tabel/numberentry.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDoubleValidator>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QMimeData>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -97,6 +100,14 @@ bool RowEdit::event(QEvent* event)
         return QLineEdit::event(event);
     event->setAccepted(!isLeft);
     return true;
+}
+
+void RowEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu* const menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    EditMenu::translate(*menu);
+    menu->popup(event->globalPos());
 }
 
 void RowEdit::keyPressEvent(QKeyEvent* event)

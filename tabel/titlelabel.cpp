@@ -33,7 +33,7 @@ void TitleLabel::setTitle(const QString& text)
 bool TitleLabel::isElided() const
 {
     const int room = contentsRect().width() - signWidth();
-    return m_isCut || fontMetrics().horizontalAdvance(text()) > room;
+    return m_isCut || fontMetrics().elidedText(text(), Qt::ElideRight, room) != text();
 }
 
 void TitleLabel::setWarning(bool on)

@@ -12,6 +12,8 @@ WidgetTabelView::WidgetTabelView(QWidget* parent)
     m_content->setPaddingLeft(0);
     m_content->setPaddingTop(0);
     setWidget(m_content);
+    // Its menu has texts of Qt, which nobody may have translated.
+    verticalScrollBar()->setContextMenuPolicy(Qt::PreventContextMenu);
 }
 
 void WidgetTabelView::addWidget(QWidget* widget)

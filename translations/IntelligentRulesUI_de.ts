@@ -156,6 +156,45 @@
     </message>
 </context>
 <context>
+    <name>EditMenu</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Wieder&amp;herstellen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Ein&amp;fügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+</context>
+<context>
     <name>EntryTransfer</name>
     <message>
         <source>There is no entry to copy.</source>
@@ -849,6 +888,13 @@
     <message>
         <source>At least one Rule!</source>
         <translation>Mindestens eine Regel muss bleiben!</translation>
+    </message>
+</context>
+<context>
+    <name>SampleStreet</name>
+    <message>
+        <source>Sample camera</source>
+        <translation>Beispielkamera</translation>
     </message>
 </context>
 <context>

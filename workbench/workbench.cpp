@@ -6,6 +6,7 @@
 #include "workbench/sessionrecorder.h"
 #include "workbench/sessionscript.h"
 #include "workbench/sourcebook.h"
+#include "workbench/windowplace.h"
 #include "workbench/workbenchwindow.h"
 
 #include <QApplication>
@@ -39,6 +40,8 @@ int Workbench::run()
     // It may have been closed by now, and would not end the loop any more.
     if (m_window->isVisible())
         QApplication::exec();
+    if (!m_window->options().isScripted())
+        WindowPlace::keep(*m_window, WindowPlace::usualFile());
     if (m_player && !m_isReplayOver)
         m_replayError = m_window->options().replayFile + QStringLiteral(": ") +
                         tr("the window was closed before the session's end");
@@ -70,9 +73,11 @@ void Workbench::tellMissingResult()
 
 bool Workbench::start(QString& error)
 {
+    if (!m_window->options().isScripted())
+        WindowPlace::restore(*m_window, WindowPlace::usualFile());
     m_window->show();
     // A session is played over what its command line and its steps name, nothing else.
-    if (m_window->options().replayFile.isEmpty())
+    if (!m_window->options().isScripted())
         m_window->keepSources(SourceBook::usualFile());
     if (!m_window->start(error))
         return false;

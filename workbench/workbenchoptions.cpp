@@ -52,6 +52,11 @@ QString placeOf(const QString& path)
 
 } // namespace
 
+QString WorkbenchOptions::sampleName()
+{
+    return QCoreApplication::translate("WorkbenchWindow", "Sample camera");
+}
+
 QStringList WorkbenchOptions::inputs() const
 {
     QStringList files{templateFile, configFile, replayFile, source, pluginFile};

@@ -6,12 +6,15 @@
 
 /// What the workbench was asked to do: documents to load, the parameter block, session files.
 struct WorkbenchOptions {
+    /// Name of the channel that shows the sample camera, in the language of the program.
+    static QString sampleName();
+
     QString templateFile;
     QString configFile;
     QString source; ///< address or file of the loaded channel's picture; empty: its own
     QMap<QString, QString> channelSources; ///< by channel id
     QString channelId = QStringLiteral("1");
-    QString channelName = QStringLiteral("Sample camera");
+    QString channelName = sampleName();
     QString algorithmId = QStringLiteral("sample");
     int algorithmType = 0;
     QString algorithmCode;
@@ -26,6 +29,9 @@ struct WorkbenchOptions {
     QString theme; ///< "light" or "dark"; empty: the desktop's colours
     QString language; ///< as a locale's name; empty: the desktop's
 
+    /// Whether a script runs the workbench, for a replay or a picture of the window: nobody is
+    /// asked anything then, and nothing is read of what earlier runs kept, nor kept for later ones.
+    bool isScripted() const { return !replayFile.isEmpty() || !screenshotFile.isEmpty(); }
     /// The files that are read: documents, session, pictures, plug-in; addresses are among them.
     QStringList inputs() const;
     /// Which of inputs() writing @p output would replace; empty when there is none.

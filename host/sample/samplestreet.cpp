@@ -1,5 +1,6 @@
 #include "host/sample/samplestreet.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QTime>
 #include <QtMath>
@@ -128,7 +129,8 @@ void paintCaption(QPainter& painter, qreal seconds)
     QFont font = painter.font();
     font.setPixelSize(22);
     painter.setFont(font);
-    const QString text = QStringLiteral("Sample camera  %1").arg(time.toString(Qt::ISODate));
+    const QString text = QStringLiteral("%1  %2").arg(
+        QCoreApplication::translate("SampleStreet", "Sample camera"), time.toString(Qt::ISODate));
     painter.setPen(QColor(0, 0, 0, 130));
     painter.drawText(QPointF(25, 41), text);
     painter.setPen(QColor(255, 255, 255, 235));

@@ -1,6 +1,8 @@
+#include "host/api/kqmessagebox.h"
 #include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
+#include "workbench/language.h"
 
 #include <QXmlStreamReader>
 
@@ -49,6 +51,17 @@ QString textOf(const QWidget* widget)
         return button->text();
     const auto* label = qobject_cast<const QLabel*>(widget);
     return label ? label->text() : QString();
+}
+
+/// Everything that can be read in @p window, tool tips and menus included.
+QStringList textsIn(const QWidget& window)
+{
+    QStringList texts;
+    for (const QWidget* widget : window.findChildren<QWidget*>())
+        texts << textOf(widget) << widget->toolTip() << widget->accessibleName();
+    for (const QAction* action : window.findChildren<QAction*>())
+        texts << action->text().section('\t', 0, 0) << action->toolTip();
+    return texts;
 }
 
 } // namespace
@@ -131,6 +144,51 @@ private slots:
                                    ? finder.entryButtons(panel, false).value(0)
                                    : finder.part(panel, text("object"));
         QCOMPARE(textOf(shown), text("text"));
+    }
+
+    void nothingIsLeftInEnglish_data()
+    {
+        QTest::addColumn<QString>("example");
+        for (const QString& example : ExampleFiles::names())
+            QTest::newRow(qPrintable(example)) << example;
+    }
+
+    /// But what the example's documents have.
+    void nothingIsLeftInEnglish()
+    {
+        QFETCH(const QString, example);
+        const QString folder = ExampleFiles::folder(example);
+        const QString documents = ExampleFiles::contentOf(folder + "template.json") +
+                                  ExampleFiles::contentOf(folder + "config.json");
+        QLocale::setDefault(QLocale("zh_CN"));
+        const auto back = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+        const Language language;
+        WorkbenchWindow window(WorkbenchBench::example(example));
+        QString error;
+        QVERIFY2(window.start(error), qPrintable(error));
+        QStringList texts = textsIn(window);
+        QTimer::singleShot(0, &window, [&] {
+            if (QWidget* const box = QApplication::activeModalWidget()) {
+                texts += textsIn(*box);
+                box->close();
+            }
+        });
+        KQGUI::KQMessageBox::ShowInformation(&window, KQGUI::KQMessageBox::kQuestion, {}, {},
+                                             QMessageBox::Yes | QMessageBox::No);
+        for (QLineEdit* edit : window.rulesWindow()->findChildren<QLineEdit*>()) {
+            edit->setEnabled(true);
+            QContextMenuEvent wanted(QContextMenuEvent::Mouse, QPoint());
+            QApplication::sendEvent(edit, &wanted);
+            texts += textsIn(*edit);
+        }
+        QVERIFY(texts.contains("是(&Y)") && texts.contains("全选"));
+        static const QRegularExpression chinese("[\\x{4e00}-\\x{9fff}]");
+        static const QRegularExpression word("[A-Za-z]{3}");
+        for (QString text : texts) {
+            const QString stem = text.remove("...").remove("&");
+            QVERIFY2(text.contains(chinese) || !text.contains(word) || documents.contains(stem),
+                     qPrintable(text));
+        }
     }
 };
 
