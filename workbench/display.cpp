@@ -1,6 +1,8 @@
 #include "workbench/display.h"
 
+#include <QApplication>
 #include <QByteArray>
+#include <QFont>
 #include <QString>
 
 namespace WorkbenchDisplay
@@ -8,6 +10,8 @@ namespace WorkbenchDisplay
 
 namespace
 {
+
+constexpr int kPlainPoints = 9;
 
 QtMessageHandler g_previousHandler = nullptr;
 
@@ -17,6 +21,11 @@ void dropPlatformNoise(QtMsgType type, const QMessageLogContext& context, const 
     if (!text.startsWith(QLatin1String("This plugin does not support")) &&
         !text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
         g_previousHandler(type, context, text);
+}
+
+bool isOffscreen()
+{
+    return qgetenv("QT_QPA_PLATFORM").startsWith("offscreen");
 }
 
 } // namespace
@@ -42,9 +51,17 @@ bool useOffscreen()
 
 void setPlainDensity()
 {
-    if (qgetenv("QT_QPA_PLATFORM").startsWith("offscreen") &&
-        !qEnvironmentVariableIsSet("QT_FONT_DPI"))
+    if (isOffscreen() && !qEnvironmentVariableIsSet("QT_FONT_DPI"))
         qputenv("QT_FONT_DPI", QByteArrayLiteral("96"));
+}
+
+void setPlainFont()
+{
+    if (!isOffscreen())
+        return;
+    QFont font = QApplication::font();
+    font.setPointSize(kPlainPoints);
+    QApplication::setFont(font);
 }
 
 } // namespace WorkbenchDisplay

@@ -11,8 +11,11 @@ bool isThere();
 /// Returns whether that could be set up.
 bool useOffscreen();
 
-/// Has a window without a display, whose screen would have 100 dots an inch, be drawn at 100 %
-/// unless QT_FONT_DPI says otherwise. Without effect on a display.
+/// Has a window without a display look as on a plain desktop, with 96 dots an inch unless
+/// QT_FONT_DPI says otherwise; to be called before the application is made. Qt's would have 100,
+/// and so be drawn at 104 %. Without effect on a display.
 void setPlainDensity();
+/// The same for the font, of 9 points, once the application is made.
+void setPlainFont();
 
 } // namespace WorkbenchDisplay

@@ -76,6 +76,7 @@ int main(int argc, char* argv[])
     WorkbenchDisplay::setPlainDensity();
     QApplication application(argc, argv);
     Theme::apply(options.theme);
+    WorkbenchDisplay::setPlainFont();
     const Language language;
     return Workbench(options).run();
 }

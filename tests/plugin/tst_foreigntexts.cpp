@@ -104,8 +104,8 @@ private slots:
             const auto* button = qobject_cast<const QAbstractButton*>(widget);
             QVERIFY(!button || button->shortcut().isEmpty());
         }
-        for (const char* kind : {"TitleLabel", "QLabel", "DrawItemButton", "CheckBoxWidget",
-                                 "RadioButtonWidget", "RowEdit"})
+        for (const char* kind :
+             {"TitleLabel", "DrawItemButton", "CheckBoxWidget", "RadioButtonWidget", "RowEdit"})
             QVERIFY2(kinds[kind] > 0, kind);
         QCOMPARE(rules.find<QLabel>("lblChnName")->text(), kText);
         QCOMPARE(rules.find<QLabel>("lblChnCode")->text(), kText);

@@ -1,6 +1,5 @@
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
-#include "workbench/display.h"
 #include "workbench/language.h"
 #include "workbench/windowplace.h"
 
@@ -195,12 +194,5 @@ private:
     const QFont m_usualFont = QApplication::font();
 };
 
-int main(int argc, char* argv[])
-{
-    WorkbenchDisplay::setPlainDensity();
-    const QApplication application(argc, argv);
-    TstCutOff test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(TstCutOff)
 #include "tst_cutoff.moc"

@@ -196,6 +196,17 @@ private slots:
         QCOMPARE(QImage(path("step.png")).size(), QSize(1180, 800));
     }
 
+    void isAsLargeAsTheDesktopSays()
+    {
+        for (const int percent : {100, 125, 150}) {
+            environment.insert("QT_FONT_DPI", QString::number(96 * percent / 100));
+            const Outcome outcome = replay(session("everystep"));
+            QVERIFY2(outcome.status == SavedOrClosed, qPrintable(outcome.said));
+            QCOMPARE(QImage(path("step.png")).size(), QSize(1180, 800) * percent / 100);
+        }
+        environment.remove("QT_FONT_DPI");
+    }
+
     void showsWhatIsRefused()
     {
         const Outcome outcome = replay(session("refused"));

@@ -1,26 +1,8 @@
-#!/usr/bin/env python3
-"""Makes the pictures of docs/operators.md: tools/operator-pictures.py [WORKBENCH] plays
-docs/operators.jsonl offscreen and cuts what it saved to what matters. Of Python's own modules only."""
+"""Cuts a rectangle out of a PNG, with Python's own modules only."""
 
-import os
 import struct
-import subprocess
-import sys
-import tempfile
 import zlib
-from pathlib import Path
 
-ROOT = Path(__file__).resolve().parent.parent
-SAMPLE = ROOT / "examples/perimeter"
-# Left, top, width and height in the window of 1180 x 800 pixels.
-CUTS = {
-    "operators-draw.png": (330, 200, 845, 270),
-    "operators-correct.png": (510, 425, 319, 186),
-    "operators-keys.png": (510, 425, 319, 186),
-    "operators-red.png": (510, 425, 319, 186),
-    "operators-find.png": (540, 195, 570, 415),
-    "operators-save.png": (838, 155, 334, 575),
-}
 SIGNATURE = b"\x89PNG\r\n\x1a\n"
 CHANNELS = {2: 3, 6: 4}
 
@@ -87,17 +69,3 @@ def cut(source, target, left, top, width, height):
     header = struct.pack(">IIBBBBB", width, height, 8, colour, 0, 0, 0)
     target.write_bytes(SIGNATURE + chunk(b"IHDR", header) +
                        chunk(b"IDAT", packed(rows, step)) + chunk(b"IEND", b""))
-
-
-def main():
-    workbench = Path(sys.argv[1] if len(sys.argv) > 1 else ROOT / "build/dev/bin/rules-workbench")
-    with tempfile.TemporaryDirectory() as folder:
-        subprocess.run([workbench.resolve(), "--template", SAMPLE / "template.json",
-                        "--config", SAMPLE / "config.json",
-                        "--replay", ROOT / "docs/operators.jsonl"],
-                       cwd=folder, check=True, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
-        for name, place in CUTS.items():
-            cut(Path(folder) / name, ROOT / "docs" / name, *place)
-
-
-main()
