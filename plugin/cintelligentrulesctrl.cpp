@@ -11,6 +11,7 @@
 #include "plugin/editcommands.h"
 #include "plugin/entrymenu.h"
 #include "plugin/figurehover.h"
+#include "plugin/readonlylook.h"
 #include "plugin/resultmessage.h"
 #include "plugin/windowskin.h"
 #include "scene/basetabelscene.h"
@@ -87,6 +88,9 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
     m_form->lblHint->hide();
     m_form->lblNotices->hide();
     connectEditing();
+    m_look = new ReadOnlyLook(*this, *m_form->sceneView);
+    connect(m_look, &ReadOnlyLook::sgnSection, this, &CIntelligentRulesCtrl::selectScene);
+    m_form->btnSave->setEnabled(false);
     m_form->btnSave->setStyleSheet(QString::fromLatin1(kSaveButtonStyle));
     new WindowSkin(this);
 }
@@ -221,6 +225,7 @@ void CIntelligentRulesCtrl::resetToDefaults()
     m_form->lblChnCode->setTitle({});
     m_form->lblChnName->setTitle({});
     m_form->wgtChannelInfo->setEnabled(true);
+    m_form->btnSave->setEnabled(false);
     for (QWidget* button : answerButtons())
         button->show();
 }
@@ -249,14 +254,21 @@ void CIntelligentRulesCtrl::initScenes()
     m_editing->transfer().setParser(m_parser.get());
     m_editing->history().start(m_scenes);
     showSteps();
+    if (!m_parameters.editable)
+        m_look->start(m_scenes);
     focusFirstScene();
 }
 
 void CIntelligentRulesCtrl::focusFirstScene()
 {
     m_isFocusDue = !isVisible() && !m_scenes.isEmpty();
-    if (isVisible() && !m_scenes.isEmpty())
-        m_scenes.first()->setFocus();
+    if (!isVisible() || m_scenes.isEmpty())
+        return;
+    // In a read-only window the sections are disabled, and keys come by the picture.
+    QWidget* const place =
+        m_parameters.editable ? m_scenes.first() : static_cast<QWidget*>(m_playerWin);
+    if (place)
+        place->setFocus();
 }
 
 /// What cannot be shown whole is not read at all: saved from here, the rest would be gone.
@@ -271,6 +283,7 @@ bool CIntelligentRulesCtrl::readDocuments()
     if (isRead) {
         parser->findLosses();
         m_parser = std::move(parser);
+        m_form->btnSave->setEnabled(true);
     }
     return isRead;
 }
@@ -334,6 +347,7 @@ void CIntelligentRulesCtrl::unload()
     m_editing->setPanel(nullptr, false);
     m_editing->transfer().setParser(nullptr);
     m_editing->history().start({});
+    m_look->start({});
     m_hover->setPanel(nullptr);
     m_saveCheck.forget();
     const std::unique_ptr<RuleParser> parser = std::move(m_parser);
@@ -396,8 +410,10 @@ void CIntelligentRulesCtrl::showSelected(BaseTabelScene& panel)
         m_hover->setPanel(&panel);
         fitCanvas();
     }
-    if (!m_parameters.editable)
+    if (!m_parameters.editable) {
         panel.setUIEditable(false);
+        panel.showHint();
+    }
     panel.setSelected(true);
 }
 
@@ -560,6 +576,7 @@ void CIntelligentRulesCtrl::sltSave()
             scene->ruleData()->saveNotices().forgetLeftOut();
         }
         showNotices();
+        showSteps();
     }
     if (m_drawScene)
         m_drawScene->SetDrawOver(true);
@@ -662,9 +679,18 @@ void CIntelligentRulesCtrl::showHint(const QString& text)
     m_form->lblHint->setVisible(!text.isEmpty());
 }
 
+/// In a read-only window nothing is saved of which anything could be lost.
+QStringList CIntelligentRulesCtrl::notices() const
+{
+    if (!m_parser)
+        return {};
+    return m_parameters.editable ? m_parser->notices()
+                                 : QStringList(tr("Read-only: nothing can be changed here."));
+}
+
 void CIntelligentRulesCtrl::showNotices()
 {
-    const QStringList notices = m_parser ? m_parser->notices() : QStringList();
+    const QStringList notices = this->notices();
     m_form->lblNotices->setTitle(notices.join(QLatin1Char(' ')));
     m_form->lblNotices->setToolTip(PlainText::toolTip(notices.join(QLatin1Char('\n'))));
     if (m_form->lblNotices->isHidden() == notices.isEmpty())
@@ -881,6 +907,15 @@ void CIntelligentRulesCtrl::showSteps()
     const QString redone = tr("Redo: %1 (Ctrl+Y)").arg(steps.redoText());
     m_form->btnUndo->setToolTip(steps.canUndo() ? PlainText::toolTip(undone) : QString());
     m_form->btnRedo->setToolTip(steps.canRedo() ? PlainText::toolTip(redone) : QString());
+    // Not at once: it is the host's chance to act, in the middle of a click.
+    if (std::exchange(m_wasEdited, isEdited()) != m_wasEdited)
+        QMetaObject::invokeMethod(this, &CIntelligentRulesCtrl::sgnEditedChanged,
+                                  Qt::QueuedConnection);
+}
+
+bool CIntelligentRulesCtrl::isEdited() const
+{
+    return !m_editing->history().stack().isClean();
 }
 
 void CIntelligentRulesCtrl::paintEvent(QPaintEvent*)

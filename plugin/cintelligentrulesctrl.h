@@ -30,6 +30,7 @@ class EditCommands;
 class EntryMenu;
 enum class EntryAction;
 class FigureHover;
+class ReadOnlyLook;
 
 /**
  * Content of one rules window: shows the channel's picture, the panels of the template's scenes,
@@ -43,6 +44,7 @@ class CIntelligentRulesCtrl : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(QString usedKey READ usedKey NOTIFY sgnKeyUsed)
+    Q_PROPERTY(bool edited READ isEdited NOTIFY sgnEditedChanged)
 
 public:
     explicit CIntelligentRulesCtrl(const QString& widgetId, QWidget* parent = nullptr);
@@ -60,10 +62,13 @@ public:
 
     /// The key that the window was given last for itself, as sessions write it.
     QString usedKey() const { return editKeyName(m_usedKey); }
+    /// Whether the operator has changed something since the load or the last save.
+    bool isEdited() const;
 
 signals:
     /// The window is about to do what a key is for.
     void sgnKeyUsed();
+    void sgnEditedChanged();
     void sgnNotifyVideoSize(int nWidth, int nHeight);
     /// The window is being destroyed: from now on it takes no messages.
     void sgnEnding();
@@ -151,14 +156,18 @@ private:
     bool isEditable() const;
     /// Save and what stands beside it; not there in a read-only window.
     QList<QWidget*> answerButtons() const;
-    /// Shows on the buttons what can be undone and done again.
+    /// Shows on the buttons what can be undone and done again, and tells whether anything was
+    /// edited.
     void showSteps();
+    /// What stands left of Save.
+    QStringList notices() const;
 
     std::unique_ptr<Ui_IntelligentRulesCtrl> m_form;
     QRtspVideoWnd* m_playerWin = nullptr; ///< the form's; null until bound to the managers
     EditCommands* m_editing;              ///< owned as a child
     QPointer<EntryMenu> m_menu;           ///< while it is open; a child
     FigureHover* m_hover;                 ///< owned as a child
+    ReadOnlyLook* m_look = nullptr;       ///< owned as a child
     SaveCheck m_saveCheck;
     EditKey m_usedKey = EditKey::None;
     QString m_editedRow;                  ///< key of the row whose edit is about to be noted
@@ -172,6 +181,7 @@ private:
     std::atomic<int> m_videoHeight{0};
     QRect m_videoRect; ///< the picture inside playerWin, widget pixels
     bool m_rtspOpened = false;
+    bool m_wasEdited = false;  ///< as the host was told last
     bool m_isFocusDue = false; ///< a load's focus waits until the window is shown
     int m_loadNumber = 0;      ///< tells loads apart where the host could act in between
 };

@@ -263,6 +263,21 @@ bool BaseTabelScene::makeCurrent(int dataId)
     return self;
 }
 
+void BaseTabelScene::lookAt(int dataId, int itemId)
+{
+    const bool drewBefore = GetDrawStatus();
+    if (!makeCurrent(dataId) || !isBound())
+        return;
+    const DrawItem* const shown =
+        itemId > 0 ? getDrawScene()->findItem(itemId) : getDrawScene()->selectedItem(dataId);
+    if (shown && !shown->isFinished())
+        getDrawScene()->setSelected(0, dataId);
+    else if (shown && !shown->isSelected())
+        selectFigure(itemId, dataId);
+    SetDrawStatus(drewBefore);
+    emit sgnLookChanged();
+}
+
 void BaseTabelScene::selectFigure(int itemId, int dataId)
 {
     if (DrawItemButton* child = widgets().childDrawItems->findButton(itemId))

@@ -63,6 +63,9 @@ public:
     /// Makes the entry current, which may just have been added to the data, without starting what
     /// it lacks. False when the section, or its data, is gone by then.
     bool makeCurrent(int dataId);
+    /// Shows an entry and the figure of one of its buttons, 0 for none, to be looked at and nothing
+    /// else: none is drawn on, and what message 222 answers stays what it was.
+    void lookAt(int dataId, int itemId);
     /// Whether entries have a row for their name.
     virtual bool canRename() const { return false; }
     /// Gives the row for the current entry's name the focus.

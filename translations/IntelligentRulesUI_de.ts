@@ -384,6 +384,10 @@
         <translation>Strg+D: Eintrag duplizieren</translation>
     </message>
     <message>
+        <source>Read-only: nothing can be changed here.</source>
+        <translation>Nur lesen: Hier lässt sich nichts ändern.</translation>
+    </message>
+    <message>
         <source>Ctrl and a press: take the whole figure</source>
         <translation>Strg und ein Klick: die ganze Figur nehmen</translation>
     </message>

@@ -384,6 +384,10 @@
         <translation>Ctrl+D：复制一份条目</translation>
     </message>
     <message>
+        <source>Read-only: nothing can be changed here.</source>
+        <translation>只读：此处无法更改任何内容。</translation>
+    </message>
+    <message>
         <source>Ctrl and a press: take the whole figure</source>
         <translation>按住 Ctrl 点击：抓住整个图形</translation>
     </message>

@@ -66,7 +66,8 @@ constexpr char kPasteKey[] = "Ctrl+V";
 /// What an entry in the clipboard is: JSON.
 constexpr char kEntryType[] = "application/vnd.intelligentrules.entry+json";
 
-// Object names of the window's buttons, and of its label for notices.
+// Object names of the window's buttons, and of its label for notices. Save is disabled while
+// nothing is loaded, and hidden in a read-only window.
 constexpr char kSave[] = "btnSave";
 constexpr char kCancel[] = "btnCancel";
 constexpr char kNotices[] = "lblNotices";
@@ -76,6 +77,14 @@ constexpr char kRedo[] = "btnRedo";
 /// Property of the window, a QString: a key that it takes for itself, as QKeySequence writes it.
 /// Its notify signal tells each that is pressed, before the window does what it is for.
 constexpr char kUsedKey[] = "usedKey";
+
+/// Property of the window, a bool: whether anything is not as it was at the load or the last save.
+/// Its notify signal tells when it may be another one. What is being typed counts once it is
+/// finished.
+constexpr char kEdited[] = "edited";
+
+/// Object name of the view that shows the sections.
+constexpr char kSections[] = "sceneView";
 
 /// Slot of the window: tells and shows the operator what a save would be refused for, as Save does,
 /// and saves nothing.
