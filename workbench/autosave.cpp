@@ -58,13 +58,6 @@ bool hasItsDocuments(const SessionScript& script)
     });
 }
 
-/// "folder/template.json": the name alone is often the same.
-QString shortPath(const QString& path)
-{
-    const QFileInfo file(path);
-    return file.dir().dirName() + QLatin1Char('/') + file.fileName();
-}
-
 } // namespace
 
 Autosave::Autosave(WorkbenchWindow& window, const QString& folder, int delay)
@@ -94,6 +87,19 @@ Autosave::~Autosave()
     else
         settle();
     delete m_bar;
+}
+
+QString Autosave::session() const
+{
+    QByteArray lines;
+    for (const QByteArray& step : m_steps)
+        lines += step + '\n';
+    return QString::fromUtf8(lines);
+}
+
+QString Autosave::leftBehind() const
+{
+    return m_left ? m_left->path() : QString();
 }
 
 void Autosave::begin()
@@ -156,11 +162,8 @@ void Autosave::settle()
 
 bool Autosave::write()
 {
-    QByteArray content;
-    for (const QByteArray& step : m_steps)
-        content += step + '\n';
     QString error;
-    if (m_file.write(content, error)) {
+    if (m_file.write(session().toUtf8(), error)) {
         m_window.tellTrouble(Trouble::KeptWork, {});
         return true;
     }
@@ -207,7 +210,7 @@ QString Autosave::leftBehindText() const
             return tr("The workbench ended unexpectedly (%1). What was not saved yet of channel "
                       "\"%2\", %3, can be restored.")
                 .arg(when, qAsConst(step.step)["name"].asString(),
-                     shortPath(qAsConst(step.step)["template"].asString()));
+                     WorkbenchWindow::shortPath(qAsConst(step.step)["template"].asString()));
     }
     return tr("The workbench ended unexpectedly (%1). What was not saved yet can be restored.")
         .arg(when);
@@ -235,10 +238,11 @@ void Autosave::restore()
 
 bool Autosave::mayReplaceWork()
 {
-    return !m_isUnsaved || KQGUI::KQMessageBox::ShowInformation(
-                               &m_window, KQGUI::KQMessageBox::kQuestion, m_window.windowTitle(),
-                               tr("What was done in this window since is lost then. Restore?"),
-                               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    return !m_isUnsaved ||
+           KQGUI::KQMessageBox::ShowInformation(
+               &m_window, KQGUI::KQMessageBox::kQuestion, WorkbenchWindow::programName(),
+               tr("What was done in this window since is lost then. Restore?"),
+               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 void Autosave::finishRestore(const QString& error)

@@ -37,6 +37,11 @@ public:
     /// An orderly end: the file goes, unless the result could not be written.
     ~Autosave() override;
 
+    /// The steps of this run since the load, one a line.
+    QString session() const;
+    /// The file of what a crash left behind; empty for none.
+    QString leftBehind() const;
+
 private:
     using Value = kql::Json::Value;
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QByteArray>
 #include <QFont>
+#include <QGuiApplication>
 #include <QString>
 
 namespace WorkbenchDisplay
@@ -41,6 +42,12 @@ bool isThere()
 #else
     return true;
 #endif
+}
+
+bool isSeen()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 }
 
 bool useOffscreen()

@@ -7,6 +7,9 @@ namespace WorkbenchDisplay
 /// Whether there is a display, or the environment names a Qt platform that needs none.
 bool isThere();
 
+/// Whether anybody can see the application's windows: not where they are in memory only.
+bool isSeen();
+
 /// Makes Qt show windows in memory only; to be called before the application is made.
 /// Returns whether that could be set up.
 bool useOffscreen();

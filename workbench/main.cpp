@@ -1,6 +1,7 @@
 #include "workbench/commandline.h"
 #include "workbench/display.h"
 #include "workbench/language.h"
+#include "workbench/logkeeper.h"
 #include "workbench/theme.h"
 #include "workbench/workbench.h"
 
@@ -74,6 +75,7 @@ int main(int argc, char* argv[])
     if (const std::optional<int> status = readArguments(argc, argv, options))
         return *status;
     WorkbenchDisplay::setPlainDensity();
+    LogKeeper::start();
     QApplication application(argc, argv);
     Theme::apply(options.theme);
     WorkbenchDisplay::setPlainFont();

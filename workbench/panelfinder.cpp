@@ -3,6 +3,8 @@
 #include "host/api/rowcontract.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVariant>
@@ -114,6 +116,13 @@ QLineEdit* PanelFinder::unfinishedEdit() const
     const auto found = std::find_if(edits.begin(), edits.end(),
                                     [](const QLineEdit* edit) { return edit->isModified(); });
     return found == edits.end() ? nullptr : *found;
+}
+
+void PanelFinder::finishEdit() const
+{
+    QFocusEvent leave(QEvent::FocusOut, Qt::MouseFocusReason);
+    if (QLineEdit* const edit = unfinishedEdit())
+        QCoreApplication::sendEvent(edit, &leave);
 }
 
 QAbstractButton* PanelFinder::windowButton(const QString& name) const

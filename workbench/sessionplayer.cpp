@@ -18,10 +18,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileInfo>
-#include <QFocusEvent>
 #include <QHash>
 #include <QKeySequence>
-#include <QLineEdit>
 #include <QTimer>
 
 #include <cmath>
@@ -314,10 +312,7 @@ QString SessionPlayer::doEnable(QWidget* panel, const Value& step)
 
 QString SessionPlayer::doFinish(const Value&)
 {
-    // As if something else were pressed; whether the window has the focus just then is no matter.
-    QFocusEvent leave(QEvent::FocusOut, Qt::MouseFocusReason);
-    if (QLineEdit* edit = m_finder.unfinishedEdit())
-        QApplication::sendEvent(edit, &leave);
+    m_finder.finishEdit();
     return {};
 }
 

@@ -4,7 +4,7 @@
 #include <QMap>
 
 /// What cannot be written.
-enum class Trouble { Result, Screenshot, Record, KeptWork, Sources };
+enum class Trouble { Result, Screenshot, Record, KeptWork, Sources, RecentDocuments };
 
 /**
  * Says in the status bar what cannot be written, for as long as that is so. It takes no more room

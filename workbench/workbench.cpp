@@ -2,14 +2,23 @@
 
 #include "host/video/maskedaddress.h"
 #include "workbench/autosave.h"
+#include "workbench/busyreading.h"
+#include "workbench/closequestion.h"
+#include "workbench/display.h"
+#include "workbench/documentopener.h"
+#include "workbench/logkeeper.h"
+#include "workbench/messagerecord.h"
+#include "workbench/recentdocuments.h"
 #include "workbench/sessionplayer.h"
 #include "workbench/sessionrecorder.h"
 #include "workbench/sessionscript.h"
 #include "workbench/sourcebook.h"
+#include "workbench/supportfile.h"
 #include "workbench/windowplace.h"
 #include "workbench/workbenchwindow.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QTextStream>
 #include <QTimer>
 
@@ -24,7 +33,9 @@ void complain(const QString& line)
 } // namespace
 
 Workbench::Workbench(const WorkbenchOptions& options)
-    : m_window(std::make_unique<WorkbenchWindow>(options))
+    : m_window(std::make_unique<WorkbenchWindow>(options)),
+      m_question(new CloseQuestion(*m_window)),
+      m_opener(new DocumentOpener(*m_window, *m_question))
 {
 }
 
@@ -60,7 +71,9 @@ int Workbench::run()
     if (troubles.has(Trouble::Result) || troubles.has(Trouble::Screenshot) ||
         troubles.has(Trouble::Record))
         return Unusable;
-    return m_window->wasExited() ? LeftWithoutSaving : SavedOrClosed;
+    if (!m_window->documentError().isEmpty())
+        return Unusable;
+    return m_window->wasExited() || m_question->wasDiscarded() ? LeftWithoutSaving : SavedOrClosed;
 }
 
 /// An older file in its place would stand for this session's result.
@@ -76,19 +89,21 @@ bool Workbench::start(QString& error)
     if (!m_window->options().isScripted())
         WindowPlace::restore(*m_window, WindowPlace::usualFile());
     m_window->show();
-    // A session is played over what its command line and its steps name, nothing else.
-    if (!m_window->options().isScripted())
-        m_window->keepSources(SourceBook::usualFile());
-    if (!m_window->start(error))
-        return false;
     const WorkbenchOptions& options = m_window->options();
-    if (!options.recordFile.isEmpty()) {
-        auto* recorder = new SessionRecorder(*m_window, m_window.get());
-        connect(recorder, &SessionRecorder::sgnFailed, m_window.get(),
-                [this](const QString& line) { m_window->tellTrouble(Trouble::Record, line); });
-        if (!recorder->open(options.recordFile, error))
-            return false;
+    connect(m_window.get(), &WorkbenchWindow::sgnMessage, this, [](const MessageRecord& message) {
+        const bool isSent = message.direction == MessageRecord::Direction::ToModule;
+        LogKeeper::note(QStringLiteral("message %1 %2")
+                            .arg(message.id)
+                            .arg(isSent ? QLatin1String("sent") : QLatin1String("received")));
+    });
+    connect(m_window.get(), &WorkbenchWindow::sgnSupportWanted, this, &Workbench::saveSupportFile);
+    // A session is played over what its command line and its steps name, nothing else.
+    if (!options.isScripted()) {
+        m_window->keepSources(SourceBook::usualFile());
+        m_opener->keepRecent(RecentDocuments::usualFile());
     }
+    if (!openDocuments(error) || !record(error))
+        return false;
     if (!options.replayFile.isEmpty())
         return replay(options.replayFile, error);
     // Once the window is up: it delays nobody.
@@ -96,6 +111,60 @@ bool Workbench::start(QString& error)
         m_autosave = std::make_unique<Autosave>(*m_window, AutosaveFile::usualFolder());
     });
     return true;
+}
+
+/// Somebody who sees the window can leave what takes long, and open something else.
+bool Workbench::openDocuments(QString& error)
+{
+    const WorkbenchOptions options = m_window->options();
+    if (options.isScripted() || !WorkbenchDisplay::isSeen())
+        return m_window->start(error);
+    if (!m_window->startEmpty(error))
+        return false;
+    if (!options.templateFile.isEmpty())
+        m_opener->open(options);
+    if (!m_window->documentError().isEmpty())
+        complain(m_window->documentError());
+    return true;
+}
+
+bool Workbench::record(QString& error)
+{
+    const QString& file = m_window->options().recordFile;
+    if (file.isEmpty())
+        return true;
+    auto* recorder = new SessionRecorder(*m_window, m_window.get());
+    connect(recorder, &SessionRecorder::sgnFailed, m_window.get(),
+            [this](const QString& line) { m_window->tellTrouble(Trouble::Record, line); });
+    return recorder->open(file, error);
+}
+
+void Workbench::saveSupportFile()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        m_window.get(), tr("Save a support file"), QStringLiteral("rules-workbench-support.tar.gz"),
+        tr("Archives (*.tar.gz)"));
+    if (path.isEmpty())
+        return;
+    const WorkbenchOptions& options = m_window->options();
+    SupportFile support;
+    support.addPlatform();
+    support.addText(QStringLiteral("log.txt"), LogKeeper::lines().join(QLatin1Char('\n')));
+    support.addText(QStringLiteral("session.jsonl"),
+                    m_autosave ? m_autosave->session() : QString());
+    support.addFile(QStringLiteral("session-left-behind.jsonl"),
+                    m_autosave ? m_autosave->leftBehind() : QString());
+    support.addFile(QStringLiteral("template.json"), options.templateFile);
+    support.addFile(QStringLiteral("config.json"), options.configFile);
+    support.addText(QStringLiteral("result.json"), m_window->lastResult());
+    const auto error =
+        BusyReading::result<QString>(m_window.get(), tr("Saving ..."), [support, path] {
+            QString why;
+            support.write(path, why);
+            return why;
+        });
+    if (error && !error->isEmpty())
+        m_window->report(*error);
 }
 
 bool Workbench::replay(const QString& path, QString& error)

@@ -5,6 +5,8 @@
 
 struct WorkbenchOptions;
 class Autosave;
+class CloseQuestion;
+class DocumentOpener;
 class SessionPlayer;
 class WorkbenchWindow;
 
@@ -26,11 +28,16 @@ public:
 
 private:
     bool start(QString& error);
+    bool openDocuments(QString& error);
+    bool record(QString& error);
+    void saveSupportFile();
     bool replay(const QString& path, QString& error);
     void tellMissingResult();
     void finishReplay(const QString& error);
 
     std::unique_ptr<WorkbenchWindow> m_window;
+    CloseQuestion* m_question; ///< the window's
+    DocumentOpener* m_opener;  ///< the window's
     std::unique_ptr<SessionPlayer> m_player;
     std::unique_ptr<Autosave> m_autosave; ///< null while a session is replayed
     bool m_isReplayOver = false;

@@ -9,17 +9,25 @@
 #include "host/video/picturefile.h"
 #include "host/video/qrtspvideownd.h"
 #include "workbench/documentfile.h"
+#include "workbench/droptarget.h"
+#include "workbench/firstpage.h"
 #include "workbench/messagedock.h"
 #include "workbench/messagerecord.h"
 #include "workbench/modulehost.h"
+#include "workbench/operatorhand.h"
+#include "workbench/panelfinder.h"
 #include "workbench/sourcesdialog.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMetaProperty>
 #include <QMouseEvent>
 #include <QStatusBar>
 
@@ -30,10 +38,12 @@ constexpr int kNormalizedExtent = 8192;
 constexpr QSize kInitialSize(1180, 800);
 const auto kSampleCamera = QStringLiteral("sample:");
 
-QString jsonFilter()
-{
-    return QCoreApplication::translate("WorkbenchWindow", "JSON documents (*.json);;All files (*)");
-}
+/// While something is done that must not be interrupted.
+struct WaitCursor {
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY(WaitCursor)
+};
 
 } // namespace
 
@@ -45,16 +55,20 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options, QWidget* paren
       m_pointer(new QLabel),
       m_trouble(new TroubleLabel)
 {
-    setWindowTitle(tr("Rules workbench"));
+    setWindowTitle(programName());
     addDockWidget(Qt::BottomDockWidgetArea, m_dock);
     m_dock->hide();
     m_book.overlay(m_options.channelSources);
-    createMenus();
+    createFileMenu();
+    createOtherMenus();
     m_pointer->setObjectName(QStringLiteral("pointer"));
     statusBar()->addPermanentWidget(m_trouble);
     statusBar()->addPermanentWidget(m_pointer);
     resize(kInitialSize);
     connect(m_host, &ModuleHost::sgnMessage, this, &WorkbenchWindow::takeMessage);
+    const auto* const drops = new DropTarget(*this);
+    connect(drops, &DropTarget::sgnDocuments, this, &WorkbenchWindow::sgnDropped);
+    connect(drops, &DropTarget::sgnSource, this, &WorkbenchWindow::showSource);
 }
 
 WorkbenchWindow::~WorkbenchWindow()
@@ -63,31 +77,58 @@ WorkbenchWindow::~WorkbenchWindow()
     delete centralWidget();
 }
 
-void WorkbenchWindow::createMenus()
+QString WorkbenchWindow::programName()
+{
+    return tr("Rules workbench");
+}
+
+QString WorkbenchWindow::shortPath(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.absoluteDir().dirName() + QLatin1Char('/') + file.fileName();
+}
+
+QString WorkbenchWindow::jsonFilter()
+{
+    return tr("JSON documents (*.json);;All files (*)");
+}
+
+void WorkbenchWindow::createFileMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("Open &template..."), this, &WorkbenchWindow::openTemplate,
-                    QKeySequence(tr("Ctrl+T")));
-    file->addAction(tr("Open &configuration..."), this, &WorkbenchWindow::openConfiguration,
-                    QKeySequence(tr("Ctrl+O")));
+    m_file = file;
     file->addAction(tr("Open &picture or video..."), this, &WorkbenchWindow::openPicture,
                     QKeySequence(tr("Ctrl+P")));
     file->addAction(tr("&Sources..."), this, &WorkbenchWindow::editSources);
     m_recent = file->addMenu(tr("R&ecent sources"));
     m_recent->setObjectName(QStringLiteral("recentSources"));
     connect(m_recent, &QMenu::aboutToShow, this, &WorkbenchWindow::fillRecent);
-    file->addAction(
-        tr("&Load again"), this, [this]() { loadOrReport(m_options); }, QKeySequence(Qt::Key_F5));
+    file->addAction(tr("St&op the picture"), this, [this] {
+        if (videoSurface())
+            videoSurface()->resetToolBar(0);
+    });
     file->addSeparator();
+    file->addAction(tr("S&ave"), this, &WorkbenchWindow::pressSave, QKeySequence(tr("Ctrl+S")));
     file->addAction(tr("Save &result as..."), this, &WorkbenchWindow::saveResultAs,
-                    QKeySequence(tr("Ctrl+S")));
+                    QKeySequence(tr("Ctrl+Shift+S")));
     file->addSeparator();
     file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
+}
+
+void WorkbenchWindow::createOtherMenus()
+{
     QMenu* view = menuBar()->addMenu(tr("&View"));
     view->addAction(m_dock->toggleViewAction());
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(tr("Save a &support file..."), this, &WorkbenchWindow::sgnSupportWanted);
 }
 
 bool WorkbenchWindow::start(QString& error)
+{
+    return startEmpty(error) && (m_options.templateFile.isEmpty() || load(m_options, error));
+}
+
+bool WorkbenchWindow::startEmpty(QString& error)
 {
     if (!m_host->load(m_options.pluginFile)) {
         error = m_host->errorText();
@@ -95,12 +136,68 @@ bool WorkbenchWindow::start(QString& error)
     }
     m_rulesWindow = m_host->createWindow(this);
     setCentralWidget(m_rulesWindow);
+    connectRulesWindow();
+    statusBar()->showMessage(tr("Open a template to begin"));
+    sltShowDocument();
+    return true;
+}
+
+void WorkbenchWindow::connectRulesWindow()
+{
     if (QRtspVideoWnd* surface = videoSurface())
         connect(surface, &QRtspVideoWnd::SignalMoveEvent, this, &WorkbenchWindow::showPointer);
-    if (!m_options.templateFile.isEmpty())
-        return load(m_options, error);
-    statusBar()->showMessage(tr("Open a template to begin"));
-    return true;
+    const PanelFinder finder(m_rulesWindow);
+    if (QAbstractButton* const save = finder.windowButton(QString::fromLatin1(RowContract::kSave)))
+        save->installEventFilter(this);
+    const QMetaObject& rules = *m_rulesWindow->metaObject();
+    const QMetaProperty edited = rules.property(rules.indexOfProperty(RowContract::kEdited));
+    const int slot = staticMetaObject.indexOfMethod("sltShowDocument()");
+    if (edited.hasNotifySignal())
+        connect(m_rulesWindow, edited.notifySignal(), this, staticMetaObject.method(slot));
+    QWidget* const sections =
+        finder.part(m_rulesWindow, QString::fromLatin1(RowContract::kSections));
+    m_firstPage = new FirstPage(sections ? sections : m_rulesWindow);
+    m_firstPage->hide();
+    connect(m_firstPage, &FirstPage::sgnOpenTemplate, this, &WorkbenchWindow::sgnTemplateWanted);
+    connect(m_firstPage, &FirstPage::sgnOpenExample, this, &WorkbenchWindow::sgnExampleWanted);
+}
+
+bool WorkbenchWindow::isLoaded() const
+{
+    const QAbstractButton* const save =
+        PanelFinder(m_rulesWindow).windowButton(QString::fromLatin1(RowContract::kSave));
+    return save && save->isEnabled();
+}
+
+bool WorkbenchWindow::isEdited() const
+{
+    return m_rulesWindow && m_rulesWindow->property(RowContract::kEdited).toBool();
+}
+
+bool WorkbenchWindow::hasUnkeptSave() const
+{
+    return m_hasSaved && !m_isKept && m_options.resultFile.isEmpty();
+}
+
+void WorkbenchWindow::sltShowDocument()
+{
+    const QString document =
+        m_options.configFile.isEmpty() ? m_options.templateFile : m_options.configFile;
+    const bool hasDocument = isLoaded() && !document.isEmpty();
+    // A name may look like the mark that stands for "modified".
+    const QString name =
+        shortPath(document).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    setWindowTitle(hasDocument ? tr("%1[*] - %2").arg(name, programName()) : programName());
+    setWindowFilePath(hasDocument ? document : QString());
+    setWindowModified(hasDocument && isEdited());
+    m_firstPage->setVisible(!isLoaded());
+}
+
+bool WorkbenchWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange && m_firstPage)
+        sltShowDocument();
+    return QMainWindow::eventFilter(watched, event);
 }
 
 QRtspVideoWnd* WorkbenchWindow::videoSurface() const
@@ -119,37 +216,26 @@ bool WorkbenchWindow::load(const WorkbenchOptions& options, QString& error)
     const QString block = options.parameterBlock(error);
     if (block.isEmpty())
         return false;
-    m_options = options;
-    m_hasSaved = false;
-    emit sgnLoad();
-    m_book.addRecent(SourceBook::absolute(m_options.source));
-    applySources();
-    statusBar()->clearMessage();
-    m_host->open(block);
+    loadBlock(options, block);
     return true;
 }
 
-void WorkbenchWindow::openTemplate()
+void WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& block)
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open template"),
-                                                      m_options.templateFile, jsonFilter());
-    if (path.isEmpty())
-        return;
-    WorkbenchOptions options = m_options;
-    options.templateFile = path;
-    options.configFile.clear();
-    loadOrReport(options);
-}
-
-void WorkbenchWindow::openConfiguration()
-{
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open configuration"),
-                                                      m_options.configFile, jsonFilter());
-    if (path.isEmpty())
-        return;
-    WorkbenchOptions options = m_options;
-    options.configFile = path;
-    loadOrReport(options);
+    m_options = options;
+    m_hasSaved = false;
+    m_documentError.clear();
+    m_firstPage->tell({});
+    emit sgnLoad();
+    m_book.addRecent(SourceBook::absolute(m_options.source));
+    applySources();
+    statusBar()->showMessage(tr("Loading ..."));
+    statusBar()->repaint();
+    const WaitCursor wait;
+    m_host->open(block);
+    statusBar()->clearMessage();
+    emit sgnLoaded();
+    sltShowDocument();
 }
 
 void WorkbenchWindow::openPicture()
@@ -225,38 +311,46 @@ void WorkbenchWindow::applySources()
     tellTrouble(Trouble::Sources, m_book.error());
 }
 
-void WorkbenchWindow::loadOrReport(const WorkbenchOptions& options)
-{
-    QString error;
-    if (options.templateFile.isEmpty())
-        report(tr("Open a template first"));
-    else if (!load(options, error))
-        report(error);
-}
-
 void WorkbenchWindow::report(const QString& error)
 {
-    QMessageBox box(QMessageBox::Warning, windowTitle(), UICommonMdl::maskedAddress(error),
-                    QMessageBox::Ok, this);
+    const QString shown = UICommonMdl::maskedAddress(error);
+    if (m_firstPage && !isLoaded()) {
+        m_documentError = shown;
+        m_firstPage->tell(shown);
+        return;
+    }
+    QMessageBox box(QMessageBox::Warning, programName(), shown, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
-void WorkbenchWindow::saveResultAs()
+/// As the space bar does, so that the focus stays where it is and a recording has it.
+void WorkbenchWindow::pressSave()
+{
+    QAbstractButton* const save =
+        PanelFinder(m_rulesWindow).windowButton(QString::fromLatin1(RowContract::kSave));
+    if (save && save->isEnabled() && save->isVisible())
+        OperatorHand::press(save, QKeySequence(Qt::Key_Space));
+    QCoreApplication::sendPostedEvents();
+}
+
+bool WorkbenchWindow::saveResultAs()
 {
     if (m_lastResult.isEmpty()) {
         report(tr("Nothing has been saved in the rules window yet"));
-        return;
+        return false;
     }
     const QString path =
         QFileDialog::getSaveFileName(this, tr("Save result"), m_options.resultFile, jsonFilter());
     QString error;
     if (path.isEmpty())
-        return;
-    if (DocumentFile::write(path, m_lastResult, error))
+        return false;
+    m_isKept = DocumentFile::write(path, m_lastResult, error);
+    if (m_isKept)
         emit sgnResultKept();
     else
         report(error);
+    return m_isKept;
 }
 
 void WorkbenchWindow::takeMessage(const MessageRecord& message)
@@ -275,6 +369,7 @@ void WorkbenchWindow::takeResult(const QString& result)
     kql::Json::Reader().parse(result, object);
     m_exited = qAsConst(object)["result"].asInt() < 0;
     m_hasSaved = m_hasSaved || !m_exited;
+    m_isKept = m_isKept && m_exited;
     // Leaving takes nothing back that was saved; what could not be written is tried once more.
     const bool isSaveKept = m_exited && m_hasSaved;
     if (!isSaveKept)
@@ -307,7 +402,8 @@ QString WorkbenchWindow::resultText() const
     if (!m_resultError.isEmpty())
         return {};
     if (!m_exited)
-        return tr("Saved");
+        return hasUnkeptSave() ? tr("Saved, but in no file yet: File, Save result as")
+                               : tr("Saved");
     return m_hasSaved ? tr("Left without saving what was changed since")
                       : tr("Left without saving");
 }
@@ -341,6 +437,10 @@ bool WorkbenchWindow::saveScreenshot(const QString& path, QString& error)
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
+    if (!m_replaying && !m_options.isScripted() && m_mayLeave && !m_mayLeave()) {
+        event->ignore();
+        return;
+    }
     QString error;
     if (!m_options.screenshotFile.isEmpty() && !saveScreenshot(m_options.screenshotFile, error))
         tellTrouble(Trouble::Screenshot, error);

@@ -5,8 +5,11 @@
 #include "workbench/workbenchoptions.h"
 
 #include <QMainWindow>
+#include <functional>
+#include <utility>
 
 struct MessageRecord;
+class FirstPage;
 class MessageDock;
 class ModuleHost;
 class QLabel;
@@ -29,10 +32,15 @@ public:
     /// Sources are kept in @p file from run to run; without this they end with the window.
     void keepSources(const QString& file);
     /// Loads the plug-in and the documents that the options name; false with one line in
-    /// @p error.
+    /// @p error. Without a rules window nothing can be done then.
     bool start(QString& error);
-    /// Loads what @p options name into the window; false with one line in @p error.
+    /// Loads the plug-in only; false as start().
+    bool startEmpty(QString& error);
+    /// Loads what @p options name into the window, and asks nobody; false with one line in @p
+    /// error.
     bool load(const WorkbenchOptions& options, QString& error);
+    /// Loads the parameter block that was read of what @p options name.
+    void loadBlock(const WorkbenchOptions& options, const QString& block);
     /// Has the rules window show what it would refuse to save; false when it cannot.
     bool checkSave();
 
@@ -41,6 +49,14 @@ public:
     /// The picture in the rules window; null before start().
     QRtspVideoWnd* videoSurface() const;
     ModuleHost& moduleHost() { return *m_host; }
+    QMenu& fileMenu() { return *m_file; }
+    /// Before the window closes by itself, or by the operator, @p mayLeave says whether it may.
+    void setLeaveQuestion(std::function<bool()> mayLeave) { m_mayLeave = std::move(mayLeave); }
+
+    static QString programName();
+    /// "folder/template.json": the name alone is often the same.
+    static QString shortPath(const QString& path);
+    static QString jsonFilter();
 
     /// A session runs: an exit without saving leaves the window open, file errors open no boxes.
     void setReplaying(bool replaying) { m_replaying = replaying; }
@@ -50,8 +66,22 @@ public:
     const QString& resultError() const { return m_resultError; }
     /// Whether the rules window has sent a result, of saving or of leaving.
     bool hasResult() const { return !m_lastResult.isEmpty(); }
+    /// The text of that; of leaving only where nothing was saved before.
+    const QString& lastResult() const { return m_lastResult; }
     /// Whether a save of the documents that are loaded is in no file although it should be.
     bool hasUnwrittenSave() const { return m_hasSaved && !m_resultError.isEmpty(); }
+    /// Whether what was saved is in no file as none was named for it.
+    bool hasUnkeptSave() const;
+    /// Whether anything was edited since the load or the last save.
+    bool isEdited() const;
+    /// Presses the rules window's Save where it can be pressed, and takes what it sends.
+    void pressSave();
+    /// Asks for a file to write the last result into; false when it is in none.
+    bool saveResultAs();
+    /// Says what is wrong: where the sections would be while nothing is loaded, else in a box.
+    void report(const QString& error);
+    /// Why no document is loaded although one was named; empty when that is not so.
+    const QString& documentError() const { return m_documentError; }
     /// False with one line in @p error.
     bool saveScreenshot(const QString& path, QString& error);
 
@@ -66,25 +96,36 @@ signals:
     /// The rules window is about to show what it would refuse to save.
     void sgnCheck();
     void sgnMessage(const MessageRecord& message);
+    /// What options() name is loaded.
+    void sgnLoaded();
+    /// The operator asks for other documents: to choose a template, an example, files.
+    void sgnTemplateWanted();
+    void sgnExampleWanted(const QString& name);
+    void sgnDropped(const QStringList& files);
+    /// The operator asks for a support file.
+    void sgnSupportWanted();
     /// The last result is in a file.
     void sgnResultKept();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private slots:
+    /// Shows in the title which document is loaded, and whether it was edited.
+    void sltShowDocument();
 
 private:
-    void createMenus();
-    void openTemplate();
-    void openConfiguration();
+    void createFileMenu();
+    void createOtherMenus();
+    void connectRulesWindow();
+    bool isLoaded() const;
     void openPicture();
     void editSources();
     void fillRecent();
     void showSource(const QString& source);
     SourceBook::Addresses sources() const;
     void applySources();
-    void saveResultAs();
-    void loadOrReport(const WorkbenchOptions& options);
-    void report(const QString& error);
     void takeMessage(const MessageRecord& message);
     void takeResult(const QString& result);
     void writeResult();
@@ -97,6 +138,9 @@ private:
     MessageDock* m_dock;
     QLabel* m_pointer;
     TroubleLabel* m_trouble;
+    std::function<bool()> m_mayLeave;
+    QMenu* m_file = nullptr;
+    FirstPage* m_firstPage = nullptr; ///< null before start()
     QMenu* m_recent = nullptr;
     QWidget* m_rulesWindow = nullptr; ///< the central widget once started
     QString m_lastResult;
@@ -104,4 +148,6 @@ private:
     bool m_replaying = false;
     bool m_exited = false;
     bool m_hasSaved = false; ///< since the load
+    bool m_isKept = false;   ///< the last result is in a file
+    QString m_documentError;
 };
