@@ -123,6 +123,7 @@ bool Workbench::openDocuments(QString& error)
         return false;
     if (!options.templateFile.isEmpty())
         m_opener->open(options);
+    m_window->sltShowDocument();
     if (!m_window->documentError().isEmpty())
         complain(m_window->documentError());
     return true;

@@ -125,7 +125,12 @@ void WorkbenchWindow::createOtherMenus()
 
 bool WorkbenchWindow::start(QString& error)
 {
-    return startEmpty(error) && (m_options.templateFile.isEmpty() || load(m_options, error));
+    if (!startEmpty(error))
+        return false;
+    if (!m_options.templateFile.isEmpty())
+        return load(m_options, error);
+    sltShowDocument();
+    return true;
 }
 
 bool WorkbenchWindow::startEmpty(QString& error)
@@ -138,7 +143,6 @@ bool WorkbenchWindow::startEmpty(QString& error)
     setCentralWidget(m_rulesWindow);
     connectRulesWindow();
     statusBar()->showMessage(tr("Open a template to begin"));
-    sltShowDocument();
     return true;
 }
 
@@ -154,12 +158,6 @@ void WorkbenchWindow::connectRulesWindow()
     const int slot = staticMetaObject.indexOfMethod("sltShowDocument()");
     if (edited.hasNotifySignal())
         connect(m_rulesWindow, edited.notifySignal(), this, staticMetaObject.method(slot));
-    QWidget* const sections =
-        finder.part(m_rulesWindow, QString::fromLatin1(RowContract::kSections));
-    m_firstPage = new FirstPage(sections ? sections : m_rulesWindow);
-    m_firstPage->hide();
-    connect(m_firstPage, &FirstPage::sgnOpenTemplate, this, &WorkbenchWindow::sgnTemplateWanted);
-    connect(m_firstPage, &FirstPage::sgnOpenExample, this, &WorkbenchWindow::sgnExampleWanted);
 }
 
 bool WorkbenchWindow::isLoaded() const
@@ -190,13 +188,38 @@ void WorkbenchWindow::sltShowDocument()
     setWindowTitle(hasDocument ? tr("%1[*] - %2").arg(name, programName()) : programName());
     setWindowFilePath(hasDocument ? document : QString());
     setWindowModified(hasDocument && isEdited());
-    m_firstPage->setVisible(!isLoaded());
+    showFirstPage(!isLoaded());
+}
+
+/// Made when it is needed: most begin with documents.
+void WorkbenchWindow::showFirstPage(bool shown)
+{
+    if (shown && !m_firstPage) {
+        QWidget* const sections =
+            PanelFinder(m_rulesWindow)
+                .part(m_rulesWindow, QString::fromLatin1(RowContract::kSections));
+        m_firstPage = new FirstPage(sections ? sections : m_rulesWindow);
+        connect(m_firstPage, &FirstPage::sgnOpenTemplate, this,
+                &WorkbenchWindow::sgnTemplateWanted);
+        connect(m_firstPage, &FirstPage::sgnOpenExample, this, &WorkbenchWindow::sgnExampleWanted);
+    }
+    if (!m_firstPage)
+        return;
+    m_firstPage->tell(m_documentError);
+    m_firstPage->setVisible(shown);
 }
 
 bool WorkbenchWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange && m_firstPage)
-        sltShowDocument();
+    // Not at once: a load empties the window first, and so does its end.
+    if (event->type() == QEvent::EnabledChange)
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (isVisible())
+                    sltShowDocument();
+            },
+            Qt::QueuedConnection);
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -225,7 +248,6 @@ void WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& 
     m_options = options;
     m_hasSaved = false;
     m_documentError.clear();
-    m_firstPage->tell({});
     emit sgnLoad();
     m_book.addRecent(SourceBook::absolute(m_options.source));
     applySources();
@@ -314,9 +336,9 @@ void WorkbenchWindow::applySources()
 void WorkbenchWindow::report(const QString& error)
 {
     const QString shown = UICommonMdl::maskedAddress(error);
-    if (m_firstPage && !isLoaded()) {
+    if (!isLoaded()) {
         m_documentError = shown;
-        m_firstPage->tell(shown);
+        sltShowDocument();
         return;
     }
     QMessageBox box(QMessageBox::Warning, programName(), shown, QMessageBox::Ok, this);

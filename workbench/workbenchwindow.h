@@ -90,6 +90,11 @@ public:
     /// What is wrong now.
     const TroubleLabel& troubles() const { return *m_trouble; }
 
+public slots:
+    /// Shows in the title which document is loaded, and whether it was edited; without one, what to
+    /// begin with.
+    void sltShowDocument();
+
 signals:
     /// options() are the new ones; the rules window does not show them yet.
     void sgnLoad();
@@ -111,15 +116,12 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private slots:
-    /// Shows in the title which document is loaded, and whether it was edited.
-    void sltShowDocument();
-
 private:
     void createFileMenu();
     void createOtherMenus();
     void connectRulesWindow();
     bool isLoaded() const;
+    void showFirstPage(bool shown);
     void openPicture();
     void editSources();
     void fillRecent();
@@ -140,7 +142,7 @@ private:
     TroubleLabel* m_trouble;
     std::function<bool()> m_mayLeave;
     QMenu* m_file = nullptr;
-    FirstPage* m_firstPage = nullptr; ///< null before start()
+    FirstPage* m_firstPage = nullptr; ///< null before it is needed
     QMenu* m_recent = nullptr;
     QWidget* m_rulesWindow = nullptr; ///< the central widget once started
     QString m_lastResult;

@@ -160,7 +160,7 @@ private slots:
         QCOMPARE(bench.play(kUndo), QString());
         QTRY_VERIFY_WITH_TIMEOUT(window.isWindowModified(), kTryFor);
         bench.window().moduleHost().close();
-        QCOMPARE(window.windowTitle(), QString("Rules workbench"));
+        QTRY_COMPARE_WITH_TIMEOUT(window.windowTitle(), QString("Rules workbench"), kTryFor);
         QVERIFY(!window.isWindowModified());
     }
 
