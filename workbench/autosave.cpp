@@ -1,6 +1,7 @@
 #include "workbench/autosave.h"
 
 #include "host/api/kqmessagebox.h"
+#include "host/api/wholefile.h"
 #include "host/video/qrtspvideownd.h"
 #include "workbench/messagerecord.h"
 #include "workbench/restorebar.h"
@@ -40,7 +41,9 @@ QString digestOf(std::initializer_list<QString> documents)
     QCryptographicHash hash(QCryptographicHash::Sha256);
     for (const QString& path : documents) {
         QFile file(path);
-        if (!path.isEmpty() && file.open(QIODevice::ReadOnly))
+        // A pipe has nothing left, or waits.
+        const bool isThere = !path.isEmpty() && !UICommonMdl::WholeFile::isForeign(path);
+        if (isThere && file.open(QIODevice::ReadOnly))
             hash.addData(&file);
         hash.addData("\0", 1);
     }

@@ -125,10 +125,11 @@ void WorkbenchWindow::createOtherMenus()
 
 bool WorkbenchWindow::start(QString& error)
 {
+    const WorkbenchOptions options = m_options;
     if (!startEmpty(error))
         return false;
-    if (!m_options.templateFile.isEmpty())
-        return load(m_options, error);
+    if (!options.templateFile.isEmpty())
+        return load(options, error);
     sltShowDocument();
     return true;
 }
@@ -142,6 +143,8 @@ bool WorkbenchWindow::startEmpty(QString& error)
     m_rulesWindow = m_host->createWindow(this);
     setCentralWidget(m_rulesWindow);
     connectRulesWindow();
+    m_options.templateFile.clear();
+    m_options.configFile.clear();
     statusBar()->showMessage(tr("Open a template to begin"));
     return true;
 }

@@ -34,7 +34,7 @@ public:
     /// Loads the plug-in and the documents that the options name; false with one line in
     /// @p error. Without a rules window nothing can be done then.
     bool start(QString& error);
-    /// Loads the plug-in only; false as start().
+    /// Loads the plug-in only, and forgets the documents; false as start().
     bool startEmpty(QString& error);
     /// Loads what @p options name into the window, and asks nobody; false with one line in @p
     /// error.
