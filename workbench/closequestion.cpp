@@ -17,6 +17,8 @@ bool CloseQuestion::mayLeave()
     m_wasDiscarded = false;
     if (m_isAsking)
         return false;
+    if (m_window.isReplaying() || m_window.options().isScripted())
+        return true;
     if (m_window.rulesWindow())
         PanelFinder(m_window.rulesWindow()).finishEdit();
     return !(m_window.isEdited() || m_window.hasUnkeptSave()) || ask();

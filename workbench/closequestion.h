@@ -17,7 +17,7 @@ public:
     explicit CloseQuestion(WorkbenchWindow& window);
 
     /// Whether the work may go: nothing is lost by it, or the operator wants it so. An edit in
-    /// progress is finished before.
+    /// progress is finished before. A script is asked nothing, and loses what it does not save.
     bool mayLeave();
     /// Whether it went unsaved when it was asked for last.
     bool wasDiscarded() const { return m_wasDiscarded; }

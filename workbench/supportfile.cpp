@@ -21,11 +21,6 @@ namespace
 
 const auto kFolder = QStringLiteral("rules-workbench-support");
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("SupportFile", text);
-}
-
 /// A document that can be read as a whole; else each line by itself, as an address hides what
 /// follows it.
 QString masked(const QString& text)
@@ -49,7 +44,8 @@ bool pack(const QDir& folder, const QString& archive, QString& error)
     if (tar.waitForFinished(-1) && tar.exitStatus() == QProcess::NormalExit && tar.exitCode() == 0)
         return true;
     const QString said = QString::fromLocal8Bit(tar.readAll()).simplified();
-    error = say("tar: %1").arg(said.isEmpty() ? tar.errorString() : said);
+    error = QCoreApplication::translate("SupportFile", "It cannot be packed: %1")
+                .arg(said.isEmpty() ? tar.errorString() : said);
     return false;
 }
 

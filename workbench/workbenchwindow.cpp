@@ -462,7 +462,7 @@ bool WorkbenchWindow::saveScreenshot(const QString& path, QString& error)
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_replaying && !m_options.isScripted() && m_mayLeave && !m_mayLeave()) {
+    if (m_mayLeave && !m_mayLeave()) {
         event->ignore();
         return;
     }

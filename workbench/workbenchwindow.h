@@ -60,6 +60,7 @@ public:
 
     /// A session runs: an exit without saving leaves the window open, file errors open no boxes.
     void setReplaying(bool replaying) { m_replaying = replaying; }
+    bool isReplaying() const { return m_replaying; }
     /// Whether the last result said that the operator left without saving.
     bool wasExited() const { return m_exited; }
     /// What went wrong with writing the result file; empty when nothing did.

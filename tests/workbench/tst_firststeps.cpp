@@ -94,6 +94,19 @@ private slots:
         }
     }
 
+    void isInstalledWithThem()
+    {
+        QProcess install;
+        install.start("cmake", {"--install", RULES_BIN_DIR "/..", "--prefix", path("installed")});
+        QVERIFY_BOTH(install.waitForFinished(), install.exitCode() == 0);
+        WorkbenchProgram program;
+        program.programs = path("installed/bin");
+        const auto outcome = program.replay(Fixtures::path("sessions/close.jsonl"));
+        QVERIFY2(outcome.status == WorkbenchProgram::SavedOrClosed, qPrintable(outcome.said));
+        const QDir examples(program.programs + "/../share/rules-workbench/examples");
+        QCOMPARE(examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot), ExampleFiles::names());
+    }
+
     void saysInTheWindowWhatCannotBeUsed()
     {
         const QString broken =
@@ -131,6 +144,13 @@ private slots:
         QMimeData text;
         text.setText("neither of them");
         QVERIFY(!bench.drop(text));
+        // A picture that does not come is left.
+        QVERIFY(bench.window.videoSurface()->statusText() != "No picture");
+        for (QAction* action : bench.window.fileMenu().actions()) {
+            if (action->text() == "St&op the picture")
+                action->trigger();
+        }
+        QCOMPARE(bench.window.videoSurface()->statusText(), QString("No picture"));
         QVERIFY(bench.dropFiles({path("street.png")}));
         QCOMPARE(addressOf("1"), path("street.png"));
         QCOMPARE(boxes.takeBoxes(), QStringList());

@@ -18,6 +18,8 @@ namespace
 const QByteArray kEdit = R"({"do":"set","scene":"rules","key":"ruleDwell","value":21})";
 const QByteArray kUnfinished = R"({"do":"type","scene":"rules","key":"ruleDwell","text":"22"})";
 const QByteArray kIncomplete = R"({"do":"click","scene":"rules","object":"addRule"})";
+const QByteArray kPick = R"({"do":"pick","scene":"rules","entry":2})";
+const QByteArray kDisable = R"({"do":"enable","scene":"rules","entry":1,"on":false})";
 const QByteArray kUndo = R"({"do":"key","keys":"Ctrl+Z","to":"picture"})";
 
 /// A workbench that writes its results, and what it sends to the module.
@@ -164,6 +166,19 @@ private slots:
         QVERIFY(!window.isWindowModified());
     }
 
+    /// Rules that are only selected are work as well.
+    void selectingIsEditing()
+    {
+        WorkbenchOptions options = withResult();
+        options.selectionMode = true;
+        Bench bench(options);
+        QVERIFY_BOTH(bench.isReady(), !bench.window().isEdited());
+        QCOMPARE(bench.play(kPick), QString());
+        QVERIFY(!bench.window().isEdited());
+        QCOMPARE(bench.play(kDisable), QString());
+        QVERIFY(bench.window().isEdited());
+    }
+
     void recordsASaveByKey()
     {
         Bench bench(withResult());
@@ -240,6 +255,9 @@ private slots:
         WorkbenchOptions options = WorkbenchBench::example();
         options.screenshotFile = m_folder.filePath("window.png");
         Bench bench(options);
+        QCOMPARE(bench.play(kEdit), QString());
+        bench.opener.open(bench.window().options());
+        QVERIFY(!bench.window().isEdited());
         QCOMPARE(bench.play(kEdit), QString());
         QVERIFY_BOTH(bench.window().isEdited(), bench.window().close());
         QCOMPARE(bench.boxes.takeBoxes(), QStringList());
