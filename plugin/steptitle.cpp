@@ -6,7 +6,9 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 #include "host/api/rowcontract.h"
-#include "plugin/edithistory.h"
+#include "plugin/editstep.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -17,6 +19,10 @@ namespace
 {
 
 using Kind = SceneChange::Kind;
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(IntelligentRulesUI::StepTitle)
+};
 
 /// The name of an entry of @p state; empty where there is no such entry.
 QString nameIn(const SceneState& state, int dataId, const RuleData& data)
@@ -43,10 +49,10 @@ const FigureState* figureBeside(const SceneState& state, const SceneState& other
 QString ofRow(const EditStep& step, const QString& name, const RuleData& data)
 {
     if (step.row == QLatin1String(RowContract::kEnable))
-        return EditHistory::tr("Switch %1").arg(name);
+        return Texts::tr("Switch %1").arg(name);
     const RuleProtocolItem* const item = data.getTemplate()->findItem(step.row);
     return item ? QStringLiteral("%1 (%2)").arg(item->caption(), name)
-                : EditHistory::tr("Rename %1").arg(nameIn(step.before, step.change.dataId, data));
+                : Texts::tr("Rename %1").arg(nameIn(step.before, step.change.dataId, data));
 }
 
 QString ofBeginning(const EditStep& step, const QString& name)
@@ -55,7 +61,7 @@ QString ofBeginning(const EditStep& step, const QString& name)
     const bool isNew = !step.before.entry(step.change.dataId) || !step.before.figure(itemId);
     const FigureState* const figure = step.after.figure(itemId);
     const QString label = figure && figure->parentId != 0 ? figure->figure.label() : QString();
-    return (isNew ? EditHistory::tr("Add %1") : EditHistory::tr("Redraw %1"))
+    return (isNew ? Texts::tr("Add %1") : Texts::tr("Redraw %1"))
         .arg(label.isEmpty() ? name : label);
 }
 
@@ -67,18 +73,18 @@ QString StepTitle::of(const EditStep& step, const RuleData& data)
     if (step.change.kind == Kind::Attribute)
         return ofRow(step, name, data);
     if (step.change.kind == Kind::Drawn)
-        return EditHistory::tr("Point");
+        return Texts::tr("Point");
     if (step.change.kind == Kind::Begun)
         return ofBeginning(step, name);
     if (name.isEmpty())
-        return EditHistory::tr("Delete %1").arg(nameIn(step.before, step.change.dataId, data));
+        return Texts::tr("Delete %1").arg(nameIn(step.before, step.change.dataId, data));
     if (!step.before.entry(step.change.dataId))
-        return EditHistory::tr("Add %1").arg(name);
+        return Texts::tr("Add %1").arg(name);
     if (const FigureState* const gone = figureBeside(step.before, step.after))
-        return EditHistory::tr("Delete %1").arg(gone->figure.label());
+        return Texts::tr("Delete %1").arg(gone->figure.label());
     const FigureState* const figure = step.after.figure(step.change.itemId);
     return figure && step.before.figure(step.change.itemId)
-               ? EditHistory::tr("Correct %1").arg(figure->figure.label())
+               ? Texts::tr("Correct %1").arg(figure->figure.label())
                : name;
 }
 

@@ -425,6 +425,13 @@
         <translation>%1 zeichnen</translation>
     </message>
     <message>
+        <source>Leave drawing</source>
+        <translation>Zeichnen verlassen</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::StepTitle</name>
+    <message>
         <source>Point</source>
         <translation>Punkt</translation>
     </message>
@@ -435,10 +442,6 @@
     <message>
         <source>Redraw %1</source>
         <translation>%1 neu zeichnen</translation>
-    </message>
-    <message>
-        <source>Leave drawing</source>
-        <translation>Zeichnen verlassen</translation>
     </message>
     <message>
         <source>Correct %1</source>

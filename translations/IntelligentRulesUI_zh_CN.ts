@@ -425,6 +425,13 @@
         <translation>绘制%1</translation>
     </message>
     <message>
+        <source>Leave drawing</source>
+        <translation>退出绘制</translation>
+    </message>
+</context>
+<context>
+    <name>IntelligentRulesUI::StepTitle</name>
+    <message>
         <source>Point</source>
         <translation>点</translation>
     </message>
@@ -435,10 +442,6 @@
     <message>
         <source>Redraw %1</source>
         <translation>重绘%1</translation>
-    </message>
-    <message>
-        <source>Leave drawing</source>
-        <translation>退出绘制</translation>
     </message>
     <message>
         <source>Correct %1</source>

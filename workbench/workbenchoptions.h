@@ -26,7 +26,7 @@ struct WorkbenchOptions {
     QString screenshotFile;
     QString replayFile;
     QString recordFile;
-    QString theme; ///< "light" or "dark"; empty: the desktop's colours
+    QString theme;    ///< "light" or "dark"; empty: the desktop's colours
     QString language; ///< as a locale's name; empty: the desktop's
 
     /// Whether a script runs the workbench, for a replay or a picture of the window: nobody is
