@@ -45,17 +45,16 @@ constexpr int kRowLeft = 5;
 constexpr int kRowTop = 4;
 constexpr int kMinCaptionWidth = 96;
 constexpr int kMaxCaptionWidth = 128;
-constexpr int kSignWidth = TitleLabel::kSignWidth; // a row that is marked shows its caption whole
 
 void alignRows(const QList<ControlTabel*>& rows)
 {
     int captionWidth = kMinCaptionWidth;
     for (const ControlTabel* row : rows)
-        captionWidth = qMax(captionWidth, row->titleLabel()->sizeHint().width() + kSignWidth);
+        captionWidth = qMax(captionWidth, row->titleLabel()->sizeHint().width());
     for (ControlTabel* row : rows) {
         row->setPaddingLeft(kRowLeft);
         row->setPaddingTop(kRowTop);
-        row->titleLabel()->setFixedWidth(qMin(captionWidth, kMaxCaptionWidth));
+        row->setCaptionWidth(qMin(captionWidth, kMaxCaptionWidth), kMaxCaptionWidth);
     }
 }
 

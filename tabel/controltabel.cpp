@@ -100,12 +100,32 @@ const QString& ControlTabel::reason() const
     return m_fault.isEmpty() ? m_mark : m_fault;
 }
 
+void ControlTabel::setCaptionWidth(int width, int most)
+{
+    m_captionWidth = width;
+    m_mostCaptionWidth = most;
+    fitCaption();
+}
+
+void ControlTabel::fitCaption()
+{
+    if (m_captionWidth == 0)
+        return;
+    const int text = titleLabel()->fontMetrics().horizontalAdvance(titleLabel()->text());
+    // With the part of a pixel that the text may be wider.
+    const int needed = text + 1 + TitleLabel::kSignWidth;
+    const int marked = qBound(m_captionWidth, needed, m_mostCaptionWidth);
+    titleLabel()->setFixedWidth(isMarked() ? marked : m_captionWidth);
+    relayout(0, 0);
+}
+
 void ControlTabel::showMark(bool wasMarked)
 {
     setToolTip(PlainText::toolTip(isMarked() ? reason() : m_tip));
     if (wasMarked == isMarked())
         return;
     titleLabel()->setWarning(isMarked());
+    fitCaption();
     for (QWidget* widget : findChildren<QWidget*>())
         style()->polish(widget);
 }

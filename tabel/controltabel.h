@@ -55,6 +55,8 @@ public:
     bool isMarked() const { return !reason().isEmpty(); }
     /// Marks the row besides setMark() while a save is refused for it, with @p message.
     void setFault(const QString& message);
+    /// How wide the caption is, and how wide it may be beside the sign of a mark; in pixels.
+    void setCaptionWidth(int width, int most);
     /// Whether the mark says that what is typed is refused.
     bool isRefusing() const { return !m_refusal.isEmpty(); }
 
@@ -83,6 +85,7 @@ private:
     /// Why the row is marked; empty while it is not.
     const QString& reason() const;
     void showMark(bool wasMarked);
+    void fitCaption();
 
     RuleProtocolItem* m_item = nullptr;
     QVariant m_loaded;
@@ -90,5 +93,7 @@ private:
     QString m_tip;
     QString m_mark;
     QString m_fault;
+    int m_captionWidth = 0; ///< 0 before it is set
+    int m_mostCaptionWidth = 0;
     QString m_refusal;
 };

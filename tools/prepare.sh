@@ -6,8 +6,8 @@ say() { printf '== %s\n' "$*"; }
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools
     rapidjson-dev libavformat-dev libavcodec-dev libswscale-dev libavutil-dev fonts-dejavu-core"
 QT6_PACKAGES="qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools"
-# What the tests need besides: a streaming server of another make than the player.
-TEST_PACKAGES="libgstrtspserver-1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
+# What the tests need besides: a streaming server of another make than the player, Chinese glyphs.
+TEST_PACKAGES="fonts-droid-fallback libgstrtspserver-1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     gstreamer1.0-plugins-ugly glib-networking binutils"
 # The compiler of the fuzzers, and its sanitizers.
 FUZZ_PACKAGES="clang libclang-rt-14-dev"

@@ -5,9 +5,11 @@
 #include "tabel/controlitemwidgettabel.h"
 #include "tabel/controltabel.h"
 #include "tabel/drawitembutton.h"
+#include "tabel/inputboxwidget.h"
 #include "tabel/plaintext.h"
 #include "tabel/rowedit.h"
 #include "tabel/ruleitemwidgettabel.h"
+#include "tabel/titlelabel.h"
 #include "tests/support/absurddocuments.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/script.h"
@@ -209,6 +211,30 @@ private slots:
         bench.row->setControlEnable(false);
         QVERIFY_BOTH(!edit->isEnabled(), unit->isEnabled());
         QVERIFY(!bench.row->getControlEnable());
+    }
+
+    void longTextsStayReadable()
+    {
+        const QString unit = QString("kilometres ").repeated(9);
+        auto* const box = new InputBoxWidget;
+        const std::unique_ptr<QWidget> owner(box);
+        box->resize(200, 30);
+        box->setUnit(unit);
+        auto* const label = box->findChild<TitleLabel*>("unit");
+        QVERIFY_BOTH(label->isElided(), label->width() <= 100);
+        const QPoint at = label->geometry().center();
+        QHelpEvent asked(QEvent::ToolTip, at, box->mapToGlobal(at));
+        QApplication::sendEvent(box, &asked);
+        QVERIFY(QToolTip::text().contains(unit.trimmed()));
+
+        Bench bench(FacadeType::Bool, ValueType::Bool);
+        TitleLabel* const caption = bench.row->titleLabel();
+        const int width = caption->fontMetrics().horizontalAdvance(caption->text()) + 1;
+        bench.row->setCaptionWidth(width, 128);
+        bench.row->setMark("why");
+        QVERIFY_BOTH(!caption->isElided(), caption->width() > width);
+        bench.row->setMark({});
+        QCOMPARE(caption->width(), width);
     }
 
     void typesIntoInputBoxes_data() { Fixtures::addRows("inputboxes.json"); }
