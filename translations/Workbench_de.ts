@@ -40,6 +40,36 @@
     </message>
 </context>
 <context>
+    <name>BusyReading</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
+    <message>
+        <source>What was edited since the last save is lost otherwise. Save it?</source>
+        <translation>Was seit dem letzten Speichern bearbeitet wurde, geht sonst verloren. Speichern?</translation>
+    </message>
+    <message>
+        <source>What was saved is in no file, and is lost otherwise. Save it?</source>
+        <translation>Was gespeichert wurde, steht in keiner Datei und geht sonst verloren. Speichern?</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Template document to load.</source>
@@ -147,6 +177,14 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
         <source>--%1 would replace a file that is used already: %2</source>
         <translation>--%1 würde eine Datei ersetzen, die schon verwendet wird: %2</translation>
     </message>
+    <message>
+        <source>Colours of the windows, light or dark, in place of the desktop&apos;s.</source>
+        <translation>Farben der Fenster, light oder dark, anstelle der des Schreibtischs.</translation>
+    </message>
+    <message>
+        <source>--%1 takes light or dark, not &quot;%2&quot;</source>
+        <translation>--%1 verlangt light oder dark, nicht &quot;%2&quot;</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -157,6 +195,101 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     <message>
         <source>%1: it is longer than 128 MB</source>
         <translation>%1: ist länger als 128 MB</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentOpener</name>
+    <message>
+        <source>Open &amp;template...</source>
+        <translation>&amp;Vorlage öffnen...</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Open &amp;configuration...</source>
+        <translation>&amp;Konfiguration öffnen...</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open an e&amp;xample</source>
+        <translation>&amp;Beispiel öffnen</translation>
+    </message>
+    <message>
+        <source>Recent &amp;documents</source>
+        <translation>Zuletzt verwendete &amp;Dokumente</translation>
+    </message>
+    <message>
+        <source>&amp;Load again</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Open template</source>
+        <translation>Vorlage öffnen</translation>
+    </message>
+    <message>
+        <source>Open configuration</source>
+        <translation>Konfiguration öffnen</translation>
+    </message>
+    <message>
+        <source>Reading ...</source>
+        <translation>Wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>Open a template first</source>
+        <translation>Zuerst eine Vorlage öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>Examples</name>
+    <message>
+        <source>Perimeter</source>
+        <translation>Gelände</translation>
+    </message>
+    <message>
+        <source>Trip wire</source>
+        <translation>Stolperdraht</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Verkehr</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Lane calibration</source>
+        <translation>Fahrspurkalibrierung</translation>
+    </message>
+    <message>
+        <source>Scene calibration</source>
+        <translation>Szenenkalibrierung</translation>
+    </message>
+    <message>
+        <source>Fight calibration</source>
+        <translation>Kalibrierung der Schlägereierkennung</translation>
+    </message>
+</context>
+<context>
+    <name>FirstPage</name>
+    <message>
+        <source>Open a template...</source>
+        <translation>Vorlage öffnen...</translation>
+    </message>
+    <message>
+        <source>Open an example</source>
+        <translation>Beispiel öffnen</translation>
+    </message>
+    <message>
+        <source>This cannot be used:
+%1</source>
+        <translation>Das kann nicht verwendet werden:
+%1</translation>
     </message>
 </context>
 <context>
@@ -545,6 +678,13 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     </message>
 </context>
 <context>
+    <name>SupportFile</name>
+    <message>
+        <source>It cannot be packed: %1</source>
+        <translation>Es kann nicht gepackt werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>Workbench</name>
     <message>
         <source>there is no display; only --replay works without one</source>
@@ -557,6 +697,18 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     <message>
         <source>%1: nothing was saved</source>
         <translation>%1: es wurde nichts gespeichert</translation>
+    </message>
+    <message>
+        <source>Save a support file</source>
+        <translation>Datei für den Support speichern</translation>
+    </message>
+    <message>
+        <source>Archives (*.tar.gz)</source>
+        <translation>Archive (*.tar.gz)</translation>
+    </message>
+    <message>
+        <source>Saving ...</source>
+        <translation>Wird gespeichert ...</translation>
     </message>
 </context>
 <context>
@@ -574,22 +726,6 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>Open &amp;template...</source>
-        <translation>&amp;Vorlage öffnen...</translation>
-    </message>
-    <message>
-        <source>Ctrl+T</source>
-        <translation>Ctrl+T</translation>
-    </message>
-    <message>
-        <source>Open &amp;configuration...</source>
-        <translation>&amp;Konfiguration öffnen...</translation>
-    </message>
-    <message>
-        <source>Ctrl+O</source>
-        <translation>Ctrl+O</translation>
-    </message>
-    <message>
         <source>Open &amp;picture or video...</source>
         <translation>&amp;Bild oder Video öffnen...</translation>
     </message>
@@ -604,10 +740,6 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     <message>
         <source>R&amp;ecent sources</source>
         <translation>&amp;Zuletzt verwendete Quellen</translation>
-    </message>
-    <message>
-        <source>&amp;Load again</source>
-        <translation>&amp;Neu laden</translation>
     </message>
     <message>
         <source>Save &amp;result as...</source>
@@ -634,14 +766,6 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
         <translation>Zum Beginnen eine Vorlage öffnen</translation>
     </message>
     <message>
-        <source>Open template</source>
-        <translation>Vorlage öffnen</translation>
-    </message>
-    <message>
-        <source>Open configuration</source>
-        <translation>Konfiguration öffnen</translation>
-    </message>
-    <message>
         <source>Open picture or video</source>
         <translation>Bild oder Video öffnen</translation>
     </message>
@@ -652,10 +776,6 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     <message>
         <source>Sample camera</source>
         <translation>Beispielkamera</translation>
-    </message>
-    <message>
-        <source>Open a template first</source>
-        <translation>Zuerst eine Vorlage öffnen</translation>
     </message>
     <message>
         <source>Nothing has been saved in the rules window yet</source>
@@ -688,6 +808,38 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     <message>
         <source>The screenshot would replace a file that is used: %1</source>
         <translation>Das Bildschirmfoto würde eine Datei ersetzen, die verwendet wird: %1</translation>
+    </message>
+    <message>
+        <source>St&amp;op the picture</source>
+        <translation>Bild an&amp;halten</translation>
+    </message>
+    <message>
+        <source>S&amp;ave</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Save a &amp;support file...</source>
+        <translation>Datei für den &amp;Support speichern...</translation>
+    </message>
+    <message>
+        <source>%1[*] - %2</source>
+        <translation>%1[*] - %2</translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Wird geladen ...</translation>
+    </message>
+    <message>
+        <source>Saved, but in no file yet: File, Save result as</source>
+        <translation>Gespeichert, aber noch in keiner Datei: Datei, Ergebnis speichern unter</translation>
     </message>
 </context>
 </TS>

@@ -40,6 +40,36 @@
     </message>
 </context>
 <context>
+    <name>BusyReading</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>CloseQuestion</name>
+    <message>
+        <source>What was edited since the last save is lost otherwise. Save it?</source>
+        <translation>否则上次保存后的编辑将丢失。要保存吗？</translation>
+    </message>
+    <message>
+        <source>What was saved is in no file, and is lost otherwise. Save it?</source>
+        <translation>已保存的内容不在任何文件中，否则将丢失。要保存吗？</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Template document to load.</source>
@@ -147,6 +177,14 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
         <source>--%1 would replace a file that is used already: %2</source>
         <translation>--%1 会替换正在使用的文件：%2</translation>
     </message>
+    <message>
+        <source>Colours of the windows, light or dark, in place of the desktop&apos;s.</source>
+        <translation>代替桌面的窗口颜色：light 或 dark。</translation>
+    </message>
+    <message>
+        <source>--%1 takes light or dark, not &quot;%2&quot;</source>
+        <translation>--%1 需要 light 或 dark，而不是“%2”</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -157,6 +195,101 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     <message>
         <source>%1: it is longer than 128 MB</source>
         <translation>%1：超过 128 MB</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentOpener</name>
+    <message>
+        <source>Open &amp;template...</source>
+        <translation>打开模板(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>Open &amp;configuration...</source>
+        <translation>打开配置(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Open an e&amp;xample</source>
+        <translation>打开示例(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Recent &amp;documents</source>
+        <translation>最近的文档(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Load again</source>
+        <translation>重新加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Open template</source>
+        <translation>打开模板</translation>
+    </message>
+    <message>
+        <source>Open configuration</source>
+        <translation>打开配置</translation>
+    </message>
+    <message>
+        <source>Reading ...</source>
+        <translation>正在读取……</translation>
+    </message>
+    <message>
+        <source>Open a template first</source>
+        <translation>请先打开模板</translation>
+    </message>
+</context>
+<context>
+    <name>Examples</name>
+    <message>
+        <source>Perimeter</source>
+        <translation>周界</translation>
+    </message>
+    <message>
+        <source>Trip wire</source>
+        <translation>绊线</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>交通</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
+    </message>
+    <message>
+        <source>Lane calibration</source>
+        <translation>车道标定</translation>
+    </message>
+    <message>
+        <source>Scene calibration</source>
+        <translation>场景标定</translation>
+    </message>
+    <message>
+        <source>Fight calibration</source>
+        <translation>斗殴检测标定</translation>
+    </message>
+</context>
+<context>
+    <name>FirstPage</name>
+    <message>
+        <source>Open a template...</source>
+        <translation>打开模板...</translation>
+    </message>
+    <message>
+        <source>Open an example</source>
+        <translation>打开示例</translation>
+    </message>
+    <message>
+        <source>This cannot be used:
+%1</source>
+        <translation>无法使用：
+%1</translation>
     </message>
 </context>
 <context>
@@ -545,6 +678,13 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     </message>
 </context>
 <context>
+    <name>SupportFile</name>
+    <message>
+        <source>It cannot be packed: %1</source>
+        <translation>无法打包：%1</translation>
+    </message>
+</context>
+<context>
     <name>Workbench</name>
     <message>
         <source>there is no display; only --replay works without one</source>
@@ -557,6 +697,18 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     <message>
         <source>%1: nothing was saved</source>
         <translation>%1：未保存任何内容</translation>
+    </message>
+    <message>
+        <source>Save a support file</source>
+        <translation>保存支持文件</translation>
+    </message>
+    <message>
+        <source>Archives (*.tar.gz)</source>
+        <translation>归档文件 (*.tar.gz)</translation>
+    </message>
+    <message>
+        <source>Saving ...</source>
+        <translation>正在保存……</translation>
     </message>
 </context>
 <context>
@@ -574,22 +726,6 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>Open &amp;template...</source>
-        <translation>打开模板(&amp;T)...</translation>
-    </message>
-    <message>
-        <source>Ctrl+T</source>
-        <translation>Ctrl+T</translation>
-    </message>
-    <message>
-        <source>Open &amp;configuration...</source>
-        <translation>打开配置(&amp;C)...</translation>
-    </message>
-    <message>
-        <source>Ctrl+O</source>
-        <translation>Ctrl+O</translation>
-    </message>
-    <message>
         <source>Open &amp;picture or video...</source>
         <translation>打开图片或视频(&amp;P)...</translation>
     </message>
@@ -604,10 +740,6 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     <message>
         <source>R&amp;ecent sources</source>
         <translation>最近的视频源(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Load again</source>
-        <translation>重新加载(&amp;L)</translation>
     </message>
     <message>
         <source>Save &amp;result as...</source>
@@ -634,14 +766,6 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
         <translation>请打开模板以开始</translation>
     </message>
     <message>
-        <source>Open template</source>
-        <translation>打开模板</translation>
-    </message>
-    <message>
-        <source>Open configuration</source>
-        <translation>打开配置</translation>
-    </message>
-    <message>
         <source>Open picture or video</source>
         <translation>打开图片或视频</translation>
     </message>
@@ -652,10 +776,6 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     <message>
         <source>Sample camera</source>
         <translation>示例摄像机</translation>
-    </message>
-    <message>
-        <source>Open a template first</source>
-        <translation>请先打开模板</translation>
     </message>
     <message>
         <source>Nothing has been saved in the rules window yet</source>
@@ -688,6 +808,38 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     <message>
         <source>The screenshot would replace a file that is used: %1</source>
         <translation>屏幕截图会替换正在使用的文件：%1</translation>
+    </message>
+    <message>
+        <source>St&amp;op the picture</source>
+        <translation>停止画面(&amp;O)</translation>
+    </message>
+    <message>
+        <source>S&amp;ave</source>
+        <translation>保存(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Save a &amp;support file...</source>
+        <translation>保存支持文件(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>%1[*] - %2</source>
+        <translation>%1[*] - %2</translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>正在加载……</translation>
+    </message>
+    <message>
+        <source>Saved, but in no file yet: File, Save result as</source>
+        <translation>已保存，但尚未写入文件：文件，结果另存为</translation>
     </message>
 </context>
 </TS>
