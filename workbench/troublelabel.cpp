@@ -1,5 +1,7 @@
 #include "workbench/troublelabel.h"
 
+#include <QPainter>
+
 TroubleLabel::TroubleLabel(QWidget* parent) : QLabel(parent)
 {
     setObjectName(QStringLiteral("trouble"));
@@ -21,4 +23,11 @@ void TroubleLabel::tell(Trouble subject, const QString& line)
     setText(text);
     setToolTip(text.toHtmlEscaped());
     setVisible(!text.isEmpty());
+}
+
+void TroubleLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.drawText(contentsRect(), int(alignment()),
+                     fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
 }

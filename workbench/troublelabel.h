@@ -8,7 +8,7 @@ enum class Trouble { Result, Screenshot, Record, KeptWork, Sources, RecentDocume
 
 /**
  * Says in the status bar what cannot be written, for as long as that is so. It takes no more room
- * than there is, so that it moves nothing; the tool tip has all of it.
+ * than there is, so that it moves nothing, and is elided; the tool tip has all of it.
  */
 class TroubleLabel : public QLabel
 {
@@ -21,6 +21,9 @@ public:
     void tell(Trouble subject, const QString& line);
     bool has(Trouble subject) const { return m_lines.contains(subject); }
     QStringList lines() const { return m_lines.values(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QMap<Trouble, QString> m_lines;
