@@ -241,10 +241,6 @@ private slots:
         auto* const entry = window.findChild<QWidget*>(RowContract::kEntries);
         QStringList faults = readMenu(*entry->findChild<QPushButton*>());
         faults += readMenu(*window.findChild<QLineEdit*>(RowContract::kEdit));
-        for (QScrollBar* bar : window.findChildren<QScrollBar*>()) {
-            if (bar->isVisible())
-                faults += readMenu(*bar);
-        }
         int boxes = 0;
         QTimer::singleShot(100, &window, [&] {
             QWidget* const box = QApplication::activeModalWidget();
