@@ -30,6 +30,13 @@ bool isOwn(const EditStep& step, int scene, int dataId)
            step.change.kind != Kind::Attribute;
 }
 
+bool changesEntry(const EditStep& step, int dataId)
+{
+    const SceneState::Entry before = step.before.entry(dataId);
+    const SceneState::Entry after = step.after.entry(dataId);
+    return before && after && !(*before == *after);
+}
+
 /// What was edited in rows meanwhile stays steps of its own, done after the drawing. Where what
 /// they changed cannot be told from it, they are part of it.
 void putAfter(EditStep& drawing, std::vector<EditStep>& others)
@@ -41,11 +48,9 @@ void putAfter(EditStep& drawing, std::vector<EditStep>& others)
         return;
     const int entry = lastMine->change.dataId;
     const bool isWhole = last.withEntry(lastMine->after.entry(entry)).isSameAs(last);
-    // A row may have turned the figure, too.
+    // A row that describes the figure alone has changed nothing else.
     const bool areValues = std::all_of(others.begin(), others.end(), [&](const EditStep& step) {
-        return !isMine(step) ||
-               (step.change.dataId == entry &&
-                step.before.withEntry(step.after.entry(entry)).isSameAs(step.after));
+        return !isMine(step) || (step.change.dataId == entry && changesEntry(step, entry));
     });
     if (!isWhole || !areValues) {
         others.erase(std::remove_if(others.begin(), others.end(), isMine), others.end());
