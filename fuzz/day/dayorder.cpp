@@ -173,10 +173,13 @@ std::string DayOrder::ids(const WorkbenchWindow& window)
 {
     std::string text;
     for (const BaseTabelScene* panel : panelsOf(window)) {
+        const auto add = [&text](int id, int place) {
+            text += ' ' + std::to_string(id) + '@' + std::to_string(place);
+        };
         for (const auto& entry : panel->ruleData()->getAllData())
-            text += " " + std::to_string(entry->id());
+            add(entry->id(), entry->sourceIndex());
         for (const DrawItem* item : panel->getDrawScene()->getItemList(BaseDrawType::None, 0))
-            text += " " + std::to_string(item->itemId());
+            add(item->itemId(), item->sourceIndex());
         text += '\n';
     }
     return text;

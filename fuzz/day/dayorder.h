@@ -18,7 +18,8 @@ void require(const WorkbenchWindow& window);
 /// All entries and figures of the window's sections, as text.
 std::string contents(const WorkbenchWindow& window);
 
-/// Their ids, which stay as long as nothing else is loaded.
+/// Their ids, which stay as long as nothing else is loaded, each with the place in the document
+/// that it was read from.
 std::string ids(const WorkbenchWindow& window);
 
 /// What the sections show of them: which is selected or folded, the current entry and figure, and

@@ -67,6 +67,20 @@ QStringList configurations(const QDir& folder)
     return files;
 }
 
+/// Gives every object that is more than one attribute's value a member that no template names, each
+/// another one.
+bool addUnknown(kql::Json::Value& value, int& count)
+{
+    bool hasParts = false;
+    for (const QString& name : value.isObject() ? value.memberNames() : QStringList())
+        hasParts = addUnknown(value[name.toStdString()], count) || hasParts;
+    for (int i = 0; value.isArray() && i < value.size(); ++i)
+        addUnknown(value[i], count);
+    if (hasParts)
+        value["Unknown"] = ++count;
+    return value.isObject() || value.isArray();
+}
+
 kql::Json::Value editableLoad(kql::Json::Value step)
 {
     step["selection-mode"] = false;
@@ -115,7 +129,8 @@ SimulatedDay::SimulatedDay(const QString& example, unsigned seed, const QString&
     SessionScript script;
     script.folder = m_folder;
     m_player = std::make_unique<SessionPlayer>(*m_window, std::move(script));
-    m_operator = std::make_unique<DayOperator>(*m_window, configurations(example), seed);
+    m_operator = std::make_unique<DayOperator>(
+        *m_window, configurations(example) << withUnknown(example), seed);
     QObject::connect(m_window.get(), &WorkbenchWindow::sgnMessage, m_player.get(),
                      [this](const MessageRecord& message) {
                          if (message.direction == MessageRecord::Direction::FromModule)
@@ -133,6 +148,25 @@ SimulatedDay::~SimulatedDay()
 QString SimulatedDay::file(const char* name) const
 {
     return m_folder + QLatin1Char('/') + QLatin1String(name);
+}
+
+/// The example's configuration with members that a save keeps.
+QString SimulatedDay::withUnknown(const QString& example) const
+{
+    Value document;
+    int count = 0;
+    const QByteArray text = contentOf(example + QLatin1String("/config.json"));
+    require(kql::Json::Reader().parse(QString::fromUtf8(text), document), "no configuration");
+    addUnknown(document, count);
+    writeFile("unknown.json", document);
+    return file("unknown.json");
+}
+
+void SimulatedDay::writeFile(const char* name, const Value& document) const
+{
+    QFile out(file(name));
+    const QByteArray text = document.toStyledText().toUtf8();
+    require(out.open(QIODevice::WriteOnly) && out.write(text) == text.size(), "cannot write");
 }
 
 bool SimulatedDay::play(int actions)
@@ -342,15 +376,11 @@ bool SimulatedDay::canBeSaved() const
 /// The last result, loaded into the window as a configuration, shows what was there.
 void SimulatedDay::readBack()
 {
-    const QString path = file("saved.json");
     Value message;
     kql::Json::Reader().parse(m_saved, message);
-    QFile file(path);
-    const QByteArray text = message["channelAbilityPO"].toStyledText().toUtf8();
-    require(file.open(QIODevice::WriteOnly) && file.write(text) == text.size(), "cannot write");
-    file.close();
+    writeFile("saved.json", message["channelAbilityPO"]);
     Value load = editableLoad(m_operator->load());
-    load["config"] = path;
+    load["config"] = file("saved.json");
     act(load);
     SavedCheck::require(*m_window, m_saved);
 }

@@ -46,6 +46,8 @@ private:
     bool canBeKilled() const;
     std::string look() const;
     QString file(const char* name) const;
+    QString withUnknown(const QString& example) const;
+    void writeFile(const char* name, const Value& document) const;
     void act();
     void act(const Value& step);
     void remember(const Value& step);

@@ -103,10 +103,11 @@ void TimeTravel::forgetDropped(const QUndoStack& stack)
     std::vector<const QUndoCommand*> steps;
     for (int i = 0; i < stack.count(); ++i)
         steps.push_back(stack.command(i));
-    const bool isFull = static_cast<int>(m_steps.size()) == stack.undoLimit() && !steps.empty();
     const auto first =
-        isFull ? std::find(m_steps.begin(), m_steps.end(), steps.front()) : m_steps.begin();
-    const auto dropped = static_cast<int>(first - m_steps.begin());
+        steps.empty() ? m_steps.begin() : std::find(m_steps.begin(), m_steps.end(), steps.front());
+    if (first == m_steps.end())
+        forgetFrom(0);
+    const auto dropped = first == m_steps.end() ? 0 : static_cast<int>(first - m_steps.begin());
     m_steps = std::move(steps);
     if (dropped == 0)
         return;
