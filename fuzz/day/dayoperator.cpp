@@ -506,7 +506,7 @@ kql::Json::Value DayOperator::keyOnPicture()
 
 kql::Json::Value DayOperator::save()
 {
-    if (!m_finder.windowButton(QStringLiteral("btnSave"))->isVisible())
+    if (!canBePressed(m_finder.windowButton(QStringLiteral("btnSave"))))
         return {};
     Value result = step("save");
     result["answer"] = happens(60) ? "Yes" : "No";
@@ -515,7 +515,7 @@ kql::Json::Value DayOperator::save()
 
 kql::Json::Value DayOperator::cancel()
 {
-    if (!m_finder.windowButton(QStringLiteral("btnCancel"))->isVisible())
+    if (!canBePressed(m_finder.windowButton(QStringLiteral("btnCancel"))))
         return {};
     Value result = step("cancel");
     result["answer"] = !stays() && happens(25) ? "Yes" : "No";

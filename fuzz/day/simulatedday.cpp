@@ -26,6 +26,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QTextStream>
+#include <algorithm>
 
 using Fuzz::require;
 
@@ -67,18 +68,23 @@ QStringList configurations(const QDir& folder)
     return files;
 }
 
-/// Gives every object that is more than one attribute's value a member that no template names, each
-/// another one.
-bool addUnknown(kql::Json::Value& value, int& count)
+/// Spells numbers and switches as other devices do, but for those in an object that is one value.
+void respell(kql::Json::Value& value)
 {
-    bool hasParts = false;
-    for (const QString& name : value.isObject() ? value.memberNames() : QStringList())
-        hasParts = addUnknown(value[name.toStdString()], count) || hasParts;
     for (int i = 0; value.isArray() && i < value.size(); ++i)
-        addUnknown(value[i], count);
-    if (hasParts)
-        value["Unknown"] = ++count;
-    return value.isObject() || value.isArray();
+        respell(value[i]);
+    const QStringList names = value.isObject() ? value.memberNames() : QStringList();
+    const bool isValue = std::none_of(names.begin(), names.end(), [&value](const QString& name) {
+        return value[name.toStdString()].isArray() || value[name.toStdString()].isObject();
+    });
+    for (const QString& name : isValue ? QStringList() : names) {
+        kql::Json::Value& member = value[name.toStdString()];
+        if (member.isBool())
+            member = member.asBool() ? 1 : 0;
+        else if (member.isInt())
+            member = QString::number(member.asInt());
+        respell(member);
+    }
 }
 
 kql::Json::Value editableLoad(kql::Json::Value step)
@@ -129,8 +135,8 @@ SimulatedDay::SimulatedDay(const QString& example, unsigned seed, const QString&
     SessionScript script;
     script.folder = m_folder;
     m_player = std::make_unique<SessionPlayer>(*m_window, std::move(script));
-    m_operator = std::make_unique<DayOperator>(
-        *m_window, configurations(example) << withUnknown(example), seed);
+    m_operator = std::make_unique<DayOperator>(*m_window,
+                                               configurations(example) << respelled(example), seed);
     QObject::connect(m_window.get(), &WorkbenchWindow::sgnMessage, m_player.get(),
                      [this](const MessageRecord& message) {
                          if (message.direction == MessageRecord::Direction::FromModule)
@@ -150,16 +156,15 @@ QString SimulatedDay::file(const char* name) const
     return m_folder + QLatin1Char('/') + QLatin1String(name);
 }
 
-/// The example's configuration with members that a save keeps.
-QString SimulatedDay::withUnknown(const QString& example) const
+/// The example's configuration with values that a save keeps as they are spelled.
+QString SimulatedDay::respelled(const QString& example) const
 {
     Value document;
-    int count = 0;
     const QByteArray text = contentOf(example + QLatin1String("/config.json"));
     require(kql::Json::Reader().parse(QString::fromUtf8(text), document), "no configuration");
-    addUnknown(document, count);
-    writeFile("unknown.json", document);
-    return file("unknown.json");
+    respell(document);
+    writeFile("respelled.json", document);
+    return file("respelled.json");
 }
 
 void SimulatedDay::writeFile(const char* name, const Value& document) const

@@ -46,7 +46,7 @@ private:
     bool canBeKilled() const;
     std::string look() const;
     QString file(const char* name) const;
-    QString withUnknown(const QString& example) const;
+    QString respelled(const QString& example) const;
     void writeFile(const char* name, const Value& document) const;
     void act();
     void act(const Value& step);
