@@ -39,7 +39,8 @@ void shift(std::map<int, std::string>& known, int dropped)
 
 void TimeTravel::note(const WorkbenchWindow& window, const kql::Json::Value& step, bool endedEdit)
 {
-    if (step["do"].asString() == QLatin1String("load"))
+    // Restored work was loaded before the day began.
+    if (step["do"].asString() == QLatin1String("load") || !m_document.isLoaded())
         m_document.load(window);
     const QUndoStack& stack = window.rulesWindow()->findChild<EditHistory*>()->stack();
     const std::string contents =

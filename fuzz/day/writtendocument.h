@@ -15,6 +15,7 @@ public:
     /// Takes skeleton and configuration from the documents that @p window has just loaded; throws
     /// Fault when they cannot be read.
     void load(const WorkbenchWindow& window);
+    bool isLoaded() const { return !m_block.isNull(); }
     /// Its compact text; empty while nothing is loaded.
     std::string text(const WorkbenchWindow& window) const;
 
