@@ -11,6 +11,8 @@
 #include "plugin/editcommands.h"
 #include "plugin/entrymenu.h"
 #include "plugin/figurehover.h"
+#include "plugin/focusring.h"
+#include "plugin/picturewords.h"
 #include "plugin/readonlylook.h"
 #include "plugin/resultmessage.h"
 #include "plugin/windowskin.h"
@@ -22,6 +24,7 @@
 #include "tabel/widgettabel.h"
 #include "ui_IntelligentRulesCtrl.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -87,6 +90,9 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
             &CIntelligentRulesCtrl::sltNotifyVideoSize, Qt::QueuedConnection);
     m_form->lblHint->hide();
     m_form->lblNotices->hide();
+    m_form->sceneView->setFocusPolicy(Qt::NoFocus); // what is in it takes the focus
+    new FocusRing(m_form->btnSave, FocusRing::Place::Around);
+    new FocusRing(m_form->playerWin, FocusRing::Place::Inside);
     connectEditing();
     m_look = new ReadOnlyLook(*this, *m_form->sceneView);
     connect(m_look, &ReadOnlyLook::sgnSection, this, &CIntelligentRulesCtrl::selectScene);
@@ -114,6 +120,7 @@ void CIntelligentRulesCtrl::setInterfaceSetManager(CommonData::CInterfaceSetMana
     m_playerWin->setMouseTracking(true);
     // A press on the picture ends an edit, and keys that take points back reach the window.
     m_playerWin->setFocusPolicy(Qt::StrongFocus);
+    m_playerWin->setAccessibleName(tr("Picture"));
     m_playerWin->setInterfaceSetManager(manager);
     m_playerWin->setDrawEnabled(true);
     m_playerWin->setPaneDivision(1);
@@ -300,6 +307,7 @@ void CIntelligentRulesCtrl::addPanel(RuleData& sceneData)
     m_scenes.append(panel);
     connect(panel, &BaseTabelScene::sgnTrySelectedlScene, this,
             &CIntelligentRulesCtrl::sltTrySelectedlScene);
+    connect(panel, &BaseTabelScene::sgnEntered, this, &CIntelligentRulesCtrl::sltSectionEntered);
     connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::sceneChanged);
     connect(panel, &BaseTabelScene::sgnLookChanged, this, &CIntelligentRulesCtrl::repaintPicture);
     connect(panel, &BaseTabelScene::sgnRowEdited, this, &CIntelligentRulesCtrl::sltRowEdited);
@@ -360,6 +368,7 @@ void CIntelligentRulesCtrl::unload()
     resetToDefaults();
     showNotices();
     showSteps();
+    describePicture();
     repaintPicture();
 }
 
@@ -375,11 +384,20 @@ void CIntelligentRulesCtrl::sltTrySelectedlScene()
     selectScene(qobject_cast<BaseTabelScene*>(sender()));
 }
 
+/// The figure in hand stays the one that keys work on.
+void CIntelligentRulesCtrl::sltSectionEntered()
+{
+    if (!m_drawScene || !m_drawScene->isDrawing())
+        sltTrySelectedlScene();
+}
+
 void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
 {
     if (!scene)
         return;
     const LoadGuard guard(this);
+    const QWidget* const focused = QApplication::focusWidget();
+    const bool holdsFocus = focused && isAncestorOf(focused);
     if (!scene->getSelected())
         m_editing->correcting().end();
     if (!guard.holds())
@@ -397,6 +415,12 @@ void CIntelligentRulesCtrl::selectScene(BaseTabelScene* scene)
         for (QWidget* button : answerButtons())
             button->hide();
     }
+    // It was taken from the section that was selected.
+    if (holdsFocus && QApplication::focusWidget() == window())
+        scene->setFocus();
+    if (!guard.holds())
+        return;
+    describePicture();
     repaintPicture();
 }
 
@@ -460,13 +484,23 @@ void CIntelligentRulesCtrl::sceneChanged()
     showSteps();
     m_hover->leave();
     m_saveCheck.refresh();
+    m_editing->followEntry();
     for (BaseTabelScene* panel : qAsConst(m_scenes))
         panel->showHint();
     // Not at once: it is the host's chance to act, in the middle of a click.
     QMetaObject::invokeMethod(this, &CIntelligentRulesCtrl::focusDrawing, Qt::QueuedConnection);
     showHint({});
     showNotices();
+    describePicture();
     repaintPicture();
+}
+
+void CIntelligentRulesCtrl::describePicture()
+{
+    BaseTabelScene* const panel = m_drawScene ? m_editing->panel() : nullptr;
+    const QString words = panel ? PictureWords::of(*panel, m_editing->crossHair()) : QString();
+    if (m_playerWin && m_playerWin->accessibleDescription() != words)
+        m_playerWin->setAccessibleDescription(words);
 }
 
 bool CIntelligentRulesCtrl::finishEdits()
@@ -623,7 +657,9 @@ void CIntelligentRulesCtrl::showRefusal(const SaveCheck::Refusal& refusal)
     if (place)
         place->setFocus(Qt::TabFocusReason);
     else if (m_drawScene && m_drawScene->isDrawing() && m_playerWin)
-        m_playerWin->setFocus();
+        focusPicture(false);
+    else
+        panel.setFocus();
 }
 
 bool CIntelligentRulesCtrl::confirmChange()
@@ -677,6 +713,10 @@ void CIntelligentRulesCtrl::showHint(const QString& text)
 {
     m_form->lblHint->setText(ShortenedText::line(text, Limits::kLine));
     m_form->lblHint->setVisible(!text.isEmpty());
+    if (text.isEmpty())
+        return;
+    QAccessibleEvent told(m_form->lblHint, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
 }
 
 /// In a read-only window nothing is saved of which anything could be lost.
@@ -709,17 +749,27 @@ void CIntelligentRulesCtrl::connectEditing()
             &CIntelligentRulesCtrl::sltRestored);
     connect(&m_editing->correcting(), &Correcting::sgnEnded, this,
             &CIntelligentRulesCtrl::sceneChanged);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
-        if (now != m_playerWin)
-            m_editing->correcting().end();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, const QWidget* now) { focusMoved(now); });
+    connect(m_editing, &EditCommands::sgnMoved, this, [this](const QPoint& at) {
+        moveAt(at, Qt::NoButton);
+        describePicture();
     });
-    connect(m_editing, &EditCommands::sgnMoved, this,
-            [this](const QPoint& at) { moveAt(at, Qt::NoButton); });
     connect(m_editing, &EditCommands::sgnPressed, this,
             [this](Qt::MouseButton button, const QPoint& at) { pressAt(button, at, {}); });
     connect(m_form->btnUndo, &QPushButton::clicked, this, [this] { useKey(EditKey::Undo); });
     connect(m_form->btnRedo, &QPushButton::clicked, this, [this] { useKey(EditKey::Redo); });
     showSteps();
+}
+
+void CIntelligentRulesCtrl::focusMoved(const QWidget* now)
+{
+    // What is pressed must not move away under the pointer.
+    const bool isPressed = QGuiApplication::mouseButtons() != Qt::NoButton;
+    if (now && !isPressed && m_form->sceneView->isAncestorOf(now))
+        Scrolling::showWhole(*now);
+    if (now != m_playerWin)
+        m_editing->correcting().end();
 }
 
 QList<QWidget*> CIntelligentRulesCtrl::answerButtons() const
@@ -762,8 +812,10 @@ void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
     const EditKey key = isHeld ? EditKey::None : pressed;
     const bool isClaimed = guard.holds() && isEditable() && m_editing->claims(key);
     event->setAccepted(isClaimed || isHeld);
-    if (!guard.holds() || !isEditable() || !m_editing->isUseful(key))
+    if (!guard.holds() || !isEditable())
         return;
+    if (!m_editing->isUseful(key))
+        return tellUseless(key);
     const bool hasFocus = m_playerWin && window()->focusWidget() == m_playerWin;
     if (!isClaimed && !(hasFocus && EditCommands::isForPicture(key)))
         return;
@@ -776,6 +828,13 @@ void CIntelligentRulesCtrl::keyPressEvent(QKeyEvent* event)
         useKey(key);
 }
 
+void CIntelligentRulesCtrl::tellUseless(EditKey key)
+{
+    const QString why = m_editing->whyUseless(key);
+    if (!why.isEmpty())
+        showHint(why);
+}
+
 void CIntelligentRulesCtrl::useKey(EditKey key)
 {
     const LoadGuard guard(this);
@@ -785,7 +844,7 @@ void CIntelligentRulesCtrl::useKey(EditKey key)
         return;
     // Rows and buttons that have the focus may be about to go.
     if (m_playerWin && key != EditKey::Copy)
-        m_playerWin->setFocus();
+        focusPicture(m_form->btnUndo->underMouse() || m_form->btnRedo->underMouse());
     if (!guard.holds() || !isEditable())
         return;
     const bool wasDrawing = m_drawScene && m_drawScene->isDrawing();
@@ -806,14 +865,19 @@ void CIntelligentRulesCtrl::focusDrawing()
         qobject_cast<const QPushButton*>(focused) || qobject_cast<const BaseTabelScene*>(focused);
     const bool isDrawing = m_drawScene && m_drawScene->isDrawing();
     if (isDrawing && m_playerWin && isVisible() && isBeginning && isAncestorOf(focused))
-        m_playerWin->setFocus();
+        focusPicture(focused->underMouse());
+}
+
+void CIntelligentRulesCtrl::focusPicture(bool byMouse)
+{
+    m_playerWin->setFocus(byMouse ? Qt::MouseFocusReason : Qt::ShortcutFocusReason);
 }
 
 void CIntelligentRulesCtrl::showKeys()
 {
     const QStringList keys{
         tr("Backspace: take the last point back"),
-        tr("Enter: finish the figure"),
+        tr("Enter: finish the figure, press the right button at the cross-hair, or let go"),
         tr("Escape: take all points back, then leave the drawing"),
         tr("Arrows: move what was taken last, else a cross-hair; with Shift ten times as far"),
         tr("Space: press at the cross-hair, take or let go of a handle"),
@@ -823,6 +887,9 @@ void CIntelligentRulesCtrl::showKeys()
         tr("Ctrl+Y, Ctrl+Shift+Z: redo"),
         tr("Ctrl+C, Ctrl+V: copy the entry, paste a copied one"),
         tr("Ctrl+D: duplicate the entry"),
+        tr("Shift+F10, Menu: what can be done with the entry whose button has the focus"),
+        tr("Up, Down: one more or less in a field for whole numbers"),
+        tr("Space, Enter on a title: fold and unfold the section"),
     };
     KQGUI::KQMessageBox::ShowNotice(this, tr("Keys"), keys.join(QLatin1Char('\n')));
 }

@@ -148,11 +148,18 @@ private:
     void connectEditing();
     /// Ends edits, gives the picture the focus, and does what the key is for.
     void useKey(EditKey key);
+    void tellUseless(EditKey key);
     void showKeys();
     /// Does what was chosen in the menu of an entry of @p panel, which need not be there any more.
     void useMenu(BaseTabelScene* panel, int dataId, EntryAction action);
     void editEntry(BaseTabelScene& panel, int dataId, EntryAction action);
     void focusDrawing();
+    /// As the mouse does it, or by keys: then a frame shows it.
+    void focusPicture(bool byMouse);
+    void focusMoved(const QWidget* now);
+    void sltSectionEntered();
+    /// Tells readers of the screen what is on the picture.
+    void describePicture();
     bool isEditable() const;
     /// Save and what stands beside it; not there in a read-only window.
     QList<QWidget*> answerButtons() const;

@@ -21,6 +21,13 @@ void EditCommands::setPanel(BaseTabelScene* panel, bool mayDraw)
     m_history.endMerging();
     m_correcting.setPanel(m_mayDraw ? panel : nullptr);
     m_crossHair.reset();
+    m_entry = currentEntry();
+}
+
+void EditCommands::followEntry()
+{
+    if (std::exchange(m_entry, currentEntry()) != m_entry)
+        m_crossHair.hide();
 }
 
 DrawScene* EditCommands::canvas() const
@@ -97,6 +104,16 @@ bool EditCommands::isUseful(EditKey key) const
     default:
         return m_mayDraw && !canvas()->canvasSize().isEmpty();
     }
+}
+
+QString EditCommands::whyUseless(EditKey key) const
+{
+    if (!m_panel || isUseful(key))
+        return {};
+    if (key == EditKey::Paste && EntryTransfer::hasCopied())
+        return m_transfer.whyNotPasted(*m_panel);
+    return key == EditKey::Duplicate ? m_transfer.whyNotDuplicated(*m_panel, currentEntry())
+                                     : QString();
 }
 
 bool EditCommands::isForPicture(EditKey key)

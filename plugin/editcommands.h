@@ -30,9 +30,13 @@ public:
     EditHistory& history() { return m_history; }
     Correcting& correcting() { return m_correcting; }
     CrossHair& crossHair() { return m_crossHair; }
+    const CrossHair& crossHair() const { return m_crossHair; }
     /// The section whose canvas is seen; not owned, null for none. With @p mayDraw its figures can
     /// be drawn and corrected.
     void setPanel(BaseTabelScene* panel, bool mayDraw);
+    BaseTabelScene* panel() const { return m_panel; }
+    /// Hides the cross-hair when another entry is current than before.
+    void followEntry();
     /// What the last key did is one step with what a key of the same series did before; empty for
     /// none.
     QString takeSeries() { return std::exchange(m_series, QString()); }
@@ -43,6 +47,9 @@ public:
     bool claims(EditKey key) const;
     /// Whether the key would change something now.
     bool isUseful(EditKey key) const;
+    /// Why a key for entries in the clipboard does nothing now; empty where it would, or where
+    /// there is nothing that it could be for.
+    QString whyUseless(EditKey key) const;
     /// Whether the picture, when it has the focus, takes the key though nothing is in hand.
     static bool isForPicture(EditKey key);
     /// Whether the key works on the figure being drawn.
@@ -84,6 +91,7 @@ private:
     CrossHair m_crossHair;
     BaseTabelScene* m_panel = nullptr;
     QString m_series;
+    int m_entry = 0; ///< the current one
     bool m_mayDraw = false;
 };
 

@@ -17,6 +17,11 @@ using kql::Json::Value;
 namespace IntelligentRulesUI
 {
 
+bool EntryTransfer::hasCopied()
+{
+    return EntryClipboard::hasEntry();
+}
+
 QString EntryTransfer::whyNotCopied(const BaseTabelScene& panel, int dataId) const
 {
     const RuleData* const data = panel.ruleData();

@@ -23,6 +23,8 @@ public:
     /// Whose sections they are; not owned, null while nothing is loaded.
     void setParser(const RuleParser* parser) { m_parser = parser; }
 
+    /// Whether the clipboard has an entry, of whatever section.
+    static bool hasCopied();
     QString whyNotCopied(const BaseTabelScene& panel, int dataId) const;
     QString whyNotDuplicated(const BaseTabelScene& panel, int dataId) const;
     QString whyNotPasted(const BaseTabelScene& panel) const;

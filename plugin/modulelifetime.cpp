@@ -2,6 +2,7 @@
 
 #include "draw/labelfont.h"
 #include "host/gdiplus.h"
+#include "plugin/accessibility.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -42,6 +43,7 @@ void startModule()
 {
     initResources();
     installTranslation();
+    Accessibility::start();
     const Gdiplus::GdiplusStartupInput input;
     ULONG_PTR token = 0;
     if (Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok)
@@ -50,6 +52,7 @@ void startModule()
 
 void endModule()
 {
+    Accessibility::end();
     LabelFont::release();
     g_translator.reset();
     // A host may end what it never started, or ended already.

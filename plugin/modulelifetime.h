@@ -8,7 +8,8 @@ constexpr char kModuleName[] = "IntelligentRulesUI";
 /// The right that an operator needs for the module.
 constexpr char kRightName[] = "Default Right";
 
-/// Starts GDI+ and loads the module's translation. Each call starts GDI+ once more.
+/// Starts GDI+, loads the module's translation, and tells readers of the screen of its widgets.
+/// Each call starts GDI+ once more.
 void startModule();
 
 /// Lets go of shared painting resources and shuts GDI+ down.

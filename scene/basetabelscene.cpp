@@ -103,6 +103,7 @@ void BaseTabelScene::setRuleData(RuleData* newData)
     if (isBound()) {
         setObjectName(m_data->getTemplate()->name());
         widgets().titleBar->setTitle(heading());
+        setAccessibleName(widgets().titleBar->title());
         bindRows();
         connect(getDrawScene(), &DrawScene::sgnSelectedStatusChange, this,
                 &BaseTabelScene::sltDrawItemSelected);
@@ -424,7 +425,7 @@ void BaseTabelScene::perform(const std::function<void()>& action)
 {
     const QPointer<BaseTabelScene> self(this);
     finishEdits();
-    if (self && isBound())
+    if (self && becomeSelected() && isBound())
         action();
     if (!self)
         return;
@@ -652,6 +653,8 @@ void BaseTabelScene::sltRuleEnableChanged(int dataId, bool on)
     RuleDataInfo* entry = m_data ? m_data->getDataInfo(dataId) : nullptr;
     if (entry)
         entry->setEnabled(on);
+    if (!becomeSelected())
+        return;
     emit sgnRowEdited(QString::fromLatin1(RowContract::kEnable));
     emit sgnRepaintCanvas();
 }
@@ -691,6 +694,8 @@ void BaseTabelScene::sltTabelAttrControlValueChange(const QString& key)
 {
     tabelAttrControlValueChange(key);
     checkLayout();
+    if (!becomeSelected())
+        return;
     emit sgnRowEdited(key);
     emit sgnRepaintCanvas();
 }

@@ -95,8 +95,9 @@ QWidget* FaultMarks::placeOf(const CheckFault& fault, const SceneWidgets& widget
 {
     if (fault.dataId == 0)
         return usable(widgets.ruleFucBar->buttons().value(0));
-    if (const ControlTabel* row = rowOf(widgets, fault))
-        return editorOf(*row);
+    const ControlTabel* const row = rowOf(widgets, fault);
+    if (QWidget* editor = row ? editorOf(*row) : nullptr)
+        return editor;
     QWidget* child = widgets.childDrawItems->findButton(fault.itemId);
     if (fault.itemId == 0)
         child = adderOf(*widgets.childFucBar, dataTemplate, fault.key);

@@ -68,6 +68,8 @@ void SceneSection::setSelectMode(bool on)
 
 void SceneSection::setFold(bool folded)
 {
+    const QWidget* const focused = QApplication::focusWidget();
+    const bool holdsFocus = focused && isAncestorOf(focused);
     if (folded && !m_widgets.titleBar->hasFocus() && !dropFocus())
         return;
     const bool isOpened = m_folded && !folded;
@@ -78,6 +80,8 @@ void SceneSection::setFold(bool folded)
     updateMask();
     if (isOpened)
         Scrolling::showWhole(*this);
+    if (folded && holdsFocus && isVisible())
+        m_widgets.titleBar->setFocus();
 }
 
 void SceneSection::showHint()
@@ -157,7 +161,27 @@ void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
     if (m_folded && now != m_widgets.titleBar)
         setFold(false);
     if (!m_selected)
+        emit sgnEntered();
+}
+
+void SceneSection::focusInEvent(QFocusEvent* event)
+{
+    WidgetTabel::focusInEvent(event);
+    m_widgets.titleBar->setHoldsFocus(true);
+}
+
+void SceneSection::focusOutEvent(QFocusEvent* event)
+{
+    WidgetTabel::focusOutEvent(event);
+    m_widgets.titleBar->setHoldsFocus(false);
+}
+
+bool SceneSection::becomeSelected()
+{
+    const QPointer<SceneSection> self(this);
+    if (!m_selected)
         emit sgnTrySelectedlScene();
+    return self;
 }
 
 bool SceneSection::takeFocusFrom(const QWidget& part)

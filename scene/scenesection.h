@@ -37,10 +37,14 @@ public:
 signals:
     /// The operator wants to work on this section.
     void sgnTrySelectedlScene();
+    /// The focus came into a section that is not selected.
+    void sgnEntered();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
     /// Shows what the section's contents call for, and lays it out.
     virtual void checkLayout();
@@ -56,6 +60,9 @@ protected:
     /// Takes the focus from a widget in @p part, which is about to be disabled or hidden. False
     /// when whoever heard of it has deleted the section.
     bool takeFocusFrom(const QWidget& part);
+
+    /// The operator works on this section. False as takeFocusFrom().
+    bool becomeSelected();
 
     const SceneWidgets& widgets() const { return m_widgets; }
 

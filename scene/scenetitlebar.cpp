@@ -3,6 +3,7 @@
 #include "host/api/rowcontract.h"
 #include "tabel/titlelabel.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -66,6 +67,7 @@ SceneTitleBar::SceneTitleBar(QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     setProperty("bFold", false);
     setProperty("selected", false);
+    setProperty("holdsFocus", false);
     m_label->setObjectName(QStringLiteral("titleLabel"));
 }
 
@@ -83,6 +85,15 @@ QString SceneTitleBar::title() const
 void SceneTitleBar::setFolded(bool folded)
 {
     setLook("bFold", folded);
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void SceneTitleBar::setHoldsFocus(bool holds)
+{
+    setLook("holdsFocus", holds);
 }
 
 void SceneTitleBar::setSelected(bool selected)

@@ -18,6 +18,8 @@ public:
     QString title() const;
     void setFolded(bool folded);
     void setSelected(bool selected);
+    /// Shows that the section around has the focus.
+    void setHoldsFocus(bool holds);
 
 signals:
     /// It was pressed, or a key for it.

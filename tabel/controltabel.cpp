@@ -5,7 +5,25 @@
 #include "tabel/plaintext.h"
 #include "tabel/titlelabel.h"
 
+#include <QAbstractButton>
 #include <QStyle>
+
+#include <algorithm>
+
+namespace
+{
+
+bool isButton(const QWidget& widget)
+{
+    return qobject_cast<const QAbstractButton*>(&widget);
+}
+
+bool hasText(const QWidget& widget)
+{
+    return isButton(widget) && !static_cast<const QAbstractButton&>(widget).text().isEmpty();
+}
+
+} // namespace
 
 ControlTabel::ControlTabel(QWidget* parent) : WidgetTabel(parent)
 {
@@ -25,6 +43,21 @@ void ControlTabel::setProtocolItem(RuleProtocolItem* item)
         m_item->setRow(this);
     init();
     rememberLoaded();
+}
+
+void ControlTabel::setTitle(const QString& title)
+{
+    WidgetTabel::setTitle(title);
+    const QString name = titleLabel()->text();
+    setAccessibleName(name);
+    for (QWidget* editor : editors()) {
+        if (editor->objectName() == QLatin1String(RowContract::kMinimum))
+            editor->setAccessibleName(tr("%1, minimum").arg(name));
+        else if (editor->objectName() == QLatin1String(RowContract::kMaximum))
+            editor->setAccessibleName(tr("%1, maximum").arg(name));
+        else if (!hasText(*editor))
+            editor->setAccessibleName(name);
+    }
 }
 
 QString ControlTabel::key() const
@@ -87,10 +120,6 @@ void ControlTabel::setFault(const QString& message)
     const bool wasMarked = isMarked();
     m_fault = message;
     showMark(wasMarked);
-    for (QWidget* widget : findChildren<QWidget*>()) {
-        if (widget->focusPolicy() & Qt::TabFocus)
-            widget->setAccessibleDescription(message);
-    }
 }
 
 const QString& ControlTabel::reason() const
@@ -122,10 +151,30 @@ void ControlTabel::fitCaption()
 void ControlTabel::showMark(bool wasMarked)
 {
     setToolTip(PlainText::toolTip(isMarked() ? reason() : m_tip));
+    describeEditors();
     if (wasMarked == isMarked())
         return;
     titleLabel()->setWarning(isMarked());
     fitCaption();
     for (QWidget* widget : findChildren<QWidget*>())
         style()->polish(widget);
+}
+
+void ControlTabel::describeEditors()
+{
+    for (QWidget* editor : editors()) {
+        // Options have tool tips of their own.
+        const QString usual = isButton(*editor) ? QString() : m_tip;
+        editor->setAccessibleDescription(isMarked() ? reason() : usual);
+    }
+}
+
+QList<QWidget*> ControlTabel::editors() const
+{
+    QList<QWidget*> widgets = findChildren<QWidget*>();
+    const auto takesNoFocus = [](const QWidget* widget) {
+        return !(widget->focusPolicy() & Qt::TabFocus);
+    };
+    widgets.erase(std::remove_if(widgets.begin(), widgets.end(), takesNoFocus), widgets.end());
+    return widgets;
 }

@@ -36,6 +36,8 @@ public:
     /// Ties the row and @p item (not owned) together and calls init().
     void setProtocolItem(RuleProtocolItem* item);
     RuleProtocolItem* protocolItem() const { return m_item; }
+    /// Names the editors for readers of the screen, too, where they have no text of their own.
+    void setTitle(const QString& title) override;
     /// The item's key; empty without an item.
     QString key() const;
 
@@ -53,6 +55,8 @@ public:
     /// reason takes the mark away. The property "marked" tells it to the skin and to hosts.
     void setMark(const QString& reason);
     bool isMarked() const { return !reason().isEmpty(); }
+    /// What the row takes, as kind, range and unit of a number; empty for anything.
+    const QString& tip() const { return m_tip; }
     /// Marks the row besides setMark() while a save is refused for it, with @p message.
     void setFault(const QString& message);
     /// How wide the caption is, and how wide it may be beside the sign of a mark; in pixels.
@@ -86,6 +90,10 @@ private:
     const QString& reason() const;
     void showMark(bool wasMarked);
     void fitCaption();
+    /// Tells readers of the screen what the row's tool tip says.
+    void describeEditors();
+    /// What can have the focus.
+    QList<QWidget*> editors() const;
 
     RuleProtocolItem* m_item = nullptr;
     QVariant m_loaded;

@@ -40,6 +40,9 @@ void DrawItemButton::setText(const QString& text)
     const bool isLong = text.size() > kMaxTextLength;
     const QString shown = isLong ? text.left(kMaxTextLength - 1) + QLatin1String("...") : text;
     ElidedButton::setText(PlainText::button(shown));
+    setAccessibleName(PlainText::line(text));
+    if (m_checkBox)
+        nameCheckBox();
     showTip();
 }
 
@@ -94,10 +97,16 @@ void DrawItemButton::createCheckBox()
         "QCheckBox{background: transparent;}; QCheckBox::indicator{subcontrol-origin: border; "
         "subcontrol-position: left center; }"));
     m_checkBox->setChecked(m_enabledState);
+    nameCheckBox();
     connect(m_checkBox, &QCheckBox::clicked, this, [this](bool on) {
         m_enabledState = on;
         emit sgnEnableChanged(m_dataId, on);
     });
+}
+
+void DrawItemButton::nameCheckBox()
+{
+    m_checkBox->setAccessibleName(tr("Enable %1").arg(accessibleName()));
 }
 
 void DrawItemButton::syncCheckBox()

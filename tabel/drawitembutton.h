@@ -68,6 +68,7 @@ protected:
 private:
     void showTip();
     void createCheckBox();
+    void nameCheckBox();
     void syncCheckBox();
 
     int m_id;

@@ -106,6 +106,12 @@ void InputRangeEdit::setRange(const QSize& range, bool emitChange)
         emit sgnRangeValueChange();
 }
 
+void InputRangeEdit::setStepRange(int bottom, int top)
+{
+    m_minimum->setStepRange(bottom, top);
+    m_maximum->setStepRange(bottom, top);
+}
+
 void InputRangeEdit::finishEdits()
 {
     m_minimum->finishEdit();

@@ -20,6 +20,8 @@ public:
     void setMaxValue(int value, bool emitChange);
     /// Sets both, then announces once if @p emitChange, changed or not.
     void setRange(const QSize& range, bool emitChange);
+    /// What the arrow keys reach; what is typed may be anything that is not negative.
+    void setStepRange(int bottom, int top);
     /// Ends edits in progress as leaving them does.
     void finishEdits();
     /// Whether one of the edits refused text and the operator did nothing about it yet.

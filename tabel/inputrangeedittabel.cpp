@@ -1,7 +1,10 @@
 #include "tabel/inputrangeedittabel.h"
 
+#include "Protocol/ruleprotocolitem.h"
 #include "tabel/inputrangeedit.h"
 #include "tabel/numbertip.h"
+
+#include <limits>
 
 InputRangeEditTabel::InputRangeEditTabel(QWidget* parent)
     : ControlTabel(parent), m_edit(new InputRangeEdit(this))
@@ -15,7 +18,13 @@ InputRangeEditTabel::InputRangeEditTabel(QWidget* parent)
 
 void InputRangeEditTabel::init()
 {
-    setTip(protocolItem() ? NumberTip::of(*protocolItem()) : QString());
+    const RuleProtocolItem* const item = protocolItem();
+    setTip(item ? NumberTip::of(*item) : QString());
+    // Without a range of its own no number is negative, as -1 stands for none.
+    const QVariant bottom = item ? item->rangeMinimum() : QVariant();
+    const QVariant top = item ? item->rangeMaximum() : QVariant();
+    m_edit->setStepRange(bottom.isValid() ? bottom.toInt() : 0,
+                         top.isValid() ? top.toInt() : std::numeric_limits<int>::max());
     ControlTabel::init();
 }
 

@@ -95,7 +95,7 @@ bool RowEdit::event(QEvent* event)
     const auto& key = static_cast<const QKeyEvent&>(*event);
     const bool isLeft = (key.matches(QKeySequence::Undo) && !isUndoAvailable()) ||
                         (isRedo(key) && !isRedoAvailable());
-    const bool isOwn = isReturn(key) || isEscape(key) || isRedo(key);
+    const bool isOwn = isReturn(key) || isEscape(key) || isRedo(key) || isStep(key);
     if (!isLeft && !(isOwn && event->type() == QEvent::ShortcutOverride))
         return QLineEdit::event(event);
     event->setAccepted(!isLeft);
@@ -118,6 +118,11 @@ void RowEdit::keyPressEvent(QKeyEvent* event)
         else
             pressReturn(event);
         event->accept(); // it ends this edit, and nothing around it
+        return;
+    }
+    if (isStep(*event)) {
+        event->accept();
+        step(event->key() == Qt::Key_Up ? 1 : -1);
         return;
     }
     if (isRedo(*event)) {
@@ -218,6 +223,52 @@ void RowEdit::enter(const QString& typed)
     }
     if (self && entry.isCut)
         setRefusal(Refusal::Input);
+}
+
+void RowEdit::setStepRange(int bottom, int top)
+{
+    m_stepBottom = bottom;
+    m_stepTop = top;
+}
+
+bool RowEdit::isStep(const QKeyEvent& event) const
+{
+    const bool isArrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+    return isArrow && isPlain(event) && !isReadOnly() &&
+           qobject_cast<const QIntValidator*>(validator());
+}
+
+void RowEdit::step(int by)
+{
+    const std::optional<int> number = stepped(by);
+    if (!number)
+        return;
+    const QPointer<RowEdit> self(this);
+    setRefusal(Refusal::None);
+    if (!self)
+        return;
+    selectAll();
+    insert(QString::number(*number));
+    if (self)
+        finishEdit();
+}
+
+/// The number that a step leads to; none at the end of the range. One out of the range comes back
+/// to its end, and none goes farther away.
+std::optional<int> RowEdit::stepped(int by) const
+{
+    const auto& whole = static_cast<const QIntValidator&>(*validator());
+    const qint64 bottom = qMax(whole.bottom(), m_stepBottom);
+    const qint64 top = qMin(whole.top(), m_stepTop);
+    if (bottom > top)
+        return {};
+    bool isNumber = false;
+    const qint64 number = text().toInt(&isNumber);
+    if (!isNumber)
+        return int(qBound<qint64>(bottom, 0, top));
+    if (by > 0 ? number >= top : number <= bottom)
+        return {};
+    return int(qBound(bottom, number + by, top));
 }
 
 void RowEdit::pressReturn(QKeyEvent* event)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QLineEdit>
+#include <limits>
+#include <optional>
 
 /**
  * The line edit of rows. Left with text that its validator refuses and cannot mend, it shows what
@@ -8,7 +10,8 @@
  *
  * An edit with a validator for numbers takes typed and pasted text as what it was meant for: see
  * NumberEntry. What it cannot take is refused rather than left out of a number that then is
- * another one.
+ * another one. In one for whole numbers the arrows up and down count, each time as if the number
+ * were typed and the edit ended.
  */
 class RowEdit : public QLineEdit
 {
@@ -28,6 +31,8 @@ public:
     void finishEdit();
     /// As setValidator(), and deletes the validator that this edit owns as its parent.
     void replaceValidator(const QValidator* newValidator);
+    /// What the arrow keys reach in an edit for whole numbers, besides what its validator allows.
+    void setStepRange(int bottom, int top);
     /// Whether text was refused and the operator did nothing about it yet.
     bool isRefusing() const { return m_refusal != Refusal::None; }
 
@@ -57,6 +62,9 @@ private:
     bool isForNumbers() const;
     void enterPasted(const QString& text);
     void enter(const QString& typed);
+    bool isStep(const QKeyEvent& event) const;
+    void step(int by);
+    std::optional<int> stepped(int by) const;
     void pressReturn(QKeyEvent* event);
     void pressEscape();
     bool becomesMinimum() const;
@@ -69,4 +77,6 @@ private:
 
     QString m_value;
     Refusal m_refusal = Refusal::None;
+    int m_stepBottom = std::numeric_limits<int>::min();
+    int m_stepTop = std::numeric_limits<int>::max();
 };

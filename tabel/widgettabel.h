@@ -68,7 +68,7 @@ public:
     void setItemSize(const QSize& size) { change(m_itemSize, size); }
 
     /// Shows the title when @p title is not empty; never hides it again.
-    void setTitle(const QString& title);
+    virtual void setTitle(const QString& title);
     TitleLabel* titleLabel() const { return m_title; }
 
     /// Takes @p widget as a child and appends it; null and widgets already here are ignored.

@@ -1,5 +1,6 @@
 #include "tabel/widgettabelview.h"
 
+#include "tabel/rangetip.h"
 #include "tabel/widgettabel.h"
 
 #include <QScrollBar>
@@ -14,6 +15,7 @@ WidgetTabelView::WidgetTabelView(QWidget* parent)
     setWidget(m_content);
     // Its menu has texts of Qt, which nobody may have translated.
     verticalScrollBar()->setContextMenuPolicy(Qt::PreventContextMenu);
+    new RangeTip(viewport());
 }
 
 void WidgetTabelView::addWidget(QWidget* widget)

@@ -348,8 +348,8 @@
         <translation>Rücktaste: letzten Punkt zurücknehmen</translation>
     </message>
     <message>
-        <source>Enter: finish the figure</source>
-        <translation>Eingabe: Figur abschließen</translation>
+        <source>Enter: finish the figure, press the right button at the cross-hair, or let go</source>
+        <translation>Eingabe: Figur abschließen, Rechtsklick am Fadenkreuz, oder loslassen</translation>
     </message>
     <message>
         <source>Escape: take all points back, then leave the drawing</source>
@@ -390,6 +390,22 @@
     <message>
         <source>Ctrl and a press: take the whole figure</source>
         <translation>Strg und ein Klick: die ganze Figur nehmen</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Shift+F10, Menu: what can be done with the entry whose button has the focus</source>
+        <translation>Umschalt+F10, Menütaste: was mit dem Eintrag getan werden kann, dessen Schaltfläche den Fokus hat</translation>
+    </message>
+    <message>
+        <source>Up, Down: one more or less in a field for whole numbers</source>
+        <translation>Auf, Ab: eins mehr oder weniger in einem Feld für ganze Zahlen</translation>
+    </message>
+    <message>
+        <source>Space, Enter on a title: fold and unfold the section</source>
+        <translation>Leertaste, Eingabe auf einem Titel: Abschnitt ein- und ausklappen</translation>
     </message>
 </context>
 <context>
@@ -1225,6 +1241,43 @@
     <message>
         <source>%1: it is no regular file, and is not replaced</source>
         <translation>%1: ist keine gewöhnliche Datei und wird nicht ersetzt</translation>
+    </message>
+</context>
+<context>
+    <name>ControlTabel</name>
+    <message>
+        <source>%1, minimum</source>
+        <translation>%1, Minimum</translation>
+    </message>
+    <message>
+        <source>%1, maximum</source>
+        <translation>%1, Maximum</translation>
+    </message>
+</context>
+<context>
+    <name>DrawItemButton</name>
+    <message>
+        <source>Enable %1</source>
+        <translation>%1 aktivieren</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWords</name>
+    <message>
+        <source>%1 with %2 points</source>
+        <translation>%1 mit %2 Punkten</translation>
+    </message>
+    <message>
+        <source>%1, being drawn, with %2 points</source>
+        <translation>%1, wird gezeichnet, mit %2 Punkten</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn.</source>
+        <translation>Nichts ist gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Cross-hair at %1, %2.</source>
+        <translation>Fadenkreuz bei %1, %2.</translation>
     </message>
 </context>
 </TS>

@@ -348,8 +348,8 @@
         <translation>退格键：撤回最后一点</translation>
     </message>
     <message>
-        <source>Enter: finish the figure</source>
-        <translation>回车键：完成图形</translation>
+        <source>Enter: finish the figure, press the right button at the cross-hair, or let go</source>
+        <translation>回车键：完成图形，在十字线处按右键，或放开</translation>
     </message>
     <message>
         <source>Escape: take all points back, then leave the drawing</source>
@@ -390,6 +390,22 @@
     <message>
         <source>Ctrl and a press: take the whole figure</source>
         <translation>按住 Ctrl 点击：抓住整个图形</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>Shift+F10, Menu: what can be done with the entry whose button has the focus</source>
+        <translation>Shift+F10、菜单键：对焦点所在按钮的条目可执行的操作</translation>
+    </message>
+    <message>
+        <source>Up, Down: one more or less in a field for whole numbers</source>
+        <translation>上、下方向键：在整数框中加一或减一</translation>
+    </message>
+    <message>
+        <source>Space, Enter on a title: fold and unfold the section</source>
+        <translation>在标题上按空格键、回车键：折叠或展开该区域</translation>
     </message>
 </context>
 <context>
@@ -1225,6 +1241,43 @@
     <message>
         <source>%1: it is no regular file, and is not replaced</source>
         <translation>%1：不是普通文件，不会被替换</translation>
+    </message>
+</context>
+<context>
+    <name>ControlTabel</name>
+    <message>
+        <source>%1, minimum</source>
+        <translation>%1，最小值</translation>
+    </message>
+    <message>
+        <source>%1, maximum</source>
+        <translation>%1，最大值</translation>
+    </message>
+</context>
+<context>
+    <name>DrawItemButton</name>
+    <message>
+        <source>Enable %1</source>
+        <translation>启用%1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWords</name>
+    <message>
+        <source>%1 with %2 points</source>
+        <translation>%1，%2 个点</translation>
+    </message>
+    <message>
+        <source>%1, being drawn, with %2 points</source>
+        <translation>%1，正在绘制，%2 个点</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn.</source>
+        <translation>没有绘制任何图形。</translation>
+    </message>
+    <message>
+        <source>Cross-hair at %1, %2.</source>
+        <translation>十字线位于 %1, %2。</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,124 @@ private slots:
         QVERIFY(bar.value() > 0);
     }
 
+    /// Over the rows and in none of their tables, wherever the row goes.
+    void tellsARangeBesideItsRow()
+    {
+        Desk desk;
+        desk.window->resize(1000, 420);
+        QApplication::setActiveWindow(desk.window);
+        desk.load();
+        const auto* const tip = desk.find<QLabel>("rangeTip");
+        auto* const edit = desk.find("level")->findChild<QLineEdit*>();
+        const auto beside = [&] {
+            const int edge = edit->mapTo(tip->parentWidget(), QPoint()).y();
+            return tip->isVisible() &&
+                   (tip->y() == edge + edit->height() || tip->geometry().bottom() == edge - 1);
+        };
+        QVERIFY(!tip->isVisible());
+        edit->setFocus(Qt::TabFocusReason);
+        QVERIFY_BOTH(beside(), !tip->text().isEmpty());
+        QCOMPARE(tip->parentWidget(), desk.find<QScrollArea>("sceneView")->viewport());
+        QScrollBar& bar = *desk.find<QScrollArea>("sceneView")->verticalScrollBar();
+        const int scrolled = bar.value();
+        bar.setValue(scrolled - 20);
+        QVERIFY(beside());
+        bar.setValue(0);
+        QVERIFY(!tip->isVisible());
+        bar.setValue(scrolled);
+        desk.panel("rules")->setFold(true);
+        QVERIFY(beside());
+        desk.panel("global")->setFold(true);
+        QVERIFY(!tip->isVisible());
+        desk.panel("global")->setFold(false);
+        edit->setFocus();
+        desk.load();
+        QVERIFY(!tip->isVisible());
+    }
+
+    void wheelsScrollAndChangeNothing()
+    {
+        Desk desk;
+        desk.window->resize(1000, 420);
+        desk.load();
+        QScrollBar& bar = *desk.find<QScrollArea>("sceneView")->verticalScrollBar();
+        for (QWidget* over : desk.find("controls")->findChildren<QWidget*>()) {
+            bar.setValue(0);
+            over->setFocus();
+            const QPoint middle = over->rect().center();
+            QWheelEvent wheel(middle, over->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
+                              Qt::NoScrollPhase, false);
+            QSpontaneKeyEvent::setSpontaneous(&wheel);
+            qApp->notify(over, &wheel);
+            QVERIFY2(bar.value() > 0 || !over->isVisible(), over->metaObject()->className());
+        }
+        QVERIFY(!desk.find("btnUndo")->isEnabled());
+    }
+
+    /// Each step is one of the history, as typing is, and steps in one row are one.
+    void countingIsUndoneAtOnce()
+    {
+        Desk desk;
+        QApplication::setActiveWindow(desk.window);
+        desk.load();
+        auto* const edit = desk.find("level")->findChild<QLineEdit*>();
+        edit->setFocus();
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(edit, Qt::Key_Down);
+        QCOMPARE(edit->text(), QString("1"));
+        QTest::keyClick(edit, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(edit->text(), QString("4"));
+        QVERIFY(!desk.find("btnUndo")->isEnabled());
+    }
+
+    /// Until something is done in the section that the focus came to.
+    void keysWorkOnTheFigureInHand()
+    {
+        Desk desk;
+        QApplication::setActiveWindow(desk.window);
+        desk.load();
+        desk.click("redraw");
+        desk.press({100, 100});
+        auto* const edit = desk.find("level")->findChild<QLineEdit*>();
+        edit->setFocus(Qt::TabFocusReason);
+        QVERIFY(desk.panel("rules")->getSelected());
+        QTest::keyClick(edit, Qt::Key_Down);
+        QVERIFY(desk.panel("global")->getSelected());
+        desk.window->selectScene(desk.panel("rules"));
+        desk.panel("global")->findChild<QWidget*>("titleBar")->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+        QCOMPARE(desk.figure(0)->pointCount(), 0);
+    }
+
+    void picksWithoutTheCrossHair()
+    {
+        Desk desk;
+        QApplication::setActiveWindow(desk.window);
+        desk.load(rule("Gate") + ", " + rule("Yard"));
+        desk.picture()->setFocus();
+        QTest::keyClick(desk.picture(), Qt::Key_Right);
+        const auto describes = [&](const char* part) {
+            return desk.picture()->accessibleDescription().contains(part);
+        };
+        QVERIFY_BOTH(describes("Cross-hair at"), describes("Gate with 3 points"));
+        desk.panel("rules")->findChildren<DrawItemButton*>()[1]->click();
+        QVERIFY_BOTH(!describes("Cross-hair at"), describes("Yard with 3 points"));
+    }
+
+    void tellsWhyNothingIsPasted()
+    {
+        Desk desk;
+        QApplication::setActiveWindow(desk.window);
+        desk.load();
+        const QLabel& hint = *desk.find<QLabel>("lblHint");
+        QTest::keyClick(desk.picture(), Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(!hint.isVisible());
+        QTest::keyClick(desk.picture(), Qt::Key_C, Qt::ControlModifier);
+        for (int i = 0; i < 40 && !hint.isVisible(); ++i)
+            QTest::keyClick(desk.picture(), Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(hint.text().contains("as many entries"));
+    }
+
     /// Both ways, and nothing else comes of it.
     void pointsOutFiguresAndButtons()
     {

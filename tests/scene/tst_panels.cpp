@@ -56,6 +56,7 @@ public:
         m_view.show();
         QApplication::setActiveWindow(&m_view);
         wanted = std::make_unique<QSignalSpy>(scene, &BaseTabelScene::sgnTrySelectedlScene);
+        entered = std::make_unique<QSignalSpy>(scene, &BaseTabelScene::sgnEntered);
     }
     ~Panel()
     {
@@ -96,6 +97,7 @@ public:
     RuleData* data = nullptr;
     QPointer<BaseTabelScene> scene;
     std::unique_ptr<QSignalSpy> wanted; ///< requests of the panel to be the selected one
+    std::unique_ptr<QSignalSpy> entered;
 
 private:
     WidgetTabelView m_view;
@@ -294,6 +296,7 @@ const Script<Bench> kScript{
      {"isOnlyItsTitle",
       [](Bench& b, Step) { return b->scene->height() == b->find("titleBar")->height() + 2; }},
      {"wanted", [](Bench& b, Step) { return b->wanted->count(); }},
+     {"entered", [](Bench& b, Step) { return b->entered->count(); }},
      {"hasFocus", [](Bench& b, Step s) { return b->edit(s)->hasFocus(); }},
      {"tab", tab},
      {"exists",
