@@ -9,6 +9,8 @@ QT6_PACKAGES="qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools"
 # What the tests need besides: a streaming server of another make than the player, Chinese glyphs.
 TEST_PACKAGES="fonts-droid-fallback libgstrtspserver-1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     gstreamer1.0-plugins-ugly glib-networking binutils"
+# What a screen reader asks, on a display and a bus of its own.
+READER_PACKAGES="python3-pyatspi at-spi2-core dbus xvfb xauth"
 # The compiler of the fuzzers, and its sanitizers.
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
 
