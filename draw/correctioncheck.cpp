@@ -49,7 +49,7 @@ CorrectionCheck::CorrectionCheck(const FigureSurroundings& surroundings, const D
         const Figure inside = child->value();
         if (FigureMove::carries(m_original, inside))
             continue;
-        const QVector<QPoint> points = inside.points();
+        const QVector<QPoint>& points = inside.points();
         for (const QPoint& point : points) {
             if (!out->contains(onCanvas(point)))
                 m_inside.append(onCanvas(point));
