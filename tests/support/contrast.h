@@ -25,7 +25,7 @@ inline double luminance(QRgb color)
 /// 1 for the same colour to 21 for black on white.
 inline double ratio(QRgb one, QRgb other)
 {
-    const auto [dark, bright] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, bright] = std::minmax({luminance(one), luminance(other)});
     return (bright + 0.05) / (dark + 0.05);
 }
 
