@@ -161,7 +161,7 @@ QStringList readMenu(QWidget& widget)
         }
         menu->close();
     });
-    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, widget.mapToGlobal({5, 5}));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, widget.mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(&widget, &event);
     return QTest::qWaitFor([&] { return count > 2; }) ? faults : QStringList("no menu");
 }
