@@ -135,6 +135,17 @@ public:
             click(action, number);
     }
 
+    /// Whether the mouse on the picture goes to a figure that is not finished.
+    bool isDrawing() const
+    {
+        const auto all = panels();
+        return std::any_of(all.begin(), all.end(), [](const BaseTabelScene* panel) {
+            const DrawScene& canvas = *panel->getDrawScene();
+            const DrawItem* item = canvas.selectedItem(canvas.currentDataId());
+            return !panel->getSelectMode() && item && !item->isFinished();
+        });
+    }
+
     /// Whether @p action may change entries or figures now.
     bool isChangedBy(const QString& action) const
     {
@@ -202,17 +213,6 @@ private:
                 all.shown << button->dataId() << button->id();
         }
         return all;
-    }
-
-    /// Whether the mouse on the picture goes to a figure that is not finished.
-    bool isDrawing() const
-    {
-        const auto all = panels();
-        return std::any_of(all.begin(), all.end(), [](const BaseTabelScene* panel) {
-            const DrawScene& canvas = *panel->getDrawScene();
-            const DrawItem* item = canvas.selectedItem(canvas.currentDataId());
-            return !panel->getSelectMode() && item && !item->isFinished();
-        });
     }
 
     void paint()
@@ -338,9 +338,13 @@ private:
             action.chop(2);
         Window& own = m_windows[isSecond ? 1 : 0];
         const bool mayChange = own.isChangedBy(action);
+        const bool wasDrawing = own.isDrawing();
         own.act(action, number, more);
         Window::settle();
-        own.requireOrder(true, mayChange);
+        // A save that is refused for a figure that is missing starts it.
+        const bool hasStarted =
+            action == QLatin1String("btnSave") && !wasDrawing && own.isDrawing();
+        own.requireOrder(true, mayChange || hasStarted);
         m_windows[isSecond ? 0 : 1].requireOrder(false, false);
     }
 
