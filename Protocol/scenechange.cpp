@@ -34,9 +34,10 @@ std::optional<SceneChange> entryChange(const Parts& before, const SceneState& af
         if (!before.entries.contains(entry->id()))
             return SceneChange{after.inHand() ? Kind::Begun : Kind::Other, entry->id(), 0};
     }
-    const Parts left(after);
+    if (static_cast<int>(after.entries().size()) == before.entries.size())
+        return std::nullopt;
     for (auto entry = before.entries.cbegin(); entry != before.entries.cend(); ++entry) {
-        if (!left.entries.contains(entry.key()))
+        if (!after.entry(entry.key()))
             return SceneChange{Kind::Other, entry.key(), 0};
     }
     return std::nullopt;

@@ -114,8 +114,9 @@ QPoint FigureCorrector::pastBorder(const QPoint& from, const QPoint& to) const
 {
     const QSize canvas = m_scene->canvasSize();
     const auto further = [](int start, int end, int extent) {
-        const bool isAtBorder = start != end && (end <= 0 || end >= extent);
-        return !isAtBorder ? 0 : end <= 0 ? -FigureShape::kReach : FigureShape::kReach;
+        if (start == end || (end > 0 && end < extent))
+            return 0;
+        return end > 0 ? FigureShape::kReach : -FigureShape::kReach;
     };
     const QPoint way = to - from;
     if (m_corner == kWhole)

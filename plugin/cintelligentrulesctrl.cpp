@@ -974,8 +974,9 @@ void CIntelligentRulesCtrl::showSteps()
     const QString redone = tr("Redo: %1 (Ctrl+Y)").arg(steps.redoText());
     m_form->btnUndo->setToolTip(steps.canUndo() ? PlainText::toolTip(undone) : QString());
     m_form->btnRedo->setToolTip(steps.canRedo() ? PlainText::toolTip(redone) : QString());
+    const bool before = std::exchange(m_wasEdited, isEdited());
     // Not at once: it is the host's chance to act, in the middle of a click.
-    if (std::exchange(m_wasEdited, isEdited()) != m_wasEdited)
+    if (before != m_wasEdited)
         QMetaObject::invokeMethod(this, &CIntelligentRulesCtrl::sgnEditedChanged,
                                   Qt::QueuedConnection);
 }

@@ -26,7 +26,8 @@ void EditCommands::setPanel(BaseTabelScene* panel, bool mayDraw)
 
 void EditCommands::followEntry()
 {
-    if (std::exchange(m_entry, currentEntry()) != m_entry)
+    const int before = std::exchange(m_entry, currentEntry());
+    if (before != m_entry)
         m_crossHair.hide();
 }
 

@@ -9,8 +9,6 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
-#include <algorithm>
-
 using kql::Json::Value;
 
 namespace
@@ -29,16 +27,11 @@ bool isNestedDeeper(const Value& value, int levels)
 {
     if (levels == 0)
         return true;
-    if (value.isArray()) {
-        for (int i = 0; i < value.size(); ++i) {
-            if (isNestedDeeper(value[i], levels - 1))
-                return true;
-        }
-    } else if (value.isObject()) {
-        const QStringList names = value.memberNames();
-        return std::any_of(names.begin(), names.end(), [&](const QString& name) {
-            return isNestedDeeper(value[std::string_view(name.toStdString())], levels - 1);
-        });
+    if (!value.isArray() && !value.isObject())
+        return false;
+    for (int i = 0; i < value.size(); ++i) {
+        if (isNestedDeeper(value.isArray() ? value[i] : value.memberValue(i), levels - 1))
+            return true;
     }
     return false;
 }

@@ -6,7 +6,6 @@
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 #include "scene/basetabelscene.h"
-#include "scene/drawinghint.h"
 
 #include <QStringList>
 
@@ -23,8 +22,7 @@ constexpr int kFigures = 20;
 
 QString PictureWords::of(const BaseTabelScene& panel, const CrossHair& crossHair)
 {
-    const QString hint = DrawingHint::of(*panel.getDrawScene(), !panel.getSelectMode());
-    QStringList sentences{figures(panel), hint, place(panel, crossHair)};
+    QStringList sentences{figures(panel), panel.hintText(), place(panel, crossHair)};
     sentences.removeAll(QString());
     return sentences.join(QLatin1Char(' '));
 }

@@ -725,8 +725,8 @@ bool BaseTabelScene::hasCurrentEntry() const
 
 QString BaseTabelScene::hintText() const
 {
-    const bool mayCorrect = m_uiEditable && !getSelectMode();
-    return isBound() ? DrawingHint::of(*getDrawScene(), mayCorrect) : QString();
+    const bool mayDraw = isBound() && m_uiEditable && !getSelectMode();
+    return mayDraw ? DrawingHint::of(*getDrawScene()) : QString();
 }
 
 QString BaseTabelScene::actedOn() const

@@ -66,6 +66,7 @@ public:
     /// Shows an entry and the figure of one of its buttons, 0 for none, to be looked at and nothing
     /// else: none is drawn on, and what message 222 answers stays what it was.
     void lookAt(int dataId, int itemId);
+    QString hintText() const override;
     /// Whether entries have a row for their name.
     virtual bool canRename() const { return false; }
     /// Gives the row for the current entry's name the focus.
@@ -114,7 +115,6 @@ signals:
 
 protected:
     bool hasCurrentEntry() const override;
-    QString hintText() const override;
     QString actedOn() const override;
     virtual void refreshTabelDrawItem();
     virtual void refreshChildTabelDrawItem();

@@ -20,7 +20,7 @@ bool hasCorrectable(const DrawScene& canvas)
 
 } // namespace
 
-QString DrawingHint::of(const DrawScene& canvas, bool mayCorrect)
+QString DrawingHint::of(const DrawScene& canvas)
 {
     if (canvas.refusal() == DrawRefusal::Crossing)
         return tr("Refused: lines would cross.");
@@ -33,9 +33,8 @@ QString DrawingHint::of(const DrawScene& canvas, bool mayCorrect)
     if (canvas.refusal() == DrawRefusal::Needed)
         return tr("Refused: it needs all its corners.");
     if (!canvas.isDrawing())
-        return mayCorrect && hasCorrectable(canvas)
-                   ? tr("Drag corners to correct, with Ctrl the figure.")
-                   : tr("Redraw draws the figure anew.");
+        return hasCorrectable(canvas) ? tr("Drag corners to correct, with Ctrl the figure.")
+                                      : tr("Redraw draws the figure anew.");
     const BaseDraw& drawn = *canvas.selectedItem(canvas.currentDataId())->figure();
     const int needed = drawn.clicksNeeded();
     if (needed == 0)

@@ -11,7 +11,6 @@ class DrawingHint
     Q_DECLARE_TR_FUNCTIONS(DrawingHint)
 
 public:
-    /// Why the last press was refused, or what works now; with @p mayCorrect figures that are
-    /// finished can be corrected.
-    static QString of(const DrawScene& canvas, bool mayCorrect);
+    /// Why the last press was refused, or what works now, on a canvas that is drawn on.
+    static QString of(const DrawScene& canvas);
 };

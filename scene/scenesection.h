@@ -33,6 +33,8 @@ public:
     void finishEdits();
     /// Says again what works for the figure that is being drawn, and what the actions act on.
     void showHint();
+    /// What that is; empty where nothing works.
+    virtual QString hintText() const = 0;
 
 signals:
     /// The operator wants to work on this section.
@@ -48,8 +50,6 @@ protected:
 
     /// Shows what the section's contents call for, and lays it out.
     virtual void checkLayout();
-    /// What to say under the entries.
-    virtual QString hintText() const = 0;
     /// The name of what the action buttons act on; empty for nothing.
     virtual QString actedOn() const = 0;
     /// Whether there is an entry whose attributes can be shown.
