@@ -15,9 +15,15 @@ const Gdiplus::ARGB kSelectedColor = 0xFFFFD700;
 std::atomic<quint64> g_selectionRevision{0};
 std::atomic<quint64> g_lastRevision{0};
 
+// So many revisions of a figure, one for each move of its rubber band, lie between two changes.
+constexpr quint64 kMovesPerChange = 1 << 24;
+
 } // namespace
 
-BaseDraw::BaseDraw(const Figure& figure) : m_revision(++g_lastRevision), m_figure(figure) {}
+BaseDraw::BaseDraw(const Figure& figure)
+    : m_revision(++g_lastRevision * kMovesPerChange), m_figure(figure)
+{
+}
 
 bool BaseDraw::addPoint(int x, int y)
 {
@@ -35,13 +41,13 @@ bool BaseDraw::addPoint(int x, int y)
 void BaseDraw::setMovePoint(int x, int y)
 {
     const QMutexLocker lock(&m_mutex);
-    const std::optional<QPoint> end = moved(m_figure, normalizedMouse({x, y}));
-    if (!end)
+    QPoint end = normalizedMouse({x, y});
+    if (!moved(m_figure, end))
         return;
     m_movePoint = end;
     // A finished figure does not show it, and the mouse moves over those all the time.
     if (!m_figure.isFinished())
-        change();
+        changeBand();
 }
 
 void BaseDraw::draw(Gdiplus::Graphics* graphics)
@@ -221,9 +227,9 @@ QVector<QPoint> BaseDraw::clicked(const CanvasFigure& drawn, const QPoint& canva
     return {drawn.normalized(canvasPoint)};
 }
 
-std::optional<QPoint> BaseDraw::moved(const Figure&, const QPoint& mouse) const
+bool BaseDraw::moved(const Figure&, QPoint&) const
 {
-    return mouse;
+    return true;
 }
 
 QPoint BaseDraw::normalizedMouse(const QPoint& canvasPoint) const
@@ -234,5 +240,14 @@ QPoint BaseDraw::normalizedMouse(const QPoint& canvasPoint) const
 
 void BaseDraw::change()
 {
-    m_revision.store(++g_lastRevision, std::memory_order_release);
+    m_revision.store(++g_lastRevision * kMovesPerChange, std::memory_order_release);
+}
+
+void BaseDraw::changeBand()
+{
+    const quint64 next = m_revision.load(std::memory_order_relaxed) + 1;
+    if (next % kMovesPerChange == 0)
+        change();
+    else
+        m_revision.store(next, std::memory_order_release);
 }

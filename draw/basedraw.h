@@ -119,7 +119,7 @@ public:
     /// Another number after every change of what this figure paints; no two states of any figures
     /// share one, so that what was painted can be kept until then.
     quint64 revision() const { return m_revision; }
-    /// Grows with every such change of any figure.
+    /// Grows with every such change of any figure, but for moves of a rubber band.
     static quint64 lastRevision();
 
 protected:
@@ -131,9 +131,9 @@ protected:
     /// The points in normalized space that a click at @p canvasPoint adds to @p drawn, mostly
     /// that one; none when it is refused.
     virtual QVector<QPoint> clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const;
-    /// Where the rubber band of @p figure ends for a mouse at @p mouse, both in normalized
-    /// space; nothing when it stays where it is.
-    virtual std::optional<QPoint> moved(const Figure& figure, const QPoint& mouse) const;
+    /// Makes of @p end, where the mouse is, the end of the rubber band of @p figure, in normalized
+    /// space; false when the band stays where it is.
+    virtual bool moved(const Figure& figure, QPoint& end) const;
     /// Paints with at least two points shown, of which one may be the moving one.
     virtual void paint(const FigurePainter& painter, const CanvasFigure& shown) const = 0;
 
@@ -158,6 +158,9 @@ private:
     void paintShown(const FigurePainter& painter) const;
     QPoint normalizedMouse(const QPoint& canvasPoint) const;
     void change();
+    /// The rubber band alone is another one: told without what all figures share, as it is each
+    /// time that the mouse moves.
+    void changeBand();
 
     mutable QMutex m_mutex; ///< guards figure, move point and canvas size
     std::atomic<quint64> m_revision;

@@ -15,9 +15,10 @@ constexpr double kSameDegrees = 1e-9;
 
 int clampToInt(qint64 value)
 {
-    constexpr qint64 lowest = std::numeric_limits<int>::min();
-    constexpr qint64 highest = std::numeric_limits<int>::max();
-    return static_cast<int>(qBound(lowest, value, highest));
+    const int kept = static_cast<int>(value);
+    if (kept == value)
+        return kept;
+    return value < 0 ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
 }
 
 std::optional<int> truncated(float value)

@@ -7,14 +7,15 @@ QVector<QPoint> VerticalRulerDraw::clicked(const CanvasFigure& drawn,
 {
     if (drawn.points().isEmpty())
         return BaseDraw::clicked(drawn, canvasPoint);
-    const std::optional<QPoint> second = moved(drawn.figure(), drawn.normalized(canvasPoint));
-    return second ? QVector<QPoint>{*second} : QVector<QPoint>();
+    QPoint second = drawn.normalized(canvasPoint);
+    return moved(drawn.figure(), second) ? QVector<QPoint>{second} : QVector<QPoint>();
 }
 
-std::optional<QPoint> VerticalRulerDraw::moved(const Figure& figure, const QPoint& mouse) const
+bool VerticalRulerDraw::moved(const Figure& figure, QPoint& end) const
 {
     if (figure.pointCount() != 1)
-        return std::nullopt;
+        return false;
     // Taken over canvas pixels, the column would come out beside that of the first point.
-    return QPoint(figure.points().first().x(), mouse.y());
+    end.setX(figure.points().first().x());
+    return true;
 }

@@ -13,5 +13,5 @@ public:
 
 protected:
     QVector<QPoint> clicked(const CanvasFigure& drawn, const QPoint& canvasPoint) const override;
-    std::optional<QPoint> moved(const Figure& figure, const QPoint& mouse) const override;
+    bool moved(const Figure& figure, QPoint& end) const override;
 };
