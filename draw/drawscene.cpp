@@ -17,6 +17,8 @@ using Part = PaintedFigure::Part;
 namespace
 {
 
+constexpr int kLeastMessage = 12; // characters, however small the picture is
+
 const Gdiplus::ARGB kShade = 0x64000000;
 const Gdiplus::ARGB kMessageGround = 0x80000000; ///< for white to be read on snow
 const Gdiplus::ARGB kMessageColor = 0xFFFFFFFF;
@@ -468,8 +470,16 @@ void DrawScene::drawMessage(Gdiplus::Graphics& graphics) const
         return;
     const Gdiplus::Font& font = LabelFont::font();
     Gdiplus::RectF text;
-    const QString shown = ShortenedText::of(m_message, Limits::kHint);
-    graphics.MeasureString(LabelFont::wide(shown), -1, &font, Gdiplus::PointF(0, 0), &text);
+    const auto measured = [&](const QString& shown) {
+        graphics.MeasureString(LabelFont::wide(shown), -1, &font, Gdiplus::PointF(0, 0), &text);
+        return shown;
+    };
+    QString shown = measured(ShortenedText::of(m_message, Limits::kHint));
+    const float room = float(m_canvasSize.width());
+    if (text.Width > room) {
+        const int most = qMax(kLeastMessage, int(float(shown.size()) * room / text.Width));
+        shown = measured(ShortenedText::middle(m_message, most));
+    }
     text.X = std::trunc((float(m_canvasSize.width()) - text.Width) / 2);
     text.Y = std::trunc((float(m_canvasSize.height()) - text.Height) / 2);
     for (const Gdiplus::ARGB color : {kMessageGround, kShade}) {

@@ -88,6 +88,8 @@ CIntelligentRulesCtrl::CIntelligentRulesCtrl(const QString& widgetId, QWidget* p
     connect(m_form->btnCancel, &QPushButton::clicked, this, &CIntelligentRulesCtrl::sltCancel);
     connect(this, &CIntelligentRulesCtrl::sgnNotifyVideoSize, this,
             &CIntelligentRulesCtrl::sltNotifyVideoSize, Qt::QueuedConnection);
+    m_form->btnSave->setAccessibleDescription(tr("Checks everything and hands it to the device"));
+    m_form->btnCancel->setAccessibleDescription(tr("Leaves without saving"));
     m_form->lblHint->hide();
     m_form->lblNotices->hide();
     m_form->sceneView->setFocusPolicy(Qt::NoFocus); // what is in it takes the focus
@@ -241,17 +243,18 @@ void CIntelligentRulesCtrl::showParameters()
 {
     m_form->lblChnCode->setTitle(m_parameters.shownChannel);
     m_form->lblChnName->setTitle(m_parameters.channelName);
-    m_form->wgtChannelInfo->setEnabled(m_parameters.editable);
 }
 
 void CIntelligentRulesCtrl::initScenes()
 {
-    if (!readDocuments())
-        return;
-    m_form->sceneView->changeHidden([this] {
-        for (const auto& sceneData : m_parser->getAllData())
-            addPanel(*sceneData);
-    });
+    if (readDocuments()) {
+        m_form->sceneView->changeHidden([this] {
+            for (const auto& sceneData : m_parser->getAllData())
+                addPanel(*sceneData);
+        });
+    }
+    // Not before: a control that is made disabled stays a nameless one for readers of the screen.
+    m_form->wgtChannelInfo->setEnabled(m_parameters.editable);
     if (m_scenes.isEmpty())
         return;
     const LoadGuard guard(this);
@@ -275,7 +278,7 @@ void CIntelligentRulesCtrl::focusFirstScene()
     QWidget* const place =
         m_parameters.editable ? m_scenes.first() : static_cast<QWidget*>(m_playerWin);
     if (place)
-        place->setFocus();
+        place->setFocus(m_parameters.editable ? Qt::OtherFocusReason : Qt::ShortcutFocusReason);
 }
 
 /// What cannot be shown whole is not read at all: saved from here, the rest would be gone.
@@ -309,7 +312,10 @@ void CIntelligentRulesCtrl::addPanel(RuleData& sceneData)
             &CIntelligentRulesCtrl::sltTrySelectedlScene);
     connect(panel, &BaseTabelScene::sgnEntered, this, &CIntelligentRulesCtrl::sltSectionEntered);
     connect(panel, &BaseTabelScene::sgnRepaintCanvas, this, &CIntelligentRulesCtrl::sceneChanged);
-    connect(panel, &BaseTabelScene::sgnLookChanged, this, &CIntelligentRulesCtrl::repaintPicture);
+    connect(panel, &BaseTabelScene::sgnLookChanged, this, [this] {
+        describePicture();
+        repaintPicture();
+    });
     connect(panel, &BaseTabelScene::sgnRowEdited, this, &CIntelligentRulesCtrl::sltRowEdited);
     connect(panel, &BaseTabelScene::sgnMenuWanted, this, &CIntelligentRulesCtrl::sltMenuWanted);
 }
@@ -711,7 +717,9 @@ void CIntelligentRulesCtrl::showError(const QString& message)
 
 void CIntelligentRulesCtrl::showHint(const QString& text)
 {
-    m_form->lblHint->setText(ShortenedText::line(text, Limits::kLine));
+    const QString shown = ShortenedText::line(text, Limits::kLine);
+    m_form->lblHint->setText(PlainText::breakable(shown));
+    m_form->lblHint->setToolTip(PlainText::toolTip(shown));
     m_form->lblHint->setVisible(!text.isEmpty());
     if (text.isEmpty())
         return;
@@ -750,7 +758,7 @@ void CIntelligentRulesCtrl::connectEditing()
     connect(&m_editing->correcting(), &Correcting::sgnEnded, this,
             &CIntelligentRulesCtrl::sceneChanged);
     connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget*, const QWidget* now) { focusMoved(now); });
+            [this](const QWidget* old, const QWidget* now) { focusMoved(old, now); });
     connect(m_editing, &EditCommands::sgnMoved, this, [this](const QPoint& at) {
         moveAt(at, Qt::NoButton);
         describePicture();
@@ -762,14 +770,31 @@ void CIntelligentRulesCtrl::connectEditing()
     showSteps();
 }
 
-void CIntelligentRulesCtrl::focusMoved(const QWidget* now)
+void CIntelligentRulesCtrl::focusMoved(const QWidget* old, const QWidget* now)
 {
     // What is pressed must not move away under the pointer.
     const bool isPressed = QGuiApplication::mouseButtons() != Qt::NoButton;
     if (now && !isPressed && m_form->sceneView->isAncestorOf(now))
         Scrolling::showWhole(*now);
+    const LoadGuard guard(this);
     if (now != m_playerWin)
         m_editing->correcting().end();
+    // Qt gives it back with the window, while another section may have been selected since.
+    if (now && !old && !isPressed && guard.holds())
+        keepOffCovered(*now);
+}
+
+void CIntelligentRulesCtrl::keepOffCovered(const QWidget& focused)
+{
+    const auto holds = [&focused](const BaseTabelScene* scene) {
+        return scene->isAncestorOf(&focused);
+    };
+    const auto held = std::find_if(m_scenes.cbegin(), m_scenes.cend(), holds);
+    const auto selected =
+        std::find_if(m_scenes.cbegin(), m_scenes.cend(),
+                     [](const BaseTabelScene* scene) { return scene->getSelected(); });
+    if (held != m_scenes.cend() && selected != m_scenes.cend() && held != selected)
+        (*selected)->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 QList<QWidget*> CIntelligentRulesCtrl::answerButtons() const

@@ -156,7 +156,9 @@ private:
     void focusDrawing();
     /// As the mouse does it, or by keys: then a frame shows it.
     void focusPicture(bool byMouse);
-    void focusMoved(const QWidget* now);
+    void focusMoved(const QWidget* old, const QWidget* now);
+    /// Gives the focus to the selected section where @p focused is in one that is covered.
+    void keepOffCovered(const QWidget& focused);
     void sltSectionEntered();
     /// Tells readers of the screen what is on the picture.
     void describePicture();

@@ -4,6 +4,7 @@
 #include "plugin/editkeys.h"
 #include "plugin/entrytransfer.h"
 #include "scene/basetabelscene.h"
+#include "tabel/editmenu.h"
 #include "tabel/plaintext.h"
 
 namespace IntelligentRulesUI
@@ -34,8 +35,8 @@ EntryMenu::EntryMenu(const BaseTabelScene& panel, int dataId, const EntryTransfe
 void EntryMenu::add(EntryAction action, const QString& text, const QString& keys,
                     const QString& whyNot)
 {
-    QAction* const added =
-        addAction(keys.isEmpty() ? text : QStringLiteral("%1\t%2").arg(text, keys));
+    QAction* const added = addAction(
+        keys.isEmpty() ? text : QStringLiteral("%1\t%2").arg(text, EditMenu::keyName(keys)));
     added->setEnabled(whyNot.isEmpty());
     added->setToolTip(PlainText::toolTip(whyNot));
     connect(added, &QAction::triggered, this, [this, action] { emit sgnChosen(action); });

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPoint>
 
+#include <utility>
+
 namespace IntelligentRulesUI
 {
 
@@ -21,6 +23,12 @@ bool isByKeys(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
            reason == Qt::ShortcutFocusReason;
+}
+
+/// To a menu or another window, and back from there.
+bool isForAWhile(Qt::FocusReason reason)
+{
+    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
 }
 
 } // namespace
@@ -46,9 +54,10 @@ void FocusRing::follow(const QEvent& event)
     const bool isInside = m_place == Place::Inside;
     switch (event.type()) {
     case QEvent::FocusIn:
-        setShown(!isInside || isByKeys(static_cast<const QFocusEvent&>(event).reason()));
+        seeFocusIn(static_cast<const QFocusEvent&>(event).reason());
         break;
     case QEvent::FocusOut:
+        m_isBackSoon = widget() && isForAWhile(static_cast<const QFocusEvent&>(event).reason());
         setShown(false);
         break;
     case QEvent::KeyPress:
@@ -65,6 +74,13 @@ void FocusRing::follow(const QEvent& event)
     default:
         break;
     }
+}
+
+void FocusRing::seeFocusIn(Qt::FocusReason reason)
+{
+    const bool wasShown = std::exchange(m_isBackSoon, false);
+    const bool isBack = isForAWhile(reason);
+    setShown(m_place != Place::Inside || (isBack ? wasShown : isByKeys(reason)));
 }
 
 void FocusRing::setShown(bool shown)

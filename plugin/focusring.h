@@ -25,11 +25,13 @@ protected:
 
 private:
     void follow(const QEvent& event);
+    void seeFocusIn(Qt::FocusReason reason);
     void setShown(bool shown);
     void placeInside();
 
     QWidget* m_control; ///< not owned
     Place m_place;
+    bool m_isBackSoon = false; ///< it was shown when the focus went to a menu or another window
 };
 
 } // namespace IntelligentRulesUI

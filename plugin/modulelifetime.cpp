@@ -1,12 +1,14 @@
 #include "plugin/modulelifetime.h"
 
 #include "draw/labelfont.h"
+#include "host/api/wantedlocales.h"
 #include "host/gdiplus.h"
 #include "plugin/accessibility.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QTranslator>
+
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -31,8 +33,11 @@ void installTranslation()
     if (g_translator)
         return;
     auto translator = std::make_unique<QTranslator>();
-    const bool loaded = translator->load(QLocale(), QString::fromLatin1(kModuleName),
-                                         QStringLiteral("_"), QStringLiteral(":/translations"));
+    const QList<QLocale> wanted = wantedLocales();
+    const bool loaded = std::any_of(wanted.begin(), wanted.end(), [&](const QLocale& locale) {
+        return translator->load(locale, QString::fromLatin1(kModuleName), QStringLiteral("_"),
+                                QStringLiteral(":/translations"));
+    });
     if (loaded && QCoreApplication::installTranslator(translator.get()))
         g_translator = std::move(translator);
 }

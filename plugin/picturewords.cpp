@@ -22,9 +22,12 @@ constexpr int kFigures = 20;
 
 QString PictureWords::of(const BaseTabelScene& panel, const CrossHair& crossHair)
 {
-    QStringList sentences{figures(panel), panel.hintText(), place(panel, crossHair)};
-    sentences.removeAll(QString());
-    return sentences.join(QLatin1Char(' '));
+    QString told = figures(panel);
+    for (const QString& sentence : {panel.hintText(), place(panel, crossHair)}) {
+        if (!sentence.isEmpty())
+            told = tr("%1 %2", "two sentences").arg(told, sentence);
+    }
+    return told;
 }
 
 QString PictureWords::figures(const BaseTabelScene& panel)
@@ -34,12 +37,12 @@ QString PictureWords::figures(const BaseTabelScene& panel)
     QStringList told;
     for (const DrawItem* item : panel.getDrawScene()->getItemListByDataId(entry).mid(0, kFigures)) {
         const QString text =
-            item->isFinished() ? tr("%1 with %2 points") : tr("%1, being drawn, with %2 points");
-        told.append(text.arg(item->label()).arg(item->value().pointCount()));
+            item->isFinished() ? tr("%1, points: %2") : tr("%1, being drawn, points: %2");
+        told.append(text.arg(item->label(), QString::number(item->value().pointCount())));
     }
     if (told.isEmpty())
         return tr("Nothing is drawn.");
-    return told.join(QStringLiteral(", ")) + QLatin1Char('.');
+    return tr("%1.", "all figures").arg(told.join(tr("; ", "between figures")));
 }
 
 QString PictureWords::place(const BaseTabelScene& panel, const CrossHair& crossHair)

@@ -8,6 +8,7 @@ namespace
 
 constexpr double kSmallestPoints = 9;
 constexpr double kLargestPoints = 16;
+constexpr double kLargestOnButtons = 13; // more does not fit their height, which stays
 constexpr double kPixelsAtSmallest = 12;
 
 } // namespace
@@ -25,5 +26,8 @@ QString SkinFont::fitted(const QString& sheet, const QFont& desktop)
                   QStringLiteral("font-size: %1pt").arg(fittedSize, 0, 'f', 2);
         end = match.capturedEnd();
     }
-    return result + sheet.mid(end);
+    result += sheet.mid(end);
+    if (points > kLargestOnButtons)
+        result += QStringLiteral("\nQPushButton { font-size: %1pt; }").arg(kLargestOnButtons);
+    return result;
 }

@@ -112,6 +112,8 @@ void BaseTabelScene::setRuleData(RuleData* newData)
         showFirstEntry();
         setFold(false);
     }
+    // Not before its rows are made, which readers of the screen would not know otherwise.
+    widgets().controls->setEnabled(!getSelectMode());
     checkLayout();
 }
 

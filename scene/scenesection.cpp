@@ -63,7 +63,6 @@ void SceneSection::setSelectMode(bool on)
         widget->hide();
         widget->setEnabled(false);
     }
-    m_widgets.controls->setEnabled(false);
 }
 
 void SceneSection::setFold(bool folded)
@@ -147,7 +146,9 @@ void SceneSection::mousePressEvent(QMouseEvent* event)
 
 void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
 {
-    // Who heard of it before may have deleted the widget that lost the focus.
+    // Who heard of it before may have moved it on, or deleted the widget that lost it.
+    if (now != QApplication::focusWidget())
+        return;
     const QWidget* const left = m_focused == old ? m_focused.data() : nullptr;
     m_focused = now;
     if (!now || now == this)
@@ -158,8 +159,11 @@ void SceneSection::focusMoved(const QWidget* old, const QWidget* now)
         setFocus();
     if (isPushed || !isAncestorOf(now))
         return;
-    if (m_folded && now != m_widgets.titleBar)
+    if (m_folded && now != m_widgets.titleBar) {
         setFold(false);
+        if (now == QApplication::focusWidget())
+            Scrolling::showWhole(*now);
+    }
     if (!m_selected)
         emit sgnEntered();
 }

@@ -75,6 +75,7 @@ void SceneTitleBar::setTitle(const QString& title)
 {
     m_label->setTitle(title);
     setAccessibleName(title);
+    setAccessibleDescription(tr("Folds and unfolds the section"));
 }
 
 QString SceneTitleBar::title() const

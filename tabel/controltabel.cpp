@@ -6,6 +6,7 @@
 #include "tabel/titlelabel.h"
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QStyle>
 
 #include <algorithm>
@@ -58,6 +59,7 @@ void ControlTabel::setTitle(const QString& title)
         else if (!hasText(*editor))
             editor->setAccessibleName(name);
     }
+    describeEditors();
 }
 
 QString ControlTabel::key() const
@@ -163,10 +165,19 @@ void ControlTabel::showMark(bool wasMarked)
 void ControlTabel::describeEditors()
 {
     for (QWidget* editor : editors()) {
-        // Options have tool tips of their own.
-        const QString usual = isButton(*editor) ? QString() : m_tip;
-        editor->setAccessibleDescription(isMarked() ? reason() : usual);
+        editor->setAccessibleDescription(isMarked() ? reason() : usualDescription(*editor));
     }
+}
+
+QString ControlTabel::usualDescription(const QWidget& editor) const
+{
+    // Options have tool tips of their own.
+    if (isButton(editor))
+        return hasText(editor) ? QString() : tr("On or off");
+    const auto* const edit = qobject_cast<const QLineEdit*>(&editor);
+    if (!m_tip.isEmpty() || !edit)
+        return m_tip;
+    return tr("Up to %1 characters").arg(edit->maxLength());
 }
 
 QList<QWidget*> ControlTabel::editors() const

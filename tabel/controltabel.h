@@ -92,6 +92,7 @@ private:
     void fitCaption();
     /// Tells readers of the screen what the row's tool tip says.
     void describeEditors();
+    QString usualDescription(const QWidget& editor) const;
     /// What can have the focus.
     QList<QWidget*> editors() const;
 

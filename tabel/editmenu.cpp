@@ -12,12 +12,16 @@ void EditMenu::translate(const QMenu& menu)
     const QList<QAction*> actions = menu.actions();
     for (QAction* action : actions) {
         const QString text = action->text().section(QLatin1Char('\t'), 0, 0);
-        QString keys = action->text().mid(text.size());
-        keys.replace(QLatin1String("Ctrl"), tr("Ctrl"))
-            .replace(QLatin1String("Shift"), tr("Shift"));
+        const QString keys = keyName(action->text().mid(text.size()));
         for (const char* const known : kTexts) {
             if (text == QCoreApplication::translate("QLineEdit", known))
                 action->setText(tr(known) + keys);
         }
     }
+}
+
+QString EditMenu::keyName(QString keys)
+{
+    return keys.replace(QLatin1String("Ctrl"), tr("Ctrl"))
+        .replace(QLatin1String("Shift"), tr("Shift"));
 }

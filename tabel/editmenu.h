@@ -15,4 +15,6 @@ public:
 
     /// Translates what @p menu, which QLineEdit made, has of Qt's texts, its keys included.
     static void translate(const QMenu& menu);
+    /// Keys, as QKeySequence writes them everywhere, as they are written on keyboards.
+    static QString keyName(QString keys);
 };

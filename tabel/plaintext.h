@@ -13,6 +13,9 @@ QString line(const QString& text);
 /// For tool tips: no part of @p text is taken for rich text.
 QString toolTip(const QString& text);
 
+/// For labels of several lines: words too long for one can be broken.
+QString breakable(const QString& text);
+
 /// For buttons, as line(): "&" stays a character and makes no shortcut.
 QString button(const QString& text);
 

@@ -63,11 +63,11 @@
     </message>
     <message>
         <source>verticalLine</source>
-        <translation>Senkrechte Latte</translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>horizontalLine</source>
-        <translation>Waagerechte Latte</translation>
+        <translation>Quer</translation>
     </message>
     <message>
         <source>vertical</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Wieder&amp;herstellen</translation>
+        <translation>Wieder&amp;holen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -248,7 +248,7 @@
     <name>FightCalibrateTemplate</name>
     <message>
         <source>Fight configuration</source>
-        <translation>Konfiguration der Schlägereierkennung</translation>
+        <translation>Schlägereierkennung</translation>
     </message>
     <message>
         <source>Calibrate area</source>
@@ -256,7 +256,7 @@
     </message>
     <message>
         <source>Calibrate rect</source>
-        <translation>Kalibrierrechteck</translation>
+        <translation>Feld</translation>
     </message>
 </context>
 <context>
@@ -406,6 +406,14 @@
     <message>
         <source>Space, Enter on a title: fold and unfold the section</source>
         <translation>Leertaste, Eingabe auf einem Titel: Abschnitt ein- und ausklappen</translation>
+    </message>
+    <message>
+        <source>Checks everything and hands it to the device</source>
+        <translation>Prüft alles und übergibt es dem Gerät</translation>
+    </message>
+    <message>
+        <source>Leaves without saving</source>
+        <translation>Verlässt die Seite ohne zu speichern</translation>
     </message>
 </context>
 <context>
@@ -762,7 +770,7 @@
     </message>
     <message>
         <source>Save snapshot</source>
-        <translation>Schnappschuss speichern</translation>
+        <translation>Bild speichern</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.bmp)</source>
@@ -1253,6 +1261,14 @@
         <source>%1, maximum</source>
         <translation>%1, Maximum</translation>
     </message>
+    <message>
+        <source>On or off</source>
+        <translation>Zum Ein- und Ausschalten</translation>
+    </message>
+    <message>
+        <source>Up to %1 characters</source>
+        <translation>Höchstens %1 Zeichen</translation>
+    </message>
 </context>
 <context>
     <name>DrawItemButton</name>
@@ -1264,20 +1280,42 @@
 <context>
     <name>PictureWords</name>
     <message>
-        <source>%1 with %2 points</source>
-        <translation>%1 mit %2 Punkten</translation>
-    </message>
-    <message>
-        <source>%1, being drawn, with %2 points</source>
-        <translation>%1, wird gezeichnet, mit %2 Punkten</translation>
-    </message>
-    <message>
         <source>Nothing is drawn.</source>
         <translation>Nichts ist gezeichnet.</translation>
     </message>
     <message>
         <source>Cross-hair at %1, %2.</source>
         <translation>Fadenkreuz bei %1, %2.</translation>
+    </message>
+    <message>
+        <source>%1, points: %2</source>
+        <translation>%1, Punkte: %2</translation>
+    </message>
+    <message>
+        <source>%1, being drawn, points: %2</source>
+        <translation>%1, wird gezeichnet, Punkte: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between figures</comment>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>all figures</comment>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>SceneTitleBar</name>
+    <message>
+        <source>Folds and unfolds the section</source>
+        <translation>Klappt den Abschnitt auf und zu</translation>
     </message>
 </context>
 </TS>

@@ -63,11 +63,11 @@
     </message>
     <message>
         <source>verticalLine</source>
-        <translation>垂直线</translation>
+        <translation>垂直标尺</translation>
     </message>
     <message>
         <source>horizontalLine</source>
-        <translation>水平线</translation>
+        <translation>水平标尺</translation>
     </message>
     <message>
         <source>vertical</source>
@@ -120,15 +120,15 @@
     </message>
     <message>
         <source>Refused: lines would cross.</source>
-        <translation>无法添加：线段会相交。</translation>
+        <translation>已拒绝：线段会相交。</translation>
     </message>
     <message>
         <source>Refused: outside its area.</source>
-        <translation>无法添加：超出所属区域。</translation>
+        <translation>已拒绝：超出所属区域。</translation>
     </message>
     <message>
         <source>Refused: the place is taken.</source>
-        <translation>无法添加：该处已被占用。</translation>
+        <translation>已拒绝：该处已被占用。</translation>
     </message>
     <message>
         <source>Right click or Enter finishes.</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>Enter: finish the figure, press the right button at the cross-hair, or let go</source>
-        <translation>回车键：完成图形，在十字线处按右键，或放开</translation>
+        <translation>回车键：完成图形，在十字光标处单击右键，或放开</translation>
     </message>
     <message>
         <source>Escape: take all points back, then leave the drawing</source>
@@ -405,7 +405,15 @@
     </message>
     <message>
         <source>Space, Enter on a title: fold and unfold the section</source>
-        <translation>在标题上按空格键、回车键：折叠或展开该区域</translation>
+        <translation>在标题上按空格键、回车键：折叠或展开该分区</translation>
+    </message>
+    <message>
+        <source>Checks everything and hands it to the device</source>
+        <translation>检查全部内容并提交给设备</translation>
+    </message>
+    <message>
+        <source>Leaves without saving</source>
+        <translation>不保存并离开</translation>
     </message>
 </context>
 <context>
@@ -461,7 +469,7 @@
     </message>
     <message>
         <source>Correct %1</source>
-        <translation>修正 %1</translation>
+        <translation>修正%1</translation>
     </message>
     <message>
         <source>Delete %1</source>
@@ -871,23 +879,23 @@
     </message>
     <message>
         <source>The template has no &quot;configTemplate&quot; to write into.</source>
-        <translation>模板中缺少用于写入的&quot;configTemplate&quot;。</translation>
+        <translation>模板中缺少用于写入的“configTemplate”。</translation>
     </message>
     <message>
         <source>The template has no place &quot;%1&quot; for what is set under &quot;%2&quot;.</source>
-        <translation>模板中没有位置&quot;%1&quot;来写入&quot;%2&quot;的设置。</translation>
+        <translation>模板中没有位置“%1”来写入“%2”的设置。</translation>
     </message>
     <message>
         <source>The template has more than %1 attributes or %2 choices in one section.</source>
-        <translation>模板的一个部分中的属性超过 %1 个或选项超过 %2 个。</translation>
+        <translation>模板的一个分区中的属性超过 %1 个或选项超过 %2 个。</translation>
     </message>
     <message>
         <source>The configuration has %1 entries under &quot;%2&quot;; at most %3 can be edited.</source>
-        <translation>配置在&quot;%2&quot;下有 %1 个条目；最多可编辑 %3 个。</translation>
+        <translation>配置在“%2”下有 %1 个条目；最多可编辑 %3 个。</translation>
     </message>
     <message>
         <source>The attributes read too much of what the configuration has under &quot;%1&quot;.</source>
-        <translation>属性从配置的&quot;%1&quot;下读取的内容过多。</translation>
+        <translation>属性从配置的“%1”下读取的内容过多。</translation>
     </message>
 </context>
 <context>
@@ -936,7 +944,7 @@
     </message>
     <message>
         <source>%1 is not saved: the template has no place &quot;%2&quot; for it.</source>
-        <translation>%1不会保存：模板中没有位置&quot;%2&quot;。</translation>
+        <translation>%1不会保存：模板中没有位置“%2”。</translation>
     </message>
     <message>
         <source>%1 is not saved: it has no type that a row can have.</source>
@@ -944,7 +952,7 @@
     </message>
     <message>
         <source>%1 is not saved: the template has something else in its place &quot;%2&quot;.</source>
-        <translation>%1不会保存：模板中位置&quot;%2&quot;是其他内容。</translation>
+        <translation>%1不会保存：模板中位置“%2”是其他内容。</translation>
     </message>
     <message>
         <source>What is no entry under %1 is not saved.</source>
@@ -975,7 +983,7 @@
     </message>
     <message>
         <source>Redraw %1</source>
-        <translation>重新绘制%1</translation>
+        <translation>重绘%1</translation>
     </message>
     <message>
         <source>Delete %1</source>
@@ -1179,7 +1187,7 @@
     </message>
     <message>
         <source>Hold the picture still</source>
-        <translation>使画面静止</translation>
+        <translation>冻结画面</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -1253,6 +1261,14 @@
         <source>%1, maximum</source>
         <translation>%1，最大值</translation>
     </message>
+    <message>
+        <source>On or off</source>
+        <translation>打开或关闭</translation>
+    </message>
+    <message>
+        <source>Up to %1 characters</source>
+        <translation>最多 %1 个字符</translation>
+    </message>
 </context>
 <context>
     <name>DrawItemButton</name>
@@ -1264,20 +1280,42 @@
 <context>
     <name>PictureWords</name>
     <message>
-        <source>%1 with %2 points</source>
-        <translation>%1，%2 个点</translation>
-    </message>
-    <message>
-        <source>%1, being drawn, with %2 points</source>
-        <translation>%1，正在绘制，%2 个点</translation>
-    </message>
-    <message>
         <source>Nothing is drawn.</source>
         <translation>没有绘制任何图形。</translation>
     </message>
     <message>
         <source>Cross-hair at %1, %2.</source>
-        <translation>十字线位于 %1, %2。</translation>
+        <translation>十字光标位于 %1，%2。</translation>
+    </message>
+    <message>
+        <source>%1, points: %2</source>
+        <translation>%1，点数：%2</translation>
+    </message>
+    <message>
+        <source>%1, being drawn, points: %2</source>
+        <translation>%1，正在绘制，点数：%2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between figures</comment>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>all figures</comment>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+</context>
+<context>
+    <name>SceneTitleBar</name>
+    <message>
+        <source>Folds and unfolds the section</source>
+        <translation>折叠或展开该分区</translation>
     </message>
 </context>
 </TS>

@@ -428,7 +428,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Wieder&amp;herstellen</translation>
+        <translation>Wieder&amp;holen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -644,7 +644,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Wieder&amp;herstellen</translation>
+        <translation>Wieder&amp;holen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>

@@ -217,7 +217,7 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     </message>
     <message>
         <source>Open an e&amp;xample</source>
-        <translation>&amp;Beispiel öffnen</translation>
+        <translation>Be&amp;ispiel öffnen</translation>
     </message>
     <message>
         <source>Recent &amp;documents</source>
@@ -743,7 +743,7 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     </message>
     <message>
         <source>Save &amp;result as...</source>
-        <translation>&amp;Ergebnis speichern unter...</translation>
+        <translation>Er&amp;gebnis speichern unter...</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
@@ -811,7 +811,7 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     </message>
     <message>
         <source>St&amp;op the picture</source>
-        <translation>Bild an&amp;halten</translation>
+        <translation>Bild &amp;abschalten</translation>
     </message>
     <message>
         <source>S&amp;ave</source>

@@ -1,9 +1,13 @@
 #include "workbench/language.h"
 
+#include "host/api/wantedlocales.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+
+#include <algorithm>
 
 // Resources of a static library are registered by name, from outside any namespace.
 static void initResources()
@@ -47,7 +51,10 @@ Language::~Language() = default;
 void Language::install(const QString& stem, const QString& folder)
 {
     auto translator = std::make_unique<QTranslator>();
-    const bool isLoaded = translator->load(QLocale(), stem, QStringLiteral("_"), folder);
+    const QList<QLocale> wanted = wantedLocales();
+    const bool isLoaded = std::any_of(wanted.begin(), wanted.end(), [&](const QLocale& locale) {
+        return translator->load(locale, stem, QStringLiteral("_"), folder);
+    });
     if (isLoaded && QCoreApplication::installTranslator(translator.get()))
         m_translators.push_back(std::move(translator));
 }

@@ -98,14 +98,17 @@ void TimeTravel::forgetFrom(int index)
     m_reached.erase(m_reached.lower_bound(index), m_reached.end());
 }
 
-/// A full stack drops its first steps for new ones.
+/// A full stack drops its first steps for new ones. In one that was not full, a step at the address
+/// of an earlier one is another step.
 void TimeTravel::forgetDropped(const QUndoStack& stack)
 {
     std::vector<const QUndoCommand*> steps;
     for (int i = 0; i < stack.count(); ++i)
         steps.push_back(stack.command(i));
-    const auto first =
-        steps.empty() ? m_steps.begin() : std::find(m_steps.begin(), m_steps.end(), steps.front());
+    const bool wasFull = static_cast<int>(m_steps.size()) >= stack.undoLimit();
+    const auto end = wasFull || m_steps.empty() ? m_steps.end() : m_steps.begin() + 1;
+    auto first = steps.empty() ? m_steps.begin() : std::find(m_steps.begin(), end, steps.front());
+    first = first == end ? m_steps.end() : first;
     if (first == m_steps.end())
         forgetFrom(0);
     const auto dropped = first == m_steps.end() ? 0 : static_cast<int>(first - m_steps.begin());

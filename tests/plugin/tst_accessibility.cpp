@@ -1,6 +1,7 @@
 #include "fuzz/onepicture.h"
 #include "host/video/channelsources.h"
 #include "plugin/modulelifetime.h"
+#include "scene/basetabelscene.h"
 #include "tabel/drawitembutton.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/rulestest.h"
@@ -145,8 +146,12 @@ private slots:
         // On its title bar.
         QVERIFY(desk.telling(first) >= first.width() + desk.find("titleBar")->height());
         desk.find("btnCancel")->setFocus(Qt::TabFocusReason);
-        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        for (const auto& [key, isFolded] :
+             {std::pair(Qt::Key_Tab, false), std::pair(Qt::Key_Backtab, false),
+              std::pair(Qt::Key_Backtab, true)}) {
             int stops = 0;
+            for (BaseTabelScene* panel : desk.window->findChildren<BaseTabelScene*>())
+                panel->setFold(isFolded);
             desk.goAround(key, [&](const QWidget& stop) {
                 QVERIFY2(stop.visibleRegion().boundingRect() == stop.rect(),
                          qPrintable(nameOf(stop)));

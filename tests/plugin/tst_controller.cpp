@@ -308,6 +308,22 @@ private slots:
         QCOMPARE(desk.figure(0)->pointCount(), 0);
     }
 
+    void staysInItsSectionBesideAnotherWindow()
+    {
+        Desk desk;
+        QApplication::setActiveWindow(desk.window);
+        desk.load(rule("Gate"));
+        auto* const edit = desk.find("level")->findChild<QLineEdit*>();
+        edit->setFocus(Qt::TabFocusReason);
+        QVERIFY(desk.panel("global")->getSelected());
+        QWidget other;
+        other.show();
+        QApplication::setActiveWindow(&other);
+        desk.window->selectScene(desk.panel("rules"));
+        QApplication::setActiveWindow(desk.window);
+        QVERIFY_BOTH(desk.panel("rules")->getSelected(), QApplication::focusWidget() != edit);
+    }
+
     void picksWithoutTheCrossHair()
     {
         Desk desk;
@@ -318,9 +334,9 @@ private slots:
         const auto describes = [&](const char* part) {
             return desk.picture()->accessibleDescription().contains(part);
         };
-        QVERIFY_BOTH(describes("Cross-hair at"), describes("Gate with 3 points"));
+        QVERIFY_BOTH(describes("Cross-hair at"), describes("Gate, points: 3"));
         desk.panel("rules")->findChildren<DrawItemButton*>()[1]->click();
-        QVERIFY_BOTH(!describes("Cross-hair at"), describes("Yard with 3 points"));
+        QVERIFY_BOTH(!describes("Cross-hair at"), describes("Yard, points: 3"));
     }
 
     void tellsWhyNothingIsPasted()
