@@ -1,17 +1,21 @@
 #include "Protocol/entryid.h"
 
+#include <atomic>
 #include <limits>
 
 namespace
 {
 
-int g_nId = 0; ///< last id given out
+std::atomic<int> g_nId{0}; ///< last id given out
 
 } // namespace
 
 int EntryId::next()
 {
-    return g_nId = after(g_nId);
+    int last = g_nId;
+    while (!g_nId.compare_exchange_weak(last, after(last))) {
+    }
+    return after(last);
 }
 
 int EntryId::after(int last)

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The ids of entries: counted from 1, and never given out twice in a process.
+/// The ids of entries: counted from 1, and never given out twice in a process,
+/// whatever the thread.
 namespace EntryId
 {
 

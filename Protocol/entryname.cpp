@@ -6,6 +6,7 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -67,6 +68,39 @@ QString EntryName::unused(const RuleData& data, const QString& wanted)
     for (int number = data.getDataCount() + 1; taken.contains(name); ++number)
         name = RuleData::tr("Rule") + QString::number(number);
     return name;
+}
+
+std::optional<CheckFault> EntryName::duplicate(const RuleData& data)
+{
+    if (data.getSceneType() != SceneType::Rules)
+        return std::nullopt;
+    QSet<QString> names;
+    for (int i = 0; i < data.getDataCount(); ++i) {
+        if (!isText(data, i))
+            continue;
+        const QString name = written(data, i);
+        if (names.contains(name))
+            return CheckFault{QCoreApplication::translate("IntelligentRulesUI::SaveCheck",
+                                                          "Duplicate rule name exists"),
+                              data.getAllData()[static_cast<std::size_t>(i)]->id(),
+                              QString::fromLatin1(kRow),
+                              {},
+                              0};
+        names.insert(name);
+    }
+    return std::nullopt;
+}
+
+void EntryName::nameAll(const RuleData& data)
+{
+    for (const auto& entry : data.getAllData())
+        nameEntry(data, *entry);
+}
+
+void EntryName::nameEntry(const RuleData& data, RuleDataInfo& entry)
+{
+    if (data.getSceneType() == SceneType::Rules && entry.name().isEmpty() && !entry.nameAsRead())
+        entry.setName(button(data, data.indexOf(entry.id())));
 }
 
 bool EntryName::areKept(const RuleData& data)

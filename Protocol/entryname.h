@@ -1,8 +1,12 @@
 #pragma once
 
+#include "Protocol/checkfault.h"
+
 #include <QString>
+#include <optional>
 
 class RuleData;
+class RuleDataInfo;
 class RuleProtocolItem;
 
 /// Texts that name entries and their figures, in one place for buttons, labels and documents.
@@ -20,6 +24,15 @@ bool isText(const RuleData& data, int position);
 /// place.
 QString unused(const RuleData& data, const QString& wanted);
 
+/// The first rule that has the name of one before it, as a fault of its name's row; nothing where
+/// all differ, and for other scenes.
+std::optional<CheckFault> duplicate(const RuleData& data);
+
+/// Gives entries without a name the one that picking them does, of rules alone.
+void nameAll(const RuleData& data);
+/// The same of one.
+void nameEntry(const RuleData& data, RuleDataInfo& entry);
+
 /// Whether the entries of @p data have names at all, as rules have.
 bool areKept(const RuleData& data);
 
@@ -27,6 +40,9 @@ bool areKept(const RuleData& data);
 /// aside, with a number behind it, from 2 or on from the one that it ends in. It is cut before
 /// the number to be no longer than kMaxLength.
 QString ofCopy(const RuleData& data, const QString& wanted);
+
+/// What faults call the row for it, which stands for no attribute.
+constexpr char kRow[] = "ruleName";
 
 /// Of a name, in characters, as an operator can type it.
 constexpr int kMaxLength = 20;

@@ -122,6 +122,16 @@ void RuleData::setEntries(Entries entries)
     m_entries = std::move(entries);
 }
 
+void RuleData::forgetEntries()
+{
+    m_drawScene->clear();
+    m_entries.clear();
+    m_saveNotices = {};
+    m_namesKeptAside.clear();
+    m_textLeft = std::numeric_limits<qint64>::max();
+    setSelectedDataId(0);
+}
+
 void RuleData::removeDataInfo(int id)
 {
     const int position = indexOf(id);

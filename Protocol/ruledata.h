@@ -69,6 +69,8 @@ public:
     int getDataCount() const { return static_cast<int>(m_entries.size()); }
     const Entries& getAllData() const { return m_entries; }
     void setEntries(Entries entries);
+    /// Becomes as it was before anything was read: template and words stay.
+    void forgetEntries();
     /// Removes an entry. The selected id stays even when it was this entry's, so that callers
     /// select anew; it is reset only when no such entry exists.
     void removeDataInfo(int id);

@@ -100,6 +100,7 @@ bool RuleParser::parseTemplate(const QString& text)
 bool RuleParser::parseTemplate(Value document, QString& why)
 {
     m_data.clear();
+    m_hasAllPlaces.reset();
     m_templateDocument = Value();
     m_configuration = Value();
     m_notices.clear();
@@ -163,6 +164,14 @@ bool RuleParser::readData(Value document, QString& why)
     return true;
 }
 
+void RuleParser::forgetData()
+{
+    for (const auto& scene : m_data)
+        scene->forgetEntries();
+    m_configuration = Value();
+    m_notices.clear();
+}
+
 /// A document without a skeleton is not saved at all, which Save says.
 void RuleParser::findLosses()
 {
@@ -215,12 +224,52 @@ bool RuleParser::isReadWhole(QString& why) const
 
 bool RuleParser::writeData(Value& config, QString& why) const
 {
+    const auto refusal = write(config);
+    if (refusal)
+        why = refusal->why;
+    return !refusal;
+}
+
+std::optional<RuleParser::WriteRefusal> RuleParser::writeRefusal() const
+{
+    if (hasAllPlaces())
+        return std::nullopt;
+    Value written;
+    return write(written);
+}
+
+/// Whether each section has a place of its own, outside of all others: whatever the entries are,
+/// they can be written then.
+bool RuleParser::hasAllPlaces() const
+{
+    if (m_hasAllPlaces)
+        return *m_hasAllPlaces;
+    Value places = m_templateDocument["configTemplate"];
+    QStringList parents;
+    bool hasAll = m_templateDocument.isMember("configTemplate");
+    for (const auto& scene : m_data) {
+        for (const TemplateSection& section : scene->getTemplate()->sections()) {
+            const JsonPath parent(section.parent);
+            const QString path = section.parent + QLatin1Char('.');
+            const bool isApart =
+                std::none_of(parents.cbegin(), parents.cend(), [&path](const QString& other) {
+                    return path.startsWith(other) || other.startsWith(path);
+                });
+            hasAll = hasAll && isApart && !section.parent.isEmpty() &&
+                     !section.parent.contains(QLatin1Char('[')) && parent.create(places);
+            parents.append(path);
+        }
+    }
+    m_hasAllPlaces = hasAll;
+    return hasAll;
+}
+
+std::optional<RuleParser::WriteRefusal> RuleParser::write(Value& config) const
+{
     const Value& document = m_templateDocument;
     const Value* const skeleton = document.find("configTemplate");
-    if (!skeleton) {
-        why = tr("The template has no \"configTemplate\" to write into.");
-        return false;
-    }
+    if (!skeleton)
+        return WriteRefusal{{}, tr("The template has no \"configTemplate\" to write into.")};
     Value written = *skeleton;
     const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
     std::vector<const RuleData*> scenes;
@@ -228,24 +277,24 @@ bool RuleParser::writeData(Value& config, QString& why) const
         scenes.push_back(scene.get());
     std::stable_sort(scenes.begin(), scenes.end(), &isWrittenBefore);
     for (const RuleData* scene : scenes) {
-        if (!writeScene(*scene, context, written, why))
-            return false;
+        if (auto refusal = writeScene(*scene, context, written))
+            return refusal;
     }
     config = std::move(written);
-    return true;
+    return std::nullopt;
 }
 
-bool RuleParser::writeScene(const RuleData& scene, const WriteContext& context, Value& document,
-                            QString& why)
+std::optional<RuleParser::WriteRefusal>
+RuleParser::writeScene(const RuleData& scene, const WriteContext& context, Value& document)
 {
     for (const TemplateSection& section : scene.getTemplate()->sections()) {
         if (sceneProtocol(scene.getSceneType()).write(scene, section, context, document))
             continue;
-        why = tr("The template has no place \"%1\" for what is set under \"%2\".")
-                  .arg(section.parent, section.name);
-        return false;
+        return WriteRefusal{section.name,
+                            tr("The template has no place \"%1\" for what is set under \"%2\".")
+                                .arg(section.parent, section.name)};
     }
-    return true;
+    return std::nullopt;
 }
 
 bool RuleParser::writeData(Value& config) const

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class RuleData;
@@ -53,12 +54,23 @@ public:
     bool readData(const QString& text);
     /// As above, of the parsed text.
     bool readData(kql::Json::Value document, QString& why);
+    /// Lets go of what was read, so that the same template takes another configuration.
+    void forgetData();
     /// The configuration with the edited data; false when the template carries no
     /// "configTemplate" to write into, or that has no place for the entries of a scene. @p why
     /// then says so in a sentence; @p config stays as it is.
     bool writeData(kql::Json::Value& config, QString& why) const;
     bool writeData(kql::Json::Value& config) const;
     bool writeData(QString& text) const;
+
+    /// Why nothing can be written.
+    struct WriteRefusal {
+        QString section; ///< of the template; empty where it is about all of them
+        QString why;     ///< a sentence
+    };
+    /// What writeData() would say now, found without writing where the template has undoubted
+    /// places for all; nothing when it would write.
+    std::optional<WriteRefusal> writeRefusal() const;
 
     /// Compares what was read with one trial write of it, for notices() and for what rows mark. To
     /// be asked once, after a configuration was read and before anything is edited or shown.
@@ -80,13 +92,16 @@ private:
     /// Takes the text of @p count entries off @p textLeft.
     bool hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const;
     bool isReadWhole(QString& why) const;
-    static bool writeScene(const RuleData& scene, const WriteContext& context,
-                           kql::Json::Value& document, QString& why);
+    std::optional<WriteRefusal> write(kql::Json::Value& config) const;
+    static std::optional<WriteRefusal>
+    writeScene(const RuleData& scene, const WriteContext& context, kql::Json::Value& document);
+    bool hasAllPlaces() const;
 
     kql::Json::Value m_templateDocument;
     kql::Json::Value m_configuration; ///< as read: what no template names is kept from here
     int m_algorithmId = 0;
     QString m_algorithmName;
     std::vector<std::unique_ptr<RuleData>> m_data;
-    QStringList m_notices; ///< about what lies outside of all scenes
+    QStringList m_notices;                      ///< about what lies outside of all scenes
+    mutable std::optional<bool> m_hasAllPlaces; ///< looked up when needed
 };

@@ -4,10 +4,8 @@
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "scene/basetabelscene.h"
-#include "scene/rulescene.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace IntelligentRulesUI
@@ -15,20 +13,6 @@ namespace IntelligentRulesUI
 
 namespace
 {
-
-using Names = std::set<QString>;
-
-/// Adds the names of the rules up to one that has another one's, and returns its id; 0 for none.
-int collectNames(const RuleData& rules, Names& names)
-{
-    if (rules.getSceneType() != SceneType::Rules)
-        return 0;
-    for (int i = 0; i < rules.getDataCount(); ++i) {
-        if (EntryName::isText(rules, i) && !names.insert(EntryName::written(rules, i)).second)
-            return rules.getAllData()[static_cast<std::size_t>(i)]->id();
-    }
-    return 0;
-}
 
 /// Whether an entry before it has the name of @p dataId.
 bool hasNameOfAnother(const RuleData& rules, int dataId)
@@ -46,14 +30,13 @@ bool hasNameOfAnother(const RuleData& rules, int dataId)
 
 bool isOfName(const CheckFault& fault)
 {
-    return fault.key == QLatin1String(RuleScene::kNameRow);
+    return fault.key == QLatin1String(EntryName::kRow);
 }
 
 } // namespace
 
 std::optional<SaveCheck::Refusal> SaveCheck::refusal(const QList<BaseTabelScene*>& panels)
 {
-    Names names;
     for (BaseTabelScene* panel : panels) {
         const RuleData& data = *panel->ruleData();
         QString message;
@@ -62,14 +45,8 @@ std::optional<SaveCheck::Refusal> SaveCheck::refusal(const QList<BaseTabelScene*
             fault.message = message;
             return Refusal{panel, fault};
         }
-        if (const int dataId = collectNames(data, names)) {
-            return Refusal{panel,
-                           {tr("Duplicate rule name exists"),
-                            dataId,
-                            QString::fromLatin1(RuleScene::kNameRow),
-                            {},
-                            0}};
-        }
+        if (const auto fault = EntryName::duplicate(data))
+            return Refusal{panel, *fault};
     }
     return std::nullopt;
 }

@@ -8,6 +8,7 @@
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/sceneopening.h"
 #include "Protocol/sceneprotocol.h"
 #include "Protocol/sceneprotocols.h"
 #include "Protocol/scenestate.h"
@@ -98,6 +99,8 @@ void BaseTabelScene::connectWidgets()
 void BaseTabelScene::setRuleData(RuleData* newData)
 {
     const LayoutPause pause(this);
+    if (newData)
+        SceneOpening::complete(*newData);
     release();
     m_data = newData;
     if (isBound()) {
@@ -107,8 +110,7 @@ void BaseTabelScene::setRuleData(RuleData* newData)
         bindRows();
         connect(getDrawScene(), &DrawScene::sgnSelectedStatusChange, this,
                 &BaseTabelScene::sltDrawItemSelected);
-        for (const auto& entry : m_data->getAllData())
-            LineDirections::apply(*m_data, *entry);
+        SceneOpening::turnLines(*m_data);
         showFirstEntry();
         setFold(false);
     }
@@ -190,9 +192,7 @@ DrawFucButton* BaseTabelScene::addFucButton(RuleWidgetTabel* bar, BaseDrawType t
 void BaseTabelScene::showFirstEntry()
 {
     const QScopedValueRollback<bool> guard(m_nothingFollows, true);
-    const auto& entries = m_data->getAllData();
-    const int first = entries.empty() ? 0 : entries.front()->id();
-    m_data->setSelectedDataId(first);
+    const int first = SceneOpening::showFirst(*m_data);
     refreshTabelDrawItem();
     showEntry(first);
 }
@@ -216,8 +216,7 @@ void BaseTabelScene::restore(const SceneState& state, int dataId)
     const int shownBefore = m_data->getSelectedDataId();
     const QVariant direction = m_direction.chosen();
     const bool changesFigures = state.restore(*m_data);
-    for (const auto& entry : m_data->getAllData())
-        LineDirections::apply(*m_data, *entry);
+    SceneOpening::turnLines(*m_data);
     const int shown = state.entry(dataId) ? dataId : state.selectedDataId();
     m_data->setSelectedDataId(shown);
     refreshTabelDrawItem();

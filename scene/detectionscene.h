@@ -10,8 +10,6 @@ class DetectionScene : public BaseTabelScene
 public:
     explicit DetectionScene(QWidget* parent = nullptr);
 
-    void setRuleData(RuleData* newData) override;
-
 protected:
     QString heading() const override;
 };

@@ -1,17 +1,6 @@
 #include "scene/globalscene.h"
 
-#include "Protocol/ruledata.h"
-#include "Protocol/ruledatainfo.h"
-#include "Protocol/ruleprotocolitem.h"
-
-void GlobalScene::setRuleData(RuleData* newData)
-{
-    if (newData && newData->getDataCount() == 0) {
-        if (auto entry = newData->newDataInfo())
-            newData->addDataInfo(std::move(entry));
-    }
-    BaseTabelScene::setRuleData(newData);
-}
+#include "Protocol/unseenrows.h"
 
 QString GlobalScene::heading() const
 {
@@ -20,5 +9,5 @@ QString GlobalScene::heading() const
 
 bool GlobalScene::wantsRow(const RuleProtocolItem& item) const
 {
-    return item.isEnabled();
+    return UnseenRows::isShown(*ruleData(), item);
 }

@@ -10,8 +10,6 @@ class GlobalScene : public BaseTabelScene
 public:
     using BaseTabelScene::BaseTabelScene;
 
-    void setRuleData(RuleData* newData) override;
-
 protected:
     QString heading() const override;
     bool wantsRow(const RuleProtocolItem& item) const override;

@@ -52,7 +52,7 @@ QString RuleScene::heading() const
 void RuleScene::bindFixedRows()
 {
     m_nameRow = new InputBoxTabel(widgets().controls);
-    m_nameRow->setObjectName(QString::fromLatin1(kNameRow));
+    m_nameRow->setObjectName(QString::fromLatin1(EntryName::kRow));
     m_nameRow->setTitle(tr("Rule name"));
     m_nameRow->setValidator(
         new QRegularExpressionValidator(QRegularExpression(namePattern()), m_nameRow));
@@ -141,9 +141,8 @@ void RuleScene::sltTabelDrawItemCheckBtnChanged()
 
 void RuleScene::nameEntry(int dataId)
 {
-    RuleDataInfo* entry = ruleData()->getDataInfo(dataId);
-    if (entry && entry->name().isEmpty() && !entry->nameAsRead())
-        entry->setName(widgets().drawItems->findDataButton(dataId)->fullText());
+    if (RuleDataInfo* const entry = ruleData()->getDataInfo(dataId))
+        EntryName::nameEntry(*ruleData(), *entry);
 }
 
 void RuleScene::sltDeleteDrawItem()

@@ -13,9 +13,6 @@ class RuleScene : public BaseTabelScene
     Q_OBJECT
 
 public:
-    /// Object name of the row that edits a rule's name.
-    static constexpr char kNameRow[] = "ruleName";
-
     explicit RuleScene(QWidget* parent = nullptr);
 
     bool canRename() const override { return isBound() && m_nameRow; }

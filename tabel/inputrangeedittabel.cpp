@@ -1,6 +1,7 @@
 #include "tabel/inputrangeedittabel.h"
 
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/unseenrows.h"
 #include "tabel/inputrangeedit.h"
 #include "tabel/numbertip.h"
 
@@ -41,7 +42,7 @@ QVariant InputRangeEditTabel::value() const
 
 void InputRangeEditTabel::showValue(const QVariant& value)
 {
-    m_edit->setRange(value.type() == QVariant::Size ? value.toSize() : QSize(-1, -1), false);
+    m_edit->setRange(UnseenRows::shownPair(value), false);
 }
 
 void InputRangeEditTabel::finishEdit()

@@ -10,6 +10,9 @@ from pathlib import Path
 
 # A folder includes itself and those to its right; tests, benchmarks and fuzzers include all.
 ORDER = ["workbench", "plugin", "scene", "tabel", "Protocol", "draw", "host"]
+# The command line knows the model and what paints it, but no window; nothing includes it.
+COMMAND_LINE = "tools/rulesctl"
+KNOWN_TO_COMMAND_LINE = {"Protocol", "draw", "host"}
 # What a client provides is all that the workbench knows of the module.
 WORKBENCH = {"workbench", "host"}
 SURFACE = "host/video/qrtspvideownd.h"
@@ -20,7 +23,8 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 def sources():
     listed = subprocess.run(["git", "ls-files", "*.h", "*.cpp"], capture_output=True, text=True,
                             check=True)
-    return [name for name in listed.stdout.split() if name.split("/")[0] in ORDER]
+    return [name for name in listed.stdout.split()
+            if name.split("/")[0] in ORDER or name.startswith(COMMAND_LINE)]
 
 
 def unit(name):
@@ -30,11 +34,15 @@ def unit(name):
 def fault(name, included):
     """What is wrong with the file's include, or nothing."""
     own, other = name.split("/")[0], included.split("/")[0]
+    if name.startswith(COMMAND_LINE) and included.startswith(COMMAND_LINE):
+        return None if Path(included).is_file() else "no such file"
     if other not in ORDER:
         # Generated from a form or a class, beside its source.
         return None if re.match(r"(ui_\w+\.h|\w+\.moc)$", included) else "not written from the root"
     if not Path(included).is_file():
         return "no such file"
+    if name.startswith(COMMAND_LINE):
+        return None if other in KNOWN_TO_COMMAND_LINE else "the command line knows no window"
     if own == "workbench":
         return None if other in WORKBENCH else "the workbench knows the host's folder only"
     if ORDER.index(other) < ORDER.index(own):

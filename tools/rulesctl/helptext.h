@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+struct Command;
+
+/// What --help and --version show. Plain text, at most 80 columns wide.
+namespace HelpText
+{
+
+/// Of the program: its commands.
+QString ofProgram();
+/// Of a command: its options and examples.
+QString of(const Command& command);
+QString version();
+
+} // namespace HelpText

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStringList>
+
+/// rulesctl as a whole: from its words to its exit status.
+namespace Program
+{
+
+/// Makes files named in UTF-8 readable where no locale is set, and system texts English. To be
+/// called once, when there is an application.
+void useEnglish();
+
+/// Does what @p words, those behind the program's name, ask for. Returns the exit status.
+int run(const QStringList& words);
+
+} // namespace Program
