@@ -22,6 +22,7 @@ struct Command {
     /// Does it. Complaints have gone to standard error when it returns; what could not be written
     /// to @p output is its caller's business.
     ExitStatus (*run)(const Arguments& arguments, Output& output) = nullptr;
+    bool paints = false; ///< needs fonts and pictures, though no display
 };
 
 /// The table of commands, in the order of the help. A command is a file of its own with a function
@@ -38,5 +39,6 @@ const std::vector<OptionSpec>& commonOptions();
 std::vector<OptionSpec> optionsOf(const Command& command);
 
 const Command& check();
+const Command& convert();
 
 } // namespace Commands

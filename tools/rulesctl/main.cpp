@@ -1,8 +1,9 @@
 #include "tools/rulesctl/program.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <csignal>
+#include <memory>
 
 int main(int argc, char* argv[])
 {
@@ -10,7 +11,13 @@ int main(int argc, char* argv[])
     // A closed pipe is told by the write that fails.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
-    const QCoreApplication application(argc, argv);
+    std::unique_ptr<QCoreApplication> application;
+    if (argc > 1 && Program::paints(argv[1])) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    }
     Program::useEnglish();
     return Program::run(QCoreApplication::arguments().mid(1));
 }

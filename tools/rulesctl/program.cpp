@@ -90,6 +90,12 @@ ExitStatus runWords(const QStringList& words, Output& output)
 
 } // namespace
 
+bool Program::paints(const char* command)
+{
+    const Command* const found = Commands::find(QString::fromLatin1(command));
+    return found && found->paints;
+}
+
 void Program::useEnglish()
 {
     QLocale::setDefault(QLocale::c());

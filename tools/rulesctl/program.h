@@ -6,6 +6,9 @@
 namespace Program
 {
 
+/// Whether the command of that name paints, and so takes a QGuiApplication.
+bool paints(const char* command);
+
 /// Makes files named in UTF-8 readable where no locale is set, and system texts English. To be
 /// called once, when there is an application.
 void useEnglish();
