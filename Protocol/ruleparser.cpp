@@ -31,6 +31,7 @@ namespace
 {
 
 constexpr int kLogLevel = 6;
+const auto kList = QStringLiteral("[]"); ///< behind the name of a list in a path
 // A scene that is written later wins where two share a place; types not named here come last.
 constexpr SceneType kWritingOrder[] = {
     SceneType::Global, SceneType::CalibrateArea, SceneType::FightCalibrate,
@@ -245,20 +246,22 @@ bool RuleParser::hasAllPlaces() const
     if (m_hasAllPlaces)
         return *m_hasAllPlaces;
     Value places = m_templateDocument["configTemplate"];
-    QStringList parents;
+    QStringList taken;
+    const auto takes = [&](const QString& parent) {
+        const QString path = parent.endsWith(kList) ? parent.chopped(kList.size()) : parent;
+        const QString place = path + QLatin1Char('.');
+        const bool isApart =
+            std::none_of(taken.cbegin(), taken.cend(), [&place](const QString& other) {
+                return place.startsWith(other) || other.startsWith(place);
+            });
+        taken.append(place);
+        return isApart && !path.isEmpty() && !path.contains(kList) &&
+               JsonPath(parent).create(places);
+    };
     bool hasAll = m_templateDocument.isMember("configTemplate");
     for (const auto& scene : m_data) {
-        for (const TemplateSection& section : scene->getTemplate()->sections()) {
-            const JsonPath parent(section.parent);
-            const QString path = section.parent + QLatin1Char('.');
-            const bool isApart =
-                std::none_of(parents.cbegin(), parents.cend(), [&path](const QString& other) {
-                    return path.startsWith(other) || other.startsWith(path);
-                });
-            hasAll = hasAll && isApart && !section.parent.isEmpty() &&
-                     !section.parent.contains(QLatin1Char('[')) && parent.create(places);
-            parents.append(path);
-        }
+        for (const TemplateSection& section : scene->getTemplate()->sections())
+            hasAll = hasAll && takes(section.parent);
     }
     m_hasAllPlaces = hasAll;
     return hasAll;

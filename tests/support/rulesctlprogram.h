@@ -1,0 +1,50 @@
+#pragma once
+
+#include "tests/support/examplefiles.h"
+#include "tests/support/workbenchfiles.h"
+
+#include <QProcess>
+
+/// The command line as a program, run in a folder of its own.
+struct RulesctlProgram {
+    enum Status { Clean, Differs, Unusable, Crashed };
+    struct Outcome {
+        int status = Crashed;
+        QString out;
+        QString said; ///< on standard error
+    };
+
+    /// With @p input on its standard input; @p output, a file, in place of its standard output.
+    Outcome run(const QStringList& arguments, const QByteArray& input = {},
+                const QString& output = {}) const
+    {
+        constexpr int kTimeout = 120000; // milliseconds
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        process.setProcessEnvironment(environment);
+        if (!output.isEmpty())
+            process.setStandardOutputFile(output);
+        process.start(QStringLiteral(RULES_BIN_DIR "/rulesctl"), arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        if (!process.waitForFinished(kTimeout))
+            return {Crashed, {}, "it does not end"};
+        const bool ended = process.exitStatus() == QProcess::NormalExit;
+        return {ended ? process.exitCode() : int(Crashed),
+                QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    static QStringList withTemplate(const QString& command, const QString& example = "perimeter")
+    {
+        return {command, "--template", ExampleFiles::folder(example) + "template.json"};
+    }
+    QString path(const QString& name) const { return folder.filePath(name); }
+    QString file(const char* name, const QByteArray& content) const
+    {
+        return WorkbenchFiles::write(folder, name, content);
+    }
+
+    QTemporaryDir folder;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+};
