@@ -40,21 +40,19 @@ QString wrongEntryCount(CountRange range, const QString& entryTitle)
 QString emptyEnd(const RuleProtocolItem& item)
 {
     const ControlRow* const row = item.row();
-    if (item.valueType() != ValueType::ArrayInt || !row || !row->isRowVisible())
+    if (item.valueType() != ValueType::ArrayInt || !row)
         return {};
     const QVariant value = row->value();
     if (value.userType() != QMetaType::QSize)
         return {};
     const QSize range = value.toSize();
+    if ((range.width() != kEmpty && range.height() != kEmpty) || !row->isRowVisible())
+        return {};
     if (range.width() == kEmpty) {
         return Text::tr("%1:%2").arg(item.caption(),
                                      Text::tr("The minimum value cannot be empty."));
     }
-    if (range.height() == kEmpty) {
-        return Text::tr("%1:%2").arg(item.caption(),
-                                     Text::tr("The maximum value cannot be empty."));
-    }
-    return {};
+    return Text::tr("%1:%2").arg(item.caption(), Text::tr("The maximum value cannot be empty."));
 }
 
 QString wrongFigureCount(const RuleProtocolItem& item)
@@ -205,12 +203,14 @@ Failure EntryCheck::checkFigures(const RuleDataInfo& entry, const RuleProtocolIt
 
 Failure EntryCheck::checkValues(const RuleDataInfo& entry, const IsAsked& isAsked) const
 {
-    const auto hidden = Validity::hiddenItems(m_template, entry);
+    std::optional<QSet<const RuleProtocolItem*>> hidden; // few entries have to be asked for it
     for (const Comparison& comparison : m_comparisons) {
-        if (hidden.contains(comparison.first) || hidden.contains(comparison.second) ||
-            !isAsked(comparison))
+        Failure failure = isAsked(comparison) ? compare(entry, comparison) : Failure();
+        if (!failure)
             continue;
-        if (Failure failure = compare(entry, comparison))
+        if (!hidden)
+            hidden = Validity::hiddenItems(m_template, entry);
+        if (!hidden->contains(comparison.first) && !hidden->contains(comparison.second))
             return failure;
     }
     return {};

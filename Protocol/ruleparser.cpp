@@ -101,6 +101,7 @@ bool RuleParser::parseTemplate(const QString& text)
 bool RuleParser::parseTemplate(Value document, QString& why)
 {
     m_data.clear();
+    m_textPerEntry.clear();
     m_hasAllPlaces.reset();
     m_templateDocument = Value();
     m_configuration = Value();
@@ -159,6 +160,7 @@ bool RuleParser::readData(Value document, QString& why)
     }
     if (!isRoomFor(&EntryLimit::countInnerFigures) || !isReadWhole(why)) {
         m_data = TemplateReader(m_templateDocument).read();
+        m_textPerEntry.clear();
         return false;
     }
     m_configuration = std::move(document);
@@ -201,7 +203,7 @@ QStringList RuleParser::notices() const
 
 bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const
 {
-    const qint64 text = EntryLimit::textPerEntry(scene, m_templateDocument["configTemplate"]);
+    const qint64 text = textPerEntry(scene);
     const qint64 most = std::min<qint64>(Limits::kEntries, textLeft / text);
     textLeft -= count * text;
     if (count <= most)
@@ -210,6 +212,15 @@ bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& textLeft, 
     why = tr("The configuration has %1 entries under \"%2\"; at most %3 can be edited.")
               .arg(QString::number(count), dataTemplate.parent(), QString::number(most));
     return false;
+}
+
+qint64 RuleParser::textPerEntry(const RuleData& scene) const
+{
+    auto known = m_textPerEntry.find(&scene);
+    if (known == m_textPerEntry.end())
+        known = m_textPerEntry.insert(
+            &scene, EntryLimit::textPerEntry(scene, m_templateDocument["configTemplate"]));
+    return *known;
 }
 
 bool RuleParser::isReadWhole(QString& why) const

@@ -4,6 +4,7 @@
 #include "host/json/value.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QStringList>
 #include <memory>
 #include <optional>
@@ -91,6 +92,7 @@ public:
 private:
     /// Takes the text of @p count entries off @p textLeft.
     bool hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const;
+    qint64 textPerEntry(const RuleData& scene) const;
     bool isReadWhole(QString& why) const;
     std::optional<WriteRefusal> write(kql::Json::Value& config) const;
     static std::optional<WriteRefusal>
@@ -102,6 +104,8 @@ private:
     int m_algorithmId = 0;
     QString m_algorithmName;
     std::vector<std::unique_ptr<RuleData>> m_data;
-    QStringList m_notices;                      ///< about what lies outside of all scenes
-    mutable std::optional<bool> m_hasAllPlaces; ///< looked up when needed
+    QStringList m_notices; ///< about what lies outside of all scenes
+    // What the template alone decides, looked up when needed.
+    mutable QHash<const RuleData*, qint64> m_textPerEntry;
+    mutable std::optional<bool> m_hasAllPlaces;
 };

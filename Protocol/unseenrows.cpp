@@ -13,48 +13,48 @@
 class UnseenRows::Row : public QObject, public ControlRow
 {
 public:
-    explicit Row(RuleProtocolItem& item) : m_item(item) { item.setRow(this); }
-
-    QVariant value() const override { return m_pair; }
-    bool isRowVisible() const override { return m_isVisible; }
-    const QObject* rowObject() const override { return this; }
-
-    const RuleProtocolItem& item() const { return m_item; }
-    void show(QSize pair, bool isVisible)
+    Row(const UnseenRows& rows, RuleProtocolItem& item) : m_rows(rows), m_item(item)
     {
-        m_pair = pair;
-        m_isVisible = isVisible;
+        item.setRow(this);
     }
 
+    QVariant value() const override { return shownPair(m_rows.valueOf(m_item)); }
+    bool isRowVisible() const override { return m_rows.applies(m_item); }
+    const QObject* rowObject() const override { return this; }
+
 private:
-    RuleProtocolItem& m_item;
-    QSize m_pair = shownPair({});
-    bool m_isVisible = true;
+    const UnseenRows& m_rows;
+    const RuleProtocolItem& m_item;
 };
 
-UnseenRows::UnseenRows(const RuleData& data)
+UnseenRows::UnseenRows(const RuleData& data) : m_data(data)
 {
     for (const auto& item : data.getTemplate()->items()) {
         const bool isPair = item->valueType() == ValueType::ArrayInt &&
                             item->facade() == FacadeType::NumericalInterval;
         if (isPair && isShown(data, *item))
-            m_rows.push_back(std::make_unique<Row>(*item));
+            m_rows.push_back(std::make_unique<Row>(*this, *item));
     }
 }
 
 UnseenRows::~UnseenRows() = default;
 
-void UnseenRows::load(const RuleData& data, const RuleDataInfo* entry)
+void UnseenRows::load(const RuleDataInfo* entry)
 {
-    if (m_rows.empty())
-        return;
-    QSet<const RuleProtocolItem*> hidden;
-    if (entry)
-        hidden = Validity::hiddenItems(*data.getTemplate(), *entry);
-    for (const auto& row : m_rows) {
-        const QVariant value = entry ? entry->value(row->item().key()) : QVariant();
-        row->show(shownPair(value), !hidden.contains(&row->item()));
-    }
+    m_entry = entry;
+    m_hidden.reset();
+}
+
+QVariant UnseenRows::valueOf(const RuleProtocolItem& item) const
+{
+    return m_entry ? m_entry->value(item.key()) : QVariant();
+}
+
+bool UnseenRows::applies(const RuleProtocolItem& item) const
+{
+    if (m_entry && !m_hidden)
+        m_hidden = Validity::hiddenItems(*m_data.getTemplate(), *m_entry);
+    return !m_hidden || !m_hidden->contains(&item);
 }
 
 QSize UnseenRows::shownPair(const QVariant& value)

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "tests/support/examplefiles.h"
-#include "tests/support/workbenchfiles.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 
 /// The command line as a program, run in a folder of its own.
 struct RulesctlProgram {
@@ -40,9 +40,13 @@ struct RulesctlProgram {
         return {command, "--template", ExampleFiles::folder(example) + "template.json"};
     }
     QString path(const QString& name) const { return folder.filePath(name); }
-    QString file(const char* name, const QByteArray& content) const
+    /// Writes a file into the folder; its path is the answer.
+    QString file(const QString& name, const QByteArray& content) const
     {
-        return WorkbenchFiles::write(folder, name, content);
+        QFile written(QDir(folder.path()).absoluteFilePath(name));
+        if (!written.open(QIODevice::WriteOnly) || written.write(content) != content.size())
+            qWarning("cannot write %s", qPrintable(name));
+        return written.fileName();
     }
 
     QTemporaryDir folder;

@@ -5,66 +5,104 @@
 #include <QFuture>
 #include <QMutex>
 #include <QThreadPool>
-#include <QVector>
 #include <QWaitCondition>
 #include <QtConcurrent>
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 #include <utility>
+#include <vector>
+#ifdef Q_OS_LINUX
+#include <sched.h>
+#endif
 
 namespace
 {
 
-/// Answers that are held for each thread while an earlier one is awaited.
-constexpr int kAhead = 64;
+/// Files that a thread takes at once, and so many times as many answers are held for each thread
+/// while earlier ones are awaited.
+constexpr int kMostAtOnce = 16;
+constexpr int kAhead = 4;
 constexpr int kBarWidth = 40;
+
+/// Those that this process may use.
+int coreCount()
+{
+#if defined(Q_OS_LINUX) && QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // which asks that itself
+    cpu_set_t cores;
+    if (::sched_getaffinity(0, sizeof cores, &cores) == 0)
+        return CPU_COUNT(&cores);
+#endif
+    return QThread::idealThreadCount();
+}
+
+void runIn(QThreadPool& pool, const std::function<void()>& work)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QtConcurrent::run(&pool, work);
+#else
+    std::ignore = QtConcurrent::run(&pool, work);
+#endif
+}
 
 } // namespace
 
-/// Gives files out to threads and takes their answers back in order.
+/// Gives files out to threads, some at once, and takes their answers back in order.
 class FleetRun::Queue
 {
 public:
-    Queue(int count, int most) : m_count(count), m_most(most) {}
+    using Answers = std::vector<FileAnswer>;
 
-    /// The next file's position; -1 when there is none. Waits while too many answers are held.
+    Queue(int fileCount, int threads)
+        : m_fileCount(fileCount),
+          m_atOnce(std::clamp(fileCount / (threads * kAhead), 1, kMostAtOnce)),
+          m_most(threads * kAhead)
+    {
+    }
+
+    int partCount() const { return (m_fileCount + m_atOnce - 1) / m_atOnce; }
+    int begin(int part) const { return part * m_atOnce; }
+    int end(int part) const { return std::min(m_fileCount, (part + 1) * m_atOnce); }
+
+    /// The next part; -1 when there is none. Waits while too many answers are held.
     int next()
     {
         QMutexLocker lock(&m_mutex);
-        while (m_next < m_count && m_next >= m_taken + m_most)
+        while (m_next < partCount() && m_next >= m_taken + m_most)
             m_hasRoom.wait(&m_mutex);
-        return m_next < m_count ? m_next++ : -1;
+        return m_next < partCount() ? m_next++ : -1;
     }
 
-    void put(int position, FileAnswer answer)
+    void put(int part, Answers answers)
     {
         const QMutexLocker lock(&m_mutex);
-        m_answers.emplace(position, std::move(answer));
-        if (position == m_taken)
-            m_hasAnswer.wakeOne();
+        m_answers.emplace(part, std::move(answers));
+        if (part == m_taken)
+            m_hasAnswers.wakeOne();
     }
 
-    /// Waits for the next answer in order.
-    FileAnswer take()
+    /// Waits for the answers of the next part in order.
+    Answers take()
     {
         QMutexLocker lock(&m_mutex);
         while (m_answers.empty() || m_answers.begin()->first != m_taken)
-            m_hasAnswer.wait(&m_mutex);
-        FileAnswer answer = std::move(m_answers.begin()->second);
+            m_hasAnswers.wait(&m_mutex);
+        Answers answers = std::move(m_answers.begin()->second);
         m_answers.erase(m_answers.begin());
         ++m_taken;
         m_hasRoom.wakeAll();
-        return answer;
+        return answers;
     }
 
 private:
-    const int m_count;
+    const int m_fileCount;
+    const int m_atOnce;
     const int m_most;
     QMutex m_mutex;
     QWaitCondition m_hasRoom;
-    QWaitCondition m_hasAnswer;
-    std::map<int, FileAnswer> m_answers; ///< by the file's position
+    QWaitCondition m_hasAnswers;
+    std::map<int, Answers> m_answers; ///< by part
     int m_next = 0;
     int m_taken = 0;
 };
@@ -79,7 +117,7 @@ FleetRun::FleetRun(QStringList files, std::function<Work()> makeWork, Output& ou
 
 ExitStatus FleetRun::run()
 {
-    const int threads = std::min(QThread::idealThreadCount(), m_files.size());
+    const int threads = std::min(coreCount(), m_files.size());
     if (threads > 1) {
         runOnThreads(threads);
     } else {
@@ -94,18 +132,24 @@ ExitStatus FleetRun::run()
 
 void FleetRun::runOnThreads(int threads)
 {
-    Queue queue(m_files.size(), threads * kAhead);
+    Queue queue(m_files.size(), threads);
     const auto workThrough = [this, &queue] {
         const Work work = m_makeWork();
-        for (int position = queue.next(); position >= 0; position = queue.next())
-            queue.put(position, work(m_files[position]));
+        for (int part = queue.next(); part >= 0; part = queue.next()) {
+            Queue::Answers answers;
+            for (int i = queue.begin(part); i < queue.end(part); ++i)
+                answers.push_back(work(m_files.at(i)));
+            queue.put(part, std::move(answers));
+        }
     };
     QThreadPool pool;
     pool.setMaxThreadCount(threads);
     for (int i = 0; i < threads; ++i)
-        QtConcurrent::run(&pool, workThrough);
-    for (int i = 0; i < m_files.size(); ++i)
-        take(queue.take());
+        runIn(pool, workThrough);
+    for (int part = 0; part < queue.partCount(); ++part) {
+        for (const FileAnswer& answer : queue.take())
+            take(answer);
+    }
     pool.waitForDone();
 }
 

@@ -12,6 +12,8 @@ namespace HelpText
 QString ofProgram();
 /// Of a command: its options and examples.
 QString of(const Command& command);
+/// The manual page of all, for man: tools/rulesctl/rulesctl.1.
+QString manual();
 QString version();
 
 } // namespace HelpText

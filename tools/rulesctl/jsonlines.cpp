@@ -30,13 +30,14 @@ bool readObject(const QStringList& documents, JsonLine& line, DocumentError& err
         error.reason = reader.errorText();
         return false;
     }
-    const Value& id = line.object["id"];
-    if (!line.object.isObject())
+    const Value& object = line.object;
+    const Value& id = object["id"];
+    if (!object.isObject())
         error.reason = QStringLiteral("the line is no object");
     else if (!id.isString() && !id.isNumeric())
         error.reason = QStringLiteral("\"id\" is no text and no number");
     for (const QString& name : documents) {
-        if (error.reason.isEmpty() && !line.object[name.toStdString()].isObject())
+        if (error.reason.isEmpty() && !object[name.toStdString()].isObject())
             error.reason = QStringLiteral("\"%1\" is no object").arg(name);
     }
     return error.reason.isEmpty();

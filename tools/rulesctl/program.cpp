@@ -79,6 +79,8 @@ ExitStatus runWords(const QStringList& words, Output& output)
         output.write(HelpText::ofProgram().toUtf8());
     else if (name == QLatin1String("--version"))
         output.write(HelpText::version().toUtf8());
+    else if (name == QLatin1String("--man"))
+        output.write(HelpText::manual().toUtf8());
     else if (const Command* command = Commands::find(name))
         return runCommand(*command, words.mid(1), output);
     else if (name.isEmpty())

@@ -17,18 +17,22 @@ using kql::Json::Value;
 namespace
 {
 
-/// What reading might never end of, or is no file to begin with; null for none.
-const char* kindThatIsRefused(const QString& path)
+constexpr char kFolder[] = "it is a folder";
+
+/// How much of @p file, which is open, is to be read; with @p why where reading it might never end,
+/// or would take too long.
+qint64 bytesToRead(const QFile& file, QString& why)
 {
-    const QFileInfo info(path);
-    if (info.isDir())
-        return "it is a folder";
 #ifdef Q_OS_UNIX
     struct stat found = {};
-    if (::stat(QFile::encodeName(path).constData(), &found) == 0 && S_ISCHR(found.st_mode))
-        return "it is no file";
+    if (::fstat(file.handle(), &found) == 0 && S_ISCHR(found.st_mode))
+        why = QStringLiteral("it is no file");
 #endif
-    return info.size() > DocumentFile::kMostBytes ? "" : nullptr;
+    const qint64 most = DocumentFile::kMostBytes;
+    const qint64 size = file.isSequential() ? most : file.size();
+    if (size > most)
+        why = DocumentFile::tooLongText();
+    return size + 1; // so that its end is seen
 }
 
 } // namespace
@@ -36,22 +40,23 @@ const char* kindThatIsRefused(const QString& path)
 std::optional<QByteArray> DocumentFile::readBytes(const QString& path, DocumentError& error)
 {
     error = {path, 0, 0, {}};
-    if (const char* const why = kindThatIsRefused(path)) {
-        error.reason = *why != '\0' ? QString::fromLatin1(why) : tooLongText();
-        return std::nullopt;
-    }
     QFile file(path);
     QByteArray bytes;
     // Unbuffered, as it is read in one piece.
-    if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        bytes = file.read(kMostBytes + 1);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        const bool isFolder = QFileInfo(path).isDir();
+        error.reason =
+            isFolder ? QString::fromLatin1(kFolder) : UICommonMdl::WholeFile::faultOf(file);
+        return std::nullopt;
+    }
+    const qint64 size = bytesToRead(file, error.reason);
+    if (error.reason.isEmpty())
+        bytes = file.read(size);
     if (file.error() != QFileDevice::NoError)
         error.reason = UICommonMdl::WholeFile::faultOf(file);
-    else if (isTooLong(bytes))
+    else if (error.reason.isEmpty() && isTooLong(bytes))
         error.reason = tooLongText();
-    else
-        return bytes;
-    return std::nullopt;
+    return error.reason.isEmpty() ? std::optional(bytes) : std::nullopt;
 }
 
 std::optional<Value> DocumentFile::parse(const QByteArray& utf8, const QString& file,

@@ -48,7 +48,7 @@ bool LoadedRules::load(Value config, QString& why)
     for (const auto& scene : m_parser->getAllData()) {
         SceneOpening::complete(*scene);
         SceneOpening::turnLines(*scene);
-        (*rows++)->load(*scene, scene->getDataInfo(SceneOpening::showFirst(*scene)));
+        (*rows++)->load(scene->getDataInfo(SceneOpening::showFirst(*scene)));
     }
     return true;
 }
