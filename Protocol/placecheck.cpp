@@ -44,44 +44,58 @@ bool takes(const Value& target, ValueType type)
     }
 }
 
-QString whyControlIsUnsaved(const RuleProtocolItem& item, const Value& prototype)
+using Fault = PlaceCheck::PlaceFault;
+
+Fault missing(const JsonPath& path)
+{
+    return {Fault::Kind::Missing, &path};
+}
+
+Fault faultOfControl(const RuleProtocolItem& item, const Value& prototype)
 {
     if (item.valueType() == ValueType::None || item.valueType() == ValueType::Point)
-        return SaveNotices::tr("%1 is not saved: it has no type that a row can have.")
-            .arg(SaveNotices::subject(item));
+        return {Fault::Kind::NoType};
     const Value* const field = item.path().find(prototype);
     if (!field)
-        return item.path().isPlainName() ? QString() : noPlace(item, item.path());
+        return item.path().isPlainName() ? Fault() : missing(item.path());
     const bool endsBefore = field->isArray() && item.index() >= 0 && item.index() >= field->size();
     if (endsBefore)
-        return noPlace(item, item.path());
-    return takes(ValueConversion::element(*field, item), item.valueType()) ? QString()
-                                                                           : otherKind(item);
+        return missing(item.path());
+    const bool isTaken = takes(ValueConversion::element(*field, item), item.valueType());
+    return isTaken ? Fault() : Fault{Fault::Kind::OtherKind};
 }
 
-QString whyFigureIsUnsaved(const RuleProtocolItem& item, const Value& prototype)
+Fault faultOfFigure(const RuleProtocolItem& item, const Value& prototype)
 {
     if (!item.path().find(prototype))
-        return noPlace(item, item.path());
+        return missing(item.path());
     const bool lacksDirection = item.drawType() == BaseDrawType::Parallelogram &&
                                 !ConfigMember::directionPath().find(prototype);
-    return lacksDirection ? noPlace(item, ConfigMember::directionPath()) : QString();
+    return lacksDirection ? missing(ConfigMember::directionPath()) : Fault();
 }
 
-QString whyUnsaved(const RuleProtocolItem& item, bool isBuiltIn, const Value& prototype)
+Fault faultOfBuiltIn(const RuleProtocolItem& item, const Value& prototype)
 {
-    // Without a row nobody can set what is lost; what the document has there is told by itself.
-    const bool isEdited = item.isFigure() || item.isControl();
-    if (!isEdited || item.facade() == FacadeType::Lane)
-        return {};
     if (item.path().text().isEmpty())
-        return noPlace(item, item.path());
-    if (isBuiltIn) {
-        Value made = prototype; // calibrations make their places, where nothing else is
-        return item.path().create(made) ? QString() : otherKind(item);
+        return missing(item.path());
+    Value made = prototype; // calibrations make their places, where nothing else is
+    return item.path().create(made) ? Fault() : Fault{Fault::Kind::OtherKind};
+}
+
+QString sentence(const Fault& fault, const RuleProtocolItem& item)
+{
+    switch (fault.kind) {
+    case Fault::Kind::Missing:
+        return noPlace(item, *fault.path);
+    case Fault::Kind::OtherKind:
+        return otherKind(item);
+    case Fault::Kind::NoType:
+        return SaveNotices::tr("%1 is not saved: it has no type that a row can have.")
+            .arg(SaveNotices::subject(item));
+    case Fault::Kind::None:
+        break;
     }
-    return item.isFigure() ? whyFigureIsUnsaved(item, prototype)
-                           : whyControlIsUnsaved(item, prototype);
+    return {};
 }
 
 void tellSection(RuleData& data, const TemplateSection& section, const Value& skeleton)
@@ -92,15 +106,30 @@ void tellSection(RuleData& data, const TemplateSection& section, const Value& sk
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() != section.name)
             continue;
-        QString why = whyUnsaved(*item, isBuiltIn, prototype);
-        if (why.isEmpty() && item->isControl() && writer.lacksElement(*item, prototype))
-            why = otherKind(*item);
-        if (!why.isEmpty())
-            data.saveNotices().addUnsaved(*item, why);
+        // Without a row nobody can set what is lost; what the document has there is told by itself.
+        const bool isEdited = item->isFigure() || item->isControl();
+        if (!isEdited || item->facade() == FacadeType::Lane)
+            continue;
+        const Fault fault = isBuiltIn ? faultOfBuiltIn(*item, prototype)
+                                      : PlaceCheck::faultOf(*item, writer, prototype);
+        if (fault.kind != Fault::Kind::None)
+            data.saveNotices().addUnsaved(*item, sentence(fault, *item));
     }
 }
 
 } // namespace
+
+PlaceCheck::PlaceFault PlaceCheck::faultOf(const RuleProtocolItem& item, const EntryWriter& writer,
+                                           const Value& prototype)
+{
+    if (item.path().text().isEmpty())
+        return missing(item.path());
+    const Fault fault =
+        item.isFigure() ? faultOfFigure(item, prototype) : faultOfControl(item, prototype);
+    const bool isOneOfSeveral =
+        fault.kind == Fault::Kind::None && !item.isFigure() && writer.lacksElement(item, prototype);
+    return isOneOfSeveral ? Fault{Fault::Kind::OtherKind} : fault;
+}
 
 void PlaceCheck::tell(RuleData& data, const Value& skeleton)
 {

@@ -2,12 +2,28 @@
 
 #include "host/json/fwd.h"
 
+class EntryWriter;
+class JsonPath;
 class RuleData;
+class RuleProtocolItem;
 
 /// Finds the attributes of a scene that are never written, because the skeleton has no place for
 /// them that fits.
 namespace PlaceCheck
 {
+
+/// What is wrong with an attribute's place.
+struct PlaceFault {
+    enum class Kind { None, Missing, OtherKind, NoType };
+
+    Kind kind = Kind::None;
+    const JsonPath* path = nullptr; ///< the one that is missing; lives as long as the item
+};
+
+/// Of @p item, one that the template names itself, in @p prototype, what @p writer starts its
+/// entries as.
+PlaceFault faultOf(const RuleProtocolItem& item, const EntryWriter& writer,
+                   const kql::Json::Value& prototype);
 
 /// Tells them to @p data, and whether there is a place for one entry alone. @p skeleton is the
 /// document that its entries are written into.

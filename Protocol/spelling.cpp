@@ -1,6 +1,6 @@
 #include "Protocol/spelling.h"
 
-#include <QString>
+#include "Protocol/spellinglists.h"
 
 namespace
 {
@@ -62,6 +62,17 @@ Type lookUp(const Spelled<Type> (&table)[Size], const QString& text)
     return Type::None;
 }
 
+template<typename Row, std::size_t Size>
+QStringList textsOf(const Row (&table)[Size])
+{
+    QStringList texts;
+    for (const Row& row : table) {
+        if (*row.text)
+            texts.append(QString::fromLatin1(row.text));
+    }
+    return texts;
+}
+
 } // namespace
 
 FacadeType Spelling::toFacadeType(const QString& text)
@@ -95,4 +106,24 @@ BaseDrawDirectionType Spelling::toDirectionType(const QString& text)
 CheckRuleOperatorType Spelling::toOperatorType(const QString& text)
 {
     return lookUp(kOperators, text);
+}
+
+QStringList SpellingLists::facades()
+{
+    return textsOf(kFacades);
+}
+
+QStringList SpellingLists::valueTypes()
+{
+    return textsOf(kValueTypes);
+}
+
+QStringList SpellingLists::directions()
+{
+    return textsOf(kDirections);
+}
+
+QStringList SpellingLists::operators()
+{
+    return textsOf(kOperators);
 }

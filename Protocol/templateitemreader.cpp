@@ -126,12 +126,20 @@ void parseFigure(RuleProtocolItem& item, const Value& details)
 
 } // namespace
 
+int TemplateItemReader::countDependencies(const Value& controls)
+{
+    int count = 0;
+    while (count < controls[count]["depend"].size())
+        ++count;
+    return count;
+}
+
 /// The j-th key is taken from the j-th control, not from the control that the list is for:
 /// devices' templates are written against this order.
 QStringList TemplateItemReader::parseDependencies(const Value& controls)
 {
     QStringList keys;
-    for (int j = 0; j < controls[j]["depend"].size(); ++j)
+    for (int j = 0, count = countDependencies(controls); j < count; ++j)
         keys.append(controls[j]["depend"][j]["key"].asString());
     return keys;
 }

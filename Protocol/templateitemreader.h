@@ -16,6 +16,9 @@ namespace TemplateItemReader
 /// What a control says itself: key, place of the value, conditions.
 std::unique_ptr<RuleProtocolItem> parseControl(const kql::Json::Value& control);
 
+/// Of how many of @p controls a dependency is read; see parseDependencies().
+int countDependencies(const kql::Json::Value& controls);
+
 /// The keys that each of @p controls with a list of dependencies depends on.
 QStringList parseDependencies(const kql::Json::Value& controls);
 

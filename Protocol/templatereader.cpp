@@ -69,6 +69,13 @@ qint64 countChoices(const Value& details)
     return count;
 }
 
+/// The choices or, where it counts as more of them, the default.
+const Value& largestOf(const Value& details)
+{
+    const Value& choices = details["enumeration"];
+    return choices.size() < countStyled(details["default"]) ? details["default"] : choices;
+}
+
 bool isEditedPerLane(const DataTemplate::Items& ruleItems)
 {
     return std::any_of(ruleItems.begin(), ruleItems.end(), [](const auto& item) {
@@ -196,7 +203,8 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
     const QStringList dependencies = TemplateItemReader::parseDependencies(controls);
     QMap<QPair<QString, int>, const RuleProtocolItem*> known;
     qint64 choicesLeft = controls.size() <= Limits::kAttributes ? Limits::kChoices : -1;
-    for (int i = 0; i < controls.size() && choicesLeft >= 0; ++i) {
+    const Value* tooLarge = choicesLeft < 0 ? &controls : nullptr;
+    for (int i = 0; i < controls.size() && !tooLarge; ++i) {
         auto item = TemplateItemReader::parseControl(controls[i]);
         if (controls[i]["depend"].isArray())
             item->setDependencies(dependencies);
@@ -205,16 +213,19 @@ DataTemplate::Items TemplateReader::parseRuleProtocolItems(const Value& section,
         if (const Value* const details = m_configItems.find(item->key().toStdString())) {
             // Many items may share one long list, so it is counted before it is read.
             choicesLeft -= countChoices(*details);
+            if (choicesLeft < 0)
+                tooLarge = &largestOf(*details);
             const RuleProtocolItem*& same =
                 known[{item->key(), static_cast<int>(item->valueType())}];
             if (same)
                 item->takeDetailsFrom(*same);
-            else if (choicesLeft >= 0)
+            else if (!tooLarge)
                 TemplateItemReader::parseRuleProtocolItem(*item, *details);
             same = item.get();
         }
         items.push_back(std::move(item));
     }
-    m_isTooLarge = m_isTooLarge || choicesLeft < 0;
+    if (tooLarge)
+        m_tooLarge.push_back(tooLarge);
     return items;
 }

@@ -28,7 +28,9 @@ public:
     Scenes read();
     /// Whether a section had more attributes or choices than EntryLimit allows; what was read is of
     /// no use then.
-    bool isTooLarge() const { return m_isTooLarge; }
+    bool isTooLarge() const { return !m_tooLarge.empty(); }
+    /// For each such section the list of the document, or the default, with which it has too many.
+    const std::vector<const kql::Json::Value*>& tooLarge() const { return m_tooLarge; }
 
 private:
     void readCalibrateArea(const kql::Json::Value& section);
@@ -48,5 +50,5 @@ private:
     const kql::Json::Value& m_skeleton;
     Scenes m_scenes;
     LanesTemplate* m_lanes = nullptr; ///< not owned; null without a lanes scene
-    bool m_isTooLarge = false;
+    std::vector<const kql::Json::Value*> m_tooLarge;
 };

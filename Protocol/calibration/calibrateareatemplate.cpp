@@ -85,6 +85,11 @@ EdgeLabelMode CalibrateAreaTemplate::edgeLabels(const RuleProtocolItem& item) co
     return &item == regionItem() && isSceneMethod() ? EdgeLabelMode::Scene : EdgeLabelMode::Name;
 }
 
+QStringList CalibrateAreaTemplate::methods()
+{
+    return {kLaneMethod, kSceneMethod};
+}
+
 void CalibrateAreaTemplate::setMethod(const QString& method)
 {
     if (method == kLaneMethod) {

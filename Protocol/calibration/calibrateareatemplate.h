@@ -3,6 +3,7 @@
 #include "Protocol/datatemplate.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <optional>
 
 class RuleData;
@@ -20,6 +21,8 @@ public:
     DrawItemForbidenAreaType forbiddenArea(const RuleProtocolItem& item) const override;
     EdgeLabelMode edgeLabels(const RuleProtocolItem& item) const override;
 
+    /// What setMethod() takes.
+    static QStringList methods();
     /// "Lane" or "Scene": enables the staff items, sets their counts and the title; anything
     /// else changes nothing.
     void setMethod(const QString& method);

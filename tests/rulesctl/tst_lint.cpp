@@ -1,0 +1,98 @@
+#include "host/json/reader.h"
+#include "tests/support/examplefiles.h"
+#include "tests/support/rulestest.h"
+#include "tools/rulesctl/lint/lintedtemplate.h"
+#include "tools/rulesctl/lint/templatelint.h"
+
+#include <algorithm>
+
+using kql::Json::Value;
+
+namespace
+{
+
+const auto kFixtures = QStringLiteral(RULES_SOURCE_DIR "/tests/rulesctl/lint");
+
+Findings lint(const QByteArray& text)
+{
+    Value document;
+    const std::string_view utf8(text.constData(), std::size_t(text.size()));
+    kql::Json::Reader().parse(utf8, document);
+    return TemplateLint::run(LintedTemplate(document), utf8);
+}
+
+/// What editors jump to, and what they offer.
+QStringList linesOf(const Findings& findings)
+{
+    QStringList lines;
+    for (const Finding& finding : findings) {
+        QString line =
+            QStringLiteral("%1:%2 %3 %4 %5")
+                .arg(finding.line)
+                .arg(finding.column)
+                .arg(QLatin1String(finding.isError() ? "error" : "warning"),
+                     QString::fromStdString(finding.code), QString::fromStdString(finding.pointer));
+        if (!finding.suggestion.isNull())
+            line += QStringLiteral(" -> ") + finding.suggestion;
+        lines.append(line);
+    }
+    return lines;
+}
+
+bool hasCode(const Findings& findings, const QString& code)
+{
+    return std::any_of(findings.begin(), findings.end(), [&code](const Finding& finding) {
+        return finding.code == code.toStdString();
+    });
+}
+
+} // namespace
+
+class TstLint : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void findsWhatIsWrong_data();
+    void findsWhatIsWrong();
+    void hasNothingToSayOfTheExamples();
+};
+
+/// A folder for each code: CASE.json has it, CASE.twin.json beside it is right, CASE.expected says
+/// all that is found.
+void TstLint::findsWhatIsWrong_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("path");
+    const QStringList codes = QDir(kFixtures).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& code : codes) {
+        const QDir folder(kFixtures + '/' + code);
+        for (const QString& name : folder.entryList({QStringLiteral("*.expected")})) {
+            const QString path = folder.filePath(name).chopped(int(sizeof ".expected") - 1);
+            QTest::addRow("%s %s", qPrintable(code), qPrintable(name)) << code << path;
+        }
+    }
+}
+
+void TstLint::findsWhatIsWrong()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, path);
+    const Findings findings = lint(ExampleFiles::contentOf(path + ".json"));
+    const QString found = linesOf(findings).join('\n') + '\n';
+    QCOMPARE(found, QString::fromUtf8(ExampleFiles::contentOf(path + ".expected")));
+    QVERIFY(hasCode(findings, code));
+    QVERIFY(!hasCode(lint(ExampleFiles::contentOf(path + ".twin.json")), code));
+}
+
+void TstLint::hasNothingToSayOfTheExamples()
+{
+    for (const QString& name : ExampleFiles::names()) {
+        const QByteArray text =
+            ExampleFiles::contentOf(ExampleFiles::folder(name) + "template.json");
+        QCOMPARE(name + linesOf(lint(text)).join("\n"), name);
+    }
+}
+
+QTEST_MAIN(TstLint)
+#include "tst_lint.moc"

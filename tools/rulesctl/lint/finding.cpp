@@ -1,0 +1,46 @@
+#include "tools/rulesctl/lint/finding.h"
+
+using kql::Json::Value;
+
+namespace
+{
+
+Value textOrNull(const QString& text)
+{
+    return text.isNull() ? Value() : Value(text);
+}
+
+Value listOrNull(const std::optional<QStringList>& texts)
+{
+    if (!texts)
+        return {};
+    Value list(kql::Json::ValueType::Array);
+    for (const QString& text : *texts)
+        list.append(Value(text));
+    return list;
+}
+
+} // namespace
+
+Value Finding::toJson() const
+{
+    Value json(kql::Json::ValueType::Object);
+    json["code"] = Value(code);
+    json["severity"] = Value(isError() ? "error" : "warning");
+    json["document"] = Value(document == Document::Template ? "template" : "config");
+    json["pointer"] = Value(pointer);
+    json["line"] = Value(line);
+    json["column"] = Value(column);
+    json["found"] = found;
+    json["expected"] = listOrNull(expected);
+    json["suggestion"] = textOrNull(suggestion);
+    json["message"] = Value(message);
+    return json;
+}
+
+QString Finding::toLine(const QString& file) const
+{
+    return QStringLiteral("%1:%2:%3: %4: %5 [%6]")
+        .arg(file, QString::number(line), QString::number(column),
+             QLatin1String(isError() ? "error" : "warning"), message, QString::fromStdString(code));
+}

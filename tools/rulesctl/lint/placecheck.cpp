@@ -1,0 +1,92 @@
+#include "tools/rulesctl/lint/checks.h"
+
+#include "Protocol/datatemplate.h"
+#include "Protocol/entrywriter.h"
+#include "Protocol/jsonpath.h"
+#include "Protocol/placecheck.h"
+#include "Protocol/ruleprotocolitem.h"
+#include "tools/rulesctl/lint/findingmaker.h"
+#include "tools/rulesctl/lint/lintedtemplate.h"
+
+using kql::Json::Value;
+using PlaceCheck::PlaceFault;
+
+namespace
+{
+
+/// Whether @p path would have to go on in something that is there and no object.
+bool leadsThroughOther(const JsonPath& path, const Value& entry)
+{
+    const Value* value = &entry;
+    for (std::size_t i = 0; i + 1 < path.parts().size(); ++i) {
+        const JsonPath::Part& part = path.parts()[i];
+        value = value->find(part.name);
+        if (value && part.isArray && value->isArray()) {
+            if (value->empty())
+                return false;
+            value = &(*value)[0];
+        }
+        if (!value || !value->isObject())
+            return value;
+    }
+    return false;
+}
+
+/// Whether the type and the facade are as they were meant; where one is misspelt, or the key that
+/// leads to the facade is missing, that is told by itself.
+bool isSure(const LintedControl& control)
+{
+    const Value& type = (*control.json)["protocol"]["type"];
+    const bool isMisspelt = type.isString() && control.item->valueType() == ValueType::None;
+    const bool isUnsure = control.details && LintedTemplate::placeOfDetails(*control.details) ==
+                                                 TemplatePlace::UnsureDetails;
+    return !isMisspelt && !isUnsure && (*control.json)["key"].isString();
+}
+
+void tell(const LintedControl& control, const PlaceFault& fault, const Value& prototype,
+          Findings& findings)
+{
+    const std::string pointer = control.pointer + "/protocol/name";
+    const Value& name = (*control.json)["protocol"]["name"];
+    const auto add = [&](const char* code, const QString& message) {
+        FindingMaker::add(findings, code, pointer, name, message);
+    };
+    if (fault.kind == PlaceFault::Kind::NoType)
+        add("place-unwritable", QStringLiteral("a value without a type, or of the type \"point\", "
+                                               "is not written"));
+    else if (fault.kind == PlaceFault::Kind::OtherKind)
+        add("place-unwritable",
+            QStringLiteral("the skeleton's first entry has something there that no value of this "
+                           "type replaces"));
+    else if (leadsThroughOther(*fault.path, prototype))
+        add("place-unwritable", QStringLiteral("%1 leads through something that is no object")
+                                    .arg(FindingMaker::quoted(fault.path->text())));
+    else
+        add("place-missing", QStringLiteral("the skeleton's first entry has no place %1")
+                                 .arg(FindingMaker::quoted(fault.path->text())));
+}
+
+void judge(const LintedSection& section, const Value& skeleton, Findings& findings)
+{
+    const EntryWriter writer(*section.data, QString::fromStdString(section.name));
+    const JsonPath parent((*section.json)["parent"].asString());
+    const Value prototype = writer.prototype(parent.firstEntryIn(skeleton));
+    for (const LintedControl& control : section.controls) {
+        if (!control.item || !(*control.json)["protocol"]["name"].isString())
+            continue;
+        const PlaceFault fault = PlaceCheck::faultOf(*control.item, writer, prototype);
+        const bool isTold = fault.kind == PlaceFault::Kind::NoType && !isSure(control);
+        if (fault.kind != PlaceFault::Kind::None && !isTold)
+            tell(control, fault, prototype, findings);
+    }
+}
+
+} // namespace
+
+void Checks::places(const LintedTemplate& linted, Findings& findings)
+{
+    for (const LintedSection& section : linted.sections()) {
+        if (section.data && linted.skeleton())
+            judge(section, *linted.skeleton(), findings);
+    }
+}
