@@ -145,6 +145,7 @@ bool RuleParser::readData(const QString& text)
 
 bool RuleParser::readData(Value document, QString& why)
 {
+    m_overfullPlace.clear();
     const auto isRoomFor = [&](const auto& countOf) {
         qint64 textLeft = Limits::kSceneText;
         return std::all_of(m_data.begin(), m_data.end(), [&](const auto& scene) {
@@ -201,16 +202,16 @@ QStringList RuleParser::notices() const
     return notices + m_notices;
 }
 
-bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const
+bool RuleParser::hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why)
 {
     const qint64 text = textPerEntry(scene);
     const qint64 most = std::min<qint64>(Limits::kEntries, textLeft / text);
     textLeft -= count * text;
     if (count <= most)
         return true;
-    const DataTemplate& dataTemplate = *scene.getTemplate();
+    m_overfullPlace = scene.getTemplate()->parent();
     why = tr("The configuration has %1 entries under \"%2\"; at most %3 can be edited.")
-              .arg(QString::number(count), dataTemplate.parent(), QString::number(most));
+              .arg(QString::number(count), m_overfullPlace, QString::number(most));
     return false;
 }
 
@@ -223,14 +224,15 @@ qint64 RuleParser::textPerEntry(const RuleData& scene) const
     return *known;
 }
 
-bool RuleParser::isReadWhole(QString& why) const
+bool RuleParser::isReadWhole(QString& why)
 {
     const auto cut = std::find_if(m_data.begin(), m_data.end(),
                                   [](const auto& scene) { return scene->isOverdrawn(); });
     if (cut == m_data.end())
         return true;
+    m_overfullPlace = (*cut)->getTemplate()->parent();
     why = tr("The attributes read too much of what the configuration has under \"%1\".")
-              .arg((*cut)->getTemplate()->parent());
+              .arg(m_overfullPlace);
     return false;
 }
 

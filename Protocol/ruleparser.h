@@ -55,6 +55,8 @@ public:
     bool readData(const QString& text);
     /// As above, of the parsed text.
     bool readData(kql::Json::Value document, QString& why);
+    /// Path of the entries for which the last configuration was refused; empty when it was not.
+    const QString& overfullPlace() const { return m_overfullPlace; }
     /// Lets go of what was read, so that the same template takes another configuration.
     void forgetData();
     /// The configuration with the edited data; false when the template carries no
@@ -91,9 +93,9 @@ public:
 
 private:
     /// Takes the text of @p count entries off @p textLeft.
-    bool hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why) const;
+    bool hasRoomFor(const RuleData& scene, int count, qint64& textLeft, QString& why);
     qint64 textPerEntry(const RuleData& scene) const;
-    bool isReadWhole(QString& why) const;
+    bool isReadWhole(QString& why);
     std::optional<WriteRefusal> write(kql::Json::Value& config) const;
     static std::optional<WriteRefusal>
     writeScene(const RuleData& scene, const WriteContext& context, kql::Json::Value& document);
@@ -104,6 +106,7 @@ private:
     int m_algorithmId = 0;
     QString m_algorithmName;
     std::vector<std::unique_ptr<RuleData>> m_data;
+    QString m_overfullPlace;
     QStringList m_notices; ///< about what lies outside of all scenes
     // What the template alone decides, looked up when needed.
     mutable QHash<const RuleData*, qint64> m_textPerEntry;

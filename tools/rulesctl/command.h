@@ -40,5 +40,6 @@ std::vector<OptionSpec> optionsOf(const Command& command);
 
 const Command& check();
 const Command& convert();
+const Command& lint();
 
 } // namespace Commands

@@ -7,6 +7,7 @@ const std::vector<const Command*>& Commands::all()
     static const std::vector<const Command*> commands{
         &check(),
         &convert(),
+        &lint(),
     };
     return commands;
 }

@@ -38,9 +38,12 @@ Value Finding::toJson() const
     return json;
 }
 
-QString Finding::toLine(const QString& file) const
+QString Finding::toLine(const QString& file, bool isColoured) const
 {
+    const QString word = QLatin1String(isError() ? "error" : "warning");
+    const QString colour =
+        isError() ? QStringLiteral("\033[31m%1\033[m") : QStringLiteral("\033[33m%1\033[m");
     return QStringLiteral("%1:%2:%3: %4: %5 [%6]")
         .arg(file, QString::number(line), QString::number(column),
-             QLatin1String(isError() ? "error" : "warning"), message, QString::fromStdString(code));
+             isColoured ? colour.arg(word) : word, message, QString::fromStdString(code));
 }

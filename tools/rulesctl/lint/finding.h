@@ -32,7 +32,7 @@ struct Finding {
     /// As scripts read it.
     kql::Json::Value toJson() const;
     /// As compilers print it, of the document in @p file.
-    QString toLine(const QString& file) const;
+    QString toLine(const QString& file, bool isColoured) const;
 };
 
 using Findings = std::vector<Finding>;

@@ -19,7 +19,8 @@ constexpr Checks::Check kChecks[] = {
 /// Details that several controls share were judged for each of them.
 bool isSame(const Finding& a, const Finding& b)
 {
-    return a.code == b.code && a.pointer == b.pointer && a.line == b.line && a.column == b.column;
+    return a.code == b.code && a.pointer == b.pointer && a.line == b.line && a.column == b.column &&
+           a.message == b.message && a.found == b.found;
 }
 
 } // namespace
