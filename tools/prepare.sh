@@ -6,9 +6,10 @@ say() { printf '== %s\n' "$*"; }
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools
     rapidjson-dev libavformat-dev libavcodec-dev libswscale-dev libavutil-dev fonts-dejavu-core"
 QT6_PACKAGES="qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools"
-# What the tests need besides: a streaming server of another make than the player, Chinese glyphs.
+# What the tests need besides: a streaming server of another make than the player, Chinese glyphs,
+# what judges documents by schemas.
 TEST_PACKAGES="fonts-droid-fallback libgstrtspserver-1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
-    gstreamer1.0-plugins-ugly glib-networking binutils"
+    gstreamer1.0-plugins-ugly glib-networking binutils python3-jsonschema"
 # What a screen reader asks, on a display and a bus of its own.
 READER_PACKAGES="python3-pyatspi at-spi2-core dbus xvfb xauth"
 # The compiler of the fuzzers, and its sanitizers.

@@ -1,6 +1,9 @@
 #include "host/json/reader.h"
 #include "tests/support/examplefiles.h"
 #include "tests/support/rulestest.h"
+#include "tools/rulesctl/documents/templatedocument.h"
+#include "tools/rulesctl/lint/againstlint.h"
+#include "tools/rulesctl/lint/configlint.h"
 #include "tools/rulesctl/lint/lintedtemplate.h"
 #include "tools/rulesctl/lint/templatelint.h"
 
@@ -13,12 +16,31 @@ namespace
 
 const auto kFixtures = QStringLiteral(RULES_SOURCE_DIR "/tests/rulesctl/lint");
 
-Findings lint(const QByteArray& text)
-{
+struct ReadFile {
+    explicit ReadFile(const QString& path) : text(ExampleFiles::contentOf(path))
+    {
+        kql::Json::Reader().parse(utf8(), document);
+    }
+    std::string_view utf8() const { return {text.constData(), std::size_t(text.size())}; }
+
+    QByteArray text;
     Value document;
-    const std::string_view utf8(text.constData(), std::size_t(text.size()));
-    kql::Json::Reader().parse(utf8, document);
-    return TemplateLint::run(LintedTemplate(document), utf8);
+};
+
+/// Of a template, alone or against CASE.older.json, or of a configuration of CASE.template.json.
+Findings lint(const QString& path, const QString& testCase)
+{
+    const ReadFile read(path);
+    const QString configured = testCase + ".template.json";
+    if (QFile::exists(configured))
+        return ConfigLint({configured, ReadFile(configured).document, {}})
+            .run({read.utf8(), {}, read.document});
+    const LintedTemplate linted(read.document);
+    const QString older = testCase + ".older.json";
+    Findings against;
+    if (QFile::exists(older))
+        against = AgainstLint::run(linted, LintedTemplate(ReadFile(older).document));
+    return TemplateLint::run(linted, read.utf8(), against);
 }
 
 /// What editors jump to, and what they offer.
@@ -78,19 +100,22 @@ void TstLint::findsWhatIsWrong()
 {
     QFETCH(QString, code);
     QFETCH(QString, path);
-    const Findings findings = lint(ExampleFiles::contentOf(path + ".json"));
+    const Findings findings = lint(path + ".json", path);
     const QString found = linesOf(findings).join('\n') + '\n';
     QCOMPARE(found, QString::fromUtf8(ExampleFiles::contentOf(path + ".expected")));
     QVERIFY(hasCode(findings, code));
-    QVERIFY(!hasCode(lint(ExampleFiles::contentOf(path + ".twin.json")), code));
+    QVERIFY(!hasCode(lint(path + ".twin.json", path), code));
 }
 
 void TstLint::hasNothingToSayOfTheExamples()
 {
     for (const QString& name : ExampleFiles::names()) {
-        const QByteArray text =
-            ExampleFiles::contentOf(ExampleFiles::folder(name) + "template.json");
-        QCOMPARE(name + linesOf(lint(text)).join("\n"), name);
+        const QString path = ExampleFiles::folder(name) + "template.json";
+        QCOMPARE(name + linesOf(lint(path, {})).join("\n"), name);
+        const ReadFile config(ExampleFiles::folder(name) + "config.json");
+        const Findings findings = ConfigLint({path, ReadFile(path).document, {}})
+                                      .run({config.utf8(), {}, config.document});
+        QCOMPARE(name + linesOf(findings).join("\n"), name);
     }
 }
 
