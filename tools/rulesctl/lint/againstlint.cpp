@@ -128,8 +128,9 @@ private:
                 QStringLiteral("the section %1 is gone")
                     .arg(quoted(QString::fromStdString(older.name))));
         else if (parent != (*newer->json)["parent"])
-            add("value-dropped", newer->pointer + "/parent", parent,
-                QStringLiteral("the section reads another place"));
+            add("value-dropped",
+                newer->json->isMember("parent") ? newer->pointer + "/parent" : newer->pointer,
+                parent, QStringLiteral("the section reads another place"));
     }
 
     /// What there is of it: the section where it has none, or what sections lie in.

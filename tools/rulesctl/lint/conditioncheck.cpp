@@ -11,32 +11,14 @@
 namespace
 {
 
-/// Whether the row of each controller can have one of the values, and one that has a single value
-/// can have one that all conditions on it name.
-bool canBeMet(const std::vector<Conditions::Wanted>& wanted)
-{
-    for (const Conditions::Wanted& each : wanted) {
-        if (Conditions::possible(*each.controller, each.values).isEmpty())
-            return false;
-    }
-    return !Conditions::exclude(wanted, wanted);
-}
-
-const RuleProtocolItem* controllerOf(const DataTemplate& dataTemplate, const RuleProtocolItem& item)
-{
-    return item.validity().isEmpty()
-               ? nullptr
-               : Conditions::controllerOf(dataTemplate, item.validity().first());
-}
-
 /// The attributes from @p item on, each named by the condition of the one before, that lead back to
 /// it; empty where they do not.
-QStringList circleFrom(const DataTemplate& dataTemplate, const RuleProtocolItem& item)
+QStringList circleFrom(Conditions& conditions, const RuleProtocolItem& item)
 {
     QStringList circle{item.key()};
     QSet<const RuleProtocolItem*> visited{&item};
-    const RuleProtocolItem* next = controllerOf(dataTemplate, item);
-    for (; next && !visited.contains(next); next = controllerOf(dataTemplate, *next)) {
+    const RuleProtocolItem* next = conditions.controllerOf(item);
+    for (; next && !visited.contains(next); next = conditions.controllerOf(*next)) {
         circle.append(next->key());
         visited.insert(next);
     }
@@ -45,16 +27,16 @@ QStringList circleFrom(const DataTemplate& dataTemplate, const RuleProtocolItem&
 
 void judgeSection(const LintedSection& section, Findings& findings)
 {
-    const DataTemplate& dataTemplate = *section.dataTemplate();
+    Conditions conditions(*section.dataTemplate());
     QSet<QString> told;
     for (const LintedControl& control : section.controls) {
         if (!control.item || control.item->validity().isEmpty())
             continue;
         const kql::Json::Value& valid = (*control.json)["valid"];
-        if (!canBeMet(Conditions::of(dataTemplate, *control.item)))
+        if (!conditions.canBeMet(*control.item))
             FindingMaker::add(findings, "never-shown", control.pointer + "/valid", valid,
                               QStringLiteral("no choice ever meets this condition"));
-        const QStringList circle = circleFrom(dataTemplate, *control.item);
+        const QStringList circle = circleFrom(conditions, *control.item);
         if (circle.isEmpty() || told.contains(circle.first()))
             continue;
         told += QSet<QString>(circle.begin(), circle.end());

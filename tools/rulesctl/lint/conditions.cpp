@@ -11,6 +11,26 @@
 namespace
 {
 
+bool hasOneValue(const RuleProtocolItem& controller)
+{
+    const FacadeType facade = controller.facade();
+    return facade == FacadeType::RadioButton || facade == FacadeType::Bool ||
+           facade == FacadeType::InputBoxNumber;
+}
+
+bool haveCommon(const Conditions::Values& one, const Conditions::Values& other)
+{
+    const bool areApart = !one.empty() && !other.empty() &&
+                          (one.back() < other.front() || other.back() < one.front());
+    if (areApart)
+        return false;
+    auto first = one.begin();
+    auto second = other.begin();
+    while (first != one.end() && second != other.end() && *first != *second)
+        *first < *second ? ++first : ++second;
+    return first != one.end() && second != other.end();
+}
+
 /// As the row holds the choice, which of a number is one.
 QString heldText(const QString& choice, ValueType type)
 {
@@ -18,88 +38,120 @@ QString heldText(const QString& choice, ValueType type)
                                   : ComparableText::of(choice, type);
 }
 
-bool isPossible(const RuleProtocolItem& controller, const QString& text)
+bool isWholeNumber(const QString& text)
 {
-    switch (controller.facade()) {
-    case FacadeType::Bool:
-        return text == QLatin1String("true") || text == QLatin1String("false");
-    case FacadeType::RadioButton:
-    case FacadeType::CheckBox: {
-        const auto& options = controller.enumeration();
-        return std::any_of(options.begin(), options.end(), [&](const EnumOption& option) {
-            return heldText(option.value, controller.valueType()) == text;
-        });
-    }
-    case FacadeType::InputBoxNumber:
-        return controller.valueType() != ValueType::Int || QString::number(text.toInt()) == text;
-    default:
-        return true;
-    }
-}
-
-bool haveCommon(const QStringList& one, const QStringList& other)
-{
-    return std::any_of(one.begin(), one.end(),
-                       [&other](const QString& text) { return other.contains(text); });
+    return QString::number(text.toInt()) == text;
 }
 
 } // namespace
 
-const RuleProtocolItem* Conditions::controllerOf(const DataTemplate& dataTemplate,
-                                                 const ValidCondition& condition)
+const RuleProtocolItem* Conditions::controllerOf(const RuleProtocolItem& item)
 {
-    return condition.values.isEmpty() ? nullptr : dataTemplate.findItem(condition.controlKey);
+    return ownOf(item).controller;
 }
 
-std::vector<Conditions::Wanted> Conditions::of(const DataTemplate& dataTemplate,
-                                               const RuleProtocolItem& item)
+Conditions::Chain Conditions::of(const RuleProtocolItem& item)
 {
-    std::vector<Wanted> wanted;
-    std::vector<const RuleProtocolItem*> toVisit{&item};
-    QSet<const RuleProtocolItem*> visited;
-    while (!toVisit.empty()) {
-        const RuleProtocolItem* const next = toVisit.back();
-        toVisit.pop_back();
-        if (visited.contains(next)) // they may name each other in a circle
-            continue;
+    Chain chain;
+    QSet<const RuleProtocolItem*> visited; // they may name each other in a circle
+    for (const RuleProtocolItem* next = &item; next && !visited.contains(next);) {
         visited.insert(next);
-        for (const ValidCondition& condition : next->validity()) {
-            const RuleProtocolItem* const controller = controllerOf(dataTemplate, condition);
-            if (!controller)
-                continue;
-            const bool hasSpellings = ComparableText::hasSpellings(controller->valueType());
-            wanted.push_back({controller, hasSpellings ? condition.comparable : condition.values});
-            toVisit.push_back(controller);
+        const Own& own = ownOf(*next);
+        if (own.controller)
+            chain.push_back({own.controller, &own.values});
+        next = own.controller;
+    }
+    std::stable_sort(chain.begin(), chain.end(), [](const Wanted& a, const Wanted& b) {
+        return std::less<>()(a.controller, b.controller);
+    });
+    return chain;
+}
+
+/// In a circle one controller may be asked for twice.
+bool Conditions::canBeMet(const RuleProtocolItem& item)
+{
+    QSet<const RuleProtocolItem*> visited;
+    for (const RuleProtocolItem* next = &item; next && !visited.contains(next);) {
+        visited.insert(next);
+        if (!ownOf(*next).isPossible)
+            return false;
+        next = ownOf(*next).controller;
+    }
+    const Chain chain = of(item);
+    return !exclude(chain, chain);
+}
+
+/// Both are walked through once; those of one controller, mostly one, are compared with each other.
+bool Conditions::exclude(const Chain& one, const Chain& other)
+{
+    auto from = other.begin();
+    for (const Wanted& wanted : one) {
+        while (from != other.end() && std::less<>()(from->controller, wanted.controller))
+            ++from;
+        for (auto same = from; same != other.end() && same->controller == wanted.controller;
+             ++same) {
+            if (hasOneValue(*wanted.controller) && !haveCommon(*wanted.values, *same->values))
+                return true;
         }
     }
-    return wanted;
+    return false;
 }
 
-bool Conditions::hasOneValue(const RuleProtocolItem& controller)
+const Conditions::Own& Conditions::ownOf(const RuleProtocolItem& item)
 {
-    const FacadeType facade = controller.facade();
-    return facade == FacadeType::RadioButton || facade == FacadeType::Bool ||
-           facade == FacadeType::InputBoxNumber;
-}
-
-QStringList Conditions::possible(const RuleProtocolItem& controller, const QStringList& wanted)
-{
-    QStringList left;
-    for (const QString& text : wanted) {
-        if (isPossible(controller, text))
-            left.append(text);
+    const auto known = m_own.find(&item);
+    if (known != m_own.end())
+        return known->second;
+    Own own;
+    if (!item.validity().isEmpty() && !item.validity().first().values.isEmpty()) {
+        const ValidCondition& condition = item.validity().first();
+        own.controller = m_template.findItem(condition.controlKey);
+        if (own.controller) {
+            const bool hasSpellings = ComparableText::hasSpellings(own.controller->valueType());
+            const QStringList& texts = hasSpellings ? condition.comparable : condition.values;
+            own.values = numbersOf(texts);
+            own.isPossible = isPossible(*own.controller, texts, own.values);
+        }
     }
-    return left;
+    return m_own.emplace(&item, std::move(own)).first->second;
 }
 
-bool Conditions::exclude(const std::vector<Wanted>& one, const std::vector<Wanted>& other)
+Conditions::Values Conditions::numbersOf(const QStringList& texts)
 {
-    const auto isExcluded = [&other](const Wanted& wanted) {
-        return hasOneValue(*wanted.controller) &&
-               std::any_of(other.begin(), other.end(), [&wanted](const Wanted& against) {
-                   return against.controller == wanted.controller &&
-                          !haveCommon(wanted.values, against.values);
-               });
-    };
-    return std::any_of(one.begin(), one.end(), isExcluded);
+    Values numbers;
+    for (const QString& text : texts) {
+        const auto known = m_numbers.constFind(text);
+        numbers.push_back(known == m_numbers.constEnd() ? *m_numbers.insert(text, m_numbers.size())
+                                                        : *known);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
+const Conditions::Values& Conditions::choicesOf(const RuleProtocolItem& controller)
+{
+    const auto known = m_choices.find(&controller);
+    if (known != m_choices.end())
+        return known->second;
+    QStringList texts;
+    for (const EnumOption& option : controller.enumeration())
+        texts.append(heldText(option.value, controller.valueType()));
+    return m_choices.emplace(&controller, numbersOf(texts)).first->second;
+}
+
+bool Conditions::isPossible(const RuleProtocolItem& controller, const QStringList& texts,
+                            const Values& values)
+{
+    switch (controller.facade()) {
+    case FacadeType::Bool:
+        return texts.contains(QStringLiteral("true")) || texts.contains(QStringLiteral("false"));
+    case FacadeType::RadioButton:
+    case FacadeType::CheckBox:
+        return haveCommon(values, choicesOf(controller));
+    case FacadeType::InputBoxNumber:
+        return controller.valueType() != ValueType::Int ||
+               std::any_of(texts.begin(), texts.end(), &isWholeNumber);
+    default:
+        return true;
+    }
 }

@@ -32,6 +32,16 @@ std::string pointerTo(const JsonPath& path, const Value& config)
     return pointer;
 }
 
+/// What is long stands in neither place of a line.
+QString change(const Value& left)
+{
+    constexpr int kMost = 60;
+    const QString text = left.isNull() ? QString() : left.toCompactText();
+    return text.isEmpty() || text.size() > kMost
+               ? QStringLiteral("a save writes something else here")
+               : QStringLiteral("a save writes %1 here").arg(text);
+}
+
 } // namespace
 
 Findings ConfigLint::run(const ConfigText& text)
@@ -59,13 +69,10 @@ void ConfigLint::findLosses(const Value& config, Findings& findings) const
     if (!m_rules.parser().writeData(written))
         return; // nothing is saved at all, for reasons that the template's findings tell
     const auto tell = [&findings](ValueChanges::Kind kind, const std::string& pointer,
-                                  const Value& found) {
-        if (kind == ValueChanges::Kind::Dropped)
-            FindingMaker::add(findings, "value-dropped", pointer, found,
-                              QStringLiteral("a save drops this"));
-        else
-            FindingMaker::add(findings, "value-changed", pointer, found,
-                              QStringLiteral("a save writes something else here"));
+                                  const Value& found, const Value& left) {
+        const bool isDropped = kind == ValueChanges::Kind::Dropped;
+        FindingMaker::add(findings, isDropped ? "value-dropped" : "value-changed", pointer, found,
+                          isDropped ? QStringLiteral("a save drops this") : change(left));
     };
     const SavedEntries entries(m_rules.parser(), config, written);
     const ValueChanges changes(

@@ -1,8 +1,7 @@
 #include "tools/rulesctl/lint/jsonpointer.h"
 
-std::string JsonPointer::member(std::string_view parent, std::string_view name)
+void JsonPointer::append(std::string& pointer, std::string_view name)
 {
-    std::string pointer(parent);
     pointer += '/';
     for (const char c : name) {
         if (c == '~')
@@ -12,6 +11,12 @@ std::string JsonPointer::member(std::string_view parent, std::string_view name)
         else
             pointer += c;
     }
+}
+
+std::string JsonPointer::member(std::string_view parent, std::string_view name)
+{
+    std::string pointer(parent);
+    append(pointer, name);
     return pointer;
 }
 

@@ -8,6 +8,8 @@
 namespace JsonPointer
 {
 
+/// Makes @p pointer lead on to the member @p name.
+void append(std::string& pointer, std::string_view name);
 /// Of the member @p name of what @p parent points to.
 std::string member(std::string_view parent, std::string_view name);
 /// Of the element at @p index, from 0.

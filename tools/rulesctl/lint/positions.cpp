@@ -61,6 +61,8 @@ void placeAll(std::vector<std::pair<std::size_t, Finding*>>& found, std::string_
 
 void Positions::place(Findings& findings, std::string_view utf8, std::string_view base)
 {
+    if (findings.empty())
+        return;
     std::unordered_map<std::string, Offsets> wanted;
     for (const Finding& finding : findings)
         wanted.emplace(std::string(base) + finding.pointer, Offsets());

@@ -56,7 +56,7 @@ bool SavedEntries::compare(const Value& place, const std::string& pointer,
         const auto position = known.find(listed[i]);
         const bool isSaved = position != known.end() && position->second < written.size();
         if (!isSaved && !listed[i]->isNull())
-            tell(ValueChanges::Kind::Dropped, at, *listed[i]);
+            tell(ValueChanges::Kind::Dropped, at, *listed[i], Value());
         if (!isSaved)
             continue;
         isInOrder = isInOrder && position->second >= next;
@@ -64,6 +64,6 @@ bool SavedEntries::compare(const Value& place, const std::string& pointer,
         changes.compareInside(*listed[i], *written[position->second], at);
     }
     if (!isInOrder)
-        tell(ValueChanges::Kind::Changed, pointer, place);
+        tell(ValueChanges::Kind::Changed, pointer, place, Value());
     return true;
 }

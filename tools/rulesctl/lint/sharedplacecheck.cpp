@@ -45,12 +45,19 @@ Place placeOf(const RuleProtocolItem& item, const Value& prototype)
 
 struct Sharer {
     const LintedControl* control;
-    std::vector<Conditions::Wanted> conditions;
+    Conditions::Chain conditions;
 };
+
+/// Figures are written whether they apply or not.
+bool areApart(const Sharer& one, const Sharer& other)
+{
+    const bool isFigure = one.control->item->isFigure() || other.control->item->isFigure();
+    return !isFigure && Conditions::exclude(one.conditions, other.conditions);
+}
 
 void judge(const LintedSection& section, const Value& skeleton, Findings& findings)
 {
-    const DataTemplate& dataTemplate = *section.dataTemplate();
+    Conditions conditions(*section.dataTemplate());
     const EntryWriter writer(*section.data, QString::fromStdString(section.name));
     const JsonPath parent((*section.json)["parent"].asString());
     const Value prototype = writer.prototype(parent.firstEntryIn(skeleton));
@@ -58,10 +65,10 @@ void judge(const LintedSection& section, const Value& skeleton, Findings& findin
     for (const LintedControl& control : section.controls) {
         if (!control.item || control.item->path().text().isEmpty())
             continue;
-        const Sharer sharer{&control, Conditions::of(dataTemplate, *control.item)};
+        const Sharer sharer{&control, conditions.of(*control.item)};
         auto& others = known[placeOf(*control.item, prototype)];
         const auto other = std::find_if(others.begin(), others.end(), [&](const Sharer& before) {
-            return !Conditions::exclude(sharer.conditions, before.conditions);
+            return !areApart(sharer, before);
         });
         if (other != others.end())
             FindingMaker::add(

@@ -43,7 +43,7 @@ void TextScan::object()
     skipBlank();
     while (!take('}') && !isOver()) {
         const std::size_t key = m_at;
-        m_pointer = JsonPointer::member(m_pointer, name());
+        JsonPointer::append(m_pointer, name());
         skipBlank();
         take(':');
         value(key);
@@ -62,7 +62,7 @@ void TextScan::list()
     skipBlank();
     for (int i = 0; !take(']') && !isOver(); ++i) {
         const std::size_t start = m_at;
-        m_pointer = JsonPointer::element(m_pointer, i);
+        JsonPointer::append(m_pointer, std::to_string(i));
         value(std::string_view::npos);
         m_pointer.resize(length);
         skipBlank();

@@ -45,7 +45,7 @@ void ValueChanges::compareInside(const Value& before, const Value& after,
     else if (before.isArray() && after.isArray())
         compareElements(before, after, pointer);
     else if (!EntryLoss::isSame(before, after))
-        m_tell(Kind::Changed, pointer, before);
+        m_tell(Kind::Changed, pointer, before, after);
 }
 
 void ValueChanges::compareMembers(const Value& before, const Value& after,
@@ -58,7 +58,7 @@ void ValueChanges::compareMembers(const Value& before, const Value& after,
         if (const Value* const left = after.find(name))
             compare(value, *left, at);
         else if (!value.isNull() && !m_hook(*this, value, at))
-            m_tell(Kind::Dropped, at, value);
+            m_tell(Kind::Dropped, at, value, Value());
     }
 }
 
@@ -69,7 +69,7 @@ void ValueChanges::compareElements(const Value& before, const Value& after,
         return;
     if (!canBeMatched(before, after)) {
         if (!EntryLoss::isSame(before, after))
-            m_tell(Kind::Changed, pointer, before);
+            m_tell(Kind::Changed, pointer, before, after);
         return;
     }
     for (int i = 0; i < before.size(); ++i)

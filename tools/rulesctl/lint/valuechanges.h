@@ -10,9 +10,10 @@ class ValueChanges
 {
 public:
     enum class Kind { Dropped, Changed };
-    /// @p found is the value at @p pointer in the first document.
-    using Tell =
-        std::function<void(Kind kind, const std::string& pointer, const kql::Json::Value& found)>;
+    /// @p found is the value at @p pointer in the first document, @p left what is in its place in
+    /// the other one.
+    using Tell = std::function<void(Kind kind, const std::string& pointer,
+                                    const kql::Json::Value& found, const kql::Json::Value& left)>;
     /// Takes over a value that is compared in another way; false for any other.
     using Hook = std::function<bool(const ValueChanges& changes, const kql::Json::Value& before,
                                     const std::string& pointer)>;
