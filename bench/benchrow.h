@@ -26,3 +26,4 @@ void addMouseRow(BenchRows& rows);
 void addPanelRows(BenchRows& rows);
 void addOpenRow(BenchRows& rows);
 void addStartRow(BenchRows& rows);
+void addFleetRows(BenchRows& rows);

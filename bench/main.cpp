@@ -58,6 +58,7 @@ int main(int argc, char* argv[])
     addPanelRows(rows);
     addOpenRow(rows);
     addStartRow(rows);
+    addFleetRows(rows);
     RatioTable table(rows);
     table.registerWork();
     benchmark::RunSpecifiedBenchmarks(&table);

@@ -2,14 +2,20 @@
 
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleparser.h"
+#include "bench/commandrun.h"
 #include "bench/figurescene.h"
+#include "bench/fleetfiles.h"
 #include "bench/sampledocument.h"
 #include "bench/verdicts.h"
 #include "draw/drawitem.h"
 #include "draw/drawscene.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <cstdio>
 #include <malloc.h>
+#include <sys/stat.h>
 
 namespace
 {
@@ -18,6 +24,8 @@ constexpr int kRules = 3000;
 constexpr double kGoal = 6; // times their text
 constexpr int kRulesOfOneLoad = 200;
 constexpr int kLoads = 1000;
+constexpr int kFewDocuments = 1000;
+constexpr int kManyDocuments = 100000;
 /// Freed blocks that the allocator keeps for the thread come and go in between.
 constexpr double kKept = 16384;
 
@@ -92,6 +100,56 @@ void printGrowth(Verdicts& verdicts)
                 kLoads, kRulesOfOneLoad, more, kKept, verdicts.of(more, kKept));
 }
 
+/// Peak memory of rulesctl over few and many documents; each may take @p bytesEach more.
+void printFleet(const char* of, double few, double many, double bytesEach, Verdicts& verdicts)
+{
+    constexpr double kMore = 1.1;
+    const double goal = kMore * few + bytesEach * kManyDocuments;
+    std::printf("| check of %d %s | %.0f kB | %.0f kB of %d | %.0f kB | %s |\n", kManyDocuments, of,
+                many / 1024, few / 1024, kFewDocuments, goal / 1024, verdicts.of(many, goal));
+}
+
+QStringList checkWith(const QStringList& input)
+{
+    return QStringList{QStringLiteral("check"), QStringLiteral("--template"),
+                       FleetFiles::templateFile()} +
+           input;
+}
+
+void printLines(Verdicts& verdicts)
+{
+    const QByteArray line =
+        R"({"id":1,"config":)" + FleetFiles::text(FleetFiles::Form::Compact) + "}\n";
+    const auto peak = [&](int lines) {
+        CommandRun run(checkWith({QStringLiteral("--jsonl")}), 1);
+        run.feed(line, lines);
+        const double bytes = run.peakBytes();
+        return run.finish() == 0 ? bytes : 0;
+    };
+    printFleet("documents on standard input", peak(kFewDocuments), peak(kManyDocuments), 0,
+               verdicts);
+}
+
+void printFiles(Verdicts& verdicts)
+{
+    constexpr double kName = 100;
+    const auto peak = [](int count) {
+        const FleetFiles files(FleetFiles::Form::Compact, count);
+        // It comes to the last one, and waits there, when it has done all others.
+        const QTemporaryDir folder;
+        const QString last = folder.filePath(QStringLiteral("last.json"));
+        ::mkfifo(qPrintable(last), 0600);
+        CommandRun run(checkWith({QStringLiteral("--config"), files.folder(), last}), 1);
+        QFile end(last);
+        end.open(QIODevice::WriteOnly);
+        const double bytes = run.peakBytes();
+        end.write(FleetFiles::text(FleetFiles::Form::Compact));
+        end.close();
+        return run.finish() == 0 ? bytes : 0;
+    };
+    printFleet("files", peak(kFewDocuments), peak(kManyDocuments), kName, verdicts);
+}
+
 } // namespace
 
 void printMemoryReport(Verdicts& verdicts)
@@ -100,4 +158,6 @@ void printMemoryReport(Verdicts& verdicts)
     printRules(verdicts);
     printFigures(verdicts);
     printGrowth(verdicts);
+    printLines(verdicts);
+    printFiles(verdicts);
 }

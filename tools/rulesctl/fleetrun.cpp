@@ -3,13 +3,13 @@
 #include "tools/rulesctl/output.h"
 
 #include <QFuture>
-#include <QMutex>
 #include <QThreadPool>
-#include <QWaitCondition>
 #include <QtConcurrent>
 
 #include <algorithm>
+#include <condition_variable>
 #include <map>
+#include <mutex>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -68,30 +68,29 @@ public:
     /// The next part; -1 when there is none. Waits while too many answers are held.
     int next()
     {
-        QMutexLocker lock(&m_mutex);
-        while (m_next < partCount() && m_next >= m_taken + m_most)
-            m_hasRoom.wait(&m_mutex);
+        std::unique_lock lock(m_mutex);
+        m_hasRoom.wait(lock, [this] { return m_next >= partCount() || m_next < m_taken + m_most; });
         return m_next < partCount() ? m_next++ : -1;
     }
 
     void put(int part, Answers answers)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         m_answers.emplace(part, std::move(answers));
         if (part == m_taken)
-            m_hasAnswers.wakeOne();
+            m_hasAnswers.notify_one();
     }
 
     /// Waits for the answers of the next part in order.
     Answers take()
     {
-        QMutexLocker lock(&m_mutex);
-        while (m_answers.empty() || m_answers.begin()->first != m_taken)
-            m_hasAnswers.wait(&m_mutex);
+        std::unique_lock lock(m_mutex);
+        m_hasAnswers.wait(
+            lock, [this] { return !m_answers.empty() && m_answers.begin()->first == m_taken; });
         Answers answers = std::move(m_answers.begin()->second);
         m_answers.erase(m_answers.begin());
         ++m_taken;
-        m_hasRoom.wakeAll();
+        m_hasRoom.notify_all();
         return answers;
     }
 
@@ -99,15 +98,16 @@ private:
     const int m_fileCount;
     const int m_atOnce;
     const int m_most;
-    QMutex m_mutex;
-    QWaitCondition m_hasRoom;
-    QWaitCondition m_hasAnswers;
+    // Of the standard library: the sanitizer for threads does not see into Qt's.
+    std::mutex m_mutex;
+    std::condition_variable m_hasRoom;
+    std::condition_variable m_hasAnswers;
     std::map<int, Answers> m_answers; ///< by part
     int m_next = 0;
     int m_taken = 0;
 };
 
-FleetRun::FleetRun(QStringList files, std::function<Work()> makeWork, Output& output)
+FleetRun::FleetRun(FileList files, std::function<Work()> makeWork, Output& output)
     : m_files(std::move(files)),
       m_makeWork(std::move(makeWork)),
       m_output(output),
@@ -122,8 +122,8 @@ ExitStatus FleetRun::run()
         runOnThreads(threads);
     } else {
         const Work work = m_makeWork();
-        for (const QString& file : qAsConst(m_files))
-            take(work(file));
+        for (int i = 0; i < m_files.size(); ++i)
+            take(work(m_files.at(i)));
     }
     if (count(ExitStatus::Unusable) > 0)
         return ExitStatus::Unusable;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/rulesctl/documents/filelist.h"
 #include "tools/rulesctl/exitstatus.h"
 
 #include <QByteArray>
@@ -26,7 +27,7 @@ public:
     using Work = std::function<FileAnswer(const QString& file)>;
 
     /// @p makeWork is called once for each thread, on it.
-    FleetRun(QStringList files, std::function<Work()> makeWork, Output& output);
+    FleetRun(FileList files, std::function<Work()> makeWork, Output& output);
 
     /// What stands between two answers.
     void setSeparator(const QByteArray& separator) { m_separator = separator; }
@@ -45,7 +46,7 @@ private:
     void take(const FileAnswer& answer);
     void showProgress();
 
-    QStringList m_files;
+    FileList m_files;
     std::function<Work()> m_makeWork;
     Output& m_output;
     QByteArray m_separator;

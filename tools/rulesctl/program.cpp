@@ -7,8 +7,10 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QTextCodec>
 #include <QTranslator>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+#endif
 
 #include <clocale>
 #ifdef Q_OS_UNIX
