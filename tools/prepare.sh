@@ -12,6 +12,8 @@ TEST_PACKAGES="fonts-droid-fallback libgstrtspserver-1.0-dev gstreamer1.0-plugin
     gstreamer1.0-plugins-ugly glib-networking binutils python3-jsonschema"
 # What a screen reader asks, on a display and a bus of its own.
 READER_PACKAGES="python3-pyatspi at-spi2-core dbus xvfb xauth"
+# What spreads files over machines, and two of these.
+FLEET_PACKAGES="parallel openssh-server openssh-client"
 # The compiler of the fuzzers, and its sanitizers.
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
 
