@@ -41,5 +41,6 @@ std::vector<OptionSpec> optionsOf(const Command& command);
 const Command& check();
 const Command& convert();
 const Command& lint();
+const Command& diff();
 
 } // namespace Commands

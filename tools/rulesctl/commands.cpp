@@ -8,6 +8,7 @@ const std::vector<const Command*>& Commands::all()
         &check(),
         &convert(),
         &lint(),
+        &diff(),
     };
     return commands;
 }

@@ -1,0 +1,126 @@
+#include "tests/rulesctl/ctlprogram.h"
+#include "tests/support/examplefiles.h"
+#include "tests/support/fixtures.h"
+#include "tests/support/rulestest.h"
+
+using kql::Json::Value;
+
+namespace
+{
+
+QStringList diff(const QString& folder = {})
+{
+    const QString file =
+        folder.isEmpty() ? Fixtures::path("rulesctl/template.json") : folder + "template.json";
+    return {"diff", "--template", file};
+}
+
+/// Whether @p change has all that @p wanted names.
+bool isLike(const Value& change, const Value& wanted)
+{
+    for (int i = 0; i < wanted.size(); ++i) {
+        const Value* const found = change.find(wanted.memberName(i));
+        if (!found || *found != wanted.memberValue(i))
+            return false;
+    }
+    return change.size() == 12;
+}
+
+QByteArray text(const Value& value)
+{
+    return value.toStyledText().toUtf8();
+}
+
+} // namespace
+
+/// What rulesctl diff tells, of files and of lines.
+class TestDiff : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void changes_data() { Fixtures::addRows("rulesctl/diffs.json"); }
+    void changes();
+    void examples();
+    void lines();
+    void refusals();
+
+private:
+    CtlProgram m_program;
+};
+
+void TestDiff::changes()
+{
+    QFETCH(Value, fixture);
+    const QString a = m_program.file("a.json", text(fixture["a"]));
+    const QString b = m_program.file("b.json", text(fixture["b"]));
+    const auto outcome = m_program.run(diff() + QStringList{a, b, "--format", "json"});
+    const Value answer = CtlProgram::parsed(outcome.output);
+    const Value& wanted = fixture["changes"];
+    const bool isSame = wanted.empty() || fixture["same"].asBool();
+    QCOMPARE(outcome.complaints, QString());
+    QCOMPARE(outcome.status, isSame ? 0 : 1);
+    QCOMPARE(answer["same"].asBool(), isSame);
+    QCOMPARE(answer["changes"].size(), wanted.size());
+    for (int i = 0; i < wanted.size(); ++i)
+        QVERIFY2(isLike(answer["changes"][i], wanted[i]), text(answer["changes"][i]).constData());
+    const auto plain = m_program.run(diff() + QStringList{a, b});
+    QCOMPARE(plain.status, outcome.status);
+    for (int i = 0; i < wanted.size(); ++i)
+        QVERIFY(plain.output.contains(answer["changes"][i]["text"].asString().toUtf8()));
+}
+
+/// A save that was read again is what was saved.
+void TestDiff::examples()
+{
+    for (const QString& name : ExampleFiles::names()) {
+        const QString folder = ExampleFiles::folder(name);
+        const QString config = folder + "config.json";
+        const QString saved = folder + "saved.json";
+        QCOMPARE(m_program.run(diff(folder) + QStringList{config, config}).output, QByteArray());
+        QCOMPARE(m_program.run(diff(folder) + QStringList{saved, saved}).status, 0);
+        const auto there = m_program.run(diff(folder) + QStringList{config, saved});
+        const auto back = m_program.run(diff(folder) + QStringList{saved, config});
+        QCOMPARE(there.status, 1);
+        QCOMPARE(there.output.count("  - "), back.output.count("  + "));
+    }
+}
+
+void TestDiff::lines()
+{
+    const auto outcome =
+        m_program.run(diff() + QStringList{"--jsonl"},
+                      "{\"id\":1.50,\"a\":{\"Rules\":[{\"Name\":\"A\"}]},\"b\":{\"Rules\":[]}}\n\n"
+                      "{\"id\":\"x\",\"a\":{},\"b\":{}}\n{\"id\":2,\"a\":{}}\n");
+    const QList<QByteArray> answers = outcome.output.split('\n');
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(answers.size(), 4);
+    QVERIFY(answers[0].startsWith("{\"id\":1.50,\"status\":\"ok\",\"same\":false,\"changes\":[{"));
+    QVERIFY(answers[0].endsWith("],\"error\":null}"));
+    QCOMPARE(answers[1], QByteArray("{\"id\":\"x\",\"status\":\"ok\",\"same\":true,\"changes\":[],"
+                                    "\"error\":null}"));
+    QVERIFY(answers[2].startsWith("{\"id\":null,\"line\":4,\"status\":\"unreadable\",\"error\":{"));
+}
+
+void TestDiff::refusals()
+{
+    const QString good = m_program.file("good.json", "{}");
+    const QString bad = m_program.file("bad.json", "{\n  \"Rules\": ]}");
+    const auto broken = m_program.run(diff() + QStringList{good, bad});
+    QCOMPARE(broken.status, 2);
+    QVERIFY2(broken.complaints.startsWith(bad + ":2:"), qPrintable(broken.complaints));
+    for (const QStringList& words : {QStringList{good},
+                                     {good, good, good},
+                                     {good, good, "--jsonl"},
+                                     {good, "gone.json"},
+                                     {good, m_program.path(".")},
+                                     {good, good, "--format", "yaml"}}) {
+        const auto outcome = m_program.run(diff() + words);
+        QCOMPARE(outcome.status, 2);
+        QVERIFY2(!outcome.complaints.isEmpty(), qPrintable(words.join(' ')));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestDiff)
+
+#include "tst_diff.moc"
