@@ -42,5 +42,6 @@ const Command& check();
 const Command& convert();
 const Command& lint();
 const Command& diff();
+const Command& render();
 
 } // namespace Commands

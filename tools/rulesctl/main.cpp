@@ -14,7 +14,11 @@ int main(int argc, char* argv[])
     std::unique_ptr<QCoreApplication> application;
     if (argc > 1 && Program::paints(argv[1])) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        // Of a session's folder, which jobs have not, it warns before it needs it.
+        const QtMessageHandler usual =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         application = std::make_unique<QGuiApplication>(argc, argv);
+        qInstallMessageHandler(usual);
     } else {
         application = std::make_unique<QCoreApplication>(argc, argv);
     }

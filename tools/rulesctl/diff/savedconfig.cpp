@@ -16,7 +16,6 @@ bool SavedConfig::take(Value config, const QString& pointer, QString& why)
     m_pointer = pointer;
     if (!m_rules.load(m_config, why))
         return false;
-    m_rules.nameEntries();
     return m_rules.parser().writeData(m_written, why) && m_writtenRules.load(m_written, why);
 }
 

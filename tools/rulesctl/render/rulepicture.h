@@ -1,0 +1,46 @@
+#pragma once
+
+#include "draw/figurelook.h"
+#include "tools/rulesctl/render/ground.h"
+
+#include <QSet>
+#include <vector>
+
+class QXmlStreamWriter;
+class RuleParser;
+
+/**
+ * The figures of a configuration over a picture, as the rules window paints them while no entry is
+ * selected: one scene after another. Needs an application with fonts. Canvas pixels are those of
+ * the picture.
+ */
+class RulePicture
+{
+public:
+    /// Of the scene whose section is @p scene; of all where that is empty. The canvases of
+    /// @p scenes, which must outlive this, take the picture's size.
+    RulePicture(const RuleParser& scenes, const QString& scene, const Ground& ground);
+
+    /// Makes the figures of these entries stand out, by the ids of entries.
+    void emphasise(const QSet<int>& entries);
+
+    QImage toImage() const;
+    /// A document of its own.
+    QByteArray toSvg() const;
+    /// The element <svg> alone, for pages; with @p picture as the address of the picture beneath,
+    /// none where that is empty.
+    void writeSvg(QXmlStreamWriter& xml, const QString& picture) const;
+
+private:
+    struct Shown {
+        PaintedFigure painted;
+        int entry; ///< its id
+        QString name;
+    };
+    using Scene = std::vector<Shown>;
+
+    void writeFigures(const Scene& scene, QXmlStreamWriter& xml) const;
+
+    Ground m_ground;
+    std::vector<Scene> m_scenes;
+};
