@@ -48,6 +48,12 @@ QString cut(const QString& name, int most)
     return isInHalf ? beginning.chopped(1) : beginning;
 }
 
+QString withNumber(const QString& name, quint64 number)
+{
+    const QString count = QString::number(number);
+    return cut(name, EntryName::kMaxLength - count.size()) + count;
+}
+
 } // namespace
 
 QString EntryName::written(const RuleData& data, int position)
@@ -123,6 +129,25 @@ QString EntryName::ofCopy(const RuleData& data, const QString& wanted)
         name = cut(stem, kMaxLength - count.size()) + count;
     }
     return name;
+}
+
+QString EntryName::numbered(const RuleData& data, const QString& wanted)
+{
+    const QSet<QString> taken = takenNames(data);
+    QString name = wanted;
+    for (quint64 number = 2; taken.contains(name); ++number)
+        name = withNumber(wanted, number);
+    return name;
+}
+
+bool EntryName::isNumbered(const QString& name, const QString& wanted)
+{
+    for (int digits = digitsAtEnd(name); digits > 0; --digits) {
+        const quint64 number = name.right(digits).toULongLong();
+        if (number >= 2 && name == withNumber(wanted, number))
+            return true;
+    }
+    return name == wanted;
 }
 
 QString EntryName::button(const RuleData& data, int position)

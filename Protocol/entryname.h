@@ -41,6 +41,12 @@ bool areKept(const RuleData& data);
 /// the number to be no longer than kMaxLength.
 QString ofCopy(const RuleData& data, const QString& wanted);
 
+/// @p wanted, or where another entry has that name, or one kept aside, with the lowest free number
+/// from 2 on behind it. It is cut as above.
+QString numbered(const RuleData& data, const QString& wanted);
+/// Whether numbered() may have made @p name of @p wanted.
+bool isNumbered(const QString& name, const QString& wanted);
+
 /// What faults call the row for it, which stands for no attribute.
 constexpr char kRow[] = "ruleName";
 

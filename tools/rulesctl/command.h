@@ -42,6 +42,7 @@ const Command& check();
 const Command& convert();
 const Command& lint();
 const Command& diff();
+const Command& apply();
 const Command& render();
 
 } // namespace Commands

@@ -9,6 +9,7 @@ const std::vector<const Command*>& Commands::all()
         &convert(),
         &lint(),
         &diff(),
+        &apply(),
         &render(),
     };
     return commands;

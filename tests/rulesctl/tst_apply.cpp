@@ -1,0 +1,171 @@
+#include "tests/rulesctl/ctlprogram.h"
+#include "tests/support/examplefiles.h"
+#include "tests/support/fixtures.h"
+#include "tests/support/rulestest.h"
+
+using kql::Json::Value;
+
+namespace
+{
+
+QByteArray rules(const Value& list)
+{
+    Value config;
+    config["Rules"] = list;
+    return config.toStyledText().toUtf8();
+}
+
+QStringList apply(const Value& fixture, const QString& from)
+{
+    QStringList words{"apply",  "--template", Fixtures::path("rulesctl/template.json"),
+                      "--from", from,         "--entries"};
+    words += Fixtures::textsOf(fixture["entries"]);
+    return fixture["rename"].asBool() ? words << "--rename" : words;
+}
+
+} // namespace
+
+/// What rulesctl apply rolls out, and what it leaves alone.
+class TestApply : public RulesTest
+{
+    Q_OBJECT
+
+private slots:
+    void rolls_data() { Fixtures::addRows("rulesctl/applies.json"); }
+    void rolls();
+    void lanes();
+    void results();
+    void manyFiles();
+    void refusals_data();
+    void refusals();
+
+private:
+    CtlProgram m_program;
+};
+
+void TestApply::rolls()
+{
+    QFETCH(Value, fixture);
+    const QByteArray before = rules(fixture["config"]);
+    const QString file = m_program.file("config.json", before);
+    const QStringList words = apply(fixture, m_program.file("from.json", rules(fixture["from"])));
+    const auto outcome = m_program.run(words + QStringList{"--config", file, "--in-place"});
+    const QString refused = fixture["refused"].asString();
+    QCOMPARE(outcome.status, refused.isEmpty() ? 0 : 1);
+    QCOMPARE(outcome.complaints.contains(refused), true);
+    if (!refused.isEmpty()) {
+        QCOMPARE(m_program.contentOf("config.json"), before);
+        return;
+    }
+    const QByteArray after = m_program.contentOf("config.json");
+    const Value written = CtlProgram::parsed(after)["Rules"];
+    QCOMPARE(written.size(), fixture["names"].size());
+    for (int i = 0; i < written.size(); ++i) {
+        QCOMPARE(written[i]["Name"].asString(), fixture["names"][i].asString());
+        QVERIFY(written[i]["Dwell"] == fixture["dwells"][i]);
+        QCOMPARE(written[i]["Area"].size(), fixture["areas"][i].asInt());
+    }
+    const auto again = m_program.run(words + QStringList{"--config", file, "--in-place"});
+    QCOMPARE(again.output, QByteArray());
+    QCOMPARE(m_program.contentOf("config.json"), after);
+}
+
+/// A lane that is replaced keeps its number, one that is added gets a free one.
+void TestApply::lanes()
+{
+    const QString folder = ExampleFiles::folder("traffic");
+    const QStringList words{"apply",
+                            "--template",
+                            folder + "template.json",
+                            "--from",
+                            folder + "saved.json",
+                            "--entries",
+                            "Left turn",
+                            "Rule4",
+                            "--config",
+                            folder + "config.json"};
+    QCOMPARE(m_program.run(words + QStringList{"-o", "lanes"}).status, 0);
+    const Value written = CtlProgram::parsed(m_program.contentOf("lanes/config.json"));
+    const Value& lanes = written["Traffic"]["Lanes"];
+    QCOMPARE(lanes.size(), 4);
+    for (int i = 0; i < lanes.size(); ++i)
+        QCOMPARE(lanes[i]["Number"].asInt(), i + 1);
+    const auto same = m_program.run({"apply", "--template", folder + "template.json", "--from",
+                                     folder + "saved.json", "--entries", "Left turn", "Rule4",
+                                     "--config", "lanes", "--dry-run"});
+    QCOMPARE(same.status, 0);
+    QCOMPARE(same.output, QByteArray());
+}
+
+/// In place of a result its configuration is replaced; elsewhere it is written alone.
+void TestApply::results()
+{
+    const QString from = m_program.file("from.json", R"({"Rules": [{"Name": "Gate"}]})");
+    const QString result = m_program.file(
+        "result.json", R"({"algorithmId": 3, "result": 0, "channelAbilityPO": {"Rules": []}})");
+    const QStringList words{"apply",  "--template", Fixtures::path("rulesctl/template.json"),
+                            "--from", from,         "--entries",
+                            "Gate",   "--config",   result};
+    QCOMPARE(m_program.run(words + QStringList{"-o", "alone"}).status, 0);
+    QCOMPARE(m_program.run(words + QStringList{"--in-place"}).status, 0);
+    const Value alone = CtlProgram::parsed(m_program.contentOf("alone/result.json"));
+    const Value whole = CtlProgram::parsed(m_program.contentOf("result.json"));
+    QCOMPARE(alone["Rules"].size(), 1);
+    QVERIFY(whole["channelAbilityPO"] == alone);
+    QCOMPARE(whole["algorithmId"].asInt(), 3);
+}
+
+void TestApply::manyFiles()
+{
+    const QString from = m_program.file("from.json", R"({"Rules": [{"Name": "Gate"}]})");
+    const QString good = m_program.file("good.json", "{}");
+    const QString bad = m_program.file("bad.json", "{");
+    const QString full = m_program.file(
+        "full.json", R"({"Rules": [{"Name": "A"}, {"Name": "B"}, {"Name": "C"}, {"Name": "D"}]})");
+    const QStringList words{"apply",  "--template", Fixtures::path("rulesctl/template.json"),
+                            "--from", from,         "--entries",
+                            "Gate",   "--config",   full,
+                            bad,      good};
+    const auto tried = m_program.run(words + QStringList{"--dry-run"});
+    QCOMPARE(tried.status, 2);
+    QCOMPARE(m_program.contentOf("good.json"), QByteArray("{}"));
+    const auto outcome = m_program.run(words + QStringList{"--in-place"});
+    QCOMPARE(outcome.status, 2);
+    QVERIFY(outcome.output.contains("+ Gate was added at place 1"));
+    QVERIFY(outcome.complaints.contains(full + ": left alone: "));
+    QVERIFY(outcome.complaints.contains(bad + ":1:"));
+    QVERIFY(m_program.contentOf("good.json").contains("Gate"));
+    QCOMPARE(m_program.contentOf("bad.json"), QByteArray("{"));
+}
+
+void TestApply::refusals_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("a name that is not there") << QStringList{"Gate", "Wall", "--in-place"};
+    QTest::newRow("a name that is there twice") << QStringList{"Twin", "--in-place"};
+    QTest::newRow("nowhere to write") << QStringList{"Gate"};
+    QTest::newRow("two places to write") << QStringList{"Gate", "--in-place", "-o", "x"};
+    QTest::newRow("two files of one name")
+        << QStringList{"Gate", "-o", "x", "--config", "sub/../config.json"};
+}
+
+void TestApply::refusals()
+{
+    QFETCH(QStringList, words);
+    const QString from = m_program.file(
+        "from.json", R"({"Rules": [{"Name": "Gate"}, {"Name": "Twin"}, {"Name": "Twin"}]})");
+    const QString config = m_program.file("config.json", "{}");
+    const auto outcome =
+        m_program.run(QStringList{"apply", "--template", Fixtures::path("rulesctl/template.json"),
+                                  "--from", from, "--config", config, "--entries"} +
+                      words);
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(outcome.output, QByteArray());
+    QVERIFY(!outcome.complaints.isEmpty());
+    QCOMPARE(m_program.contentOf("config.json"), QByteArray("{}"));
+    QVERIFY(!QFile::exists(m_program.path("x")));
+}
+
+QTEST_GUILESS_MAIN(TestApply)
+
+#include "tst_apply.moc"
