@@ -42,6 +42,7 @@ private slots:
     void changes_data() { Fixtures::addRows("rulesctl/diffs.json"); }
     void changes();
     void examples();
+    void page();
     void lines();
     void refusals();
 
@@ -86,6 +87,37 @@ void TestDiff::examples()
     }
 }
 
+/// Names are anybody's, and a page of them must neither run nor load anything.
+void TestDiff::page()
+{
+    const auto rules = [](const char* name, int corner) {
+        return QByteArray(R"({"Rules": [{"Name": "Same", "Area": [[0, 0], [9, 0], [9, 9]]},
+                                        {"Name": "NAME", "Area": [[0, 0], [9, 0], [9, C]]}]})")
+            .replace("NAME", name)
+            .replace("C]", QByteArray::number(corner) + ']');
+    };
+    const QString a = m_program.file("a&b.json", rules("</svg><script>alert(1)", 9));
+    const QString b = m_program.file("b.json", rules("</svg><script>alert(1)", 99));
+    QImage picture(320, 180, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    QVERIFY(picture.save(m_program.path("gate.png")));
+    const auto outcome = m_program.run(
+        diff() + QStringList{a, b, "--format", "html", "--picture", m_program.path("gate.png")});
+    QCOMPARE(outcome.complaints, QString());
+    QCOMPARE(outcome.status, 1);
+    const QByteArray& page = outcome.output;
+    QCOMPARE(page.count("<script"), 1);
+    QCOMPARE(page.count("data:image/png;base64,"), 1);
+    QCOMPARE(page.count("<use "), 2);
+    QVERIFY(page.contains("a&amp;b.json"));
+    QVERIFY(page.contains("&lt;script&gt;alert(1): Region was moved by up to 1.1 %</li>"));
+    QVERIFY(page.contains("data-a=\"rules-2\" data-b=\"rules-2\""));
+    QVERIFY(!page.contains("src="));
+    QByteArray elsewhere = page;
+    elsewhere.replace("http://www.w3.org/", "");
+    QVERIFY(!elsewhere.contains("http:") && !elsewhere.contains("https:"));
+}
+
 void TestDiff::lines()
 {
     const auto outcome =
@@ -114,6 +146,8 @@ void TestDiff::refusals()
                                      {good, good, "--jsonl"},
                                      {good, "gone.json"},
                                      {good, m_program.path(".")},
+                                     {good, good, "--picture", good},
+                                     {good, good, "--format", "html", "--picture", good},
                                      {good, good, "--format", "yaml"}}) {
         const auto outcome = m_program.run(diff() + words);
         QCOMPARE(outcome.status, 2);

@@ -5,12 +5,15 @@
 #include "tools/rulesctl/documents/templatedocument.h"
 #include "tools/rulesctl/jsonlines.h"
 #include "tools/rulesctl/output.h"
+#include "tools/rulesctl/pages/diffpage.h"
 #include "tools/rulesctl/runoptions.h"
 
 using kql::Json::Value;
 
 namespace
 {
+
+const auto kHtml = QStringLiteral("html");
 
 /// What is given for @p document, which @p error says the place of; false with its reason there.
 bool take(std::optional<ConfigDocument> document, SavedConfig& side, DocumentError& error)
@@ -43,8 +46,13 @@ Value toJson(const ConfigDiff& diff, const TemplateDocument& rulesTemplate,
     return json;
 }
 
-ExitStatus compareFiles(const TemplateDocument& rulesTemplate, const Arguments& arguments,
-                        Output& output)
+bool isHtml(const Arguments& arguments)
+{
+    return arguments.word("format") == kHtml;
+}
+
+ExitStatus compareFiles(const TemplateDocument& rulesTemplate, const Ground& ground,
+                        const Arguments& arguments, Output& output)
 {
     SavedConfig a(rulesTemplate);
     SavedConfig b(rulesTemplate);
@@ -62,7 +70,10 @@ ExitStatus compareFiles(const TemplateDocument& rulesTemplate, const Arguments& 
     if (status != ExitStatus::Clean)
         return status;
     const ConfigDiff diff(a.compared(), b.compared());
-    if (RunOptions::isJson(arguments))
+    if (isHtml(arguments))
+        output.write(
+            DiffPage::of(diff, {a, arguments.operands()[0]}, {b, arguments.operands()[1]}, ground));
+    else if (RunOptions::isJson(arguments))
         output.writeLine(toJson(diff, rulesTemplate, arguments).toCompactText());
     else
         output.write(DiffText::of(diff, arguments.operands()[0], arguments.operands()[1],
@@ -113,17 +124,29 @@ ExitStatus run(const Arguments& arguments, Output& output)
         Complaint::say(error.text());
         return ExitStatus::Unusable;
     }
-    return arguments.isSet("jsonl") ? compareLines(*rulesTemplate, output)
-                                    : compareFiles(*rulesTemplate, arguments, output);
+    if (arguments.isSet("jsonl"))
+        return compareLines(*rulesTemplate, output);
+    error = {arguments.word("picture"), 0, 0, {}};
+    const auto ground =
+        arguments.isSet("picture") ? Ground::ofFile(error.file, error.reason) : Ground();
+    if (!ground) {
+        Complaint::say(error.text());
+        return ExitStatus::Unusable;
+    }
+    return compareFiles(*rulesTemplate, *ground, arguments, output);
 }
 
 QString fault(const Arguments& arguments)
 {
     const bool hasLines = arguments.isSet("jsonl");
     const QString format =
-        RunOptions::formatFault(arguments, {QStringLiteral("text"), QStringLiteral("json")});
+        RunOptions::formatFault(arguments, {QStringLiteral("text"), QStringLiteral("json"), kHtml});
     if (!format.isEmpty())
         return format;
+    if (arguments.isSet("picture") && !isHtml(arguments))
+        return QStringLiteral("--picture goes with --format html alone");
+    if (hasLines && arguments.isSet("format"))
+        return QStringLiteral("--format does not go beside --jsonl");
     if (hasLines && !arguments.operands().isEmpty())
         return QStringLiteral("--jsonl does not go beside files");
     return hasLines || arguments.operands().size() == 2 ? QString()
@@ -137,17 +160,23 @@ const Command& Commands::diff()
     static const Command command{
         "diff",
         "tell what changed between two configurations",
-        "--template F [--algorithm N:CODE] (A B | --jsonl) [--format text|json]",
+        "--template F [--algorithm N:CODE] "
+        "(A B [--format text|json|html] [--picture F] | --jsonl)",
         "Compares two configurations as a save would write them, and tells what changed in the "
         "operator's words. What no attribute names is told, too, but makes no difference.\n"
         "\n"
         "Exit status: 0 both are the same, 1 they differ, 2 one cannot be read. With --jsonl, "
         "where each line has objects \"a\" and \"b\", 0 when each line got its answer.",
         "rulesctl diff --template template.json before.json after.json\n"
-        "rulesctl diff --template template.json before.json after.json --format json",
-        {RunOptions::format(), RunOptions::jsonl()},
+        "rulesctl diff --template template.json before.json after.json --format json\n"
+        "rulesctl diff --template template.json a.json b.json --picture gate.jpg --format html "
+        "> changes.html",
+        {RunOptions::format("text|json|html"),
+         {"picture", '\0', OptionSpec::Takes::Word, "F", "what html shows beneath the figures"},
+         RunOptions::jsonl()},
         2,
         &fault,
-        &run};
+        &run,
+        true};
     return command;
 }

@@ -26,7 +26,10 @@ QString pixels(int count)
 
 void writeGround(const Ground& ground, const QString& picture, QXmlStreamWriter& xml)
 {
-    xml.writeEmptyElement(picture.isEmpty() ? QStringLiteral("rect") : QStringLiteral("image"));
+    if (picture.startsWith(QLatin1Char('#')))
+        xml.writeEmptyElement(QStringLiteral("use"));
+    else
+        xml.writeEmptyElement(picture.isEmpty() ? QStringLiteral("rect") : QStringLiteral("image"));
     xml.writeAttribute(QStringLiteral("width"), pixels(ground.size.width()));
     xml.writeAttribute(QStringLiteral("height"), pixels(ground.size.height()));
     if (picture.isEmpty())
@@ -48,18 +51,26 @@ RulePicture::RulePicture(const RuleParser& scenes, const QString& scene, const G
         Scene shown;
         for (const DrawItem* item : canvas.getItemList(BaseDrawType::None, 0)) {
             if (item->figure())
-                shown.push_back({{item->figure()}, item->dataId(), item->label()});
+                shown.push_back(
+                    {{item->figure()},
+                     mark(data->getTemplate()->name(), data->indexOf(item->dataId()) + 1),
+                     item->label()});
         }
         m_scenes.push_back(std::move(shown));
     }
 }
 
-void RulePicture::emphasise(const QSet<int>& entries)
+QString RulePicture::mark(const QString& scene, int number)
+{
+    return scene + QLatin1Char('-') + QString::number(number);
+}
+
+void RulePicture::emphasise(const QSet<QString>& marks)
 {
     for (Scene& scene : m_scenes) {
         for (Shown& shown : scene)
             shown.painted.look =
-                entries.contains(shown.entry) ? PaintedFigure::Emphasised : PaintedFigure::Plain;
+                marks.contains(shown.mark) ? PaintedFigure::Emphasised : PaintedFigure::Plain;
     }
 }
 
@@ -122,6 +133,7 @@ void RulePicture::writeFigures(const Scene& scene, QXmlStreamWriter& xml) const
             if (part == PaintedFigure::Bands && shown.painted.look == PaintedFigure::Plain)
                 continue;
             xml.writeStartElement(QStringLiteral("g"));
+            xml.writeAttribute(QStringLiteral("data-entry"), shown.mark);
             if (part == PaintedFigure::Strokes)
                 xml.writeTextElement(QStringLiteral("title"), XmlText::writable(shown.name));
             PaintedFigure::paint(graphics, {shown.painted}, part);

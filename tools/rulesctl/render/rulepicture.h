@@ -21,20 +21,22 @@ public:
     /// @p scenes, which must outlive this, take the picture's size.
     RulePicture(const RuleParser& scenes, const QString& scene, const Ground& ground);
 
-    /// Makes the figures of these entries stand out, by the ids of entries.
-    void emphasise(const QSet<int>& entries);
+    /// What figures of an entry are marked with as "data-entry"; @p number is its place, from 1.
+    static QString mark(const QString& scene, int number);
+    /// Makes the figures that are so marked stand out.
+    void emphasise(const QSet<QString>& marks);
 
     QImage toImage() const;
     /// A document of its own.
     QByteArray toSvg() const;
-    /// The element <svg> alone, for pages; with @p picture as the address of the picture beneath,
-    /// none where that is empty.
+    /// The element <svg> alone, for pages. @p picture is the address of the picture beneath, "#"
+    /// with the id of an element that the page has of it, or empty for none.
     void writeSvg(QXmlStreamWriter& xml, const QString& picture) const;
 
 private:
     struct Shown {
         PaintedFigure painted;
-        int entry; ///< its id
+        QString mark; ///< of the entry
         QString name;
     };
     using Scene = std::vector<Shown>;
