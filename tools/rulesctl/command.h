@@ -44,5 +44,6 @@ const Command& lint();
 const Command& diff();
 const Command& apply();
 const Command& render();
+const Command& report();
 
 } // namespace Commands

@@ -11,6 +11,7 @@ const std::vector<const Command*>& Commands::all()
         &diff(),
         &apply(),
         &render(),
+        &report(),
     };
     return commands;
 }

@@ -137,7 +137,7 @@ void RulePicture::writeFigures(const Scene& scene, QXmlStreamWriter& xml) const
             if (part == PaintedFigure::Strokes)
                 xml.writeTextElement(QStringLiteral("title"), XmlText::writable(shown.name));
             PaintedFigure::paint(graphics, {shown.painted}, part);
-            device.finishElement();
+            device.finish();
             xml.writeEndElement();
         }
     }

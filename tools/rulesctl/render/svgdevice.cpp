@@ -29,9 +29,9 @@ QPaintEngine* SvgDevice::paintEngine() const
     return m_engine.get();
 }
 
-void SvgDevice::finishElement()
+void SvgDevice::finish()
 {
-    m_engine->finishElement();
+    m_engine->finish();
 }
 
 int SvgDevice::metric(PaintDeviceMetric metric) const

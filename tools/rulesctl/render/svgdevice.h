@@ -21,7 +21,7 @@ public:
 
     QPaintEngine* paintEngine() const override;
     /// Writes what is still held back, before something else goes to the writer.
-    void finishElement();
+    void finish();
 
 protected:
     int metric(PaintDeviceMetric metric) const override;

@@ -8,20 +8,25 @@
 #include <QXmlStreamWriter>
 
 #include <cmath>
+#include <cstdlib>
 
 namespace
 {
 
-/// To a hundredth of a pixel.
+/// To a hundredth of a pixel; there are very many of them.
 QString number(double value)
 {
-    const QString text = QString::number(std::round(value * 100) / 100, 'f', 2);
-    QString shortened = text;
-    while (shortened.endsWith(QLatin1Char('0')))
-        shortened.chop(1);
-    if (shortened.endsWith(QLatin1Char('.')))
-        shortened.chop(1);
-    return shortened == QLatin1String("-0") ? QStringLiteral("0") : shortened;
+    const qint64 hundredths = std::llround(value * 100);
+    const qint64 size = std::abs(hundredths);
+    QString text = hundredths < 0 ? QStringLiteral("-") : QString();
+    text += QString::number(size / 100);
+    if (size % 100 > 0) {
+        text += QLatin1Char('.');
+        text += QLatin1Char(char('0' + size % 100 / 10));
+    }
+    if (size % 10 > 0)
+        text += QLatin1Char(char('0' + size % 10));
+    return text;
 }
 
 QString pair(const QPointF& point)
@@ -43,11 +48,11 @@ QString pathData(const QPainterPath& path)
     return data;
 }
 
-void writeColor(QXmlStreamWriter& xml, const QString& attribute, const QColor& color)
+void addColor(QXmlStreamAttributes& style, const QString& attribute, const QColor& color)
 {
-    xml.writeAttribute(attribute, color.name());
+    style.append(attribute, color.name());
     if (color.alpha() < 255)
-        xml.writeAttribute(attribute + QLatin1String("-opacity"), number(color.alphaF()));
+        style.append(attribute + QLatin1String("-opacity"), number(color.alphaF()));
 }
 
 } // namespace
@@ -62,7 +67,7 @@ bool SvgEngine::begin(QPaintDevice*)
 
 bool SvgEngine::end()
 {
-    finishElement();
+    finish();
     return true;
 }
 
@@ -70,7 +75,7 @@ void SvgEngine::updateState(const QPaintEngineState& now)
 {
     const auto changed = now.state();
     if ((changed & DirtyPen) && m_pen != now.pen()) {
-        finishElement();
+        finishLine();
         m_pen = now.pen();
     }
     if (changed & DirtyBrush)
@@ -85,7 +90,7 @@ void SvgEngine::drawLines(const QLineF* lines, int count)
         const QLineF line = m_transform.map(lines[i]);
         const bool isClosed = m_line.size() > 2 && m_line.isClosed();
         if (m_line.isEmpty() || isClosed || m_line.last() != line.p1()) {
-            finishElement();
+            finishLine();
             m_line.append(line.p1());
         }
         m_line.append(line.p2());
@@ -94,74 +99,84 @@ void SvgEngine::drawLines(const QLineF* lines, int count)
 
 void SvgEngine::drawPath(const QPainterPath& path)
 {
-    finishElement();
-    m_xml.writeEmptyElement(QStringLiteral("path"));
-    m_xml.writeAttribute(QStringLiteral("d"), pathData(m_transform.map(path)));
+    finishLine();
+    QXmlStreamAttributes style = fillAndStroke();
     if (path.fillRule() == Qt::OddEvenFill)
-        m_xml.writeAttribute(QStringLiteral("fill-rule"), QStringLiteral("evenodd"));
-    writeFill();
-    writeStroke();
+        style.append(QStringLiteral("fill-rule"), QStringLiteral("evenodd"));
+    beginElement("path", style);
+    m_xml.writeAttribute(QStringLiteral("d"), pathData(m_transform.map(path)));
+    m_xml.writeEndElement();
 }
 
 void SvgEngine::drawPolygon(const QPointF* points, int count, PolygonDrawMode mode)
 {
-    finishElement();
+    finishLine();
     QPolygonF polygon;
     for (int i = 0; i < count; ++i)
         polygon.append(m_transform.map(points[i]));
-    const bool isOpen = mode == PolylineMode;
-    m_xml.writeEmptyElement(isOpen ? QStringLiteral("polyline") : QStringLiteral("polygon"));
-    writePoints(polygon);
-    if (isOpen)
-        m_xml.writeAttribute(QStringLiteral("fill"), QStringLiteral("none"));
+    if (mode == PolylineMode)
+        beginElement("polyline", stroke(QStringLiteral("none")));
     else
-        writeFill();
-    writeStroke();
+        beginElement("polygon", fillAndStroke());
+    writePoints(polygon);
+    m_xml.writeEndElement();
 }
 
 void SvgEngine::drawTextItem(const QPointF& at, const QTextItem& text)
 {
-    finishElement();
+    finishLine();
     const QPointF place = m_transform.map(at);
     const double degrees =
         std::atan2(m_transform.m12(), m_transform.m11()) * 180 / 3.14159265358979323846;
-    const QFont font = text.font();
-    m_xml.writeStartElement(QStringLiteral("text"));
-    m_xml.writeAttribute(QStringLiteral("x"), number(place.x()));
-    m_xml.writeAttribute(QStringLiteral("y"), number(place.y()));
+    QString transform = QStringLiteral("translate(%1)").arg(pair(place));
     if (number(degrees) != QLatin1String("0"))
-        m_xml.writeAttribute(QStringLiteral("transform"),
-                             QStringLiteral("rotate(%1 %2)").arg(number(degrees), pair(place)));
-    m_xml.writeAttribute(QStringLiteral("font-family"),
-                         XmlText::writable(font.family()) + QLatin1String(", sans-serif"));
-    m_xml.writeAttribute(QStringLiteral("font-size"), QString::number(font.pixelSize()));
-    writeColor(m_xml, QStringLiteral("fill"), m_pen.color());
-    m_xml.writeAttribute(QStringLiteral("xml:space"), QStringLiteral("preserve"));
+        transform += QStringLiteral(" rotate(%1)").arg(number(degrees));
+    beginElement("text", textStyle(text.font()));
+    m_xml.writeAttribute(QStringLiteral("transform"), transform);
     m_xml.writeCharacters(XmlText::writable(text.text()));
     m_xml.writeEndElement();
 }
 
-void SvgEngine::finishElement()
+void SvgEngine::finish()
+{
+    finishLine();
+    if (!m_style.isEmpty())
+        m_xml.writeEndElement();
+    m_style.clear();
+}
+
+void SvgEngine::finishLine()
 {
     if (m_line.isEmpty())
         return;
     QPolygonF line;
     m_line.swap(line);
+    const bool isClosed = line.size() > 2 && line.isClosed();
+    if (isClosed)
+        line.removeLast();
+    const char* const shape = isClosed ? "polygon" : "polyline";
+    beginElement(line.size() == 2 ? "line" : shape, stroke(QStringLiteral("none")));
     if (line.size() == 2) {
-        m_xml.writeEmptyElement(QStringLiteral("line"));
         m_xml.writeAttribute(QStringLiteral("x1"), number(line[0].x()));
         m_xml.writeAttribute(QStringLiteral("y1"), number(line[0].y()));
         m_xml.writeAttribute(QStringLiteral("x2"), number(line[1].x()));
         m_xml.writeAttribute(QStringLiteral("y2"), number(line[1].y()));
     } else {
-        const bool isClosed = line.isClosed();
-        if (isClosed)
-            line.removeLast();
-        m_xml.writeEmptyElement(isClosed ? QStringLiteral("polygon") : QStringLiteral("polyline"));
         writePoints(line);
-        m_xml.writeAttribute(QStringLiteral("fill"), QStringLiteral("none"));
     }
-    writeStroke();
+    m_xml.writeEndElement();
+}
+
+/// What looks the same one after another says so once.
+void SvgEngine::beginElement(const char* name, const QXmlStreamAttributes& style)
+{
+    if (m_style != style) {
+        finish();
+        m_xml.writeStartElement(QStringLiteral("g"));
+        m_xml.writeAttributes(style);
+        m_style = style;
+    }
+    m_xml.writeStartElement(QString::fromLatin1(name));
 }
 
 void SvgEngine::writePoints(const QPolygonF& points)
@@ -173,23 +188,39 @@ void SvgEngine::writePoints(const QPolygonF& points)
 }
 
 /// Corners are bevelled: the lines of a figure meet with flat ends.
-void SvgEngine::writeStroke()
+QXmlStreamAttributes SvgEngine::stroke(const QString& fill) const
 {
+    QXmlStreamAttributes style;
+    style.append(QStringLiteral("fill"), fill);
     if (m_pen.style() == Qt::NoPen)
-        return;
-    writeColor(m_xml, QStringLiteral("stroke"), m_pen.color());
-    m_xml.writeAttribute(QStringLiteral("stroke-width"), number(m_pen.widthF()));
+        return style;
+    addColor(style, QStringLiteral("stroke"), m_pen.color());
+    style.append(QStringLiteral("stroke-width"), number(m_pen.widthF()));
     const bool isRound = m_pen.capStyle() == Qt::RoundCap;
     if (isRound)
-        m_xml.writeAttribute(QStringLiteral("stroke-linecap"), QStringLiteral("round"));
-    m_xml.writeAttribute(QStringLiteral("stroke-linejoin"),
-                         isRound ? QStringLiteral("round") : QStringLiteral("bevel"));
+        style.append(QStringLiteral("stroke-linecap"), QStringLiteral("round"));
+    style.append(QStringLiteral("stroke-linejoin"),
+                 isRound ? QStringLiteral("round") : QStringLiteral("bevel"));
+    return style;
 }
 
-void SvgEngine::writeFill()
+QXmlStreamAttributes SvgEngine::fillAndStroke() const
 {
     if (m_brush.style() == Qt::NoBrush)
-        m_xml.writeAttribute(QStringLiteral("fill"), QStringLiteral("none"));
-    else
-        writeColor(m_xml, QStringLiteral("fill"), m_brush.color());
+        return stroke(QStringLiteral("none"));
+    QXmlStreamAttributes style = stroke(m_brush.color().name());
+    if (m_brush.color().alpha() < 255)
+        style.append(QStringLiteral("fill-opacity"), number(m_brush.color().alphaF()));
+    return style;
+}
+
+QXmlStreamAttributes SvgEngine::textStyle(const QFont& font) const
+{
+    QXmlStreamAttributes style;
+    addColor(style, QStringLiteral("fill"), m_pen.color());
+    style.append(QStringLiteral("font-family"),
+                 XmlText::writable(font.family()) + QLatin1String(", sans-serif"));
+    style.append(QStringLiteral("font-size"), QString::number(font.pixelSize()));
+    style.append(QStringLiteral("xml:space"), QStringLiteral("preserve"));
+    return style;
 }

@@ -4,6 +4,7 @@
 #include <QPen>
 #include <QPolygonF>
 #include <QTransform>
+#include <QXmlStreamAttributes>
 
 class QXmlStreamWriter;
 
@@ -26,16 +27,22 @@ public:
     void drawTextItem(const QPointF& at, const QTextItem& text) override;
     Type type() const override { return User; }
 
-    void finishElement();
+    /// Writes what is held back, and ends the group of what looks the same.
+    void finish();
 
 private:
+    void finishLine();
+    /// Begins the element @p name, which looks like @p style.
+    void beginElement(const char* name, const QXmlStreamAttributes& style);
     void writePoints(const QPolygonF& points);
-    void writeStroke();
-    void writeFill();
+    QXmlStreamAttributes stroke(const QString& fill) const;
+    QXmlStreamAttributes fillAndStroke() const;
+    QXmlStreamAttributes textStyle(const QFont& font) const;
 
     QXmlStreamWriter& m_xml; ///< not owned
     QPen m_pen;
     QBrush m_brush;
     QTransform m_transform;
-    QPolygonF m_line; ///< goes on as long as lines do
+    QPolygonF m_line;             ///< goes on as long as lines do
+    QXmlStreamAttributes m_style; ///< of the group that is open; empty for none
 };
