@@ -1,12 +1,13 @@
 #include "workbench/boxwatcher.h"
 
+#include "workbench/inputevents.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
-#include <QtTest/qtestmouse.h>
 
 BoxWatcher::BoxWatcher(QObject* parent) : QObject(parent)
 {
@@ -41,7 +42,7 @@ void BoxWatcher::answer(QMessageBox& box)
         button = box.buttons().first();
     }
     if (button)
-        QTest::mouseClick(button, Qt::LeftButton);
+        InputEvents::click(button, Qt::LeftButton, Qt::NoModifier, button->rect().center());
     else
         box.reject();
 }

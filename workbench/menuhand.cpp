@@ -1,5 +1,6 @@
 #include "workbench/menuhand.h"
 
+#include "workbench/inputevents.h"
 #include "workbench/operatorhand.h"
 
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QTextDocumentFragment>
-#include <QtTest/qtestmouse.h>
 
 #include <algorithm>
 
@@ -35,7 +35,7 @@ QString pick(QMenu* menu, const QString& text)
     if (!(*found)->isEnabled())
         return Texts::tr("it is disabled: %1")
             .arg(QTextDocumentFragment::fromHtml((*found)->toolTip()).toPlainText());
-    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(*found).center());
+    InputEvents::click(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(*found).center());
     return {};
 }
 

@@ -1,16 +1,14 @@
 #include "workbench/operatorhand.h"
 
+#include "workbench/inputevents.h"
+
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeySequence>
 #include <QLineEdit>
-#include <QPointer>
 #include <QRadioButton>
 #include <QScrollArea>
-#include <QWindow>
-#include <QtTest/qtestkeyboard.h>
-#include <QtTest/qtestmouse.h>
 
 namespace OperatorHand
 {
@@ -58,12 +56,16 @@ void leaveFocused(QWidget* pressed)
     QCoreApplication::sendEvent(focused, &leave);
 }
 
-// Letter by letter, as QTest::keyClicks() does, but in any script.
+// Letter by letter, in any script.
 void typeText(QLineEdit* edit, const QString& text)
 {
     for (const char32_t letter : text.toStdU32String())
-        QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString::fromUcs4(&letter, 1),
-                            Qt::NoModifier);
+        InputEvents::key(edit, Qt::Key_unknown, QString::fromUcs4(&letter, 1), Qt::NoModifier);
+}
+
+void pressKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    InputEvents::key(widget, key, InputEvents::typedBy(key), modifiers);
 }
 
 } // namespace
@@ -98,7 +100,7 @@ QString clickAt(QWidget* widget, const QPoint& position, Qt::MouseButton button,
     if (!why.isEmpty())
         return why;
     leaveFocused(widget);
-    QTest::mouseClick(widget, button, modifiers, position);
+    InputEvents::click(widget, button, modifiers, position);
     return {};
 }
 
@@ -107,27 +109,17 @@ QString doubleClickAt(QWidget* widget, const QPoint& position, Qt::MouseButton b
 {
     const QString why = clickAt(widget, position, button, modifiers);
     if (why.isEmpty())
-        QTest::mouseDClick(widget, button, modifiers, position);
+        InputEvents::doubleClick(widget, button, modifiers, position);
     return why;
 }
 
-/// Through the window: a button held is told to widgets of moves there only.
 QString drag(QWidget* widget, const QPoint& from, const QPoint& to, Qt::KeyboardModifiers modifiers)
 {
     const QString why = obstacle(widget, from);
     if (!why.isEmpty())
         return why;
     leaveFocused(widget);
-    const QPointer<QWindow> window = widget->window()->windowHandle();
-    const QPoint origin = widget->mapTo(widget->window(), QPoint());
-    const auto tell = [&](QTest::MouseAction action, Qt::MouseButton button, const QPoint& at) {
-        if (window)
-            QTest::mouseEvent(action, window, button, modifiers, origin + at);
-    };
-    tell(QTest::MousePress, Qt::LeftButton, from);
-    tell(QTest::MouseMove, Qt::NoButton, (from + to) / 2);
-    tell(QTest::MouseMove, Qt::NoButton, to);
-    tell(QTest::MouseRelease, Qt::LeftButton, to);
+    InputEvents::drag(widget, from, to, modifiers);
     return {};
 }
 
@@ -135,7 +127,7 @@ QString moveTo(QWidget* widget, const QPoint& position)
 {
     const QString why = obstacle(widget, position);
     if (why.isEmpty())
-        QTest::mouseMove(widget, position);
+        InputEvents::movePointer(widget, position);
     return why;
 }
 
@@ -148,10 +140,10 @@ QString type(QLineEdit* edit, const QString& text, bool finish)
         return QCoreApplication::translate("OperatorHand", "it cannot be edited");
     edit->setFocus(Qt::MouseFocusReason);
     edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
+    pressKey(edit, Qt::Key_Delete);
     typeText(edit, text);
     if (finish)
-        QTest::keyClick(edit, Qt::Key_Return);
+        pressKey(edit, Qt::Key_Return);
     return {};
 }
 
@@ -166,11 +158,10 @@ void press(QWidget* widget, const QKeySequence& key)
     const int code = int(key[0]);
     const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
     const int plain = code & ~int(Qt::KeyboardModifierMask);
-    // Of a key QTest types the small letter, whatever is held with it.
     if (modifiers == Qt::ShiftModifier && plain >= Qt::Key_A && plain <= Qt::Key_Z)
-        QTest::keyClick(widget, char(plain), modifiers);
+        InputEvents::key(widget, plain, QString(QChar(plain)), modifiers);
     else
-        QTest::keyClick(widget, Qt::Key(plain), modifiers);
+        pressKey(widget, plain, modifiers);
 }
 
 } // namespace OperatorHand
