@@ -19,6 +19,14 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# A build, all of which lies in one folder, and what is installed of it can be moved as a whole. The
+# run paths are the same: CMake ends those that it has to change with a colon, which is the current
+# folder to the loader.
+if(UNIX AND NOT APPLE)
+    set(CMAKE_INSTALL_RPATH $ORIGIN)
+    set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
+    set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+endif()
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 set(CMAKE_AUTOMOC ON)

@@ -1,5 +1,6 @@
 # rules_translations(RESULT NAME STEM...): compiles translations/STEM_*.ts and packs them as the
-# resource NAME, under ":/translations". Its source file is left in RESULT.
+# resource NAME, under ":/translations". Its source file is left in RESULT, the compiled translations
+# in RESULT_FILES.
 find_package(Qt${RULES_QT} ${RULES_QT_LEAST} REQUIRED COMPONENTS LinguistTools)
 
 function(rules_translations RESULT NAME)
@@ -18,4 +19,5 @@ function(rules_translations RESULT NAME)
     qt_add_resources(resource ${CMAKE_CURRENT_BINARY_DIR}/${NAME}.qrc)
     set_source_files_properties(${resource} PROPERTIES SKIP_AUTOGEN ON)
     set(${RESULT} ${resource} PARENT_SCOPE)
+    set(${RESULT}_FILES ${compiled} PARENT_SCOPE)
 endfunction()

@@ -6,6 +6,7 @@
 #include "plugin/accessibility.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <QTranslator>
 
 #include <algorithm>
@@ -28,17 +29,26 @@ namespace
 std::vector<ULONG_PTR> g_gdiplusTokens; ///< one for each start that has not been ended
 std::unique_ptr<QTranslator> g_translator;
 
+/// Files beside the plug-in come before what is built in, as with the skin.
+bool loadTranslation(QTranslator& translator)
+{
+    QStringList folders = QCoreApplication::libraryPaths();
+    folders.append(QStringLiteral(":"));
+    const QList<QLocale> wanted = wantedLocales();
+    return std::any_of(wanted.cbegin(), wanted.cend(), [&](const QLocale& locale) {
+        return std::any_of(folders.cbegin(), folders.cend(), [&](const QString& folder) {
+            return translator.load(locale, QString::fromLatin1(kModuleName), QStringLiteral("_"),
+                                   folder + QStringLiteral("/translations"));
+        });
+    });
+}
+
 void installTranslation()
 {
     if (g_translator)
         return;
     auto translator = std::make_unique<QTranslator>();
-    const QList<QLocale> wanted = wantedLocales();
-    const bool loaded = std::any_of(wanted.begin(), wanted.end(), [&](const QLocale& locale) {
-        return translator->load(locale, QString::fromLatin1(kModuleName), QStringLiteral("_"),
-                                QStringLiteral(":/translations"));
-    });
-    if (loaded && QCoreApplication::installTranslator(translator.get()))
+    if (loadTranslation(*translator) && QCoreApplication::installTranslator(translator.get()))
         g_translator = std::move(translator);
 }
 

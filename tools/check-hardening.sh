@@ -25,6 +25,10 @@ for file in "$plugin" "$build"/bin/*kq*.so "$program"; do
     has "$file" 'GNU_RELRO' -l || miss "$name: read-only relocations"
     has "$file" 'BIND_NOW' -d || miss "$name: binding at the start"
     has "$file" 'GNU_STACK.* RW ' -l || miss "$name: a stack that cannot be executed"
+    # An empty part is the current folder.
+    paths=$(readelf -W -d "$file" | sed -n 's/.*(RU*N*PATH).*\[\(.*\)\]/\1/p')
+    [[ :$paths: =~ ^:+$|^(:'$ORIGIN'[^:]*)+:$ ]] ||
+        miss "$name: run paths beside itself; it has $paths"
     has "$file" 'TEXTREL' -d && miss "$name: code that needs no changes when loaded"
     has "$file" 'UND __stack_chk_fail' --dyn-syms || miss "$name: stack protector"
 done

@@ -104,8 +104,8 @@
         <translation>Code des Algorithmus.</translation>
     </message>
     <message>
-        <source>Plug-in to load in place of the one beside the program.</source>
-        <translation>Modul, das anstelle des neben dem Programm liegenden geladen wird.</translation>
+        <source>Plug-in to load in place of the one that comes with the program.</source>
+        <translation>Modul, das anstelle des mitgelieferten geladen wird.</translation>
     </message>
     <message>
         <source>Write the object of the last result message here; leaving keeps what was saved.</source>

@@ -104,8 +104,8 @@
         <translation>算法代码。</translation>
     </message>
     <message>
-        <source>Plug-in to load in place of the one beside the program.</source>
-        <translation>代替程序旁的插件而加载的插件。</translation>
+        <source>Plug-in to load in place of the one that comes with the program.</source>
+        <translation>代替程序自带的插件而加载的插件。</translation>
     </message>
     <message>
         <source>Write the object of the last result message here; leaving keeps what was saved.</source>

@@ -48,7 +48,8 @@ const TextOption kTextOptions[] = {
     {"code", QT_TRANSLATE_NOOP("CommandLine", "Algorithm code."), &WorkbenchOptions::algorithmCode,
      "TEXT", false},
     {"plugin",
-     QT_TRANSLATE_NOOP("CommandLine", "Plug-in to load in place of the one beside the program."),
+     QT_TRANSLATE_NOOP("CommandLine",
+                       "Plug-in to load in place of the one that comes with the program."),
      &WorkbenchOptions::pluginFile, "FILE"},
     {"result",
      QT_TRANSLATE_NOOP(

@@ -5,6 +5,7 @@
 #include "host/api/iabstractwidget.h"
 #include "host/api/iclientuipluginapi.h"
 #include "host/api/kqsingleton.h"
+#include "host/api/modulefolder.h"
 #include "host/api/pluginmessages.h"
 #include "host/api/pluginmsg_param.h"
 #include "host/json/value.h"
@@ -41,16 +42,16 @@ bool ModuleHost::load(const QString& pluginFile)
 
 bool ModuleHost::loadFile(const QString& pluginFile)
 {
-    m_loader.setFileName(pluginFile.isEmpty() ? QCoreApplication::applicationDirPath() +
-                                                    QStringLiteral("/IntelligentRulesUI")
-                                              : pluginFile);
+    m_loader.setFileName(pluginFile.isEmpty()
+                             ? UICommonMdl::moduleFolder() + QStringLiteral("/IntelligentRulesUI")
+                             : pluginFile);
     m_plugin = qobject_cast<KQPluginAPI::IClientUIPluginAPI*>(m_loader.instance());
     if (!m_plugin) {
         m_errorText = m_loader.isLoaded() ? tr("%1: not a rules plug-in").arg(m_loader.fileName())
                                           : m_loader.errorString();
         return false;
     }
-    // A plug-in finds a skin of its own in the folder beside it.
+    // A plug-in finds a skin and translations of its own in the folder beside it.
     QCoreApplication::addLibraryPath(QFileInfo(m_loader.fileName()).absolutePath());
     return true;
 }

@@ -32,7 +32,7 @@ public:
 
     /// Takes @p plugin, which stays the caller's, in place of one from a file.
     void use(KQPluginAPI::IClientUIPluginAPI& plugin);
-    /// Loads @p pluginFile, or the one beside the program when empty; false with errorText().
+    /// Loads @p pluginFile, or the host's own when empty; false with errorText().
     bool load(const QString& pluginFile);
     const QString& errorText() const { return m_errorText; }
 

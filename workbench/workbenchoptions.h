@@ -21,7 +21,7 @@ struct WorkbenchOptions {
     bool selectionMode = false;
     /// As given; the presence of the member counts, whatever its value.
     std::optional<bool> editable;
-    QString pluginFile; ///< empty: the one beside the program
+    QString pluginFile; ///< empty: the one that comes with the program
     QString resultFile;
     QString screenshotFile;
     QString replayFile;

@@ -43,6 +43,8 @@ QStringList loadableDocuments()
     for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
         const QString rules = contentOf(examples.filePath(name + QStringLiteral("/template.json")));
         const QString config = contentOf(examples.filePath(name + QStringLiteral("/config.json")));
+        if (rules.isEmpty())
+            continue;
         documents.append(QStringLiteral(R"("videoConfigRuleProperty": %1, "channelAbilityPO": %2)")
                              .arg(rules, config));
     }

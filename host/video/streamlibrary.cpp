@@ -1,22 +1,13 @@
 #include "host/video/streamlibrary.h"
 
 #include "host/api/dprintlog.h"
+#include "host/api/modulefolder.h"
 #include "host/video/streamplayer.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QPluginLoader>
 
 #include <mutex>
-
-#if defined(Q_OS_WIN)
-#include <windows.h>
-
-#include <array>
-#else
-#include <dlfcn.h>
-#endif
 
 namespace UICommonMdl
 {
@@ -25,25 +16,6 @@ namespace
 
 constexpr int kLogLevel = 1;
 const char kName[] = "/kqstreams";
-
-/// The file of the library that this code is in; empty when the system does not tell.
-QString ownFile()
-{
-    static const char here = 0;
-#if defined(Q_OS_WIN)
-    constexpr DWORD kHow =
-        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-    HMODULE module = nullptr;
-    std::array<wchar_t, 32768> path{};
-    if (!GetModuleHandleExW(kHow, reinterpret_cast<LPCWSTR>(&here), &module) ||
-        GetModuleFileNameW(module, path.data(), DWORD(path.size())) == 0)
-        return {};
-    return QString::fromWCharArray(path.data());
-#else
-    Dl_info info{};
-    return dladdr(&here, &info) != 0 ? QFile::decodeName(info.dli_fname) : QString();
-#endif
-}
 
 /// Null, and logged, when the library cannot be loaded.
 StreamPlayer* load(QPluginLoader& loader, const QString& file)
@@ -68,7 +40,7 @@ StreamPlayer* StreamLibrary::player()
     static auto* const loader = new QPluginLoader;
     const std::lock_guard<std::mutex> lock(mutex);
     if (!player)
-        player = load(*loader, QFileInfo(ownFile()).absolutePath() + QLatin1String(kName));
+        player = load(*loader, moduleFolder() + QLatin1String(kName));
     return player;
 }
 

@@ -25,7 +25,6 @@ class TstLiveReplay : public RulesTest, private WorkbenchProgram
     {
         environment.insert("KQL_LOG", "9");
         environment.insert("XDG_CONFIG_HOME", path("config"));
-        environment.insert("LD_LIBRARY_PATH", programs);
     }
 
     Outcome run(const QStringList& arguments) const
@@ -72,14 +71,12 @@ private slots:
                  qPrintable(written.toStyledText()));
     }
 
-    /// Where the library that plays streams is missing, all else works.
+    /// Where the library that plays streams is missing, all else works, in any folder.
     void doesWithoutTheLibrary()
     {
         const QScopedValueRollback<QString> rollback(programs, path("lean"));
-        const QScopedValueRollback<QProcessEnvironment> libraries(environment);
-        environment.insert("LD_LIBRARY_PATH", programs);
         QVERIFY(QDir().mkdir(programs));
-        for (const char* name : {"/rules-workbench", "/libkqhost.so", "/IntelligentRulesUI.so"})
+        for (const char* name : {"/rules-workbench", "/libkqhost.so.1", "/IntelligentRulesUI.so"})
             QVERIFY(QFile::copy(QString(RULES_BIN_DIR) + name, programs + name));
         const QString session = file("picture.jsonl", "{\"do\":\"wait\",\"picture\":true}\n");
         Outcome outcome = run({"--source", "still.png", "--replay", session});

@@ -15,7 +15,10 @@ inline QString folder(const QString& name = "perimeter")
 
 inline QStringList names()
 {
-    return QDir(RULES_SOURCE_DIR "/examples").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QStringList found =
+        QDir(RULES_SOURCE_DIR "/examples").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    found.removeOne("client");
+    return found;
 }
 
 inline QByteArray contentOf(const QString& path)
