@@ -28,8 +28,8 @@ int normalizedStep(int pixels, int extent)
     if (pixels == 0 || extent < 1)
         return 0;
     const double step = std::round(double(pixels) * DrawGeometry::kNormalizedExtent / extent);
-    const int far = static_cast<int>(qBound(-1.0e6, step, 1.0e6));
-    return far != 0 ? far : pixels > 0 ? 1 : -1;
+    const int whole = static_cast<int>(qBound(-1.0e6, step, 1.0e6));
+    return whole != 0 ? whole : pixels > 0 ? 1 : -1;
 }
 
 } // namespace

@@ -14,9 +14,9 @@ namespace
 QRect withReach(const QRect& bounds)
 {
     constexpr int reach = FigureShape::kReach;
-    constexpr int far = 1 << 24;
-    const QRect bounded(QPoint(qMax(bounds.left(), -far), qMax(bounds.top(), -far)),
-                        QPoint(qMin(bounds.right(), far), qMin(bounds.bottom(), far)));
+    constexpr int outermost = 1 << 24;
+    const QRect bounded(QPoint(qMax(bounds.left(), -outermost), qMax(bounds.top(), -outermost)),
+                        QPoint(qMin(bounds.right(), outermost), qMin(bounds.bottom(), outermost)));
     return bounded.adjusted(-reach, -reach, reach, reach);
 }
 
@@ -44,7 +44,7 @@ QList<DrawItem*> FigureIndex::around(const QPoint& at) const
 
 DrawItem* FigureIndex::under(const QPoint& at, const Wanted& isWanted, bool mustHold) const
 {
-    DrawItem* near = nullptr;
+    DrawItem* nearby = nullptr;
     const QList<DrawItem*> items = around(at);
     for (DrawItem* item : items) {
         if (!isWanted(*item))
@@ -52,8 +52,8 @@ DrawItem* FigureIndex::under(const QPoint& at, const Wanted& isWanted, bool must
         const FigureShape shape(item->figure()->canvasFigure());
         if (shape.holds(at))
             return item;
-        if (!mustHold && !near && shape.isNear(at))
-            near = item;
+        if (!mustHold && !nearby && shape.isNear(at))
+            nearby = item;
     }
-    return near;
+    return nearby;
 }

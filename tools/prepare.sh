@@ -16,6 +16,10 @@ READER_PACKAGES="python3-pyatspi at-spi2-core dbus xvfb xauth"
 FLEET_PACKAGES="parallel openssh-server openssh-client"
 # The compiler of the fuzzers, and its sanitizers.
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
+# What asks whether the packages are sound, and what makes a clean root for them.
+PACKAGE_PACKAGES="lintian mmdebstrap"
+# A compiler for Windows with its headers.
+WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix"
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
