@@ -55,9 +55,12 @@ set(CPACK_COMPONENT_WORKBENCH_DEPENDS plugin host)
 set(CPACK_COMPONENT_PLUGIN_DEPENDS host)
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS plugin host)
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_RECOMMENDS fonts-dejavu-core)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qtbase5-dev (>= 5.15)")
-# For programs that are packed by others, and so that the loader finds it.
-set(CPACK_DEBIAN_HOST_PACKAGE_SHLIBDEPS ON)
+if(RULES_QT EQUAL 5)
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qtbase5-dev (>= ${RULES_QT_LEAST})")
+else()
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qt6-base-dev (>= ${RULES_QT_LEAST})")
+endif()
+# For packages that are made of programs which link it, and for the loader.
 set(CPACK_DEBIAN_HOST_PACKAGE_CONTROL_EXTRA
     ${CMAKE_BINARY_DIR}/packaging/shlibs ${CMAKE_BINARY_DIR}/packaging/triggers)
 file(WRITE ${CMAKE_BINARY_DIR}/packaging/shlibs "libkqhost 1 libkqhost1 (>= ${PROJECT_VERSION})\n")

@@ -117,6 +117,17 @@ private slots:
         QCOMPARE(widget()->GetTitle(), german);
         m_plugin->UnInit();
         QVERIFY(title() != german);
+        // Those beside the plug-in come first.
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir("translations"));
+        QVERIFY(QFile::copy(RULES_BIN_DIR "/../plugin/IntelligentRulesUI_zh_CN.qm",
+                            folder.filePath("translations/IntelligentRulesUI_de.qm")));
+        QCoreApplication::addLibraryPath(folder.path());
+        m_plugin.load();
+        const QString beside = title();
+        QCoreApplication::removeLibraryPath(folder.path());
+        m_plugin.load();
+        QVERIFY2(beside != german && title() == german, qPrintable(beside));
     }
 
     /// To a widget without a window, to one that is empty, and to one that is loaded.
