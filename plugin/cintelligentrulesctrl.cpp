@@ -600,8 +600,7 @@ void CIntelligentRulesCtrl::OnWndDbClick(int nWndNum, int, int)
 void CIntelligentRulesCtrl::sltSave()
 {
     const LoadGuard guard(this);
-    m_editing->correcting().end();
-    if (!guard.holds() || !m_parser || !finishEdits())
+    if (!sltFinish())
         return;
     showHint({});
     const bool allowed = checkSave() && (m_parameters.selectionMode || confirmChange());
@@ -622,11 +621,16 @@ void CIntelligentRulesCtrl::sltSave()
         m_drawScene->SetDrawOver(true);
 }
 
-void CIntelligentRulesCtrl::sltCheck()
+bool CIntelligentRulesCtrl::sltFinish()
 {
     const LoadGuard guard(this);
     m_editing->correcting().end();
-    if (guard.holds() && m_parser && finishEdits())
+    return guard.holds() && m_parser && finishEdits();
+}
+
+void CIntelligentRulesCtrl::sltCheck()
+{
+    if (sltFinish())
         checkSave();
 }
 

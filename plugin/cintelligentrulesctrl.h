@@ -76,6 +76,8 @@ signals:
 public slots:
     void sltTrySelectedlScene();
     void sltSave();
+    /// Ends edits in progress; false when nothing is loaded any more.
+    bool sltFinish();
     /// Tells and shows what a save would be refused for, and saves nothing.
     void sltCheck();
     void sltCancel();

@@ -181,10 +181,10 @@ void Autosave::takeMessage(const MessageRecord& message)
 {
     if (!message.isResult())
         return;
-    m_isResultOld = false;
+    m_isResultOld = m_isResultOld && m_window.wasExited();
     // A save that is not done again ends a series of edits all the same.
     m_steps.push_back(RecordedStep::key(QStringLiteral("Ins")).toCompactText().toUtf8());
-    if (m_window.wasExited() && !m_window.hasUnwrittenSave())
+    if (m_window.wasExited() && !m_window.hasUnkeptSave())
         settle();
 }
 

@@ -1,6 +1,5 @@
 #include "workbench/closequestion.h"
 
-#include "workbench/panelfinder.h"
 #include "workbench/workbenchwindow.h"
 
 #include <QMessageBox>
@@ -19,8 +18,9 @@ bool CloseQuestion::mayLeave()
         return false;
     if (m_window.isReplaying() || m_window.options().isScripted())
         return true;
-    if (m_window.rulesWindow())
-        PanelFinder(m_window.rulesWindow()).finishEdit();
+    // Who left without saving has given up what is in progress.
+    if (m_window.rulesWindow() && !m_window.wasExited())
+        m_window.finishEdit();
     return !(m_window.isEdited() || m_window.hasUnkeptSave()) || ask();
 }
 
@@ -45,11 +45,11 @@ bool CloseQuestion::ask()
     return m_wasDiscarded || (answer == QMessageBox::Save && save());
 }
 
-/// What is saved has to be in a file, or it would be lost after all.
+/// What is saved has to be in a file, or it would be lost after all: where that one cannot be
+/// written, in another.
 bool CloseQuestion::save()
 {
     if (m_window.isEdited())
         m_window.pressSave();
-    return !m_window.isEdited() && m_window.resultError().isEmpty() &&
-           (!m_window.hasUnkeptSave() || m_window.saveResultAs());
+    return !m_window.isEdited() && (!m_window.hasUnkeptSave() || m_window.saveResultAs());
 }

@@ -123,6 +123,7 @@ void PanelFinder::finishEdit() const
     QFocusEvent leave(QEvent::FocusOut, Qt::MouseFocusReason);
     if (QLineEdit* const edit = unfinishedEdit())
         QCoreApplication::sendEvent(edit, &leave);
+    QMetaObject::invokeMethod(m_window, RowContract::kFinish);
 }
 
 QAbstractButton* PanelFinder::windowButton(const QString& name) const

@@ -37,7 +37,8 @@ public:
     QWidget* row(QWidget* panel, const QString& key) const;
     /// The edit of a row that was typed into and is not finished.
     QLineEdit* unfinishedEdit() const;
-    /// Leaves it as pressing elsewhere does, whether or not the window has the focus just then.
+    /// Leaves it as pressing elsewhere does, whether or not the window has the focus just then, and
+    /// ends what else is in progress: a corner that keys move.
     void finishEdit() const;
     /// A button of the window itself, by object name.
     QAbstractButton* windowButton(const QString& name) const;

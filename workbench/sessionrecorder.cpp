@@ -89,6 +89,8 @@ void SessionRecorder::start()
             Qt::UniqueConnection);
     connect(&m_window, &WorkbenchWindow::sgnCheck, this, &SessionRecorder::sltCheck,
             Qt::UniqueConnection);
+    connect(&m_window, &WorkbenchWindow::sgnFinish, this, &SessionRecorder::sltFinish,
+            Qt::UniqueConnection);
     qApp->installEventFilter(this);
     m_size = m_window.size();
     append(RecordedStep::size(m_window));
@@ -379,6 +381,11 @@ void SessionRecorder::watchMenu(QMenu& menu)
 void SessionRecorder::sltCheck()
 {
     record(RecordedStep::check());
+}
+
+void SessionRecorder::sltFinish()
+{
+    record(RecordedStep::finish());
 }
 
 void SessionRecorder::sltLoad()

@@ -55,6 +55,7 @@ private slots:
     void sltRowChanged();
     void sltOtherEdited();
     void sltCheck();
+    void sltFinish();
     void sltLoad();
 
 private:

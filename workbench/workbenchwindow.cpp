@@ -29,6 +29,7 @@
 #include <QMessageBox>
 #include <QMetaProperty>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 
 namespace
@@ -172,16 +173,18 @@ bool WorkbenchWindow::isLoaded() const
 
 bool WorkbenchWindow::isEdited() const
 {
-    return m_rulesWindow && m_rulesWindow->property(RowContract::kEdited).toBool();
+    return m_rulesWindow && !m_exited && m_rulesWindow->property(RowContract::kEdited).toBool();
 }
 
 bool WorkbenchWindow::hasUnkeptSave() const
 {
-    return m_hasSaved && !m_isKept && m_options.resultFile.isEmpty();
+    return m_hasSaved && !m_isKept && (m_options.resultFile.isEmpty() || !m_resultError.isEmpty());
 }
 
 void WorkbenchWindow::sltShowDocument()
 {
+    if (!m_rulesWindow)
+        return;
     const QString document =
         m_options.configFile.isEmpty() ? m_options.templateFile : m_options.configFile;
     const bool hasDocument = isLoaded() && !document.isEmpty();
@@ -190,7 +193,7 @@ void WorkbenchWindow::sltShowDocument()
         shortPath(document).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
     setWindowTitle(hasDocument ? tr("%1[*] - %2").arg(name, programName()) : programName());
     setWindowFilePath(hasDocument ? document : QString());
-    setWindowModified(hasDocument && isEdited());
+    setWindowModified(hasDocument && (isEdited() || hasUnwrittenSave()));
     showFirstPage(!isLoaded());
 }
 
@@ -231,6 +234,15 @@ QRtspVideoWnd* WorkbenchWindow::videoSurface() const
     return m_rulesWindow ? m_rulesWindow->findChild<QRtspVideoWnd*>() : nullptr;
 }
 
+void WorkbenchWindow::finishEdit()
+{
+    const PanelFinder finder(m_rulesWindow);
+    // Who types is followed to the end; of a corner that is moved nothing tells it.
+    if (!finder.unfinishedEdit())
+        emit sgnFinish();
+    finder.finishEdit();
+}
+
 bool WorkbenchWindow::checkSave()
 {
     emit sgnCheck();
@@ -250,6 +262,9 @@ void WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& 
 {
     m_options = options;
     m_hasSaved = false;
+    m_exited = false;
+    // Its trouble stays: a result that was asked for is missing still.
+    m_resultError.clear();
     m_documentError.clear();
     emit sgnLoad();
     m_book.addRecent(SourceBook::absolute(m_options.source));
@@ -371,11 +386,15 @@ bool WorkbenchWindow::saveResultAs()
     if (path.isEmpty())
         return false;
     m_isKept = DocumentFile::write(path, m_lastResult, error);
-    if (m_isKept)
-        emit sgnResultKept();
-    else
+    if (!m_isKept) {
         report(error);
-    return m_isKept;
+        return false;
+    }
+    m_resultError.clear();
+    tellTrouble(Trouble::Result, {});
+    sltShowDocument();
+    emit sgnResultKept();
+    return true;
 }
 
 void WorkbenchWindow::takeMessage(const MessageRecord& message)
@@ -386,6 +405,8 @@ void WorkbenchWindow::takeMessage(const MessageRecord& message)
     emit sgnMessage(message);
     if (message.isResult() && !m_options.resultFile.isEmpty() && m_resultError.isEmpty())
         emit sgnResultKept();
+    if (message.isResult() && m_exited)
+        leave();
 }
 
 void WorkbenchWindow::takeResult(const QString& result)
@@ -402,9 +423,20 @@ void WorkbenchWindow::takeResult(const QString& result)
     if (!isSaveKept || !m_resultError.isEmpty())
         writeResult();
     statusBar()->showMessage(resultText());
-    if (!m_exited)
+    sltShowDocument();
+}
+
+/// The rules window asked about what was edited already, but knows nothing of files.
+void WorkbenchWindow::leave()
+{
+    if (!m_replaying && m_mayLeave && !m_mayLeave()) {
+        m_exited = false;
+        statusBar()->clearMessage();
+        sltShowDocument();
         return;
+    }
     m_host->close();
+    const QScopedValueRollback<bool> leaving(m_isLeaving, true);
     if (!m_replaying)
         close();
 }
@@ -462,7 +494,7 @@ bool WorkbenchWindow::saveScreenshot(const QString& path, QString& error)
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
-    if (m_mayLeave && !m_mayLeave()) {
+    if (!m_isLeaving && m_mayLeave && !m_mayLeave()) {
         event->ignore();
         return;
     }

@@ -41,6 +41,8 @@ public:
     bool load(const WorkbenchOptions& options, QString& error);
     /// Loads the parameter block that was read of what @p options name.
     void loadBlock(const WorkbenchOptions& options, const QString& block);
+    /// Ends the edit that is in progress in the rules window.
+    void finishEdit();
     /// Has the rules window show what it would refuse to save; false when it cannot.
     bool checkSave();
 
@@ -61,7 +63,7 @@ public:
     /// A session runs: an exit without saving leaves the window open, file errors open no boxes.
     void setReplaying(bool replaying) { m_replaying = replaying; }
     bool isReplaying() const { return m_replaying; }
-    /// Whether the last result said that the operator left without saving.
+    /// Whether the operator left without saving, and nothing was loaded since.
     bool wasExited() const { return m_exited; }
     /// What went wrong with writing the result file; empty when nothing did.
     const QString& resultError() const { return m_resultError; }
@@ -71,9 +73,10 @@ public:
     const QString& lastResult() const { return m_lastResult; }
     /// Whether a save of the documents that are loaded is in no file although it should be.
     bool hasUnwrittenSave() const { return m_hasSaved && !m_resultError.isEmpty(); }
-    /// Whether what was saved is in no file as none was named for it.
+    /// Whether what was saved is in no file: none was named for it, or it could not be written.
     bool hasUnkeptSave() const;
-    /// Whether anything was edited since the load or the last save.
+    /// Whether anything was edited since the load or the last save, and the operator has not given
+    /// it up.
     bool isEdited() const;
     /// Presses the rules window's Save where it can be pressed, and takes what it sends.
     void pressSave();
@@ -101,6 +104,8 @@ signals:
     void sgnLoad();
     /// The rules window is about to show what it would refuse to save.
     void sgnCheck();
+    /// The rules window is about to end what is in progress, but is not typed.
+    void sgnFinish();
     void sgnMessage(const MessageRecord& message);
     /// What options() name is loaded.
     void sgnLoaded();
@@ -131,6 +136,7 @@ private:
     void applySources();
     void takeMessage(const MessageRecord& message);
     void takeResult(const QString& result);
+    void leave();
     void writeResult();
     QString resultText() const;
     void showPointer(const QMouseEvent* event);
@@ -150,7 +156,8 @@ private:
     QString m_resultError;
     bool m_replaying = false;
     bool m_exited = false;
-    bool m_hasSaved = false; ///< since the load
-    bool m_isKept = false;   ///< the last result is in a file
+    bool m_isLeaving = false; ///< it was asked already whether it may be left
+    bool m_hasSaved = false;  ///< since the load
+    bool m_isKept = false;    ///< the last result is in a file
     QString m_documentError;
 };

@@ -86,6 +86,10 @@ constexpr char kEdited[] = "edited";
 /// Object name of the view that shows the sections.
 constexpr char kSections[] = "sceneView";
 
+/// Slot of the window: takes over what is being typed, and lets go of a corner that is moved, as a
+/// save does before it looks.
+constexpr char kFinish[] = "sltFinish";
+
 /// Slot of the window: tells and shows the operator what a save would be refused for, as Save does,
 /// and saves nothing.
 constexpr char kCheck[] = "sltCheck";

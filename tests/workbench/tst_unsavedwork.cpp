@@ -20,6 +20,12 @@ const QByteArray kUnfinished = R"({"do":"type","scene":"rules","key":"ruleDwell"
 const QByteArray kIncomplete = R"({"do":"click","scene":"rules","object":"addRule"})";
 const QByteArray kPick = R"({"do":"pick","scene":"rules","entry":2})";
 const QByteArray kDisable = R"({"do":"enable","scene":"rules","entry":1,"on":false})";
+/// A corner is taken and moved by keys, and not let go.
+const QByteArray kMovedByKeys = R"({"do":"press","at":[2300,4000]}
+                                   {"do":"key","keys":"Escape","to":"picture"}
+                                   {"do":"key","keys":"Right","to":"picture"}
+                                   {"do":"key","keys":"Space","to":"picture"}
+                                   {"do":"key","keys":"Down","times":9,"to":"picture"})";
 const QByteArray kUndo = R"({"do":"key","keys":"Ctrl+Z","to":"picture"})";
 
 /// A workbench that writes its results, and what it sends to the module.
@@ -126,6 +132,24 @@ private slots:
         }
     }
 
+    void aCornerOnItsWayIsWork()
+    {
+        Bench bench(withResult());
+        QVERIFY(bench.isReady());
+        SessionRecorder recorder(bench.window());
+        QStringList steps;
+        connect(&recorder, &SessionRecorder::sgnStep, this,
+                [&](const Value& step) { steps.append(step["do"].asString()); });
+        recorder.start();
+        QCOMPARE(bench.play(kMovedByKeys), QString());
+        QVERIFY(!bench.window().isEdited());
+        QVERIFY(!bench.window().close());
+        QVERIFY(bench.boxes.takeBoxes().join('\n').contains("What was edited"));
+        QVERIFY_BOTH(bench.window().isEdited(), steps.last() == "finish");
+        QCOMPARE(bench.play(kUndo), QString());
+        QVERIFY2(!bench.window().isEdited(), "it is one step");
+    }
+
     void asksForASaveThatIsInNoFile()
     {
         Bench bench(WorkbenchBench::example());
@@ -140,6 +164,90 @@ private slots:
         QVERIFY(bench.boxes.takeBoxes().join('\n').contains("in no file"));
         bench.boxes.setAnswer(QMessageBox::Discard);
         QVERIFY(bench.window().close());
+    }
+
+    /// Nor does what cannot be written.
+    void asksForASaveThatCouldNotBeWritten()
+    {
+        for (auto way = m_ways.begin(); way != m_ways.end(); ++way) {
+            WorkbenchOptions options = WorkbenchBench::example();
+            options.resultFile = m_folder.filePath("missing/result.json");
+            Bench bench(options);
+            QVERIFY(bench.isReady());
+            QCOMPARE(bench.play(kEdit), QString());
+            bench.boxes.setAnswer(QMessageBox::Yes);
+            bench.window().pressSave();
+            bench.boxes.takeBoxes();
+            QVERIFY_BOTH(!bench.window().isEdited(), bench.window().isWindowModified());
+            for (int i = 0; i < 2; ++i) {
+                bench.messages.clear();
+                bench.boxes.setAnswer(i == 0 ? QMessageBox::Cancel : QMessageBox::Discard);
+                way.value()(bench);
+                QVERIFY(bench.boxes.takeBoxes().join('\n').contains("in no file"));
+                QCOMPARE(bench.messages, i == 0 ? QStringList() : QStringList(way.key().trimmed()));
+            }
+            QVERIFY(!bench.window().isVisible() || !bench.window().isWindowModified());
+        }
+    }
+
+    /// The dialog that asks for another file is left, then used.
+    void savesElsewhereWhatCouldNotBeWritten()
+    {
+        WorkbenchOptions options = WorkbenchBench::example();
+        options.resultFile = m_folder.filePath("missing/result.json");
+        Bench bench(options);
+        QVERIFY(bench.isReady());
+        QString chosen;
+        QTimer operatorsHand;
+        connect(&operatorsHand, &QTimer::timeout, this, [&chosen] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog && chosen.isEmpty())
+                dialog->reject();
+            else if (dialog) {
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(chosen);
+                dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+            }
+        });
+        operatorsHand.start(20);
+        QCOMPARE(bench.play(kEdit), QString());
+        bench.boxes.setAnswer(QMessageBox::Save);
+        QVERIFY(!bench.window().close());
+        QVERIFY_BOTH(!bench.window().isEdited(), bench.window().troubles().has(Trouble::Result));
+        chosen = m_folder.filePath("elsewhere.json");
+        QVERIFY(bench.window().close());
+        QVERIFY(QFile::exists(chosen));
+        QVERIFY(!bench.window().troubles().has(Trouble::Result));
+    }
+
+    /// By the rules window's own button: it asks about what was edited, but knows of no files.
+    void asksBeforeItIsLeftByCancel()
+    {
+        Bench bench(WorkbenchBench::example());
+        QVERIFY(bench.isReady());
+        QCOMPARE(bench.play(kEdit), QString());
+        bench.boxes.setAnswer(QMessageBox::Yes);
+        bench.window().pressSave();
+        QCOMPARE(bench.play(kUnfinished), QString());
+        bench.finder().finishEdit();
+        for (const auto answer : {QMessageBox::Cancel, QMessageBox::Discard}) {
+            bench.messages.clear();
+            bench.boxes.takeBoxes();
+            bench.boxes.setAnswer(answer);
+            QTest::mouseClick(bench.button("btnCancel"), Qt::LeftButton);
+            QCoreApplication::sendPostedEvents();
+            const QStringList boxes = bench.boxes.takeBoxes();
+            QVERIFY2(boxes.size() == 2 && boxes.last().contains("in no file"),
+                     qPrintable(boxes.join('\n')));
+            const bool isLeft = answer == QMessageBox::Discard;
+            QCOMPARE(bench.messages.contains(">0"), isLeft);
+            QCOMPARE(bench.window().isVisible(), !isLeft);
+            QCOMPARE(bench.window().isEdited(), !isLeft);
+            QCOMPARE(bench.window().wasExited(), isLeft);
+        }
+        QVERIFY(bench.question.wasDiscarded());
+        QString error;
+        QVERIFY(bench.window().load(bench.window().options(), error));
+        QVERIFY(!bench.window().wasExited());
     }
 
     void tellsInTheTitle()
