@@ -243,6 +243,10 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
         <source>Open a template first</source>
         <translation>Zuerst eine Vorlage öffnen</translation>
     </message>
+    <message>
+        <source>Nothing can be opened before all is done again</source>
+        <translation>Bevor alles wiederholt ist, kann nichts geöffnet werden</translation>
+    </message>
 </context>
 <context>
     <name>Examples</name>

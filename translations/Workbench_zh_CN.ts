@@ -243,6 +243,10 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
         <source>Open a template first</source>
         <translation>请先打开模板</translation>
     </message>
+    <message>
+        <source>Nothing can be opened before all is done again</source>
+        <translation>全部重做完成之前无法打开其他文档</translation>
+    </message>
 </context>
 <context>
     <name>Examples</name>

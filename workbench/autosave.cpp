@@ -3,6 +3,7 @@
 #include "host/api/kqmessagebox.h"
 #include "host/api/wholefile.h"
 #include "host/video/qrtspvideownd.h"
+#include "workbench/documentfile.h"
 #include "workbench/messagerecord.h"
 #include "workbench/restorebar.h"
 #include "workbench/sessionplayer.h"
@@ -10,7 +11,6 @@
 #include "workbench/sessionscript.h"
 #include "workbench/workbenchwindow.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -35,19 +35,19 @@ bool isEdit(const Value& step)
                    {"press", "drag", "double", "click", "set", "type", "enable", "key", "menu"});
 }
 
-/// Tells documents from others that have taken their places.
+/// Of the documents as they are now.
 QString digestOf(std::initializer_list<QString> documents)
 {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
+    DocumentFile::Digest digest;
     for (const QString& path : documents) {
-        QFile file(path);
+        QByteArray bytes;
+        QString error;
         // A pipe has nothing left, or waits.
-        const bool isThere = !path.isEmpty() && !UICommonMdl::WholeFile::isForeign(path);
-        if (isThere && file.open(QIODevice::ReadOnly))
-            hash.addData(&file);
-        hash.addData("\0", 1);
+        if (!path.isEmpty() && !UICommonMdl::WholeFile::isForeign(path))
+            DocumentFile::readBytes(path, bytes, error);
+        digest.add(bytes);
     }
-    return QString::fromLatin1(hash.result().toHex());
+    return digest.text();
 }
 
 /// Done again over other documents, the steps would change what nobody meant.
@@ -112,9 +112,8 @@ void Autosave::begin()
     if (m_window.options().templateFile.isEmpty())
         return;
     m_steps.push_back(RecordedStep::size(m_window).toCompactText().toUtf8());
-    const WorkbenchOptions& options = m_window.options();
-    Value load = RecordedStep::load(nullptr, options);
-    load["digest"] = digestOf({options.templateFile, options.configFile});
+    Value load = RecordedStep::load(nullptr, m_window.options());
+    load["digest"] = m_window.digest();
     m_steps.push_back(load.toCompactText().toUtf8());
 }
 

@@ -37,11 +37,19 @@ bool isDevice(const QString& path)
 
 } // namespace
 
-bool read(const QString& path, kql::Json::Value& document, QString& error)
+void Digest::add(const QByteArray& bytes)
+{
+    m_hash.addData(bytes);
+    m_hash.addData("\0", 1);
+}
+
+bool read(const QString& path, kql::Json::Value& document, QString& error, Digest* digest)
 {
     QByteArray bytes;
     if (!readBytes(path, bytes, error))
         return false;
+    if (digest)
+        digest->add(bytes);
     kql::Json::Reader reader;
     if (reader.parse(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
                      document))

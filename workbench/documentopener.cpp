@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMenu>
+#include <QStatusBar>
 
 namespace
 {
@@ -19,13 +20,14 @@ namespace
 struct Reading {
     WorkbenchOptions options;
     QString block;
+    QString digest;
     QString error;
 };
 
 Reading readBlock(const WorkbenchOptions& options)
 {
-    Reading reading{options, {}, {}};
-    reading.block = options.parameterBlock(reading.error);
+    Reading reading{options, {}, {}, {}};
+    reading.block = options.parameterBlock(reading.error, &reading.digest);
     return reading;
 }
 
@@ -183,12 +185,20 @@ void DocumentOpener::open(const WorkbenchOptions& options)
 {
     if (options.templateFile.isEmpty())
         return m_window.report(tr("Open a template first"));
+    // The rest of what is done again would be done to these.
+    if (m_window.isReplaying()) {
+        m_window.statusBar()->showMessage(tr("Nothing can be opened before all is done again"));
+        return;
+    }
+    // Before they are read: the answer may save into one of them.
+    if (!m_question.mayLeave())
+        return;
     const auto reading = BusyReading::result<Reading>(&m_window, tr("Reading ..."),
                                                       [options] { return readBlock(options); });
     if (!reading)
         return;
     if (reading->block.isEmpty())
         m_window.report(reading->error);
-    else if (m_question.mayLeave())
-        m_window.loadBlock(reading->options, reading->block);
+    else
+        m_window.loadBlock(reading->options, reading->block, reading->digest);
 }

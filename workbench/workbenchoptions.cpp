@@ -14,9 +14,10 @@ namespace
 
 constexpr char kConfiguration[] = "channelAbilityPO";
 
-bool readTemplate(const QString& path, kql::Json::Value& document, QString& error)
+bool readTemplate(const QString& path, kql::Json::Value& document, QString& error,
+                  DocumentFile::Digest& digest)
 {
-    if (!DocumentFile::read(path, document, error))
+    if (!DocumentFile::read(path, document, error, &digest))
         return false;
     if (document.isMember("configDescription"))
         return true;
@@ -27,9 +28,10 @@ bool readTemplate(const QString& path, kql::Json::Value& document, QString& erro
 }
 
 /// Reads a configuration, or a result of an earlier save, which has it in one of its members.
-bool readConfiguration(const QString& path, kql::Json::Value& config, QString& error)
+bool readConfiguration(const QString& path, kql::Json::Value& config, QString& error,
+                       DocumentFile::Digest& digest)
 {
-    if (!DocumentFile::read(path, config, error))
+    if (!DocumentFile::read(path, config, error, &digest))
         return false;
     if (!config.isMember("result") || !config.isMember("algorithmId"))
         return true;
@@ -98,15 +100,20 @@ QString WorkbenchOptions::outputFault() const
     return {};
 }
 
-QString WorkbenchOptions::parameterBlock(QString& error) const
+QString WorkbenchOptions::parameterBlock(QString& error, QString* digest) const
 {
     kql::Json::Value block(kql::Json::ValueType::Object);
     kql::Json::Value rulesTemplate;
     kql::Json::Value config(kql::Json::ValueType::Object);
-    if (!readTemplate(templateFile, rulesTemplate, error))
+    DocumentFile::Digest read;
+    if (!readTemplate(templateFile, rulesTemplate, error, read))
         return {};
-    if (!configFile.isEmpty() && !readConfiguration(configFile, config, error))
+    if (configFile.isEmpty())
+        read.add({});
+    else if (!readConfiguration(configFile, config, error, read))
         return {};
+    if (digest)
+        *digest = read.text();
     block["algorithmId"] = algorithmId;
     block["algorithmType"] = algorithmType;
     block["algorithmCode"] = algorithmCode;

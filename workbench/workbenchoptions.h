@@ -40,6 +40,7 @@ struct WorkbenchOptions {
     /// that of another file of this run. Empty when there is none.
     QString outputFault() const;
     /// The JSON text of the parameter block that loads the channel's rules, documents read from
-    /// their files. Empty on failure, with one line in @p error.
-    QString parameterBlock(QString& error) const;
+    /// their files, whose digest as they were read comes in @p digest unless that is null. Empty
+    /// on failure, with one line in @p error.
+    QString parameterBlock(QString& error, QString* digest = nullptr) const;
 };

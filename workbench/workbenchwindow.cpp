@@ -251,16 +251,19 @@ bool WorkbenchWindow::checkSave()
 
 bool WorkbenchWindow::load(const WorkbenchOptions& options, QString& error)
 {
-    const QString block = options.parameterBlock(error);
+    QString digest;
+    const QString block = options.parameterBlock(error, &digest);
     if (block.isEmpty())
         return false;
-    loadBlock(options, block);
+    loadBlock(options, block, digest);
     return true;
 }
 
-void WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& block)
+void WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& block,
+                                const QString& digest)
 {
     m_options = options;
+    m_digest = digest;
     m_hasSaved = false;
     m_exited = false;
     // Its trouble stays: a result that was asked for is missing still.

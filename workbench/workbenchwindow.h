@@ -39,14 +39,16 @@ public:
     /// Loads what @p options name into the window, and asks nobody; false with one line in @p
     /// error.
     bool load(const WorkbenchOptions& options, QString& error);
-    /// Loads the parameter block that was read of what @p options name.
-    void loadBlock(const WorkbenchOptions& options, const QString& block);
+    /// Loads the parameter block that was read of what @p options name, with the digest of that.
+    void loadBlock(const WorkbenchOptions& options, const QString& block, const QString& digest);
     /// Ends the edit that is in progress in the rules window.
     void finishEdit();
     /// Has the rules window show what it would refuse to save; false when it cannot.
     bool checkSave();
 
     const WorkbenchOptions& options() const { return m_options; }
+    /// Of the documents that options() name, as they were when they were read.
+    const QString& digest() const { return m_digest; }
     QWidget* rulesWindow() const { return m_rulesWindow; }
     /// The picture in the rules window; null before start().
     QRtspVideoWnd* videoSurface() const;
@@ -142,6 +144,7 @@ private:
     void showPointer(const QMouseEvent* event);
 
     WorkbenchOptions m_options;
+    QString m_digest;
     SourceBook m_book;
     ModuleHost* m_host;
     MessageDock* m_dock;

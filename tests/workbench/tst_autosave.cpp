@@ -5,6 +5,8 @@
 #include "tests/support/workbenchprogram.h"
 #include "workbench/autosave.h"
 #include "workbench/boxwatcher.h"
+#include "workbench/closequestion.h"
+#include "workbench/documentopener.h"
 #include "workbench/restorebar.h"
 
 #include <memory>
@@ -253,6 +255,39 @@ private slots:
                 QVERIFY(bench.offered().contains("are not what they were"));
             QTRY_COMPARE_WITH_TIMEOUT(contentOf(folder()), damaged, kTryFor);
         }
+    }
+
+    /// What was read is what the steps are done to, whatever is in the file by then.
+    void knowsTheDocumentsThatWereRead()
+    {
+        WorkbenchOptions options = gate();
+        options.configFile = m_home->filePath("config.json");
+        QVERIFY(QFile::copy(gate().configFile, options.configFile));
+        {
+            WorkbenchBench loaded(options);
+            QVERIFY(loaded.isReady() && QFile::resize(options.configFile, 0));
+            const Autosave autosave(loaded.window(), folder());
+            QCOMPARE(loaded.play(Fixtures::path("sessions/work.jsonl")), QString());
+            QTRY_VERIFY_WITH_TIMEOUT(isKept(), kTryFor);
+            leaveBehind(contentOf(folder()));
+        }
+        Bench bench(folder());
+        QVERIFY(bench.bar());
+        bench.answer("restore");
+        QVERIFY2(bench.offered().contains("are not what they were"), qPrintable(bench.offered()));
+    }
+
+    void opensNothingWhileItRestores()
+    {
+        leaveBehind(kWork);
+        Bench bench(folder());
+        QVERIFY(bench.bar());
+        DocumentOpener opener(bench.window(), *new CloseQuestion(bench.window()));
+        bench.answer("restore");
+        opener.openExample("tripwire");
+        QCOMPARE(bench.window().options().templateFile, gate().templateFile);
+        QTRY_VERIFY_WITH_TIMEOUT(!bench.window().isReplaying(), kPatience);
+        QVERIFY_BOTH(!bench.bar(), bench.window().isEdited());
     }
 
     void sweepsUpAfterTheDeadOnly()

@@ -58,6 +58,26 @@ public:
     QStringList messages;
 };
 
+/// Chooses a file where one is asked for; without one it leaves the dialog.
+struct FileChooser {
+    explicit FileChooser(const QString& chosen = {}) : file(chosen)
+    {
+        QObject::connect(&timer, &QTimer::timeout, [this] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog && file.isEmpty())
+                dialog->reject();
+            if (!dialog || file.isEmpty())
+                return;
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
+            dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+        });
+        timer.start(20);
+    }
+
+    QString file;
+    QTimer timer;
+};
+
 } // namespace
 
 /// What a window with unsaved work lets go of, and what it asks before.
@@ -190,6 +210,23 @@ private slots:
         }
     }
 
+    /// Into the very file that is loaded next.
+    void showsWhatItSavedBefore()
+    {
+        WorkbenchOptions options = WorkbenchBench::example();
+        const QString copy = m_folder.filePath("copy.json");
+        QVERIFY(QFile::copy(options.configFile, copy));
+        options.configFile = copy;
+        Bench bench(options);
+        QVERIFY(bench.isReady());
+        QCOMPARE(bench.play(kEdit), QString());
+        const FileChooser chooser{copy};
+        bench.boxes.setAnswer(QMessageBox::Save);
+        bench.opener.open(options);
+        QCOMPARE(bench.shown("ruleDwell"), QString("21"));
+        QVERIFY(WorkbenchFiles::read(copy).isMember("result"));
+    }
+
     /// The dialog that asks for another file is left, then used.
     void savesElsewhereWhatCouldNotBeWritten()
     {
@@ -197,25 +234,14 @@ private slots:
         options.resultFile = m_folder.filePath("missing/result.json");
         Bench bench(options);
         QVERIFY(bench.isReady());
-        QString chosen;
-        QTimer operatorsHand;
-        connect(&operatorsHand, &QTimer::timeout, this, [&chosen] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (dialog && chosen.isEmpty())
-                dialog->reject();
-            else if (dialog) {
-                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(chosen);
-                dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
-            }
-        });
-        operatorsHand.start(20);
+        FileChooser chooser;
         QCOMPARE(bench.play(kEdit), QString());
         bench.boxes.setAnswer(QMessageBox::Save);
         QVERIFY(!bench.window().close());
         QVERIFY_BOTH(!bench.window().isEdited(), bench.window().troubles().has(Trouble::Result));
-        chosen = m_folder.filePath("elsewhere.json");
+        chooser.file = m_folder.filePath("elsewhere.json");
         QVERIFY(bench.window().close());
-        QVERIFY(QFile::exists(chosen));
+        QVERIFY(QFile::exists(chooser.file));
         QVERIFY(!bench.window().troubles().has(Trouble::Result));
     }
 
