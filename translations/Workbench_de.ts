@@ -249,6 +249,13 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     </message>
 </context>
 <context>
+    <name>DropTarget</name>
+    <message>
+        <source>Nothing was opened: drop a template, a configuration and a picture at once, but one of each at most.</source>
+        <translation>Nichts wurde geöffnet: Eine Vorlage, eine Konfiguration und ein Bild können zugleich abgelegt werden, aber höchstens je eines davon.</translation>
+    </message>
+</context>
+<context>
     <name>Examples</name>
     <message>
         <source>Perimeter</source>
@@ -385,6 +392,10 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     <message>
         <source>%1:1:1: nothing was saved, so there is no configuration</source>
         <translation>%1:1:1: es wurde nichts gespeichert, also gibt es keine Konfiguration</translation>
+    </message>
+    <message>
+        <source>%1: it is too long</source>
+        <translation>%1: ist zu lang</translation>
     </message>
 </context>
 <context>
@@ -774,8 +785,8 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
         <translation>Bild oder Video öffnen</translation>
     </message>
     <message>
-        <source>Pictures and videos (*.png *.jpg *.jpeg *.bmp *.mp4 *.mkv *.avi *.ts *.mjpeg *.h264 *.h265);;All files (*)</source>
-        <translation>Bilder und Videos (*.png *.jpg *.jpeg *.bmp *.mp4 *.mkv *.avi *.ts *.mjpeg *.h264 *.h265);;Alle Dateien (*)</translation>
+        <source>Pictures and videos (*.%1);;All files (*)</source>
+        <translation>Bilder und Videos (*.%1);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Sample camera</source>
@@ -844,6 +855,10 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
     <message>
         <source>Saved, but in no file yet: File, Save result as</source>
         <translation>Gespeichert, aber noch in keiner Datei: Datei, Ergebnis speichern unter</translation>
+    </message>
+    <message>
+        <source>it cannot be loaded</source>
+        <translation>kann nicht geladen werden</translation>
     </message>
 </context>
 </TS>

@@ -249,6 +249,13 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     </message>
 </context>
 <context>
+    <name>DropTarget</name>
+    <message>
+        <source>Nothing was opened: drop a template, a configuration and a picture at once, but one of each at most.</source>
+        <translation>未打开任何内容：可以同时拖放一个模板、一个配置和一个画面，但每种最多一个。</translation>
+    </message>
+</context>
+<context>
     <name>Examples</name>
     <message>
         <source>Perimeter</source>
@@ -385,6 +392,10 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     <message>
         <source>%1:1:1: nothing was saved, so there is no configuration</source>
         <translation>%1:1:1：未保存任何内容，因此没有配置</translation>
+    </message>
+    <message>
+        <source>%1: it is too long</source>
+        <translation>%1：内容过长</translation>
     </message>
 </context>
 <context>
@@ -774,8 +785,8 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
         <translation>打开图片或视频</translation>
     </message>
     <message>
-        <source>Pictures and videos (*.png *.jpg *.jpeg *.bmp *.mp4 *.mkv *.avi *.ts *.mjpeg *.h264 *.h265);;All files (*)</source>
-        <translation>图片和视频 (*.png *.jpg *.jpeg *.bmp *.mp4 *.mkv *.avi *.ts *.mjpeg *.h264 *.h265);;所有文件 (*)</translation>
+        <source>Pictures and videos (*.%1);;All files (*)</source>
+        <translation>图片和视频 (*.%1);;所有文件 (*)</translation>
     </message>
     <message>
         <source>Sample camera</source>
@@ -844,6 +855,10 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
     <message>
         <source>Saved, but in no file yet: File, Save result as</source>
         <translation>已保存，但尚未写入文件：文件，结果另存为</translation>
+    </message>
+    <message>
+        <source>it cannot be loaded</source>
+        <translation>无法加载</translation>
     </message>
 </context>
 </TS>

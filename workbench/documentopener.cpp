@@ -5,6 +5,7 @@
 #include "workbench/busyreading.h"
 #include "workbench/closequestion.h"
 #include "workbench/documentfile.h"
+#include "workbench/droptarget.h"
 #include "workbench/examples.h"
 #include "workbench/workbenchwindow.h"
 
@@ -22,12 +23,15 @@ struct Reading {
     QString block;
     QString digest;
     QString error;
+    QStringList refused; ///< files that cannot be used
 };
 
 Reading readBlock(const WorkbenchOptions& options)
 {
-    Reading reading{options, {}, {}, {}};
+    Reading reading{options, {}, {}, {}, {}};
     reading.block = options.parameterBlock(reading.error, &reading.digest);
+    if (reading.block.isEmpty())
+        reading.refused = QStringList{options.templateFile, options.configFile};
     return reading;
 }
 
@@ -35,20 +39,24 @@ Reading readBlock(const WorkbenchOptions& options)
 Reading readDropped(WorkbenchOptions options, const QStringList& files)
 {
     Reading reading;
-    QString configuration;
+    QStringList templates;
+    QStringList configurations;
     for (const QString& file : files) {
         kql::Json::Value document;
-        if (!DocumentFile::read(file, document, reading.error))
+        if (!DocumentFile::read(file, document, reading.error)) {
+            reading.refused = QStringList(file);
             return reading;
-        if (!document.isMember("configDescription")) {
-            configuration = file;
-            continue;
         }
-        options.templateFile = file;
+        (document.isMember("configDescription") ? templates : configurations).append(file);
+    }
+    if (templates.size() > 1 || configurations.size() > 1)
+        reading.error = DropTarget::refusal();
+    if (!templates.isEmpty()) {
+        options.templateFile = templates.first();
         options.configFile.clear();
     }
-    if (!configuration.isEmpty())
-        options.configFile = configuration;
+    if (!configurations.isEmpty())
+        options.configFile = configurations.first();
     reading.options = options;
     return reading;
 }
@@ -177,8 +185,10 @@ void DocumentOpener::openDropped(const QStringList& files)
         return;
     if (reading->error.isEmpty())
         open(reading->options);
-    else
+    else if (reading->refused.isEmpty())
         m_window.report(reading->error);
+    else
+        refuse(reading->refused, reading->error);
 }
 
 void DocumentOpener::open(const WorkbenchOptions& options)
@@ -197,8 +207,15 @@ void DocumentOpener::open(const WorkbenchOptions& options)
                                                       [options] { return readBlock(options); });
     if (!reading)
         return;
+    QString error;
     if (reading->block.isEmpty())
-        m_window.report(reading->error);
-    else
-        m_window.loadBlock(reading->options, reading->block, reading->digest);
+        refuse(reading->refused, reading->error);
+    else if (!m_window.loadBlock(options, reading->block, reading->digest, error))
+        refuse({options.templateFile, options.configFile}, error);
+}
+
+void DocumentOpener::refuse(const QStringList& files, const QString& error)
+{
+    m_refusedFiles = files;
+    m_window.reportDocument(error);
 }

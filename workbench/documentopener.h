@@ -31,10 +31,13 @@ public:
     void openDropped(const QStringList& files);
     /// Reads what @p options name and loads it.
     void open(const WorkbenchOptions& options);
+    /// The files that could not be used the last time that any could not; none before.
+    const QStringList& refusedFiles() const { return m_refusedFiles; }
 
 private:
     void fillMenu();
     void noteLoaded();
+    void refuse(const QStringList& files, const QString& error);
     void openConfiguration();
     void loadAgain();
     void openDocuments(const RecentDocuments::Documents& documents);
@@ -44,4 +47,5 @@ private:
     WorkbenchWindow& m_window;
     CloseQuestion& m_question;
     RecentDocuments m_recent;
+    QStringList m_refusedFiles;
 };

@@ -139,6 +139,16 @@ QAbstractButton* PanelFinder::windowButton(const QString& name) const
 
 QString PanelFinder::notices() const
 {
-    const auto* label = m_window->findChild<QLabel*>(QString::fromLatin1(RowContract::kNotices));
-    return label && !label->isHidden() ? label->text() : QString();
+    return shownText(RowContract::kNotices);
+}
+
+QString PanelFinder::refusal() const
+{
+    return shownText(RowContract::kRefusal);
+}
+
+QString PanelFinder::shownText(const char* label) const
+{
+    const auto* shown = m_window->findChild<QLabel*>(QString::fromLatin1(label));
+    return shown && !shown->isHidden() ? shown->text() : QString();
 }

@@ -44,7 +44,11 @@ public:
     QAbstractButton* windowButton(const QString& name) const;
     /// The line of notices beside the window's buttons, in full.
     QString notices() const;
+    /// Why the window does not do what it was asked for last.
+    QString refusal() const;
 
 private:
+    QString shownText(const char* label) const;
+
     QWidget* m_window; ///< not owned
 };

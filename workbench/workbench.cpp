@@ -107,9 +107,10 @@ bool Workbench::start(QString& error)
     if (!options.replayFile.isEmpty())
         return replay(options.replayFile, error);
     // Once the window is up: it delays nobody.
-    QTimer::singleShot(0, this, [this]() {
-        m_autosave = std::make_unique<Autosave>(*m_window, AutosaveFile::usualFolder());
-    });
+    if (!options.isScripted())
+        QTimer::singleShot(0, this, [this]() {
+            m_autosave = std::make_unique<Autosave>(*m_window, AutosaveFile::usualFolder());
+        });
     return true;
 }
 
@@ -158,6 +159,9 @@ void Workbench::saveSupportFile()
     support.addFile(QStringLiteral("template.json"), options.templateFile);
     support.addFile(QStringLiteral("config.json"), options.configFile);
     support.addText(QStringLiteral("result.json"), m_window->lastResult());
+    int number = 0;
+    for (const QString& file : m_opener->refusedFiles())
+        support.addFile(QStringLiteral("refused-%1.json").arg(++number), file);
     const auto error =
         BusyReading::result<QString>(m_window.get(), tr("Saving ..."), [support, path] {
             QString why;

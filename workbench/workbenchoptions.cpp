@@ -124,5 +124,11 @@ QString WorkbenchOptions::parameterBlock(QString& error, QString* digest) const
         block["editable"] = *editable;
     block["videoConfigRuleProperty"] = std::move(rulesTemplate);
     block[kConfiguration] = std::move(config);
-    return block.toStyledText();
+    const QString text = block.toStyledText();
+    if (text.isEmpty()) {
+        const bool isTemplate = block["videoConfigRuleProperty"].toStyledText().isEmpty();
+        error = QCoreApplication::translate("ParameterBlock", "%1: it is too long")
+                    .arg(isTemplate || configFile.isEmpty() ? templateFile : configFile);
+    }
+    return text;
 }

@@ -11,6 +11,7 @@
 #include "workbench/documentfile.h"
 #include "workbench/droptarget.h"
 #include "workbench/firstpage.h"
+#include "workbench/logkeeper.h"
 #include "workbench/messagedock.h"
 #include "workbench/messagerecord.h"
 #include "workbench/modulehost.h"
@@ -70,6 +71,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options, QWidget* paren
     const auto* const drops = new DropTarget(*this);
     connect(drops, &DropTarget::sgnDocuments, this, &WorkbenchWindow::sgnDropped);
     connect(drops, &DropTarget::sgnSource, this, &WorkbenchWindow::showSource);
+    connect(drops, &DropTarget::sgnRefused, this, &WorkbenchWindow::report);
 }
 
 WorkbenchWindow::~WorkbenchWindow()
@@ -255,12 +257,11 @@ bool WorkbenchWindow::load(const WorkbenchOptions& options, QString& error)
     const QString block = options.parameterBlock(error, &digest);
     if (block.isEmpty())
         return false;
-    loadBlock(options, block, digest);
-    return true;
+    return loadBlock(options, block, digest, error);
 }
 
-void WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& block,
-                                const QString& digest)
+bool WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& block,
+                                const QString& digest, QString& error)
 {
     m_options = options;
     m_digest = digest;
@@ -277,16 +278,33 @@ void WorkbenchWindow::loadBlock(const WorkbenchOptions& options, const QString& 
     const WaitCursor wait;
     m_host->open(block);
     statusBar()->clearMessage();
-    emit sgnLoaded();
+    const bool isTaken = isLoaded();
+    if (isTaken) {
+        emit sgnLoaded();
+    } else {
+        error = refusal();
+        m_documentError = UICommonMdl::maskedAddress(error);
+    }
     sltShowDocument();
+    return isTaken;
+}
+
+/// The rules window says why, but knows of no files.
+QString WorkbenchWindow::refusal() const
+{
+    const QString why = PanelFinder(m_rulesWindow).refusal();
+    QString files = m_options.templateFile;
+    if (!m_options.configFile.isEmpty())
+        files += QStringLiteral(", ") + m_options.configFile;
+    return QStringLiteral("%1: %2").arg(files, why.isEmpty() ? tr("it cannot be loaded") : why);
 }
 
 void WorkbenchWindow::openPicture()
 {
     const QString path = QFileDialog::getOpenFileName(
         this, tr("Open picture or video"), {},
-        tr("Pictures and videos (*.png *.jpg *.jpeg *.bmp *.mp4 *.mkv *.avi *.ts *.mjpeg *.h264 "
-           "*.h265);;All files (*)"));
+        tr("Pictures and videos (*.%1);;All files (*)")
+            .arg(DropTarget::pictureEndings().join(QStringLiteral(" *."))));
     if (!path.isEmpty())
         showSource(path);
 }
@@ -354,14 +372,19 @@ void WorkbenchWindow::applySources()
     tellTrouble(Trouble::Sources, m_book.error());
 }
 
+void WorkbenchWindow::reportDocument(const QString& error)
+{
+    if (isLoaded())
+        return report(error);
+    m_documentError = UICommonMdl::maskedAddress(error);
+    LogKeeper::note(m_documentError);
+    sltShowDocument();
+}
+
 void WorkbenchWindow::report(const QString& error)
 {
     const QString shown = UICommonMdl::maskedAddress(error);
-    if (!isLoaded()) {
-        m_documentError = shown;
-        sltShowDocument();
-        return;
-    }
+    LogKeeper::note(shown);
     QMessageBox box(QMessageBox::Warning, programName(), shown, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();

@@ -37,10 +37,12 @@ public:
     /// Loads the plug-in only, and forgets the documents; false as start().
     bool startEmpty(QString& error);
     /// Loads what @p options name into the window, and asks nobody; false with one line in @p
-    /// error.
+    /// error, and then nothing is loaded where the rules window refused them.
     bool load(const WorkbenchOptions& options, QString& error);
-    /// Loads the parameter block that was read of what @p options name, with the digest of that.
-    void loadBlock(const WorkbenchOptions& options, const QString& block, const QString& digest);
+    /// Loads the parameter block that was read of what @p options name, with the digest of that;
+    /// false as load().
+    bool loadBlock(const WorkbenchOptions& options, const QString& block, const QString& digest,
+                   QString& error);
     /// Ends the edit that is in progress in the rules window.
     void finishEdit();
     /// Has the rules window show what it would refuse to save; false when it cannot.
@@ -84,8 +86,11 @@ public:
     void pressSave();
     /// Asks for a file to write the last result into; false when it is in none.
     bool saveResultAs();
-    /// Says what is wrong: where the sections would be while nothing is loaded, else in a box.
+    /// Says in a box what is wrong.
     void report(const QString& error);
+    /// Says which document cannot be used, and why: where the sections would be while nothing is
+    /// loaded, else in a box.
+    void reportDocument(const QString& error);
     /// Why no document is loaded although one was named; empty when that is not so.
     const QString& documentError() const { return m_documentError; }
     /// False with one line in @p error.
@@ -136,6 +141,7 @@ private:
     void showSource(const QString& source);
     SourceBook::Addresses sources() const;
     void applySources();
+    QString refusal() const;
     void takeMessage(const MessageRecord& message);
     void takeResult(const QString& result);
     void leave();

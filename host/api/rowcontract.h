@@ -66,11 +66,13 @@ constexpr char kPasteKey[] = "Ctrl+V";
 /// What an entry in the clipboard is: JSON.
 constexpr char kEntryType[] = "application/vnd.intelligentrules.entry+json";
 
-// Object names of the window's buttons, and of its label for notices. Save is disabled while
+// Object names of the window's buttons, and of its labels: for notices, and for why it does not do
+// what it was asked for. Save is disabled while
 // nothing is loaded, and hidden in a read-only window.
 constexpr char kSave[] = "btnSave";
 constexpr char kCancel[] = "btnCancel";
 constexpr char kNotices[] = "lblNotices";
+constexpr char kRefusal[] = "lblHint";
 constexpr char kUndo[] = "btnUndo";
 constexpr char kRedo[] = "btnRedo";
 

@@ -124,6 +124,45 @@ private slots:
         QVERIFY2(bench.isLoaded(), "the old document stays");
     }
 
+    /// Whether the workbench cannot write it, or the rules window cannot read it.
+    void saysWhichDocumentIsRefused()
+    {
+        const auto nested = [this](const char* name, int levels, const QByteArray& inside) {
+            return WorkbenchFiles::write(
+                m_folder, name,
+                "{\"configDescription\":[],\"x\":" + QByteArray(levels, '[') + inside +
+                    QByteArray(levels, ']') + '}');
+        };
+        const QString deep = nested("deep.json", 511, {});
+        const QString recent = path("none/documents.json");
+        for (const QString& file :
+             {nested("long.json", 40, QByteArray("1,").repeated(2'100'000) + '1'), deep,
+              nested("large.json", 1, '"' + QByteArray(16 << 20, 'x') + '"')}) {
+            Empty bench;
+            bench.opener.keepRecent(recent);
+            bench.opener.open(withTemplate(file));
+            QVERIFY2(bench.told().startsWith(file + ": "), qPrintable(file + bench.told()));
+            QVERIFY2(bench.page()->isVisible() && !QFile::exists(recent), qPrintable(file));
+            QCOMPARE(bench.opener.refusedFiles().value(0), file);
+            QCOMPARE(bench.told().endsWith("The documents are too long."),
+                     file.endsWith("large.json"));
+        }
+        WorkbenchProgram program;
+        const auto outcome = program.replay(
+            program.file("s.jsonl", "{\"do\":\"load\",\"template\":\"" + deep.toUtf8() + "\"}"));
+        QVERIFY2(outcome.status == WorkbenchProgram::StepFailed, qPrintable(outcome.said));
+    }
+
+    void otherFaultsAreNoDocuments()
+    {
+        Empty bench;
+        BoxAnswerer boxes(QMessageBox::Ok);
+        QVERIFY(!bench.window.saveResultAs());
+        bench.opener.open(bench.window.options());
+        QCOMPARE(boxes.takeBoxes().size(), 2);
+        QVERIFY_BOTH(bench.told().isEmpty(), bench.window.documentError().isEmpty());
+    }
+
     void takesWhatIsDropped()
     {
         Empty bench;
@@ -131,7 +170,7 @@ private slots:
         const QString folder = ExampleFiles::folder();
         QVERIFY(!bench.dropFiles({folder}));
         QVERIFY(bench.dropFiles({folder + "config.json"}));
-        QVERIFY2(bench.told().contains("template"), qPrintable(bench.told()));
+        QVERIFY(boxes.takeBoxes().join('\n').contains("template"));
         QVERIFY(bench.dropFiles({folder + "config.json", folder + "template.json"}));
         QCOMPARE(bench.window.windowFilePath(), folder + "config.json");
         QVERIFY(bench.dropFiles({folder + "saved.json"}));
@@ -154,6 +193,18 @@ private slots:
         QVERIFY(bench.dropFiles({path("street.png")}));
         QCOMPARE(addressOf("1"), path("street.png"));
         QCOMPARE(boxes.takeBoxes(), QStringList());
+        // All of it or nothing.
+        for (const QStringList& tooMuch :
+             {QStringList{path("one.mp4"), path("two.mp4")}, QStringList{folder, path("one.mp4")},
+              QStringList{folder + "config.json", folder + "saved.json"},
+              QStringList{path("notes.txt"), folder + "template.json"}}) {
+            QVERIFY(bench.dropFiles(tooMuch));
+            QVERIFY2(boxes.takeBoxes().join('\n').contains("Nothing was opened"),
+                     qPrintable(tooMuch.join(' ')));
+            QCOMPARE(addressOf("1"), path("street.png"));
+            QCOMPARE(bench.window.options().configFile, folder + "saved.json");
+        }
+        QVERIFY(!bench.dropFiles({path("notes.txt")}));
     }
 
     void keepsRecentDocuments()
