@@ -1,5 +1,6 @@
 #include "workbench/windowplace.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
@@ -33,8 +34,18 @@ void WindowPlace::restore(QWidget& window, const QString& file)
 {
     const QByteArray geometry =
         QSettings(file, QSettings::IniFormat).value(kGeometry).toByteArray();
-    if (!window.restoreGeometry(geometry))
+    if (!window.restoreGeometry(geometry)) {
         window.setGeometry(within(window.screen()->availableGeometry(), window.size()));
+        return;
+    }
+    if (window.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
+        return;
+    // Qt leaves a window as it was where its screen is only somewhat smaller.
+    const QScreen* const middle = QGuiApplication::screenAt(window.geometry().center());
+    const QRect available =
+        (middle ? middle : QGuiApplication::primaryScreen())->availableGeometry();
+    if (!available.contains(window.geometry()))
+        window.setGeometry(within(available, window.size()));
 }
 
 void WindowPlace::keep(const QWidget& window, const QString& file)

@@ -185,6 +185,14 @@ private slots:
         QWidget found;
         WindowPlace::restore(found, file);
         QCOMPARE(found.geometry(), place);
+        // The screen got smaller since, by less than Qt minds.
+        const QRect screen = left.screen()->availableGeometry();
+        left.setGeometry(screen.adjusted(screen.width() / 2, screen.height() / 2, 60, 60));
+        WindowPlace::keep(left, file);
+        QWidget moved;
+        WindowPlace::restore(moved, file);
+        QVERIFY(screen.contains(moved.geometry()));
+        QCOMPARE(moved.size(), left.size());
         QFile broken(file);
         QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("[General]\ngeometry=no") > 0);
         broken.close();
