@@ -26,6 +26,7 @@ private slots:
     void readsTheExamples_data();
     void readsTheExamples();
     void tellsFailuresInAllForms();
+    void tellsWhatCannotBeWritten();
     void refusesArguments_data();
     void refusesArguments();
     void tellsWhatCannotBeRead_data();
@@ -86,6 +87,27 @@ void TstRulesctl::tellsFailuresInAllForms()
                      R"("name":"Gate","key":null}])"));
     QCOMPARE(text.out, file + ": fails: global 1: Span:The minimum value cannot be empty.; "
                               "rules 2 \"Gate\": Duplicate rule name exists\n");
+}
+
+void TstRulesctl::tellsWhatCannotBeWritten()
+{
+    Value rulesTemplate = Mailbox::json(SampleDocuments::kTemplate);
+    rulesTemplate.removeMember("configTemplate");
+    const QStringList arguments{
+        "--template", m_program.file("skeletonless.json", rulesTemplate.toStyledText().toUtf8()),
+        "--config",
+        m_program.file("gate.json", SampleDocuments::config(SampleDocuments::rule("Gate")))};
+    const QString why = R"(The template has no "configTemplate" to write into.)";
+    const Outcome checked = m_program.run(QStringList{"check", "--format", "json"} + arguments);
+    const Value failures = Mailbox::json(checked.out)["results"][0]["failures"];
+    QCOMPARE(failures.size(), 1);
+    QCOMPARE(failures[0]["message"].asString(), why);
+    QVERIFY_BOTH(failures[0]["scene"].isNull(), failures[0]["entry"].isNull());
+    const QString target = m_program.path("unwritten.json");
+    const Outcome converted = m_program.run(QStringList{"convert", "-o", target} + arguments);
+    QCOMPARE(converted.status, RulesctlProgram::Differs);
+    QCOMPARE(converted.said, arguments.last() + ": " + why + '\n');
+    QVERIFY(!QFile::exists(target));
 }
 
 void TstRulesctl::refusesArguments_data()
