@@ -27,3 +27,4 @@ void addPanelRows(BenchRows& rows);
 void addOpenRow(BenchRows& rows);
 void addStartRow(BenchRows& rows);
 void addFleetRows(BenchRows& rows);
+void addReportRow(BenchRows& rows);

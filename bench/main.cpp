@@ -59,6 +59,7 @@ int main(int argc, char* argv[])
     addOpenRow(rows);
     addStartRow(rows);
     addFleetRows(rows);
+    addReportRow(rows);
     RatioTable table(rows);
     table.registerWork();
     benchmark::RunSpecifiedBenchmarks(&table);

@@ -1,6 +1,5 @@
-#include "tests/rulesctl/ctlprogram.h"
-#include "tests/support/examplefiles.h"
 #include "tests/support/fixtures.h"
+#include "tests/support/rulesctlprogram.h"
 #include "tests/support/rulestest.h"
 
 using kql::Json::Value;
@@ -40,7 +39,7 @@ private slots:
     void refusals();
 
 private:
-    CtlProgram m_program;
+    RulesctlProgram m_program;
 };
 
 void TestApply::rolls()
@@ -52,13 +51,13 @@ void TestApply::rolls()
     const auto outcome = m_program.run(words + QStringList{"--config", file, "--in-place"});
     const QString refused = fixture["refused"].asString();
     QCOMPARE(outcome.status, refused.isEmpty() ? 0 : 1);
-    QCOMPARE(outcome.complaints.contains(refused), true);
+    QCOMPARE(outcome.said.contains(refused), true);
     if (!refused.isEmpty()) {
         QCOMPARE(m_program.contentOf("config.json"), before);
         return;
     }
     const QByteArray after = m_program.contentOf("config.json");
-    const Value written = CtlProgram::parsed(after)["Rules"];
+    const Value written = RulesctlProgram::parsed(after)["Rules"];
     QCOMPARE(written.size(), fixture["names"].size());
     for (int i = 0; i < written.size(); ++i) {
         QCOMPARE(written[i]["Name"].asString(), fixture["names"][i].asString());
@@ -66,7 +65,7 @@ void TestApply::rolls()
         QCOMPARE(written[i]["Area"].size(), fixture["areas"][i].asInt());
     }
     const auto again = m_program.run(words + QStringList{"--config", file, "--in-place"});
-    QCOMPARE(again.output, QByteArray());
+    QCOMPARE(again.out, QString());
     QCOMPARE(m_program.contentOf("config.json"), after);
 }
 
@@ -85,7 +84,7 @@ void TestApply::lanes()
                             "--config",
                             folder + "config.json"};
     QCOMPARE(m_program.run(words + QStringList{"-o", "lanes"}).status, 0);
-    const Value written = CtlProgram::parsed(m_program.contentOf("lanes/config.json"));
+    const Value written = RulesctlProgram::parsed(m_program.contentOf("lanes/config.json"));
     const Value& lanes = written["Traffic"]["Lanes"];
     QCOMPARE(lanes.size(), 4);
     for (int i = 0; i < lanes.size(); ++i)
@@ -94,7 +93,7 @@ void TestApply::lanes()
                                      folder + "saved.json", "--entries", "Left turn", "Rule4",
                                      "--config", "lanes", "--dry-run"});
     QCOMPARE(same.status, 0);
-    QCOMPARE(same.output, QByteArray());
+    QCOMPARE(same.out, QString());
 }
 
 /// In place of a result its configuration is replaced; elsewhere it is written alone.
@@ -108,8 +107,8 @@ void TestApply::results()
                             "Gate",   "--config",   result};
     QCOMPARE(m_program.run(words + QStringList{"-o", "alone"}).status, 0);
     QCOMPARE(m_program.run(words + QStringList{"--in-place"}).status, 0);
-    const Value alone = CtlProgram::parsed(m_program.contentOf("alone/result.json"));
-    const Value whole = CtlProgram::parsed(m_program.contentOf("result.json"));
+    const Value alone = RulesctlProgram::parsed(m_program.contentOf("alone/result.json"));
+    const Value whole = RulesctlProgram::parsed(m_program.contentOf("result.json"));
     QCOMPARE(alone["Rules"].size(), 1);
     QVERIFY(whole["channelAbilityPO"] == alone);
     QCOMPARE(whole["algorithmId"].asInt(), 3);
@@ -131,9 +130,9 @@ void TestApply::manyFiles()
     QCOMPARE(m_program.contentOf("good.json"), QByteArray("{}"));
     const auto outcome = m_program.run(words + QStringList{"--in-place"});
     QCOMPARE(outcome.status, 2);
-    QVERIFY(outcome.output.contains("+ Gate was added at place 1"));
-    QVERIFY(outcome.complaints.contains(full + ": left alone: "));
-    QVERIFY(outcome.complaints.contains(bad + ":1:"));
+    QVERIFY(outcome.out.contains("+ Gate was added at place 1"));
+    QVERIFY(outcome.said.contains(full + ": left alone: "));
+    QVERIFY(outcome.said.contains(bad + ":1:"));
     QVERIFY(m_program.contentOf("good.json").contains("Gate"));
     QCOMPARE(m_program.contentOf("bad.json"), QByteArray("{"));
 }
@@ -160,8 +159,8 @@ void TestApply::refusals()
                                   "--from", from, "--config", config, "--entries"} +
                       words);
     QCOMPARE(outcome.status, 2);
-    QCOMPARE(outcome.output, QByteArray());
-    QVERIFY(!outcome.complaints.isEmpty());
+    QCOMPARE(outcome.out, QString());
+    QVERIFY(!outcome.said.isEmpty());
     QCOMPARE(m_program.contentOf("config.json"), QByteArray("{}"));
     QVERIFY(!QFile::exists(m_program.path("x")));
 }

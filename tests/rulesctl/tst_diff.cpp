@@ -1,6 +1,5 @@
-#include "tests/rulesctl/ctlprogram.h"
-#include "tests/support/examplefiles.h"
 #include "tests/support/fixtures.h"
+#include "tests/support/rulesctlprogram.h"
 #include "tests/support/rulestest.h"
 
 using kql::Json::Value;
@@ -47,7 +46,7 @@ private slots:
     void refusals();
 
 private:
-    CtlProgram m_program;
+    RulesctlProgram m_program;
 };
 
 void TestDiff::changes()
@@ -56,10 +55,10 @@ void TestDiff::changes()
     const QString a = m_program.file("a.json", text(fixture["a"]));
     const QString b = m_program.file("b.json", text(fixture["b"]));
     const auto outcome = m_program.run(diff() + QStringList{a, b, "--format", "json"});
-    const Value answer = CtlProgram::parsed(outcome.output);
+    const Value answer = RulesctlProgram::parsed(outcome.out.toUtf8());
     const Value& wanted = fixture["changes"];
     const bool isSame = wanted.empty() || fixture["same"].asBool();
-    QCOMPARE(outcome.complaints, QString());
+    QCOMPARE(outcome.said, QString());
     QCOMPARE(outcome.status, isSame ? 0 : 1);
     QCOMPARE(answer["same"].asBool(), isSame);
     QCOMPARE(answer["changes"].size(), wanted.size());
@@ -68,7 +67,7 @@ void TestDiff::changes()
     const auto plain = m_program.run(diff() + QStringList{a, b});
     QCOMPARE(plain.status, outcome.status);
     for (int i = 0; i < wanted.size(); ++i)
-        QVERIFY(plain.output.contains(answer["changes"][i]["text"].asString().toUtf8()));
+        QVERIFY(plain.out.contains(answer["changes"][i]["text"].asString()));
 }
 
 /// A save that was read again is what was saved.
@@ -78,12 +77,12 @@ void TestDiff::examples()
         const QString folder = ExampleFiles::folder(name);
         const QString config = folder + "config.json";
         const QString saved = folder + "saved.json";
-        QCOMPARE(m_program.run(diff(folder) + QStringList{config, config}).output, QByteArray());
+        QCOMPARE(m_program.run(diff(folder) + QStringList{config, config}).out, QString());
         QCOMPARE(m_program.run(diff(folder) + QStringList{saved, saved}).status, 0);
         const auto there = m_program.run(diff(folder) + QStringList{config, saved});
         const auto back = m_program.run(diff(folder) + QStringList{saved, config});
         QCOMPARE(there.status, 1);
-        QCOMPARE(there.output.count("  - "), back.output.count("  + "));
+        QCOMPARE(there.out.count("  - "), back.out.count("  + "));
     }
 }
 
@@ -103,9 +102,9 @@ void TestDiff::page()
     QVERIFY(picture.save(m_program.path("gate.png")));
     const auto outcome = m_program.run(
         diff() + QStringList{a, b, "--format", "html", "--picture", m_program.path("gate.png")});
-    QCOMPARE(outcome.complaints, QString());
+    QCOMPARE(outcome.said, QString());
     QCOMPARE(outcome.status, 1);
-    const QByteArray& page = outcome.output;
+    const QByteArray page = outcome.out.toUtf8();
     QCOMPARE(page.count("<script"), 1);
     QCOMPARE(page.count("data:image/png;base64,"), 1);
     QCOMPARE(page.count("<use "), 2);
@@ -124,13 +123,13 @@ void TestDiff::lines()
         m_program.run(diff() + QStringList{"--jsonl"},
                       "{\"id\":1.50,\"a\":{\"Rules\":[{\"Name\":\"A\"}]},\"b\":{\"Rules\":[]}}\n\n"
                       "{\"id\":\"x\",\"a\":{},\"b\":{}}\n{\"id\":2,\"a\":{}}\n");
-    const QList<QByteArray> answers = outcome.output.split('\n');
+    const QStringList answers = outcome.out.split('\n');
     QCOMPARE(outcome.status, 0);
     QCOMPARE(answers.size(), 4);
     QVERIFY(answers[0].startsWith("{\"id\":1.50,\"status\":\"ok\",\"same\":false,\"changes\":[{"));
     QVERIFY(answers[0].endsWith("],\"error\":null}"));
-    QCOMPARE(answers[1], QByteArray("{\"id\":\"x\",\"status\":\"ok\",\"same\":true,\"changes\":[],"
-                                    "\"error\":null}"));
+    QCOMPARE(answers[1], QString("{\"id\":\"x\",\"status\":\"ok\",\"same\":true,\"changes\":[],"
+                                 "\"error\":null}"));
     QVERIFY(answers[2].startsWith("{\"id\":null,\"line\":4,\"status\":\"unreadable\",\"error\":{"));
 }
 
@@ -140,7 +139,7 @@ void TestDiff::refusals()
     const QString bad = m_program.file("bad.json", "{\n  \"Rules\": ]}");
     const auto broken = m_program.run(diff() + QStringList{good, bad});
     QCOMPARE(broken.status, 2);
-    QVERIFY2(broken.complaints.startsWith(bad + ":2:"), qPrintable(broken.complaints));
+    QVERIFY2(broken.said.startsWith(bad + ":2:"), qPrintable(broken.said));
     for (const QStringList& words : {QStringList{good},
                                      {good, good, good},
                                      {good, good, "--jsonl"},
@@ -151,7 +150,7 @@ void TestDiff::refusals()
                                      {good, good, "--format", "yaml"}}) {
         const auto outcome = m_program.run(diff() + words);
         QCOMPARE(outcome.status, 2);
-        QVERIFY2(!outcome.complaints.isEmpty(), qPrintable(words.join(' ')));
+        QVERIFY2(!outcome.said.isEmpty(), qPrintable(words.join(' ')));
     }
 }
 

@@ -2,9 +2,8 @@
 #include "Protocol/ruleparser.h"
 #include "draw/drawscene.h"
 #include "host/gdiplus.h"
-#include "tests/rulesctl/ctlprogram.h"
-#include "tests/support/examplefiles.h"
 #include "tests/support/fixtures.h"
+#include "tests/support/rulesctlprogram.h"
 #include "tests/support/rulestest.h"
 #include "tools/rulesctl/documents/loadedrules.h"
 #include "tools/rulesctl/documents/templatedocument.h"
@@ -25,7 +24,7 @@ QStringList render(const QString& folder, const QStringList& more)
 QImage painted(const QString& folder, const QSize& size)
 {
     const auto parsed = [&folder](const char* name) {
-        return CtlProgram::parsed(ExampleFiles::contentOf(folder + name));
+        return RulesctlProgram::parsed(ExampleFiles::contentOf(folder + name));
     };
     LoadedRules rules(TemplateDocument{{}, parsed("template.json"), {}});
     QString why;
@@ -76,6 +75,14 @@ class TestRender : public RulesTest
 {
     Q_OBJECT
 
+protected:
+    /// It chooses its platform itself.
+    void prepare() override
+    {
+        m_program.environment.remove("QT_QPA_PLATFORM");
+        m_program.environment.remove("DISPLAY");
+    }
+
 private slots:
     void asTheWindow_data();
     void asTheWindow();
@@ -86,7 +93,7 @@ private slots:
     void refusals();
 
 private:
-    CtlProgram m_program;
+    RulesctlProgram m_program;
 };
 
 void TestRender::asTheWindow_data()
@@ -102,7 +109,7 @@ void TestRender::asTheWindow()
     QFETCH(QString, folder);
     const QString file = m_program.path("a.png");
     const auto outcome = m_program.run(render(folder, {"--size", "800x450", "-o", file}));
-    QCOMPARE(outcome.complaints, QString());
+    QCOMPARE(outcome.said, QString());
     QCOMPARE(outcome.status, 0);
     const QImage image(file);
     QVERIFY(difference(image, painted(folder, {800, 450})) <= 2);
@@ -119,7 +126,7 @@ void TestRender::elementsOfTheirOwn()
     const QString file = m_program.path("a.svg");
     const auto outcome = m_program.run(
         render(ExampleFiles::folder(), {"--picture", m_program.path("gate.png"), "-o", file}));
-    QCOMPARE(outcome.complaints, QString());
+    QCOMPARE(outcome.said, QString());
     const auto found = elements(m_program.contentOf("a.svg"));
     QCOMPARE(found.value("svg").value("viewBox").toString(), QString("0 0 819 409"));
     QCOMPARE(found.count("image"), 1);
@@ -185,7 +192,7 @@ void TestRender::refusals()
     QFETCH(QStringList, words);
     const auto outcome = m_program.run(render(ExampleFiles::folder(), words));
     QCOMPARE(outcome.status, 2);
-    QVERIFY(!outcome.complaints.isEmpty());
+    QVERIFY(!outcome.said.isEmpty());
     QVERIFY(!QFile::exists(m_program.path("refused.png")));
 }
 

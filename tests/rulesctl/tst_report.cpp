@@ -1,5 +1,5 @@
-#include "tests/rulesctl/ctlprogram.h"
 #include "tests/support/fixtures.h"
+#include "tests/support/rulesctlprogram.h"
 #include "tests/support/rulestest.h"
 
 namespace
@@ -29,7 +29,7 @@ private slots:
     void refusals();
 
 private:
-    CtlProgram m_program;
+    RulesctlProgram m_program;
     QStringList m_words{"report", "--template", Fixtures::path("rulesctl/template.json")};
 };
 
@@ -48,7 +48,7 @@ void TestReport::cards()
     const auto outcome =
         m_program.run(m_words + QStringList{"--config", "fleet", "-o", "fleet.html"});
     QCOMPARE(outcome.status, 2);
-    QVERIFY(outcome.complaints.contains("fleet/e.json:2:1: "));
+    QVERIFY(outcome.said.contains("fleet/e.json:2:1: "));
     const QByteArray page = m_program.contentOf("fleet.html");
     QCOMPARE(page.count("<article "), 4);
     QCOMPARE(page.count("<svg "), 3);
@@ -74,8 +74,8 @@ void TestReport::clean()
         R"({"Rules": [{"Name": "A", "Size": [1, 9], "Area": [[0, 0], [9, 0], [9, 9]]}]})");
     const auto outcome = m_program.run(m_words + QStringList{"--config", file, "-o", "good.html"});
     QCOMPARE(outcome.status, 0);
-    QCOMPARE(outcome.complaints, QString());
-    QCOMPARE(outcome.output, QByteArray());
+    QCOMPARE(outcome.said, QString());
+    QCOMPARE(outcome.out, QString());
 }
 
 void TestReport::refusals()
@@ -85,7 +85,7 @@ void TestReport::refusals()
                                      {"--config", "fleet", "-o", "gone/x.html"}}) {
         const auto outcome = m_program.run(m_words + words);
         QCOMPARE(outcome.status, 2);
-        QVERIFY2(!outcome.complaints.isEmpty(), qPrintable(words.join(' ')));
+        QVERIFY2(!outcome.said.isEmpty(), qPrintable(words.join(' ')));
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/json/reader.h"
+#include "host/json/value.h"
 #include "tests/support/examplefiles.h"
 
 #include <QProcess>
@@ -39,7 +41,16 @@ struct RulesctlProgram {
     {
         return {command, "--template", ExampleFiles::folder(example) + "template.json"};
     }
+    /// Null where it is no JSON.
+    static kql::Json::Value parsed(const QByteArray& text)
+    {
+        kql::Json::Value document;
+        kql::Json::Reader().parse(QString::fromUtf8(text), document);
+        return document;
+    }
     QString path(const QString& name) const { return folder.filePath(name); }
+    /// Of a file in the folder.
+    QByteArray contentOf(const QString& name) const { return ExampleFiles::contentOf(path(name)); }
     /// Writes a file into the folder; its path is the answer.
     QString file(const QString& name, const QByteArray& content) const
     {
