@@ -26,12 +26,10 @@ function(rules_run_path TARGET FOLDER)
 endfunction()
 
 # The programs, with what a desktop and its users look for.
-install(TARGETS rules-workbench RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT workbench)
+install(TARGETS rules-workbench rulesctl
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT workbench)
 rules_run_path(rules-workbench ${CMAKE_INSTALL_BINDIR})
-if(TARGET rulesctl)
-    install(TARGETS rulesctl RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT workbench)
-    rules_run_path(rulesctl ${CMAKE_INSTALL_BINDIR})
-endif()
+rules_run_path(rulesctl ${CMAKE_INSTALL_BINDIR})
 # The examples lie the same way from the program as in the build folder.
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/share/rules-workbench)
 file(CREATE_LINK ${PROJECT_SOURCE_DIR}/examples ${CMAKE_BINARY_DIR}/share/rules-workbench/examples
@@ -39,7 +37,7 @@ file(CREATE_LINK ${PROJECT_SOURCE_DIR}/examples ${CMAKE_BINARY_DIR}/share/rules-
 install(DIRECTORY examples/ DESTINATION ${RULES_DATA}/examples COMPONENT workbench
     PATTERN client EXCLUDE)
 # For editors.
-install(DIRECTORY schema DESTINATION ${RULES_DATA} COMPONENT workbench OPTIONAL)
+install(DIRECTORY schema DESTINATION ${RULES_DATA} COMPONENT workbench)
 if(UNIX AND NOT APPLE)
     include(InstallDesktop)
 endif()

@@ -25,9 +25,7 @@ endfunction()
 if(RULES_GZIP)
     foreach(page packaging/rules-workbench.1 tools/rulesctl/rulesctl.1)
         get_filename_component(name ${page} NAME)
-        if(EXISTS ${PROJECT_SOURCE_DIR}/${page})
-            rules_install_packed(${PROJECT_SOURCE_DIR}/${page}
-                ${CMAKE_INSTALL_MANDIR}/man1 ${name} workbench)
-        endif()
+        rules_install_packed(${PROJECT_SOURCE_DIR}/${page}
+            ${CMAKE_INSTALL_MANDIR}/man1 ${name} workbench)
     endforeach()
 endif()
