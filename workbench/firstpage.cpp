@@ -2,10 +2,32 @@
 
 #include "workbench/examples.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+namespace
+{
+
+/// As the rules window's skin has them: edges of 3:1, which no desktop's own buttons have.
+QString sheet(bool isDark)
+{
+    return QStringLiteral(
+               "#firstPage, #firstPage > QWidget > QWidget { background: %1; }"
+               "QLabel { color: %2; }"
+               "QPushButton { background: %1; color: %2; border: 1px solid %3; border-radius: 4px;"
+               " padding: 5px 12px; }"
+               "QPushButton:hover { background: %4; }"
+               "QPushButton:focus { border: 2px solid %5; padding: 4px 11px; }"
+               "QPushButton:pressed { background: %4; border-color: %5; }")
+        .arg(isDark ? "#24282E" : "#FFFFFF", isDark ? "#E6E9ED" : "#303133",
+             isDark ? "#828B98" : "#727A87", isDark ? "#363C45" : "#EEF1F6",
+             isDark ? "#4DA3FF" : "#0064CC");
+}
+
+} // namespace
 
 FirstPage::FirstPage(QWidget* over) : QScrollArea(over->window()), m_over(over), m_error(new QLabel)
 {
@@ -13,8 +35,6 @@ FirstPage::FirstPage(QWidget* over) : QScrollArea(over->window()), m_over(over),
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     auto* const page = new QWidget;
-    page->setAutoFillBackground(true);
-    page->setBackgroundRole(QPalette::Base);
     auto* const column = new QVBoxLayout(page);
     m_error->setObjectName(QStringLiteral("documentError"));
     m_error->setTextFormat(Qt::PlainText);
@@ -29,8 +49,12 @@ FirstPage::FirstPage(QWidget* over) : QScrollArea(over->window()), m_over(over),
     addExamples(*column);
     column->addStretch();
     setWidget(page);
-    for (QWidget* moved = over; moved && !moved->isWindow(); moved = moved->parentWidget())
-        moved->installEventFilter(this);
+    m_isDark = isDark();
+    setStyleSheet(sheet(m_isDark));
+    QWidget* around = over;
+    for (; !around->isWindow(); around = around->parentWidget())
+        around->installEventFilter(this);
+    around->installEventFilter(this);
 }
 
 void FirstPage::addExamples(QVBoxLayout& column)
@@ -63,6 +87,22 @@ void FirstPage::place()
         setGeometry({m_over->mapTo(parentWidget(), QPoint()), m_over->size()});
 }
 
+/// Its own palette has the colours of the sheet, and does not follow.
+bool FirstPage::isDark() const
+{
+    const QPalette palette = parentWidget() ? parentWidget()->palette() : QApplication::palette();
+    return palette.color(QPalette::Window).lightness() <
+           palette.color(QPalette::WindowText).lightness();
+}
+
+void FirstPage::follow()
+{
+    if (m_isDark == isDark())
+        return;
+    m_isDark = isDark();
+    setStyleSheet(sheet(m_isDark));
+}
+
 void FirstPage::showEvent(QShowEvent* event)
 {
     place();
@@ -74,5 +114,8 @@ bool FirstPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
         place();
+    else if (event->type() == QEvent::PaletteChange ||
+             event->type() == QEvent::ApplicationPaletteChange)
+        follow();
     return QScrollArea::eventFilter(watched, event);
 }

@@ -32,7 +32,10 @@ protected:
 private:
     void addExamples(QVBoxLayout& column);
     void place();
+    bool isDark() const;
+    void follow();
 
     QPointer<QWidget> m_over;
     QLabel* m_error;
+    bool m_isDark = false; ///< as the sheet is
 };
