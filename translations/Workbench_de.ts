@@ -698,6 +698,10 @@ Endstatus: 0 gespeichert oder geschlossen, 1 verlassen, ohne zu speichern, was s
         <source>It cannot be packed: %1</source>
         <translation>Es kann nicht gepackt werden: %1</translation>
     </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: Der Ordner kann nicht angelegt werden</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>

@@ -698,6 +698,10 @@ Exit status: 0 saved or closed, 1 left without saving what was changed since, 2 
         <source>It cannot be packed: %1</source>
         <translation>无法打包：%1</translation>
     </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1：无法创建文件夹</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>

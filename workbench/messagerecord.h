@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/json/fwd.h"
+
 #include <QString>
 
 /// One message between host and module.
@@ -15,6 +17,9 @@ struct MessageRecord {
     bool isResult() const;
 
     /// @p json, a parameter or another text, with every address in it masked as
-    /// host/video/maskedaddress.h does. A text without addresses comes back as it is.
+    /// host/video/maskedaddress.h does, in names of members and in JSON inside of texts, too. A
+    /// text without addresses comes back as it is.
     static QString masked(const QString& json);
+    /// Does so in @p document; whether anything had to be masked.
+    static bool mask(kql::Json::Value& document);
 };

@@ -21,16 +21,23 @@ namespace
 
 const auto kFolder = QStringLiteral("rules-workbench-support");
 
-/// A document that can be read as a whole; else each line by itself, as an address hides what
-/// follows it.
+/// A document that can be read as it was read: what is hidden in its comments stays here. Else each
+/// line by itself, as an address hides what follows it.
 QString masked(const QString& text)
 {
     kql::Json::Value document;
-    if (kql::Json::Reader().parse(text, document))
-        return MessageRecord::masked(text);
+    if (kql::Json::Reader().parse(text, document)) {
+        MessageRecord::mask(document);
+        return document.toStyledText();
+    }
     QStringList lines = text.split(QLatin1Char('\n'));
-    for (QString& line : lines)
-        line = MessageRecord::masked(line);
+    for (QString& line : lines) {
+        kql::Json::Value step;
+        const bool isStep = kql::Json::Reader().parse(line, step);
+        if (isStep)
+            MessageRecord::mask(step);
+        line = isStep ? step.toCompactText() : MessageRecord::masked(line);
+    }
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -83,13 +90,20 @@ void SupportFile::addPlatform()
     addText(QStringLiteral("platform.txt"), lines.join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
-bool SupportFile::write(const QString& path, QString& error) const
+bool SupportFile::write(const QString& path, QString& error,
+                        const std::function<bool()>& isLeft) const
 {
     const QTemporaryDir temporary;
     const QDir folder(temporary.path());
-    error = temporary.errorString();
-    if (!temporary.isValid() || !folder.mkdir(kFolder))
+    if (!temporary.isValid()) {
+        error = temporary.errorString();
         return false;
+    }
+    if (!folder.mkdir(kFolder)) {
+        error = QCoreApplication::translate("SupportFile", "%1: the folder cannot be made")
+                    .arg(folder.filePath(kFolder));
+        return false;
+    }
     for (const Part& part : m_parts) {
         QByteArray bytes = part.text.toUtf8();
         QString why;
@@ -108,5 +122,7 @@ bool SupportFile::write(const QString& path, QString& error) const
         error = packed.errorString();
         return false;
     }
+    if (isLeft && isLeft())
+        return false;
     return UICommonMdl::WholeFile::write(path, packed.readAll(), error);
 }

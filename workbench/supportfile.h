@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 
 /**
  * One archive with what helps others to understand a fault: versions and platform, the log, what
@@ -17,8 +18,9 @@ public:
     /// Adds versions and platform. On the GUI thread.
     void addPlatform();
 
-    /// Replaces @p path in one step, on any thread; false with one line in @p error.
-    bool write(const QString& path, QString& error) const;
+    /// Replaces @p path in one step, on any thread; false with one line in @p error. It is asked
+    /// before that whether the operator has left it: then @p path stays as it is.
+    bool write(const QString& path, QString& error, const std::function<bool()>& isLeft = {}) const;
 
 private:
     struct Part {

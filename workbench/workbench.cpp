@@ -22,6 +22,8 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <atomic>
+
 namespace
 {
 
@@ -141,13 +143,8 @@ bool Workbench::record(QString& error)
     return recorder->open(file, error);
 }
 
-void Workbench::saveSupportFile()
+SupportFile Workbench::supportFile() const
 {
-    const QString path = QFileDialog::getSaveFileName(
-        m_window.get(), tr("Save a support file"), QStringLiteral("rules-workbench-support.tar.gz"),
-        tr("Archives (*.tar.gz)"));
-    if (path.isEmpty())
-        return;
     const WorkbenchOptions& options = m_window->options();
     SupportFile support;
     support.addPlatform();
@@ -162,12 +159,26 @@ void Workbench::saveSupportFile()
     int number = 0;
     for (const QString& file : m_opener->refusedFiles())
         support.addFile(QStringLiteral("refused-%1.json").arg(++number), file);
+    return support;
+}
+
+void Workbench::saveSupportFile()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        m_window.get(), tr("Save a support file"), QStringLiteral("rules-workbench-support.tar.gz"),
+        tr("Archives (*.tar.gz)"));
+    if (path.isEmpty())
+        return;
+    const SupportFile support = supportFile();
+    // The work may go on after this returned.
+    const auto isLeft = std::make_shared<std::atomic_bool>(false);
     const auto error =
-        BusyReading::result<QString>(m_window.get(), tr("Saving ..."), [support, path] {
+        BusyReading::result<QString>(m_window.get(), tr("Saving ..."), [support, path, isLeft] {
             QString why;
-            support.write(path, why);
+            support.write(path, why, [isLeft] { return isLeft->load(); });
             return why;
         });
+    *isLeft = !error;
     if (error && !error->isEmpty())
         m_window->report(*error);
 }

@@ -8,6 +8,7 @@ class Autosave;
 class CloseQuestion;
 class DocumentOpener;
 class SessionPlayer;
+class SupportFile;
 class WorkbenchWindow;
 
 /// One run of the workbench: the window, the session that is replayed or recorded, the result.
@@ -31,6 +32,7 @@ private:
     bool openDocuments(QString& error);
     bool record(QString& error);
     void saveSupportFile();
+    SupportFile supportFile() const;
     bool replay(const QString& path, QString& error);
     void tellMissingResult();
     void finishReplay(const QString& error);

@@ -1,5 +1,6 @@
 #include "host/video/channelsources.h"
 #include "tests/support/boxanswerer.h"
+#include "tests/support/contrast.h"
 #include "tests/support/fixtures.h"
 #include "tests/support/rulestest.h"
 #include "tests/support/workbenchbench.h"
@@ -11,6 +12,7 @@
 #include "workbench/messagerecord.h"
 #include "workbench/recentdocuments.h"
 #include "workbench/supportfile.h"
+#include "workbench/theme.h"
 
 #include <sys/stat.h>
 
@@ -79,6 +81,24 @@ class TstFirstSteps : public RulesTest
     QString path(const char* name) const { return m_folder.filePath(name); }
 
 private slots:
+    void showsWhereToPress()
+    {
+        const QPalette before = QApplication::palette();
+        Empty bench;
+        for (const bool isDark : {true, false}) {
+            QApplication::setPalette(Theme::palette(isDark));
+            QCoreApplication::processEvents();
+            auto* const button = bench.page()->findChild<QPushButton*>("openTemplate");
+            const QImage page = bench.page()->grab().toImage();
+            const QPoint edge = button->mapTo(
+                bench.page(), QPoint(button->rect().center().x(), button->height() - 1));
+            const QRgb ground = page.pixel(edge + QPoint(0, 2));
+            QCOMPARE(qGray(ground) < 128, isDark);
+            QVERIFY(Contrast::ratio(page.pixel(edge), ground) >= Contrast::kMarks);
+        }
+        QApplication::setPalette(before);
+    }
+
     void opensEachExample()
     {
         QStringList offered = Examples::names();
@@ -271,22 +291,36 @@ private slots:
         support.addFile("broken.json",
                         WorkbenchFiles::write(m_folder, "b.json", "{\"a\":\n\"" + address + "\""));
         support.addFile("gone.json", path("gone.json"));
+        // Signs of an address may be written in other ways, and stand where no value does.
+        const QByteArray hidden = "\"rtsp:\\/\\/viewer:s3cr3t\\u0040host\"";
+        const QByteArray inText = QByteArray(hidden).replace("\\", "\\\\").replace("\"", "\\\"");
+        const QByteArrayList hiding = {
+            "// " + address + "\n{\"kept\": 1}", '{' + hidden + ":\"kept\"}",
+            "{\"a\":" + hidden + ",\"a\":\"kept\"}", "{\"kept\":\n" + hidden,
+            "{\"kept\":\"{\\\"b\\\":" + inText + "}\"}"};
+        for (const QByteArray& document : hiding)
+            support.addText("hiding" + QString::number(hiding.indexOf(document)), document);
         QString error;
         QVERIFY2(support.write(path("support.tar.gz"), error), qPrintable(error));
         QVERIFY(!support.write(path("missing/support.tar.gz"), error));
         QVERIFY2(error.contains("missing/support.tar.gz: "), qPrintable(error));
+        QVERIFY(!support.write(path("left.tar.gz"), error, [] { return true; }));
+        QVERIFY(!QFile::exists(path("left.tar.gz")));
         QProcess tar;
         tar.setWorkingDirectory(m_folder.path());
         tar.start("tar", {"-xzf", "support.tar.gz"});
         QVERIFY_BOTH(tar.waitForFinished(), tar.exitCode() == 0);
         const QString folder = path("rules-workbench-support/");
         QCOMPARE(QDir(folder).entryList(QDir::Files),
-                 QStringList({"broken.json", "config.json", "gone.json", "log.txt", "platform.txt",
+                 QStringList({"broken.json", "config.json", "gone.json", "hiding0", "hiding1",
+                              "hiding2", "hiding3", "hiding4", "log.txt", "platform.txt",
                               "session.jsonl", "template.json"}));
         for (const QString& name : QDir(folder).entryList(QDir::Files))
             QVERIFY2(!ExampleFiles::contentOf(folder + name).contains(kSecret), qPrintable(name));
-        QCOMPARE(ExampleFiles::contentOf(folder + "template.json"),
-                 ExampleFiles::contentOf(Examples::templateFile("tripwire")));
+        for (const QString& name : QDir(folder).entryList({"hiding*"}))
+            QVERIFY2(ExampleFiles::contentOf(folder + name).contains("kept"), qPrintable(name));
+        QVERIFY(WorkbenchFiles::read(folder + "template.json") ==
+                WorkbenchFiles::read(Examples::templateFile("tripwire")));
         QCOMPARE(ExampleFiles::contentOf(folder + "log.txt").count("rtsp://***@host/one"), 2);
         QVERIFY(ExampleFiles::contentOf(folder + "session.jsonl").contains("\"save\""));
         QVERIFY(ExampleFiles::contentOf(folder + "gone.json").contains("gone.json: No such file"));
