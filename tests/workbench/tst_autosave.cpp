@@ -8,6 +8,7 @@
 #include "workbench/closequestion.h"
 #include "workbench/documentopener.h"
 #include "workbench/restorebar.h"
+#include "workbench/workbench.h"
 
 #include <memory>
 
@@ -353,6 +354,25 @@ private slots:
         QVERIFY2(outcome.status == WorkbenchProgram::SavedOrClosed, qPrintable(outcome.said));
         QCOMPARE(namesIn(kept), before);
         QCOMPARE(contentOf(kept), kWork);
+
+        // Nor does who only wants a picture of the window.
+        const QByteArray usual = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", m_home->path().toLocal8Bit());
+        WorkbenchOptions options = gate();
+        options.screenshotFile = m_home->filePath("window.png");
+        bool isOffered = true;
+        QTimer::singleShot(500, this, [&isOffered] {
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                isOffered = window->findChild<RestoreBar*>();
+                if (window->close())
+                    break;
+            }
+        });
+        const int status = Workbench(options).run();
+        usual.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", usual);
+        QVERIFY_BOTH(status == Workbench::SavedOrClosed, !isOffered);
+        QVERIFY(QFile::exists(options.screenshotFile));
+        QCOMPARE(namesIn(kept), before);
     }
 };
 
