@@ -361,13 +361,17 @@ private slots:
         WorkbenchOptions options = gate();
         options.screenshotFile = m_home->filePath("window.png");
         bool isOffered = true;
-        QTimer::singleShot(500, this, [&isOffered] {
-            for (QWidget* window : QApplication::topLevelWidgets()) {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&isOffered] {
+            for (QWidget* widget : QApplication::topLevelWidgets()) {
+                auto* const window = qobject_cast<WorkbenchWindow*>(widget);
+                if (!window)
+                    continue;
                 isOffered = window->findChild<RestoreBar*>();
-                if (window->close())
-                    break;
+                window->close();
             }
         });
+        timer.start(500);
         const int status = Workbench(options).run();
         usual.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", usual);
         QVERIFY_BOTH(status == Workbench::SavedOrClosed, !isOffered);
