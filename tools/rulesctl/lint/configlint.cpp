@@ -65,19 +65,21 @@ Findings ConfigLint::run(const ConfigText& text)
 
 void ConfigLint::findLosses(const Value& config, Findings& findings) const
 {
-    Value written;
-    if (!m_rules.parser().writeData(written))
-        return; // nothing is saved at all, for reasons that the template's findings tell
-    const auto tell = [&findings](ValueChanges::Kind kind, const std::string& pointer,
-                                  const Value& found, const Value& left) {
+    Value written(kql::Json::ValueType::Object);
+    QString why;
+    const bool isSaved = m_rules.parser().writeData(written, why);
+    const QString dropped = isSaved ? QStringLiteral("a save drops this")
+                                    : QStringLiteral("nothing can be saved: ") + why;
+    const auto tell = [&](ValueChanges::Kind kind, const std::string& pointer, const Value& found,
+                          const Value& left) {
         const bool isDropped = kind == ValueChanges::Kind::Dropped;
         FindingMaker::add(findings, isDropped ? "value-dropped" : "value-changed", pointer, found,
-                          isDropped ? QStringLiteral("a save drops this") : change(left));
+                          isDropped ? dropped : change(left));
     };
     const SavedEntries entries(m_rules.parser(), config, written);
     const ValueChanges changes(
         tell, [&](const ValueChanges& all, const Value& before, const std::string& pointer) {
-            return entries.compare(before, pointer, all, tell);
+            return isSaved && entries.compare(before, pointer, all, tell);
         });
     changes.compare(config, written, {});
 }
