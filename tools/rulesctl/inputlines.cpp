@@ -2,6 +2,7 @@
 
 #include "tools/rulesctl/documents/documentfile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #ifdef Q_OS_WIN
@@ -36,10 +37,9 @@ bool InputLines::next(QByteArray& line)
     line.clear();
     m_isTooLong = false;
     while (true) {
-        const int end = m_buffer.indexOf('\n', m_at);
-        const int count = (end < 0 ? m_buffer.size() : end) - m_at;
-        take(line, count);
-        if (end >= 0) {
+        const std::size_t end = m_buffer.find('\n', m_at);
+        take(line, std::min(end, m_buffer.size()) - m_at);
+        if (end != std::string::npos) {
             ++m_at;
             break;
         }
@@ -56,10 +56,10 @@ bool InputLines::next(QByteArray& line)
     return true;
 }
 
-void InputLines::take(QByteArray& line, int count)
+void InputLines::take(QByteArray& line, std::size_t count)
 {
     if (!m_isTooLong)
-        line.append(m_buffer.constData() + m_at, count);
+        line.append(m_buffer.data() + m_at, static_cast<int>(count));
     m_at += count;
     if (line.size() <= DocumentFile::kMostBytes)
         return;
@@ -75,6 +75,6 @@ bool InputLines::fill()
     m_hasEnded = count <= 0;
     if (count < 0)
         m_fault = qt_error_string(errno);
-    m_buffer.resize(qMax(0, count));
+    m_buffer.resize(static_cast<std::size_t>(std::max(0, count)));
     return count > 0;
 }

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <string>
+
 /// Standard input line by line, each as soon as it is there; only one is held.
 class InputLines
 {
@@ -19,10 +21,10 @@ public:
 
 private:
     bool fill();
-    void take(QByteArray& line, int count);
+    void take(QByteArray& line, std::size_t count);
 
-    QByteArray m_buffer; ///< read, but not yet given out
-    int m_at = 0;        ///< where in it what is left begins
+    std::string m_buffer; ///< read, but not yet given out
+    std::size_t m_at = 0; ///< where in it what is left begins
     bool m_hasEnded = false;
     int m_number = 0;
     bool m_isTooLong = false;
