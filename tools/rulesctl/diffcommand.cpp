@@ -145,8 +145,6 @@ QString fault(const Arguments& arguments)
         return format;
     if (arguments.isSet("picture") && !isHtml(arguments))
         return QStringLiteral("--picture goes with --format html alone");
-    if (hasLines && arguments.isSet("format"))
-        return QStringLiteral("--format does not go beside --jsonl");
     if (hasLines && !arguments.operands().isEmpty())
         return QStringLiteral("--jsonl does not go beside files");
     return hasLines || arguments.operands().size() == 2 ? QString()
