@@ -131,7 +131,12 @@ void SvgEngine::drawTextItem(const QPointF& at, const QTextItem& text)
     QString transform = QStringLiteral("translate(%1)").arg(pair(place));
     if (number(degrees) != QLatin1String("0"))
         transform += QStringLiteral(" rotate(%1)").arg(number(degrees));
-    beginElement("text", textStyle(text.font()));
+    if (m_textStyle.isEmpty() || m_textColor != m_pen.color() || m_textFont != text.font()) {
+        m_textColor = m_pen.color();
+        m_textFont = text.font();
+        m_textStyle = textStyle(m_textFont);
+    }
+    beginElement("text", m_textStyle);
     m_xml.writeAttribute(QStringLiteral("transform"), transform);
     m_xml.writeCharacters(XmlText::writable(text.text()));
     m_xml.writeEndElement();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QColor>
+#include <QFont>
 #include <QPaintEngine>
 #include <QPen>
 #include <QPolygonF>
@@ -43,6 +45,10 @@ private:
     QPen m_pen;
     QBrush m_brush;
     QTransform m_transform;
-    QPolygonF m_line;             ///< goes on as long as lines do
+    QPolygonF m_line; ///< goes on as long as lines do
+    // Of the last text, which is mostly painted several times.
+    QXmlStreamAttributes m_textStyle;
+    QColor m_textColor;
+    QFont m_textFont;
     QXmlStreamAttributes m_style; ///< of the group that is open; empty for none
 };
