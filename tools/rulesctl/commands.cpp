@@ -5,13 +5,7 @@
 const std::vector<const Command*>& Commands::all()
 {
     static const std::vector<const Command*> commands{
-        &check(),
-        &convert(),
-        &lint(),
-        &diff(),
-        &apply(),
-        &render(),
-        &report(),
+        &check(), &convert(), &lint(), &diff(), &apply(), &render(), &report(),
     };
     return commands;
 }
