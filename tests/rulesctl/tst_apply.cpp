@@ -22,6 +22,16 @@ QStringList apply(const Value& fixture, const QString& from)
     return fixture["rename"].asBool() ? words << "--rename" : words;
 }
 
+/// A configuration of rules that may be saved.
+QByteArray named(const QStringList& names)
+{
+    QStringList rules;
+    for (const QString& name : names)
+        rules << QString(R"({"Name": "%1", "Area": [[1, 1], [9, 1], [9, 9]], "Size": [1, 9]})")
+                     .arg(name);
+    return QString(R"({"Rules": [%1]})").arg(rules.join(", ")).toUtf8();
+}
+
 } // namespace
 
 /// What rulesctl apply rolls out, and what it leaves alone.
@@ -99,7 +109,7 @@ void TestApply::lanes()
 /// In place of a result its configuration is replaced; elsewhere it is written alone.
 void TestApply::results()
 {
-    const QString from = m_program.file("from.json", R"({"Rules": [{"Name": "Gate"}]})");
+    const QString from = m_program.file("from.json", named({"Gate"}));
     const QString result = m_program.file(
         "result.json", R"({"algorithmId": 3, "result": 0, "channelAbilityPO": {"Rules": []}})");
     const QStringList words{"apply",  "--template", Fixtures::path("rulesctl/template.json"),
@@ -116,11 +126,10 @@ void TestApply::results()
 
 void TestApply::manyFiles()
 {
-    const QString from = m_program.file("from.json", R"({"Rules": [{"Name": "Gate"}]})");
+    const QString from = m_program.file("from.json", named({"Gate"}));
     const QString good = m_program.file("good.json", "{}");
     const QString bad = m_program.file("bad.json", "{");
-    const QString full = m_program.file(
-        "full.json", R"({"Rules": [{"Name": "A"}, {"Name": "B"}, {"Name": "C"}, {"Name": "D"}]})");
+    const QString full = m_program.file("full.json", named({"A", "B", "C", "D"}));
     const QStringList words{"apply",  "--template", Fixtures::path("rulesctl/template.json"),
                             "--from", from,         "--entries",
                             "Gate",   "--config",   full,
@@ -142,6 +151,10 @@ void TestApply::refusals_data()
     QTest::addColumn<QStringList>("words");
     QTest::newRow("a name that is not there") << QStringList{"Gate", "Wall", "--in-place"};
     QTest::newRow("a name that is there twice") << QStringList{"Twin", "--in-place"};
+    QTest::newRow("a source that Save would refuse") << QStringList{"Door", "--in-place"};
+    QTest::newRow("the template itself")
+        << QStringList{"Gate", "--in-place", "--config", Fixtures::path("rulesctl/template.json")};
+    QTest::newRow("a folder without a name") << QStringList{"Gate", "-o", ""};
     QTest::newRow("nowhere to write") << QStringList{"Gate"};
     QTest::newRow("two places to write") << QStringList{"Gate", "--in-place", "-o", "x"};
     QTest::newRow("two files of one name")
@@ -151,8 +164,11 @@ void TestApply::refusals_data()
 void TestApply::refusals()
 {
     QFETCH(QStringList, words);
+    const bool isWhole = words.first() == "Gate";
     const QString from = m_program.file(
-        "from.json", R"({"Rules": [{"Name": "Gate"}, {"Name": "Twin"}, {"Name": "Twin"}]})");
+        "from.json", isWhole ? named({"Gate"})
+                             : QByteArray(R"({"Rules": [{"Name": "Door"}, {"Name": "Twin"}, )"
+                                          R"({"Name": "Twin"}]})"));
     const QString config = m_program.file("config.json", "{}");
     const auto outcome =
         m_program.run(QStringList{"apply", "--template", Fixtures::path("rulesctl/template.json"),

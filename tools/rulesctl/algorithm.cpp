@@ -1,11 +1,17 @@
 #include "tools/rulesctl/algorithm.h"
 
+#include <algorithm>
+
 std::optional<Algorithm> Algorithm::parse(const QString& text)
 {
     const int colon = text.indexOf(QLatin1Char(':'));
+    const QString digits = text.left(colon);
+    const bool isPlain = std::all_of(digits.begin(), digits.end(), [](QChar character) {
+        return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+    });
     bool isNumber = false;
-    const int number = text.left(colon).toInt(&isNumber);
-    if (colon < 0 || !isNumber)
+    const int number = digits.toInt(&isNumber);
+    if (colon < 0 || !isPlain || !isNumber)
         return std::nullopt;
     return Algorithm{number, text.mid(colon + 1)};
 }

@@ -48,6 +48,20 @@ ExitStatus roll(RolledFiles& files, const OutputPlace& place, const Arguments& a
     return unwritten.isEmpty() ? status : ExitStatus::Unusable;
 }
 
+/// What is read and would be replaced, in a sentence; empty for nothing.
+QString faultOf(const OutputPlace& place, const QStringList& files, const QString& templateFile,
+                const Arguments& arguments)
+{
+    if (arguments.isSet("output"))
+        return place.fault(files, {templateFile, arguments.word("from")});
+    QString why;
+    for (const QString& file : files) {
+        if (arguments.isSet("in-place") && why.isEmpty())
+            why = OutputPlace::replaced(file, {templateFile});
+    }
+    return why;
+}
+
 ExitStatus run(const Arguments& arguments, Output& output)
 {
     DocumentError error;
@@ -59,8 +73,7 @@ ExitStatus run(const Arguments& arguments, Output& output)
     if (!files.readSource(error))
         return refuse(error.text());
     const OutputPlace place(arguments.word("output") + QLatin1Char('/'), words, files.names());
-    const QString why =
-        arguments.isSet("output") ? place.fault(files.names(), rulesTemplate->file) : QString();
+    const QString why = faultOf(place, files.names(), rulesTemplate->file, arguments);
     return why.isEmpty() ? roll(files, place, arguments, output)
                          : refuse(QStringLiteral("rulesctl: ") + why);
 }

@@ -113,7 +113,8 @@ void Sorting::addWord(const QString& word)
         return;
     }
     m_words[QString::fromLatin1(m_open->name)].append(word);
-    ++m_taken;
+    // What an unset variable of a script leaves is no file, and no name.
+    m_taken += word.isEmpty() ? 0 : 1;
 }
 
 bool Sorting::closeOption()

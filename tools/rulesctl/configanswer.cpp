@@ -1,5 +1,7 @@
 #include "tools/rulesctl/configanswer.h"
 
+#include "tools/rulesctl/plainline.h"
+
 using kql::Json::Value;
 
 Value ConfigAnswer::toJson(Value before) const
@@ -17,7 +19,8 @@ QByteArray ConfigAnswer::toLine(const QString& file, bool isColoured) const
         return {};
     const QString colour = status == ExitStatus::Clean ? QStringLiteral("\033[32m%1\033[m")
                                                        : QStringLiteral("\033[31m%1\033[m");
-    QString line = file + QStringLiteral(": ") + (isColoured ? colour.arg(word) : word);
+    QString line =
+        PlainLine::of(file) + QStringLiteral(": ") + (isColoured ? colour.arg(word) : word);
     if (!text.isEmpty())
         line += QStringLiteral(": ") + text;
     return line.toUtf8() + '\n';

@@ -95,7 +95,7 @@ ExitStatus convertFiles(const TemplateDocument& rulesTemplate, const Arguments& 
     const bool isToOutput = !arguments.isSet(kOutput);
     if (isToOutput && files.size() > 1)
         return refuse(QStringLiteral("several configurations need a folder with -o"));
-    QString why = isToOutput ? QString() : place.fault(files, rulesTemplate.file);
+    QString why = isToOutput ? QString() : place.fault(files, {rulesTemplate.file});
     if (!why.isEmpty() || (!isToOutput && !place.prepare(why)))
         return refuse(why);
     const auto makeWork = [&rulesTemplate, &place, isToOutput] {

@@ -6,6 +6,7 @@
 #include "tools/rulesctl/documents/configdocument.h"
 #include "tools/rulesctl/documents/filelist.h"
 #include "tools/rulesctl/documents/loadedrules.h"
+#include "tools/rulesctl/documents/outputplace.h"
 #include "tools/rulesctl/documents/templatedocument.h"
 #include "tools/rulesctl/output.h"
 #include "tools/rulesctl/render/rulepicture.h"
@@ -76,6 +77,10 @@ ExitStatus run(const Arguments& arguments, Output&)
     if (!rulesTemplate)
         return refuse(error.text());
     const QString file = arguments.word("config");
+    const QString clash = OutputPlace::replaced(
+        arguments.word("output"), {rulesTemplate->file, file, arguments.word("picture")});
+    if (!clash.isEmpty())
+        return refuse(QStringLiteral("rulesctl: ") + clash);
     error = {file, 0, 0, {}};
     auto document = ConfigDocument::read(file, error);
     LoadedRules rules(*rulesTemplate);

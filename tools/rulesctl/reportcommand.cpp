@@ -3,6 +3,7 @@
 #include "tools/rulesctl/command.h"
 #include "tools/rulesctl/documents/documenterror.h"
 #include "tools/rulesctl/documents/filelist.h"
+#include "tools/rulesctl/documents/outputplace.h"
 #include "tools/rulesctl/documents/templatedocument.h"
 #include "tools/rulesctl/fleetrun.h"
 #include "tools/rulesctl/output.h"
@@ -67,6 +68,10 @@ ExitStatus run(const Arguments& arguments, Output& output)
         return refuse(error.text());
     LabelFont::font(); // which threads share
     const QStringList files = FileList::of(arguments.words("config"));
+    const QString clash =
+        OutputPlace::replaced(arguments.word("output"), files + QStringList{rulesTemplate->file});
+    if (!clash.isEmpty())
+        return refuse(QStringLiteral("rulesctl: ") + clash);
     Cards cards;
     FleetRun run(
         files, [&] { return workOf(*rulesTemplate, cards); }, output);

@@ -6,6 +6,7 @@
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleparser.h"
 #include "tools/rulesctl/documents/loadedrules.h"
+#include "tools/rulesctl/plainline.h"
 
 using kql::Json::Value;
 
@@ -61,7 +62,7 @@ QString SaveFailure::text() const
     if (!name.isEmpty())
         place += QStringLiteral(" \"%1\"").arg(name);
     const QString text = place.isEmpty() ? message : place + QStringLiteral(": ") + message;
-    return text.simplified();
+    return PlainLine::of(text.simplified());
 }
 
 std::vector<SaveFailure> SaveFailure::of(LoadedRules& rules)

@@ -73,6 +73,10 @@ FileAnswer RolledFiles::Worker::roll(const QString& file)
 {
     DocumentError error{file, 0, 0, {}};
     auto document = ConfigDocument::read(file, error);
+    if (document && document->config().isMember("configDescription")) {
+        error.reason = QStringLiteral("it is a template");
+        return {{}, error.text(), ExitStatus::Unusable};
+    }
     if (!document || !m_rules.load(document->config(), error.reason))
         return {{}, error.text(), ExitStatus::Unusable};
     const Rollout rollout(m_source.writtenRules().parser(), m_files.m_order.names,
@@ -85,7 +89,11 @@ FileAnswer RolledFiles::Worker::roll(const QString& file)
     if (!m_rules.parser().writeData(written, why) ||
         !m_after.take(written, document->pointer(), why))
         return leftAlone(file, why);
-    why = fault(rollout);
+    // As it is now, too: what is written has the skeleton's values where it lacks some.
+    m_rules.open();
+    why = sentences(SaveFailure::of(m_rules));
+    if (why.isEmpty())
+        why = fault(rollout);
     if (!why.isEmpty())
         return leftAlone(file, why);
     const ConfigDiff diff(m_before.compared(), m_after.compared());
@@ -128,6 +136,9 @@ bool RolledFiles::readSource(DocumentError& error)
         return false;
     error.reason =
         Rollout(saved.writtenRules().parser(), m_order.names, m_order.whereTaken).fault();
+    LoadedRules rules(m_template);
+    if (error.reason.isEmpty() && rules.load(m_source, error.reason))
+        error.reason = sentences(SaveFailure::of(rules));
     return error.reason.isEmpty();
 }
 
@@ -137,10 +148,10 @@ FleetRun::Work RolledFiles::makeWork(bool isColoured)
     return [worker](const QString& file) { return worker->roll(file); };
 }
 
-void RolledFiles::keep(const QString& file, Result result)
+void RolledFiles::keep(const QString& file, const Result& result)
 {
     const QMutexLocker lock(&m_mutex);
-    m_results.insert(file, std::move(result));
+    m_results.insert(file, result);
 }
 
 /// A file that is as it should be stays untouched.

@@ -50,7 +50,7 @@ private:
         QByteArray whole; ///< with the result that it is in
     };
 
-    void keep(const QString& file, Result result);
+    void keep(const QString& file, const Result& result);
 
     const TemplateDocument& m_template;
     Order m_order;

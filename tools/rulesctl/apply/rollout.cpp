@@ -12,6 +12,8 @@
 #include "draw/drawscene.h"
 #include "tools/rulesctl/diff/comparedentry.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace
@@ -84,15 +86,19 @@ RuleDataInfo copyOf(const RuleData& data, int position)
     return copy;
 }
 
-bool isThereAlready(const RuleData& source, int position, const RuleData& target)
+/// In an entry that is not in @p used, which gets its id.
+bool isThereAlready(const RuleData& source, int position, const RuleData& target, QSet<int>& used)
 {
     const QString name = EntryName::written(source, position);
     const QString content = contentOf(source, position);
     for (int i = 0; i < target.getDataCount(); ++i) {
-        if (EntryName::isText(target, i) &&
+        const int id = entryAt(target, i).id();
+        if (!used.contains(id) && EntryName::isText(target, i) &&
             EntryName::isNumbered(EntryName::written(target, i), name) &&
-            contentOf(target, i) == content)
+            contentOf(target, i) == content) {
+            used.insert(id);
             return true;
+        }
     }
     return false;
 }
@@ -118,15 +124,17 @@ QString Rollout::fault() const
 void Rollout::applyTo(const RuleParser& target) const
 {
     const RuleData& source = *rulesOf(m_source);
+    QSet<int> used;
     for (const QString& name : m_names)
-        apply(source, positionOf(source, name), *rulesOf(target));
+        apply(source, positionOf(source, name), *rulesOf(target), used);
 }
 
 QString Rollout::notTaken(const RuleParser& target) const
 {
     const RuleData& source = *rulesOf(m_source);
+    QSet<int> used;
     for (const QString& name : m_names) {
-        if (!isThereAlready(source, positionOf(source, name), *rulesOf(target)))
+        if (!isThereAlready(source, positionOf(source, name), *rulesOf(target), used))
             return QStringLiteral("the rule \"%1\" would not be the same there").arg(name);
     }
     return {};
@@ -149,16 +157,19 @@ int Rollout::positionOf(const RuleData& data, const QString& name)
     return position < data.getDataCount() ? position : -1;
 }
 
-void Rollout::apply(const RuleData& source, int position, RuleData& target) const
+void Rollout::apply(const RuleData& source, int position, RuleData& target, QSet<int>& used) const
 {
     const QString name = EntryName::written(source, position);
     const int at = positionOf(target, name);
-    if (m_whereTaken == WhereTaken::AddToo && isThereAlready(source, position, target))
-        return;
-    if (at >= 0 && m_whereTaken == WhereTaken::Replace)
+    if (m_whereTaken == WhereTaken::AddToo) {
+        if (!isThereAlready(source, position, target, used))
+            used.insert(add(source, position, target));
+    } else if (at >= 0) {
         replace(source, position, target, at);
-    else
+    } else if (EntryName::numbered(target, name) == name) {
         add(source, position, target);
+    }
+    // Else a rule of that name belongs to no lane: it cannot be replaced, and none goes beside it.
 }
 
 /// A lane keeps its number, which other lanes have not.
@@ -178,7 +189,7 @@ void Rollout::replace(const RuleData& source, int position, RuleData& target, in
     copyFigures(source, entryAt(source, position).id(), target, before.id());
 }
 
-void Rollout::add(const RuleData& source, int position, RuleData& target)
+int Rollout::add(const RuleData& source, int position, RuleData& target)
 {
     auto entry = std::make_unique<RuleDataInfo>(copyOf(source, position));
     entry->setId(EntryId::next());
@@ -186,5 +197,7 @@ void Rollout::add(const RuleData& source, int position, RuleData& target)
     if (target.getSceneType() == SceneType::Lanes)
         LaneNumbers::giveFree(target, *entry);
     copyFigures(source, entryAt(source, position).id(), target, entry->id());
+    const int id = entry->id();
     target.addDataInfo(std::move(entry));
+    return id;
 }

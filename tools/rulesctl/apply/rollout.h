@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -40,9 +41,11 @@ private:
     /// The scene of the rules; null when the template has none.
     static RuleData* rulesOf(const RuleParser& scenes);
     static int positionOf(const RuleData& data, const QString& name);
-    void apply(const RuleData& source, int position, RuleData& target) const;
+    /// @p used are ids of entries that stand for other rules already.
+    void apply(const RuleData& source, int position, RuleData& target, QSet<int>& used) const;
     static void replace(const RuleData& source, int position, RuleData& target, int at);
-    static void add(const RuleData& source, int position, RuleData& target);
+    /// Returns the id that it gets.
+    static int add(const RuleData& source, int position, RuleData& target);
 
     const RuleParser& m_source;
     QStringList m_names;

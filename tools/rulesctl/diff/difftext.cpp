@@ -1,6 +1,7 @@
 #include "tools/rulesctl/diff/difftext.h"
 
 #include "tools/rulesctl/diff/configdiff.h"
+#include "tools/rulesctl/plainline.h"
 
 namespace
 {
@@ -62,14 +63,14 @@ QString DiffText::of(const ConfigDiff& diff, const QString& a, const QString& b,
 {
     if (diff.changes().empty())
         return {};
-    QString text = QStringLiteral("--- %1\n+++ %2\n").arg(a, b);
+    QString text = QStringLiteral("--- %1\n+++ %2\n").arg(PlainLine::of(a), PlainLine::of(b));
     QString above = QStringLiteral("-");
     for (const Change& change : diff.changes()) {
         if (change.scene != above)
             text += heading(change.scene) + QLatin1Char('\n');
         above = change.scene;
-        const QString line =
-            QLatin1String("  ") + markOf(change.kind) + QLatin1Char(' ') + change.text.simplified();
+        const QString line = QLatin1String("  ") + markOf(change.kind) + QLatin1Char(' ') +
+                             PlainLine::of(change.text.simplified());
         const QString colour = QString::fromLatin1(isColoured ? colourOf(change.kind) : "");
         text += colour.isEmpty() ? line : colour + line + QStringLiteral("\033[m");
         text += QLatin1Char('\n');

@@ -7,7 +7,6 @@
 #include <iterator>
 
 using EntryPairing::Entries;
-using EntryPairing::Entry;
 using EntryPairing::Pair;
 using EntryPairing::Pairs;
 
@@ -79,8 +78,9 @@ private:
 Pairs EntryPairing::pair(const Entries& a, const Entries& b)
 {
     Pairing pairing(a, b);
-    pairing.pairBy([](const Entry& entry) { return entry.name; });
-    pairing.pairBy([](const Entry& entry) { return std::optional<QString>(entry.content); });
+    pairing.pairBy([](const EntryPairing::Entry& entry) { return entry.name; });
+    pairing.pairBy(
+        [](const EntryPairing::Entry& entry) { return std::optional<QString>(entry.content); });
     pairing.pairByPosition();
     return pairing.pairs();
 }

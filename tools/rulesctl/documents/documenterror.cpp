@@ -1,12 +1,14 @@
 #include "tools/rulesctl/documents/documenterror.h"
 
+#include "tools/rulesctl/plainline.h"
+
 using kql::Json::Value;
 
 QString DocumentError::text() const
 {
     const QString place =
         line > 0 ? QStringLiteral("%1:%2:%3").arg(file).arg(line).arg(column) : file;
-    return place + QStringLiteral(": ") + reason;
+    return PlainLine::of(place + QStringLiteral(": ") + reason);
 }
 
 Value DocumentError::toJson() const

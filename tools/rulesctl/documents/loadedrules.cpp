@@ -44,13 +44,18 @@ bool LoadedRules::load(Value config, QString& why)
 {
     if (!read(std::move(config), why))
         return false;
+    open();
+    return true;
+}
+
+void LoadedRules::open()
+{
     auto rows = m_rows.begin();
     for (const auto& scene : m_parser->getAllData()) {
         SceneOpening::complete(*scene);
         SceneOpening::turnLines(*scene);
         (*rows++)->load(scene->getDataInfo(SceneOpening::showFirst(*scene)));
     }
-    return true;
 }
 
 void LoadedRules::nameEntries()

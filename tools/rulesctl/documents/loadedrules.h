@@ -30,6 +30,8 @@ public:
     bool read(kql::Json::Value config, QString& why);
     /// read(), and what the window makes of it when it shows it.
     bool load(kql::Json::Value config, QString& why);
+    /// What the window makes of what was read, and changed since.
+    void open();
     /// Gives unnamed rules the name that picking them would. What is saved then has it.
     void nameEntries();
     /// Gives all figures the labels that they have in the window.

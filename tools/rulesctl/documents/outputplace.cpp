@@ -2,9 +2,25 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
+#include <QHash>
 
 #include <algorithm>
+
+namespace
+{
+
+/// One text for all ways to a file, be it there or not.
+QString identityOf(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString place = info.canonicalFilePath();
+    if (!place.isEmpty())
+        return place;
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return (folder.isEmpty() ? info.absolutePath() : folder) + QLatin1Char('/') + info.fileName();
+}
+
+} // namespace
 
 OutputPlace::OutputPlace(const QString& path, const QStringList& words, const QStringList& files)
     : m_path(path),
@@ -14,18 +30,33 @@ OutputPlace::OutputPlace(const QString& path, const QStringList& words, const QS
 {
 }
 
-QString OutputPlace::fault(const QStringList& files, const QString& input) const
+QString OutputPlace::fault(const QStringList& files, const QStringList& kept) const
 {
-    QSet<QString> targets;
+    QHash<QString, QString> targets;
     for (const QString& file : files) {
         const QString target = targetOf(file);
-        if (targets.contains(target))
+        if (targets.contains(identityOf(target)))
             return QStringLiteral("two files are to be written to %1").arg(target);
-        if (isSame(target, input))
-            return QStringLiteral("%1 would be replaced, which is read").arg(input);
-        targets.insert(target);
+        const QString why = replaced(target, kept);
+        if (!why.isEmpty())
+            return why;
+        targets.insert(identityOf(target), file);
+    }
+    for (const QString& file : files) {
+        const QString writer = targets.value(identityOf(file), file);
+        if (!isSame(writer, file))
+            return QStringLiteral("%1 would be replaced, which is read").arg(file);
     }
     return {};
+}
+
+QString OutputPlace::replaced(const QString& target, const QStringList& kept)
+{
+    const auto found = std::find_if(kept.begin(), kept.end(), [&target](const QString& file) {
+        return !file.isEmpty() && isSame(target, file);
+    });
+    return found == kept.end() ? QString()
+                               : QStringLiteral("%1 would be replaced, which is read").arg(*found);
 }
 
 bool OutputPlace::prepare(QString& why) const
