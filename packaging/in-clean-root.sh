@@ -52,6 +52,9 @@ perimeter=/usr/share/rules-workbench/examples/perimeter
 client/rules-client $perimeter/template.json $perimeter/config.json --save >/tmp/client.json 2>$said ||
     fail "the client"
 expect 0 rulesctl diff --template $perimeter/template.json $perimeter/config.json /tmp/client.json
+client/rules-client $perimeter/template.json /tmp/client.json --save >/tmp/again.json 2>$said ||
+    fail "the client, with a result"
+expect 0 rulesctl diff --template $perimeter/template.json $perimeter/config.json /tmp/again.json
 # Whatever the headers include is installed, and pkg-config knows it.
 find /usr/include/intelligentrules -name '*.h' -printf '#include "%P"\n' >all.cpp
 echo 'int main() { return UICommonMdl::moduleFolder().isEmpty(); }' >>all.cpp

@@ -26,12 +26,10 @@
 namespace
 {
 
-constexpr int kUnusable = 2;
-
 int refuse(const QString& why)
 {
     QTextStream(stderr) << "rules-client: " << why << '\n';
-    return kUnusable;
+    return 2;
 }
 
 /// The object in @p path, an empty one for no path; with @p error where there is none.
@@ -44,10 +42,11 @@ QJsonObject read(const QString& path, QString& error)
         error = path + ": " + file.errorString();
         return {};
     }
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    const auto document = QJsonDocument::fromJson(file.readAll());
     if (!document.isObject())
         error = path + ": not a JSON object";
-    return document.object();
+    const QJsonObject object = document.object(); // a result has the configuration in it
+    return object.contains("channelAbilityPO") ? object["channelAbilityPO"].toObject() : object;
 }
 
 QString text(const QJsonObject& object)
@@ -92,7 +91,7 @@ void save(QWidget* window)
 {
     auto* const button = window->findChild<QAbstractButton*>(RowContract::kSave);
     if (!button || !button->isEnabled()) // nothing could be loaded
-        return QCoreApplication::exit(kUnusable);
+        return QCoreApplication::exit(2);
     QTimer::singleShot(0, &answer);
     button->click();
 }

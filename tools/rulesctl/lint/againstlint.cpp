@@ -36,7 +36,9 @@ bool keepsType(const RuleProtocolItem& older, const RuleProtocolItem& newer)
 {
     const bool isWidened =
         older.valueType() == ValueType::Int && newer.valueType() == ValueType::Float;
-    return isWidened || older.valueType() == newer.valueType();
+    // A figure's points are of one type, whatever it says.
+    const bool areFigures = older.isFigure() && newer.isFigure();
+    return isWidened || areFigures || older.valueType() == newer.valueType();
 }
 
 bool hasChoices(const RuleProtocolItem& item)

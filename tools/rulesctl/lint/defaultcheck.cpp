@@ -72,7 +72,8 @@ void judgeRange(const RuleProtocolItem& item, const Value& value, const std::str
     if (isJudged && (value.asDouble() < least || value.asDouble() > most))
         FindingMaker::add(
             findings, "default-range", pointer, value,
-            QStringLiteral("the default is outside of %1 to %2").arg(least).arg(most));
+            QStringLiteral("the default is outside of %1 to %2")
+                .arg(QString::number(least, 'g', 10), QString::number(most, 'g', 10)));
 }
 
 void judgeChoice(const RuleProtocolItem& item, const Value& value, const std::string& pointer,

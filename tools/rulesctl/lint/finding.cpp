@@ -1,5 +1,7 @@
 #include "tools/rulesctl/lint/finding.h"
 
+#include "tools/rulesctl/plainline.h"
+
 using kql::Json::Value;
 
 namespace
@@ -44,6 +46,7 @@ QString Finding::toLine(const QString& file, bool isColoured) const
     const QString colour =
         isError() ? QStringLiteral("\033[31m%1\033[m") : QStringLiteral("\033[33m%1\033[m");
     return QStringLiteral("%1:%2:%3: %4: %5 [%6]")
-        .arg(file, QString::number(line), QString::number(column),
-             isColoured ? colour.arg(word) : word, message, QString::fromStdString(code));
+        .arg(PlainLine::of(file), QString::number(line), QString::number(column),
+             isColoured ? colour.arg(word) : word, PlainLine::of(message),
+             QString::fromStdString(code));
 }

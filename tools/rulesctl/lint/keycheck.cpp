@@ -13,6 +13,8 @@ using kql::Json::Value;
 namespace
 {
 
+constexpr qint64 kMostPairs = 200000; // of names to be compared, letter by letter
+
 QString keyOf(const LintedControl& control)
 {
     return (*control.json)["key"].asString();
@@ -68,8 +70,13 @@ void Checks::keys(const LintedTemplate& linted, Findings& findings)
     const Value& items = linted.document()["configItems"];
     const QStringList names = items.memberNames();
     const QStringList keys = keysOf(linted);
-    const QStringList unused = without(names, keys);
-    const QStringList bare = without(keys, names);
+    QStringList unused = without(names, keys);
+    const QStringList unusedNames = unused;
+    QStringList bare = without(keys, names);
+    if (qint64{unused.size()} * bare.size() > kMostPairs) {
+        unused.clear();
+        bare.clear();
+    }
     for (const LintedSection& section : linted.sections()) {
         findEqualKeys(section, findings);
         for (const LintedControl& control : section.controls) {
@@ -83,7 +90,7 @@ void Checks::keys(const LintedTemplate& linted, Findings& findings)
                     key, unused);
         }
     }
-    for (const QString& name : unused) {
+    for (const QString& name : unusedNames) {
         Finding& finding = FindingMaker::add(
             findings, "unused-details", JsonPointer::member("/configItems", name.toStdString()),
             items[name.toStdString()],

@@ -9,12 +9,14 @@ namespace
 
 constexpr int kMostEdits = 2;
 constexpr int kFewestLetters = 4;
+constexpr int kMostLetters = 64; // nobody misspells longer ones
+constexpr int kMostSpellings = 5000;
 constexpr int kFar = kMostEdits + 1;
 
 /// Levenshtein's distance, or kFar where it is more.
 int distance(const QString& from, const QString& to)
 {
-    if (std::abs(from.size() - to.size()) > kMostEdits)
+    if (std::abs(from.size() - to.size()) > kMostEdits || from.size() > kMostLetters)
         return kFar;
     std::vector<int> row(std::size_t(to.size()) + 1);
     std::iota(row.begin(), row.end(), 0);
@@ -37,6 +39,8 @@ QString Suggestion::nearest(const QString& text, const QStringList& spellings)
 {
     const bool takesCase = text.size() < kFewestLetters;
     QString best;
+    if (spellings.size() > kMostSpellings)
+        return best;
     int bestDistance = kFar;
     for (const QString& spelling : spellings) {
         const bool isCaseApart = text.compare(spelling, Qt::CaseInsensitive) == 0;
