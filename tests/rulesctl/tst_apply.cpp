@@ -54,7 +54,7 @@ private:
 
 void TestApply::rolls()
 {
-    QFETCH(Value, fixture);
+    QFETCH(const Value, fixture);
     const QByteArray before = rules(fixture["config"]);
     const QString file = m_program.file("config.json", before);
     const QStringList words = apply(fixture, m_program.file("from.json", rules(fixture["from"])));

@@ -51,7 +51,7 @@ private:
 
 void TestDiff::changes()
 {
-    QFETCH(Value, fixture);
+    QFETCH(const Value, fixture);
     const QString a = m_program.file("a.json", text(fixture["a"]));
     const QString b = m_program.file("b.json", text(fixture["b"]));
     const auto outcome = m_program.run(diff() + QStringList{a, b, "--format", "json"});
