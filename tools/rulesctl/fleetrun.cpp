@@ -93,6 +93,18 @@ public:
         m_hasRoom.notify_all();
         return answers;
     }
+    /// A thread has let go of all that it had.
+    void leave()
+    {
+        const std::lock_guard lock(m_mutex);
+        ++m_left;
+        m_hasAnswers.notify_all();
+    }
+    void awaitLeft(int threads)
+    {
+        std::unique_lock lock(m_mutex);
+        m_hasAnswers.wait(lock, [this, threads] { return m_left == threads; });
+    }
 
 private:
     const int m_fileCount;
@@ -105,6 +117,7 @@ private:
     std::map<int, Answers> m_answers; ///< by part
     int m_next = 0;
     int m_taken = 0;
+    int m_left = 0; ///< threads
 };
 
 FleetRun::FleetRun(FileList files, std::function<Work()> makeWork, Output& output)
@@ -142,14 +155,19 @@ void FleetRun::runOnThreads(int threads)
             queue.put(part, std::move(answers));
         }
     };
+    const auto workAndLeave = [&workThrough, &queue] {
+        workThrough();
+        queue.leave();
+    };
     QThreadPool pool;
     pool.setMaxThreadCount(threads);
     for (int i = 0; i < threads; ++i)
-        runIn(pool, workThrough);
+        runIn(pool, workAndLeave);
     for (int part = 0; part < queue.partCount(); ++part) {
         for (const FileAnswer& answer : queue.take())
             take(answer);
     }
+    queue.awaitLeft(threads);
     pool.waitForDone();
 }
 
