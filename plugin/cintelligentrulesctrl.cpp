@@ -253,11 +253,11 @@ void CIntelligentRulesCtrl::initScenes()
                 addPanel(*sceneData);
         });
     }
+    const LoadGuard guard(this);
     // Not before: a control that is made disabled stays a nameless one for readers of the screen.
     m_form->wgtChannelInfo->setEnabled(m_parameters.editable);
-    if (m_scenes.isEmpty())
+    if (!guard.holds() || m_scenes.isEmpty())
         return;
-    const LoadGuard guard(this);
     selectScene(m_scenes.first());
     if (!guard.holds())
         return;

@@ -1,6 +1,7 @@
 #include "plugin/focusring.h"
 
 #include "plugin/editkeys.h"
+#include "tabel/focus.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -23,12 +24,6 @@ bool isByKeys(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
            reason == Qt::ShortcutFocusReason;
-}
-
-/// To a menu or another window, and back from there.
-bool isForAWhile(Qt::FocusReason reason)
-{
-    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
 }
 
 } // namespace
@@ -57,7 +52,8 @@ void FocusRing::follow(const QEvent& event)
         seeFocusIn(static_cast<const QFocusEvent&>(event).reason());
         break;
     case QEvent::FocusOut:
-        m_isBackSoon = widget() && isForAWhile(static_cast<const QFocusEvent&>(event).reason());
+        m_isBackSoon =
+            widget() && Focus::isForAWhile(static_cast<const QFocusEvent&>(event).reason());
         setShown(false);
         break;
     case QEvent::KeyPress:
@@ -79,7 +75,7 @@ void FocusRing::follow(const QEvent& event)
 void FocusRing::seeFocusIn(Qt::FocusReason reason)
 {
     const bool wasShown = std::exchange(m_isBackSoon, false);
-    const bool isBack = isForAWhile(reason);
+    const bool isBack = Focus::isForAWhile(reason);
     setShown(m_place != Place::Inside || (isBack ? wasShown : isByKeys(reason)));
 }
 

@@ -1,6 +1,7 @@
 #include "tabel/drawitembutton.h"
 
 #include "host/api/rowcontract.h"
+#include "tabel/focus.h"
 #include "tabel/plaintext.h"
 #include "tabel/warningsign.h"
 
@@ -14,12 +15,6 @@ namespace
 {
 
 constexpr int kMaxTextLength = 5;
-
-/// The focus goes to a menu or another window, or comes back from there.
-bool isForAWhile(Qt::FocusReason reason)
-{
-    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
-}
 
 } // namespace
 
@@ -173,7 +168,7 @@ void DrawItemButton::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call): skipped on purpose
     // Coming back from a menu or another window is neither by mouse nor by key.
-    if (!isForAWhile(event->reason()))
+    if (!Focus::isForAWhile(event->reason()))
         m_hasKeyFocus =
             event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     emit sgnPointed();
@@ -182,7 +177,7 @@ void DrawItemButton::focusInEvent(QFocusEvent* event)
 void DrawItemButton::focusOutEvent(QFocusEvent* event)
 {
     ElidedButton::focusOutEvent(event);
-    if (!isForAWhile(event->reason()))
+    if (!Focus::isForAWhile(event->reason()))
         m_hasKeyFocus = false;
     emit sgnPointed();
 }

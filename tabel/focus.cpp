@@ -16,3 +16,8 @@ void Focus::endIn(const QWidget& widget)
     if (focused && widget.isAncestorOf(focused))
         focused->clearFocus();
 }
+
+bool Focus::isForAWhile(Qt::FocusReason reason)
+{
+    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
+}

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <Qt>
+
 class QWidget;
 
-/// The keyboard focus, where it has to leave widgets that are about to go.
+/// The keyboard focus: where it goes, and where it has to leave widgets that are about to go.
 namespace Focus
 {
 
@@ -18,5 +20,8 @@ void takeFrom(const QWidget& widget);
 /// Takes the focus of @p widget or one in it, and gives it to nobody: @p widget is being destroyed,
 /// and its window may be, too.
 void endIn(const QWidget& widget);
+
+/// Whether the focus goes to a menu or another window, or comes back from there.
+bool isForAWhile(Qt::FocusReason reason);
 
 } // namespace Focus

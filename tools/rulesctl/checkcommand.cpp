@@ -30,20 +30,11 @@ ConfigAnswer answerOf(const std::vector<SaveFailure>& failures)
     return answer;
 }
 
-ConfigAnswer unreadable(const DocumentError& error)
-{
-    ConfigAnswer answer = answerOf({});
-    answer.status = ExitStatus::Unusable;
-    answer.word = QStringLiteral("unreadable");
-    answer.error = error;
-    return answer;
-}
-
 /// Without a document @p error says why; with one it is where the document is.
 ConfigAnswer check(LoadedRules& rules, std::optional<ConfigDocument> document, DocumentError error)
 {
     if (!document || !rules.load(document->takeConfig(), error.reason))
-        return unreadable(error);
+        return answerOf({}).asUnreadable(error);
     return answerOf(SaveFailure::of(rules));
 }
 

@@ -4,6 +4,14 @@
 
 using kql::Json::Value;
 
+ConfigAnswer& ConfigAnswer::asUnreadable(const DocumentError& why)
+{
+    status = ExitStatus::Unusable;
+    word = QStringLiteral("unreadable");
+    error = why;
+    return *this;
+}
+
 Value ConfigAnswer::toJson(Value before) const
 {
     before["status"] = word;

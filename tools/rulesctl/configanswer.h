@@ -14,6 +14,8 @@ struct ConfigAnswer {
     QString text;             ///< behind the file's name, besides the word
     std::optional<DocumentError> error;
 
+    /// This with its details, which say nothing, for a document that cannot be read for @p why.
+    ConfigAnswer& asUnreadable(const DocumentError& why);
     /// "status", the details and "error", behind the members of @p before.
     kql::Json::Value toJson(kql::Json::Value before) const;
     /// "FILE: word: text" with its line's end; empty for a document that cannot be read, of which

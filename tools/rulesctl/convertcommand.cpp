@@ -118,9 +118,9 @@ ExitStatus convertLines(const TemplateDocument& rulesTemplate, Output& output)
         auto document = ConfigDocument::of(std::move(line.object["config"]), error);
         if (document)
             return convert(rules, document->takeConfig(), error).toJson({});
-        ConfigAnswer unreadable{ExitStatus::Unusable, QStringLiteral("unreadable"), {}, {}, error};
-        unreadable.details["config"] = Value();
-        return unreadable.toJson({});
+        ConfigAnswer nothing;
+        nothing.details["config"] = Value();
+        return nothing.asUnreadable(error).toJson({});
     };
     return JsonLines::run({QStringLiteral("config")}, answer, output);
 }

@@ -91,15 +91,6 @@ ConfigAnswer answerOf(const Findings& findings)
     return answer;
 }
 
-ConfigAnswer unreadable(const DocumentError& error)
-{
-    ConfigAnswer answer = answerOf({});
-    answer.status = ExitStatus::Unusable;
-    answer.word = QStringLiteral("unreadable");
-    answer.error = error;
-    return answer;
-}
-
 /// The findings of @p file; nothing with @p error where it is no configuration.
 std::optional<Findings> lintFile(ConfigLint& lint, const QString& file, DocumentError& error)
 {
@@ -120,7 +111,7 @@ FileAnswer answerFile(ConfigLint& lint, const QString& file, bool isJson, bool i
 {
     DocumentError error;
     const std::optional<Findings> findings = lintFile(lint, file, error);
-    const ConfigAnswer answer = findings ? answerOf(*findings) : unreadable(error);
+    const ConfigAnswer answer = findings ? answerOf(*findings) : answerOf({}).asUnreadable(error);
     FileAnswer given;
     given.status = answer.status;
     if (findings)
@@ -166,7 +157,11 @@ FleetRun::Work workWith(const TemplateDocument& rulesTemplate, bool isUsable, bo
             Value named;
             named["config"] = file;
             if (isJson)
-                given.output = unreadable(error).toJson(std::move(named)).toCompactText().toUtf8();
+                given.output = answerOf({})
+                                   .asUnreadable(error)
+                                   .toJson(std::move(named))
+                                   .toCompactText()
+                                   .toUtf8();
             return given;
         };
     const auto lint = std::make_shared<ConfigLint>(rulesTemplate);
@@ -207,7 +202,7 @@ ExitStatus lintLines(const ReadTemplate& read, Output& output)
         DocumentError error = line.place();
         const auto document = ConfigDocument::of(Value(line.object["config"]), error);
         if (!document)
-            return unreadable(error).toJson({});
+            return answerOf({}).asUnreadable(error).toJson({});
         return answerOf(lint.run({viewOf(line.text), "/config" + document->pointer().toStdString(),
                                   document->config(), line.number}))
             .toJson({});
