@@ -152,6 +152,15 @@ void FigurePainter::tick(const QPoint& at, const QLine& segment) const
     stroke(0, -kHalfShaft, 0, kHalfShaft);
 }
 
+void FigurePainter::staff(const CanvasFigure& shown) const
+{
+    const QLine edge = shown.firstEdge();
+    line(edge);
+    tick(edge.p1(), edge);
+    tick(edge.p2(), edge);
+    name(shown);
+}
+
 void FigurePainter::drawLabel(const QString& text, const QLine& segment) const
 {
     if (text.isEmpty() || m_use == Use::Band)

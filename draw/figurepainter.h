@@ -47,6 +47,8 @@ public:
     void arrowhead(const QLine& segment) const;
     /// A stroke across @p segment at @p at, one of its ends.
     void tick(const QPoint& at, const QLine& segment) const;
+    /// The first edge of @p shown with a tick across each of its ends, and its label along it.
+    void staff(const CanvasFigure& shown) const;
     /// @p text along @p segment from its first point on.
     void drawLabel(const QString& text, const QLine& segment) const;
     /// The label of @p shown along its first edge, once the figure is finished.

@@ -3,10 +3,10 @@
 #include "draw/basedraw.h"
 
 /**
- * A staff of known length: a line with a tick across each of its two ends, and its label along
- * it. The length is a value of the entry, not the figure's.
+ * A staff of known length, drawn at any angle. The length is a value of the entry, not the
+ * figure's.
  */
-class RulerDraw : public BaseDraw
+class RulerDraw final : public BaseDraw
 {
 public:
     using BaseDraw::BaseDraw;

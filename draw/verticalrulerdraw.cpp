@@ -1,6 +1,7 @@
 #include "draw/verticalrulerdraw.h"
 
 #include "draw/canvasfigure.h"
+#include "draw/figurepainter.h"
 
 QVector<QPoint> VerticalRulerDraw::clicked(const CanvasFigure& drawn,
                                            const QPoint& canvasPoint) const
@@ -18,4 +19,9 @@ bool VerticalRulerDraw::moved(const Figure& figure, QPoint& end) const
     // Taken over canvas pixels, the column would come out beside that of the first point.
     end.setX(figure.points().first().x());
     return true;
+}
+
+void VerticalRulerDraw::paint(const FigurePainter& painter, const CanvasFigure& shown) const
+{
+    painter.staff(shown);
 }

@@ -94,7 +94,7 @@ void InputRangeEdit::store(const QSize& range, const char* setter, bool emitChan
 {
     if (std::exchange(m_range, range) == range || !emitChange)
         return;
-    qCDebug(lcRange) << setter << "sgnRangeValueChange";
+    qCDebug(lcRange, "%s sgnRangeValueChange", setter);
     emit sgnRangeValueChange();
 }
 
