@@ -135,7 +135,8 @@ QWidget* plainCopy(const QWidget& original)
 class Picture : public QWidget
 {
 public:
-    explicit Picture(const QString& path) : m_pixmap(path) {}
+    /// Read anew each time, as a camera's is: a QPixmap with a name would come from a cache.
+    explicit Picture(const QString& path) : m_pixmap(QPixmap::fromImage(QImage(path))) {}
 
 protected:
     void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(rect(), m_pixmap); }

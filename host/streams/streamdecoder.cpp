@@ -242,10 +242,8 @@ QString StreamDecoder::show(AvFramePointer frame)
         return {};
     }
     const PictureShape shape = shapeOf(*frame);
-    const QSize target = m_mailbox.targetSize();
     const auto decoded = std::make_shared<DecodedFrame>(std::move(frame), shape);
-    const QImage picture =
-        decoded->scaled(m_scaler, target.isEmpty() ? sizeUnasked(decoded->shownSize()) : target);
+    const QImage picture = decoded->scaled(m_scaler, m_mailbox.targetFor(decoded->shownSize()));
     if (picture.isNull())
         return Texts::tr("Its pictures cannot be converted.");
     m_lastShown = PacketQueue::Clock::now();

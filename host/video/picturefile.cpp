@@ -103,8 +103,7 @@ QString showStillPicture(const QString& path, StreamMailbox& mailbox)
         return reason;
     QSize shown;
     do {
-        const QSize target = mailbox.targetSize();
-        shown = target.isEmpty() ? sizeUnasked(still->size()) : target;
+        shown = mailbox.targetFor(still->size());
         mailbox.postPicture(
             still->image().scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), still);
     } while (mailbox.waitForAnotherSize(shown));

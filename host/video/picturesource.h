@@ -56,6 +56,9 @@ public:
      * pictures that follow in exactly this size; others leave the scaling to the surface.
      */
     virtual void setTargetSize(const QSize&) {}
+    /// The device pixels that there are for a picture whose size nobody knows yet: from them a
+    /// source that can finds the target size of its first picture.
+    virtual void setBounds(const QSize&) {}
 
     /// The newest picture in its shown size; this may take a moment.
     virtual QImage fullPicture() const { return picture(); }

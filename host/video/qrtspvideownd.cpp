@@ -241,6 +241,7 @@ void QRtspVideoWnd::openAddress(const QString& address, const UICommonMdl::Strea
     connect(source, &PictureSource::sgnPictureReady, this, &QRtspVideoWnd::sltPictureReady);
     connect(source, &PictureSource::sgnStateChanged, this, &QRtspVideoWnd::sltStateChanged);
     sltStateChanged();
+    source->setBounds((QSizeF(size()) * devicePixelRatioF()).toSize());
     source->start();
 }
 

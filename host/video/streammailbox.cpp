@@ -1,5 +1,7 @@
 #include "host/video/streammailbox.h"
 
+#include "host/video/picturesize.h"
+
 #include <utility>
 
 namespace UICommonMdl
@@ -29,6 +31,20 @@ void StreamMailbox::setTargetSize(const QSize& size)
     const Lock lock(m_mutex);
     m_targetSize = size;
     m_changed.notify_all();
+}
+
+void StreamMailbox::setBounds(const QSize& bounds)
+{
+    const Lock lock(m_mutex);
+    m_bounds = bounds;
+}
+
+QSize StreamMailbox::targetFor(const QSize& size) const
+{
+    const Lock lock(m_mutex);
+    if (!m_targetSize.isEmpty())
+        return m_targetSize;
+    return m_bounds.isEmpty() ? sizeUnasked(size) : letterboxed(size, {{}, m_bounds}).size();
 }
 
 bool StreamMailbox::isClosed() const

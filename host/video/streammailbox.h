@@ -41,6 +41,7 @@ public:
     void close();
     StreamNews fetch();
     void setTargetSize(const QSize& size);
+    void setBounds(const QSize& bounds);
     QString codec() const { return locked(m_codec); }
     qint64 dropped() const { return locked(m_dropped); }
     bool isLoginRefused() const { return locked(m_isLoginRefused); }
@@ -49,8 +50,9 @@ public:
     bool isClosed() const;
     /// Waits; false as soon as the mailbox is closed.
     bool waitUntil(Clock::time_point time);
-    /// The size in which the GUI shows the picture, empty while it is not known.
-    QSize targetSize() const { return locked(m_targetSize); }
+    /// The size in which the GUI shows a picture whose shape @p size has; its own, within limits,
+    /// while nothing is known of the GUI.
+    QSize targetFor(const QSize& size) const;
     /// Waits until the target size is known and not @p size; false as soon as the mailbox is
     /// closed.
     bool waitForAnotherSize(const QSize& size);
@@ -77,6 +79,7 @@ private:
     bool m_isAwake = false;
     StreamNews m_news;
     QSize m_targetSize;
+    QSize m_bounds; ///< for a picture without a target size
     QString m_codec;
     qint64 m_dropped = 0;
     bool m_isLoginRefused = false;

@@ -78,6 +78,13 @@ void StreamSource::setTargetSize(const QSize& size)
         m_mailbox->setTargetSize(size);
 }
 
+void StreamSource::setBounds(const QSize& bounds)
+{
+    m_bounds = bounds;
+    if (m_mailbox)
+        m_mailbox->setBounds(bounds);
+}
+
 PictureStatistics StreamSource::statistics() const
 {
     PictureStatistics statistics = PictureSource::statistics();
@@ -95,6 +102,7 @@ void StreamSource::sltConnect()
         QMetaObject::invokeMethod(this, &StreamSource::sltNews, Qt::QueuedConnection);
     });
     m_mailbox->setTargetSize(m_targetSize);
+    m_mailbox->setBounds(m_bounds);
     const bool started = StreamThreads::start([request = m_request, mailbox = m_mailbox]() {
         mailbox->postFailure(play(request, *mailbox));
     });

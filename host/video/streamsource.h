@@ -34,6 +34,7 @@ public:
     QSize shownSize() const override;
     QImage fullPicture() const override;
     void setTargetSize(const QSize& size) override;
+    void setBounds(const QSize& bounds) override;
     PictureStatistics statistics() const override;
 
 private slots:
@@ -52,6 +53,7 @@ private:
     int m_wait;       ///< seconds until the next try
     QString m_reason; ///< why the stream was lost last
     QSize m_targetSize;
+    QSize m_bounds;
     QImage m_picture;
     std::shared_ptr<const DecodedPicture> m_decoded; ///< the same picture
 };

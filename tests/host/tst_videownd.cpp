@@ -393,6 +393,14 @@ private slots:
         }
         QCOMPARE(source->fullPicture().size(), QSize(4000, 8000));
         QCOMPARE(source->statistics().dropped, 0);
+
+        const auto bounded = sources().makeSource(written(folder, encoded("png", {400, 800})));
+        bounded->setBounds({300, 100});
+        QSignalSpy ready(bounded.get(), &PictureSource::sgnPictureReady);
+        bounded->start();
+        QTRY_COMPARE_WITH_TIMEOUT(ready.count(), 1, kTryFor);
+        QCOMPARE(bounded->picture().size(), QSize(50, 100));
+        QCOMPARE(bounded->pictureSize(), QSize(400, 800));
     }
 
     void sampleCameraIsReproducible()

@@ -212,11 +212,13 @@ private slots:
         StreamSource source(
             request(address, false, {fixture["udp"].asBool(), fixture["delay"].asInt()}));
         QSignalSpy ready(&source, &PictureSource::sgnPictureReady);
+        source.setBounds({400, 180});
         source.start();
         QCOMPARE(source.status().state, PictureState::Connecting);
         QTRY_VERIFY_WITH_TIMEOUT(ready.count() > 5, kTryFor);
         QCOMPARE(source.status().state, PictureState::Playing);
         QCOMPARE(source.pictureSize(), QSize(320, 240));
+        QCOMPARE(source.picture().size(), QSize(240, 180));
         QCOMPARE(wrongBars(source.picture(), kColorBars), QString());
         source.setTargetSize({141, 106});
         QTRY_COMPARE_WITH_TIMEOUT(source.picture().size(), QSize(141, 106), kTryFor);
