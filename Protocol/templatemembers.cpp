@@ -35,7 +35,7 @@ constexpr Member objects(const char* name, Place inside, unsigned otherKinds = 0
 
 constexpr Member pair(const char* name, unsigned otherKinds = 0)
 {
-    return {name, Member::List | otherKinds, false, Place::None, Member::Number, true};
+    return {name, Member::List | otherKinds, false, Place::None, Member::Cut, true};
 }
 
 constexpr Member value(const char* name, unsigned kinds)

@@ -43,6 +43,7 @@ struct TemplateMember {
         List = 16,
         Object = 32,
         Null = 64, ///< where it has a meaning of its own
+        Cut = 128, ///< a number that is cut to a whole one, which 32 bits hold
     };
 
     const char* name;

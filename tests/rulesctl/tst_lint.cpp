@@ -77,6 +77,7 @@ class TstLint : public RulesTest
 private slots:
     void findsWhatIsWrong_data();
     void findsWhatIsWrong();
+    void tellsWhatIsReadInstead();
     void hasNothingToSayOfTheExamples();
 };
 
@@ -105,6 +106,26 @@ void TstLint::findsWhatIsWrong()
     QCOMPARE(found, QString::fromUtf8(ExampleFiles::contentOf(path + ".expected")));
     QVERIFY(hasCode(findings, code));
     QVERIFY(!hasCode(lint(path + ".twin.json", path), code));
+}
+
+void TstLint::tellsWhatIsReadInstead()
+{
+    QStringList messages;
+    const QString wrong = kFixtures + "/wrong-kind/";
+    for (const QString& name : {wrong + "read-instead.json", wrong + "range-of-64-bits.json"}) {
+        for (const Finding& finding : lint(name, {}))
+            messages.append(finding.message);
+    }
+    QCOMPARE(
+        messages.join('\n'),
+        QStringList({"this is no integer, and is read as 0", "this is no integer, and is read as 0",
+                     "this is no array or null, and is ignored",
+                     "this is no string, and is read as an empty text",
+                     "this is no boolean, and is read as false",
+                     "a default of this control is string; new entries have none",
+                     "a default of this control is integer or null; read as 1",
+                     "this is beyond 32 bits, and is read as 2147483647"})
+            .join('\n'));
 }
 
 void TstLint::hasNothingToSayOfTheExamples()

@@ -87,11 +87,13 @@ QStringList membersOf(const Value& definition)
 {
     QStringList lines;
     const Value& properties = definition["properties"];
+    const Value pair = schema()["$defs"]["pair"];
     for (const QString& name : properties.memberNames()) {
         const Value& member = properties[name.toStdString()];
+        const bool isPair = member["$ref"] == Value("#/$defs/pair");
+        const Value& element = isPair ? pair["prefixItems"][1] : member["items"];
         if (name != QLatin1String("$schema"))
-            lines.append(inALine(name, textsOf(member["type"]), textsOf(member["items"]["type"]),
-                                 member["minItems"].asInt() == 2));
+            lines.append(inALine(name, textsOf(member["type"]), textsOf(element["type"]), isPair));
     }
     return sorted(lines);
 }

@@ -31,8 +31,10 @@ unsigned numberBoxKinds(ValueType type)
     }
 }
 
-unsigned kindsFor(const RuleProtocolItem& item)
+unsigned kindsFor(const RuleProtocolItem& item, const TemplateMember& member)
 {
+    if (item.valueType() == ValueType::None)
+        return member.kinds;
     switch (item.facade()) {
     case FacadeType::InputBoxNumber:
         return numberBoxKinds(item.valueType());
@@ -46,20 +48,27 @@ unsigned kindsFor(const RuleProtocolItem& item)
     }
 }
 
-/// What the facade alone refuses, the shape tells.
+/// What new entries start with.
+QString textOf(const QVariant& value)
+{
+    if (!value.isValid())
+        return QStringLiteral("new entries have none");
+    return QStringLiteral("read as ") +
+           (value.toString().isEmpty() ? QStringLiteral("an empty text") : value.toString());
+}
+
 void judgeKind(const RuleProtocolItem& item, const Value& value, const std::string& pointer,
                Findings& findings)
 {
     const TemplatePlace place = TemplateMembers::detailsOf(item.facade());
     const TemplateMember* const member = TemplateMembers::find(place, "default");
-    const unsigned kinds = kindsFor(item);
-    if (item.valueType() == ValueType::None || !member ||
-        !JsonKind::isAmong(value, member->kinds) || JsonKind::isAmong(value, kinds))
+    const unsigned kinds = member ? kindsFor(item, *member) : 0;
+    if (!member || JsonKind::isAmong(value, kinds))
         return;
     const QStringList names = JsonKind::names(kinds);
     FindingMaker::add(findings, "wrong-kind", pointer, value,
-                      QStringLiteral("of the control's \"type\" a default is %1; this is not read")
-                          .arg(names.join(QLatin1String(" or "))))
+                      QStringLiteral("a default of this control is %1; %2")
+                          .arg(names.join(QLatin1String(" or ")), textOf(item.defaultValue())))
         .expected = names;
 }
 

@@ -14,26 +14,28 @@ struct Named {
 };
 
 constexpr Named kNames[] = {
-    {TemplateMember::Text, "string"},   {TemplateMember::Whole, "integer"},
+    {TemplateMember::Text, "string"},   {TemplateMember::Whole | TemplateMember::Cut, "integer"},
     {TemplateMember::Number, "number"}, {TemplateMember::Switch, "boolean"},
     {TemplateMember::List, "array"},    {TemplateMember::Object, "object"},
     {TemplateMember::Null, "null"},
 };
 
 /// 5.0 is a whole number.
-bool isWhole(const Value& value)
+unsigned kindsOfNumber(double number)
 {
-    const double number = value.asDouble();
-    return value.isNumeric() && std::floor(number) == number &&
-           number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
+    const double cut = std::trunc(number);
+    const bool isHeld =
+        cut >= std::numeric_limits<int>::min() && cut <= std::numeric_limits<int>::max();
+    unsigned kinds = TemplateMember::Number;
+    if (isHeld)
+        kinds |= cut == number ? TemplateMember::Cut | TemplateMember::Whole : TemplateMember::Cut;
+    return kinds;
 }
 
 unsigned kindsOf(const Value& value)
 {
-    if (isWhole(value))
-        return TemplateMember::Number | TemplateMember::Whole;
     if (value.isNumeric())
-        return TemplateMember::Number;
+        return kindsOfNumber(value.asDouble());
     if (value.isString())
         return TemplateMember::Text;
     if (value.isBool())
