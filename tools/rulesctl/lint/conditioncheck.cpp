@@ -34,8 +34,9 @@ void judgeSection(const LintedSection& section, Findings& findings)
             continue;
         const kql::Json::Value& valid = (*control.json)["valid"];
         if (!conditions.canBeMet(*control.item))
-            FindingMaker::add(findings, "never-shown", control.pointer + "/valid", valid,
-                              QStringLiteral("no choice ever meets this condition"));
+            FindingMaker::add(
+                findings, "never-shown", control.pointer + "/valid", valid,
+                QStringLiteral("no value of its controller ever meets this condition"));
         const QStringList circle = circleFrom(conditions, *control.item);
         if (circle.isEmpty() || told.contains(circle.first()))
             continue;

@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -43,6 +44,45 @@ bool isWholeNumber(const QString& text)
     return QString::number(text.toInt()) == text;
 }
 
+bool isSwitch(const QString& text)
+{
+    return text == QLatin1String("true") || text == QLatin1String("false");
+}
+
+/// Whether what is read of @p type compares as @p text.
+bool isOfType(ValueType type, const QString& text)
+{
+    switch (type) {
+    case ValueType::Bool:
+        return isSwitch(text);
+    case ValueType::Int:
+        return isWholeNumber(text);
+    case ValueType::ArrayInt:
+        return text.isEmpty(); // which a pair is as text
+    case ValueType::Point:
+        return false;
+    default:
+        return true;
+    }
+}
+
+/// Whether @p controller, which has no choices, can have a value that compares as @p text.
+bool canHave(const RuleProtocolItem& controller, const QString& text)
+{
+    if (controller.isFigure())
+        return false; // it has points, and no value
+    switch (controller.facade()) {
+    case FacadeType::Bool:
+        return isSwitch(text);
+    case FacadeType::InputBoxNumber:
+        return controller.valueType() != ValueType::Int || isWholeNumber(text);
+    case FacadeType::NumericalInterval:
+        return text.isEmpty() || isOfType(controller.valueType(), text);
+    default:
+        return isOfType(controller.valueType(), text);
+    }
+}
+
 } // namespace
 
 const RuleProtocolItem* Conditions::controllerOf(const RuleProtocolItem& item)
@@ -50,7 +90,7 @@ const RuleProtocolItem* Conditions::controllerOf(const RuleProtocolItem& item)
     return ownOf(item).controller;
 }
 
-Conditions::Chain Conditions::of(const RuleProtocolItem& item)
+Conditions::Chain Conditions::chainOf(const RuleProtocolItem& item, Values Own::*which)
 {
     Chain chain;
     QSet<const RuleProtocolItem*> visited; // they may name each other in a circle
@@ -58,7 +98,7 @@ Conditions::Chain Conditions::of(const RuleProtocolItem& item)
         visited.insert(next);
         const Own& own = ownOf(*next);
         if (own.controller)
-            chain.push_back({own.controller, &own.values});
+            chain.push_back({own.controller, &(own.*which)});
         next = own.controller;
     }
     std::stable_sort(chain.begin(), chain.end(), [](const Wanted& a, const Wanted& b) {
@@ -70,15 +110,10 @@ Conditions::Chain Conditions::of(const RuleProtocolItem& item)
 /// In a circle one controller may be asked for twice.
 bool Conditions::canBeMet(const RuleProtocolItem& item)
 {
-    QSet<const RuleProtocolItem*> visited;
-    for (const RuleProtocolItem* next = &item; next && !visited.contains(next);) {
-        visited.insert(next);
-        if (!ownOf(*next).isPossible)
-            return false;
-        next = ownOf(*next).controller;
-    }
-    const Chain chain = of(item);
-    return !exclude(chain, chain);
+    const Chain chain = chainOf(item, &Own::possible);
+    const bool isOpen = std::none_of(chain.begin(), chain.end(),
+                                     [](const Wanted& wanted) { return wanted.values->empty(); });
+    return isOpen && !exclude(chain, chain);
 }
 
 /// Both are walked through once; those of one controller, mostly one, are compared with each other.
@@ -110,7 +145,7 @@ const Conditions::Own& Conditions::ownOf(const RuleProtocolItem& item)
             const bool hasSpellings = ComparableText::hasSpellings(own.controller->valueType());
             const QStringList& texts = hasSpellings ? condition.comparable : condition.values;
             own.values = numbersOf(texts);
-            own.isPossible = isPossible(*own.controller, texts, own.values);
+            own.possible = possibleOf(*own.controller, texts, own.values);
         }
     }
     return m_own.emplace(&item, std::move(own)).first->second;
@@ -139,19 +174,19 @@ const Conditions::Values& Conditions::choicesOf(const RuleProtocolItem& controll
     return m_choices.emplace(&controller, numbersOf(texts)).first->second;
 }
 
-bool Conditions::isPossible(const RuleProtocolItem& controller, const QStringList& texts,
-                            const Values& values)
+Conditions::Values Conditions::possibleOf(const RuleProtocolItem& controller,
+                                          const QStringList& texts, const Values& values)
 {
-    switch (controller.facade()) {
-    case FacadeType::Bool:
-        return texts.contains(QStringLiteral("true")) || texts.contains(QStringLiteral("false"));
-    case FacadeType::RadioButton:
-    case FacadeType::CheckBox:
-        return haveCommon(values, choicesOf(controller));
-    case FacadeType::InputBoxNumber:
-        return controller.valueType() != ValueType::Int ||
-               std::any_of(texts.begin(), texts.end(), &isWholeNumber);
-    default:
-        return true;
+    const FacadeType facade = controller.facade();
+    if (facade == FacadeType::RadioButton || facade == FacadeType::CheckBox) {
+        const Values& choices = choicesOf(controller);
+        Values common;
+        std::set_intersection(values.begin(), values.end(), choices.begin(), choices.end(),
+                              std::back_inserter(common));
+        return common;
     }
+    QStringList possible;
+    std::copy_if(texts.begin(), texts.end(), std::back_inserter(possible),
+                 [&controller](const QString& text) { return canHave(controller, text); });
+    return numbersOf(possible);
 }

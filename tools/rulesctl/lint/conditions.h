@@ -32,7 +32,7 @@ public:
     /// What the condition of @p item names; null for none, and where it lists no value: it does not
     /// count then.
     const RuleProtocolItem* controllerOf(const RuleProtocolItem& item);
-    Chain of(const RuleProtocolItem& item);
+    Chain of(const RuleProtocolItem& item) { return chainOf(item, &Own::values); }
     /// Whether the rows of all controllers of @p item can have values with which it applies.
     bool canBeMet(const RuleProtocolItem& item);
 
@@ -44,14 +44,15 @@ private:
     struct Own {
         const RuleProtocolItem* controller = nullptr;
         Values values;
-        bool isPossible = true; ///< of the controller's row
+        Values possible; ///< those of them that the controller can have
     };
 
     const Own& ownOf(const RuleProtocolItem& item);
+    Chain chainOf(const RuleProtocolItem& item, Values Own::*which);
     Values numbersOf(const QStringList& texts);
     const Values& choicesOf(const RuleProtocolItem& controller);
-    bool isPossible(const RuleProtocolItem& controller, const QStringList& texts,
-                    const Values& values);
+    Values possibleOf(const RuleProtocolItem& controller, const QStringList& texts,
+                      const Values& values);
 
     const DataTemplate& m_template;
     QHash<QString, int> m_numbers;

@@ -1,5 +1,7 @@
 #include "tools/rulesctl/lint/checks.h"
 
+#include "Protocol/datatemplate.h"
+#include "Protocol/ruleprotocolitem.h"
 #include "tools/rulesctl/lint/findingmaker.h"
 #include "tools/rulesctl/lint/jsonpointer.h"
 #include "tools/rulesctl/lint/lintedtemplate.h"
@@ -20,15 +22,26 @@ QString keyOf(const LintedControl& control)
     return (*control.json)["key"].asString();
 }
 
+/// Of the attributes that lanes bring along, whose values those of their rules would share.
+QSet<QString> keysOfLanes(const LintedSection& section)
+{
+    QSet<QString> keys;
+    for (const auto& item : section.dataTemplate()->items()) {
+        if (item->templateName().toStdString() != section.name)
+            keys.insert(item->key());
+    }
+    return keys;
+}
+
 void findEqualKeys(const LintedSection& section, Findings& findings)
 {
-    QSet<QString> known;
+    QSet<QString> known = section.isPerLane() ? keysOfLanes(section) : QSet<QString>();
     for (const LintedControl& control : section.controls) {
         const QString key = keyOf(control);
         if (!key.isEmpty() && known.contains(key))
             FindingMaker::add(findings, "equal-names", control.pointer + "/key",
                               (*control.json)["key"],
-                              QStringLiteral("a control before has the key %1").arg(quoted(key)))
+                              QStringLiteral("an attribute before has the key %1").arg(quoted(key)))
                 .isAtKey = true;
         known.insert(key);
     }

@@ -29,13 +29,15 @@ void judge(const Value& pair, const std::string& pointer, bool isOfPoints, Findi
                           QStringLiteral("the first number is above the second"));
 }
 
-/// All pairs that @p object has as members of @p place.
+/// All pairs that @p object has as members of @p place. Under a facade that is spelled wrong they
+/// may be of points.
 void judgeAll(const Value& object, TemplatePlace place, const std::string& pointer,
               Findings& findings)
 {
     for (const TemplateMember& member : TemplateMembers::of(place)) {
-        const bool isOfPoints =
-            place == TemplatePlace::FigureDetails || std::string_view(member.name) == "pointOfArea";
+        const bool isOfPoints = place == TemplatePlace::FigureDetails ||
+                                place == TemplatePlace::UnsureDetails ||
+                                std::string_view(member.name) == "pointOfArea";
         if (member.isPair)
             judge(object[member.name], JsonPointer::member(pointer, member.name), isOfPoints,
                   findings);
@@ -46,8 +48,11 @@ void judgeAll(const Value& object, TemplatePlace place, const std::string& point
 
 void Checks::ranges(const LintedTemplate& linted, Findings& findings)
 {
-    for (const LintedSection& section : linted.sections())
-        judgeAll(*section.json, section.place, section.pointer, findings);
+    for (const LintedSection& section : linted.sections()) {
+        // Rules that are edited per lane are as many as the lanes; their own count is not read.
+        if (!section.isPerLane())
+            judgeAll(*section.json, section.place, section.pointer, findings);
+    }
     const Value& items = linted.document()["configItems"];
     for (int i = 0; items.isObject() && i < items.size(); ++i) {
         const Value& details = items.memberValue(i);
