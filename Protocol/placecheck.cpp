@@ -74,12 +74,13 @@ Fault faultOfFigure(const RuleProtocolItem& item, const Value& prototype)
     return lacksDirection ? missing(ConfigMember::directionPath()) : Fault();
 }
 
-Fault faultOfBuiltIn(const RuleProtocolItem& item, const Value& prototype)
+/// Calibrations make the places of their figures, where nothing else is. The lengths go with the
+/// staffs, which are made anew, too.
+Fault faultInCalibration(const RuleProtocolItem& item, const Value& prototype)
 {
-    if (item.path().text().isEmpty())
-        return missing(item.path());
-    Value made = prototype; // calibrations make their places, where nothing else is
-    return item.path().create(made) ? Fault() : Fault{Fault::Kind::OtherKind};
+    Value made = prototype;
+    const bool isWritten = !item.isFigure() || item.path().create(made);
+    return isWritten ? Fault() : Fault{Fault::Kind::OtherKind};
 }
 
 QString sentence(const Fault& fault, const RuleProtocolItem& item)
@@ -102,16 +103,14 @@ void tellSection(RuleData& data, const TemplateSection& section, const Value& sk
 {
     const EntryWriter writer(data, section.name);
     const Value prototype = writer.prototype(JsonPath(section.parent).firstEntryIn(skeleton));
-    const bool isBuiltIn = sceneProtocol(data.getSceneType()).isCalibration();
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() != section.name)
             continue;
         // Without a row nobody can set what is lost; what the document has there is told by itself.
         const bool isEdited = item->isFigure() || item->isControl();
-        if (!isEdited || item->facade() == FacadeType::Lane)
+        if (!isEdited)
             continue;
-        const Fault fault = isBuiltIn ? faultOfBuiltIn(*item, prototype)
-                                      : PlaceCheck::faultOf(*item, writer, prototype);
+        const Fault fault = PlaceCheck::faultOf(data, *item, writer, prototype);
         if (fault.kind != Fault::Kind::None)
             data.saveNotices().addUnsaved(*item, sentence(fault, *item));
     }
@@ -119,9 +118,13 @@ void tellSection(RuleData& data, const TemplateSection& section, const Value& sk
 
 } // namespace
 
-PlaceCheck::PlaceFault PlaceCheck::faultOf(const RuleProtocolItem& item, const EntryWriter& writer,
-                                           const Value& prototype)
+PlaceCheck::PlaceFault PlaceCheck::faultOf(const RuleData& data, const RuleProtocolItem& item,
+                                           const EntryWriter& writer, const Value& prototype)
 {
+    if (item.facade() == FacadeType::Lane)
+        return {}; // its lines are members of their own, which are always made
+    if (sceneProtocol(data.getSceneType()).isCalibration())
+        return faultInCalibration(item, prototype);
     if (item.path().text().isEmpty())
         return missing(item.path());
     const Fault fault =

@@ -20,9 +20,8 @@ struct PlaceFault {
     const JsonPath* path = nullptr; ///< the one that is missing; lives as long as the item
 };
 
-/// Of @p item, one that the template names itself, in @p prototype, what @p writer starts its
-/// entries as.
-PlaceFault faultOf(const RuleProtocolItem& item, const EntryWriter& writer,
+/// Of @p item of @p data in @p prototype, what @p writer starts its entries as.
+PlaceFault faultOf(const RuleData& data, const RuleProtocolItem& item, const EntryWriter& writer,
                    const kql::Json::Value& prototype);
 
 /// Tells them to @p data, and whether there is a place for one entry alone. @p skeleton is the

@@ -69,6 +69,11 @@ RuleProtocolItem* RulesProtocol::entryFigureItem(const DataTemplate& dataTemplat
     return dataTemplate.figureItems().value(0);
 }
 
+bool RulesProtocol::isTyped(int algorithmId)
+{
+    return algorithmId == kTypedAlgorithm;
+}
+
 void RulesProtocol::writeRuleMembers(const RuleData& data, const WriteContext& context,
                                      std::vector<Value>& entries)
 {
@@ -79,7 +84,7 @@ void RulesProtocol::writeRuleMembers(const RuleData& data, const WriteContext& c
         json[ConfigMember::kName] = name ? *name : Value(EntryName::written(data, i));
         const Value* enabled = entry.enabledAsRead();
         json[ConfigMember::kEnable] = enabled ? *enabled : Value(entry.isEnabled());
-        if (context.algorithmId == kTypedAlgorithm)
+        if (isTyped(context.algorithmId))
             writeAlgorithm(context.algorithmName, json);
     }
 }

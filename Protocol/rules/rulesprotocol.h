@@ -40,6 +40,8 @@ public:
     EntryTarget::WhenMissing whenMissing() const override { return EntryTarget::WhenMissing::List; }
     RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override;
 
+    /// Whether algorithms with this id have each rule's "Config"."Type" set.
+    static bool isTyped(int algorithmId);
     /// Sets in @p entries, one for each entry of @p data, what every rule has besides its
     /// attributes.
     static void writeRuleMembers(const RuleData& data, const WriteContext& context,

@@ -59,11 +59,9 @@ std::optional<ReadTemplate> readTemplate(const QString& file, const QString& alg
         error = {file, 1, 1, QStringLiteral("the template has no \"configDescription\"")};
         return std::nullopt;
     }
-    auto linted = std::make_unique<LintedTemplate>(*document);
-    return ReadTemplate{
-        *text,
-        {file, *std::move(document), Algorithm::parse(algorithm).value_or(Algorithm())},
-        std::move(linted)};
+    const Algorithm known = Algorithm::parse(algorithm).value_or(Algorithm());
+    auto linted = std::make_unique<LintedTemplate>(*document, known.number);
+    return ReadTemplate{*text, {file, *std::move(document), known}, std::move(linted)};
 }
 
 Value toJson(const Findings& findings)

@@ -2,6 +2,7 @@
 
 #include "Protocol/ruleprotocolitem.h"
 #include "Protocol/valuecompare.h"
+#include "tools/rulesctl/lint/entryplace.h"
 #include "tools/rulesctl/lint/findingmaker.h"
 #include "tools/rulesctl/lint/lintedtemplate.h"
 
@@ -16,19 +17,6 @@ namespace
 QString keyOf(const LintedControl& control)
 {
     return (*control.json)["key"].asString();
-}
-
-/// The path without the brackets at its end, which say nothing of the place.
-QString fieldOf(const RuleProtocolItem& item)
-{
-    const QString& path = item.path().text();
-    return path.endsWith(QLatin1String("[]")) ? path.chopped(2) : path;
-}
-
-bool isSamePlace(const RuleProtocolItem& one, const RuleProtocolItem& other)
-{
-    return one.parent() == other.parent() && fieldOf(one) == fieldOf(other) &&
-           one.index() == other.index();
 }
 
 /// Whole numbers are numbers, whatever else was done to an attribute.
@@ -46,63 +34,81 @@ bool hasChoices(const RuleProtocolItem& item)
     return item.facade() == FacadeType::RadioButton || item.facade() == FacadeType::CheckBox;
 }
 
-/// What the older sections have is looked for in the newer one of the same name.
+/// Where the entries of @p section are read; empty where none are.
+QString parentOf(const LintedSection& section)
+{
+    return EntryPlace::fieldOf((*section.json)["parent"].asString());
+}
+
+/// What an older section has is looked for in the newer one of the same name.
 class Comparison
 {
 public:
-    Comparison(const LintedTemplate& newer, Findings& findings)
-        : m_newer(newer), m_findings(findings)
+    /// @p newer is null where the section is gone. @p skeleton is that of the older template, whose
+    /// configurations are like it; null for none.
+    Comparison(const LintedSection& older, const LintedSection* newer, const Value* skeleton,
+               std::string around, Findings& findings)
+        : m_older(older), m_newer(newer), m_around(std::move(around)), m_findings(findings)
     {
+        if (!older.data)
+            return;
+        m_entry = older.prototype(skeleton);
+        const bool isThere = newer && parentOf(older) == parentOf(*newer);
+        for (std::size_t i = 0; isThere && i < newer->controls.size(); ++i) {
+            if (const LintedControl& control = newer->controls[i]; control.item)
+                m_candidates.push_back({&control, EntryPlace::of(*control.item, m_entry)});
+        }
     }
 
-    void compare(const LintedSection& older)
+    void run()
     {
-        const auto& sections = m_newer.sections();
-        const auto same =
-            std::find_if(sections.begin(), sections.end(), [&older](const LintedSection& section) {
-                return section.name == older.name;
-            });
-        const LintedSection* const newer = same == sections.end() ? nullptr : &*same;
-        for (const LintedControl& control : older.controls) {
+        for (const LintedControl& control : m_older.controls) {
             if (control.item && !control.item->path().text().isEmpty())
-                compareControl(control, newer);
+                compareControl(control);
         }
-        if (older.controls.empty())
-            compareParent(older, newer);
+        if (m_older.controls.empty())
+            compareParent();
     }
 
 private:
-    static const LintedControl* controlFor(const LintedControl& older, const LintedSection* newer)
+    /// A control of the newer section, and where it leads in an older entry.
+    struct Candidate {
+        const LintedControl* control;
+        EntryPlace place;
+    };
+
+    /// The control that reads what @p older did, of several the one with its key; null for none.
+    const LintedControl* readerOf(const LintedControl& older) const
     {
-        if (!newer)
-            return nullptr;
-        const LintedControl* const same = newer->find(keyOf(older));
-        if (same && same->item && isSamePlace(*older.item, *same->item))
-            return same;
-        const auto other = std::find_if(
-            newer->controls.begin(), newer->controls.end(), [&older](const LintedControl& control) {
-                return control.item && isSamePlace(*older.item, *control.item);
-            });
-        return other == newer->controls.end() ? same : &*other;
+        const EntryPlace place = EntryPlace::of(*older.item, m_entry);
+        const LintedControl* reader = nullptr;
+        for (const Candidate& candidate : m_candidates) {
+            if (!(candidate.place == place))
+                continue;
+            if (keyOf(*candidate.control) == keyOf(older))
+                return candidate.control;
+            if (!reader)
+                reader = candidate.control;
+        }
+        return reader;
     }
 
-    void compareControl(const LintedControl& older, const LintedSection* section)
+    void compareControl(const LintedControl& older)
     {
-        const LintedControl* const newer = controlFor(older, section);
+        const LintedControl* const reader = readerOf(older);
+        const LintedControl* const same = m_newer ? m_newer->find(keyOf(older)) : nullptr;
         const Value& protocol = (*older.json)["protocol"];
-        if (!newer || !newer->item) {
-            add("value-dropped", placeOfControls(section), protocol,
+        if (!reader && (!same || !same->item))
+            add("value-dropped", placeOfControls(), protocol,
                 QStringLiteral("the control %1 is gone").arg(quoted(keyOf(older))));
-            return;
-        }
-        if (!isSamePlace(*older.item, *newer->item))
-            add("value-dropped", newer->pointer, protocol,
+        else if (!reader)
+            add("value-dropped", same->pointer, protocol,
                 QStringLiteral("no control reads the place that it had"));
-        else if (!keepsType(*older.item, *newer->item))
-            add("value-changed", newer->pointer, protocol,
+        else if (!keepsType(*older.item, *reader->item))
+            add("value-changed", reader->pointer, protocol,
                 QStringLiteral("the type of its value is another"));
-        else if (hasChoices(*older.item) && hasChoices(*newer->item))
-            compareChoices(older, *newer);
+        else if (hasChoices(*older.item) && hasChoices(*reader->item))
+            compareChoices(older, *reader);
     }
 
     void compareChoices(const LintedControl& older, const LintedControl& newer)
@@ -122,27 +128,28 @@ private:
     }
 
     /// Of a section whose attributes the module names itself.
-    void compareParent(const LintedSection& older, const LintedSection* newer)
+    void compareParent()
     {
-        const Value& parent = (*older.json)["parent"];
-        if (!newer)
-            add("value-dropped", placeOfControls(nullptr), parent,
+        const Value& parent = (*m_older.json)["parent"];
+        if (parentOf(m_older).isEmpty())
+            return;
+        if (!m_newer)
+            add("value-dropped", m_around, parent,
                 QStringLiteral("the section %1 is gone")
-                    .arg(quoted(QString::fromStdString(older.name))));
-        else if (parent != (*newer->json)["parent"])
+                    .arg(quoted(QString::fromStdString(m_older.name))));
+        else if (parentOf(m_older) != parentOf(*m_newer))
             add("value-dropped",
-                newer->json->isMember("parent") ? newer->pointer + "/parent" : newer->pointer,
+                m_newer->json->isMember("parent") ? m_newer->pointer + "/parent" : m_newer->pointer,
                 parent, QStringLiteral("the section reads another place"));
     }
 
     /// What there is of it: the section where it has none, or what sections lie in.
-    std::string placeOfControls(const LintedSection* section) const
+    std::string placeOfControls() const
     {
-        if (section)
-            return section->json->isMember("controls") ? section->pointer + "/controls"
-                                                       : section->pointer;
-        const bool hasRules = m_newer.document()["configDescription"].isMember("ruleDescription");
-        return hasRules ? "/configDescription/ruleDescription" : "/configDescription";
+        if (!m_newer)
+            return m_around;
+        return m_newer->json->isMember("controls") ? m_newer->pointer + "/controls"
+                                                   : m_newer->pointer;
     }
 
     void add(const char* code, const std::string& pointer, const Value& found,
@@ -152,7 +159,11 @@ private:
                           QStringLiteral("against the older template: ") + message);
     }
 
-    const LintedTemplate& m_newer;
+    const LintedSection& m_older;
+    const LintedSection* m_newer;
+    const std::string m_around;
+    Value m_entry; ///< as configurations of the older template have it
+    std::vector<Candidate> m_candidates;
     Findings& m_findings;
 };
 
@@ -161,8 +172,20 @@ private:
 Findings AgainstLint::run(const LintedTemplate& newer, const LintedTemplate& older)
 {
     Findings findings;
-    Comparison comparison(newer, findings);
-    for (const LintedSection& section : older.sections())
-        comparison.compare(section);
+    if (!newer.tooLarge().empty())
+        return findings; // which is told, and nothing is read of it
+    const bool hasRules = newer.document()["configDescription"].isMember("ruleDescription");
+    const std::string around =
+        hasRules ? "/configDescription/ruleDescription" : "/configDescription";
+    const auto& sections = newer.sections();
+    for (const LintedSection& section : older.sections()) {
+        const auto same =
+            std::find_if(sections.begin(), sections.end(), [&section](const LintedSection& other) {
+                return other.name == section.name;
+            });
+        Comparison(section, same == sections.end() ? nullptr : &*same, older.skeleton(), around,
+                   findings)
+            .run();
+    }
     return findings;
 }

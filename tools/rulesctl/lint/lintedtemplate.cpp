@@ -1,6 +1,8 @@
 #include "tools/rulesctl/lint/lintedtemplate.h"
 
 #include "Protocol/datatemplate.h"
+#include "Protocol/entrywriter.h"
+#include "Protocol/jsonpath.h"
 #include "Protocol/placecheck.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -30,7 +32,15 @@ bool LintedSection::isPerLane() const
     return data && data->getSceneType() != type;
 }
 
-LintedTemplate::LintedTemplate(Value document) : m_document(std::move(document))
+Value LintedSection::prototype(const Value* skeleton) const
+{
+    const JsonPath parent((*json)["parent"].asString());
+    return EntryWriter(*data, QString::fromStdString(name))
+        .prototype(skeleton ? parent.firstEntryIn(*skeleton) : nullptr);
+}
+
+LintedTemplate::LintedTemplate(Value document, int algorithmId)
+    : m_document(std::move(document)), m_algorithmId(algorithmId)
 {
     TemplateReader reader(m_document);
     m_scenes = reader.read();

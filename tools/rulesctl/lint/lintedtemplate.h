@@ -35,14 +35,17 @@ struct LintedSection {
     const LintedControl* find(const QString& key) const;
     /// Whether it is the section of rules, and each lane has one.
     bool isPerLane() const;
+    /// What its entries start as when a save writes them into @p skeleton, null for none. There has
+    /// to be a scene.
+    kql::Json::Value prototype(const kql::Json::Value* skeleton) const;
 };
 
 /// A template document beside the scenes that the reader makes of it, for checks to judge.
 class LintedTemplate
 {
 public:
-    /// @p document has "configDescription".
-    explicit LintedTemplate(kql::Json::Value document);
+    /// @p document has "configDescription"; @p algorithmId is that of RuleParser.
+    explicit LintedTemplate(kql::Json::Value document, int algorithmId = 0);
     ~LintedTemplate();
     LintedTemplate(const LintedTemplate&) = delete;
     LintedTemplate& operator=(const LintedTemplate&) = delete;
@@ -54,6 +57,7 @@ public:
     /// Null where the template has none.
     const kql::Json::Value* skeleton() const { return m_document.find("configTemplate"); }
     const std::vector<LintedSection>& sections() const { return m_sections; }
+    int algorithmId() const { return m_algorithmId; }
     /// Of what the template has more than the reader takes. There are no scenes then.
     const std::vector<const kql::Json::Value*>& tooLarge() const { return m_tooLarge; }
 
@@ -64,6 +68,7 @@ private:
     RuleData* sceneOf(SceneType type) const;
 
     kql::Json::Value m_document;
+    int m_algorithmId;
     TemplateReader::Scenes m_scenes;
     std::vector<const kql::Json::Value*> m_tooLarge;
     std::vector<LintedSection> m_sections;

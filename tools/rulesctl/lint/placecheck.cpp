@@ -66,15 +66,35 @@ void tell(const LintedControl& control, const PlaceFault& fault, const Value& pr
                                  .arg(FindingMaker::quoted(fault.path->text())));
 }
 
+/// An attribute that the module names itself has no place in the template but its section's.
+void tellBuiltIn(const LintedSection& section, const RuleProtocolItem& item, Findings& findings)
+{
+    const Value* const parent = section.json->find("parent");
+    FindingMaker::add(findings, "place-unwritable",
+                      parent ? section.pointer + "/parent" : section.pointer,
+                      parent ? *parent : Value(),
+                      QStringLiteral("%1 is not saved: the skeleton's first entry has something "
+                                     "else in its place")
+                          .arg(FindingMaker::quoted(item.path().text())));
+}
+
 void judge(const LintedSection& section, const Value& skeleton, Findings& findings)
 {
     const EntryWriter writer(*section.data, QString::fromStdString(section.name));
-    const JsonPath parent((*section.json)["parent"].asString());
-    const Value prototype = writer.prototype(parent.firstEntryIn(skeleton));
+    const Value prototype = section.prototype(&skeleton);
+    const auto faultOf = [&](const RuleProtocolItem& item) {
+        return PlaceCheck::faultOf(*section.data, item, writer, prototype);
+    };
+    for (const auto& item : section.dataTemplate()->items()) {
+        const bool isBuiltIn =
+            section.controls.empty() && item->templateName().toStdString() == section.name;
+        if (isBuiltIn && faultOf(*item).kind != PlaceFault::Kind::None)
+            tellBuiltIn(section, *item, findings);
+    }
     for (const LintedControl& control : section.controls) {
         if (!control.item || !(*control.json)["protocol"]["name"].isString())
             continue;
-        const PlaceFault fault = PlaceCheck::faultOf(*control.item, writer, prototype);
+        const PlaceFault fault = faultOf(*control.item);
         const bool isTold = fault.kind == PlaceFault::Kind::NoType && !isSure(control);
         if (fault.kind != PlaceFault::Kind::None && !isTold)
             tell(control, fault, prototype, findings);

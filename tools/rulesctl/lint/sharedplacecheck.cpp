@@ -1,51 +1,27 @@
 #include "tools/rulesctl/lint/checks.h"
 
+#include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
-#include "Protocol/entrywriter.h"
-#include "Protocol/jsonpath.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/rules/rulesprotocol.h"
 #include "tools/rulesctl/lint/conditions.h"
+#include "tools/rulesctl/lint/entryplace.h"
 #include "tools/rulesctl/lint/findingmaker.h"
 #include "tools/rulesctl/lint/lintedtemplate.h"
 
 #include <algorithm>
 #include <map>
-#include <tuple>
 
 using kql::Json::Value;
 
 namespace
 {
 
-/// A place in an entry in the one form of all its spellings.
-struct Place {
-    const Value* field; ///< null where the entry has none yet, which its name then stands for
-    QString name;
-    int index; ///< -1 for the field as a whole
-
-    bool operator<(const Place& other) const
-    {
-        return std::tie(field, name, index) < std::tie(other.field, other.name, other.index);
-    }
-};
-
-/// An index counts where there is a list or, in the place of null, will be one.
-Place placeOf(const RuleProtocolItem& item, const Value& prototype)
-{
-    const JsonPath& path = item.path();
-    const Value* const field = path.find(prototype);
-    QString name;
-    if (!field)
-        name = path.text().endsWith(QLatin1String("[]")) ? path.text().chopped(2) : path.text();
-    const bool isList = field && field->isArray();
-    const bool isOpen = !field || field->isNull();
-    const int index = isList ? std::max(item.index(), -1) : isOpen ? std::max(item.index(), 0) : -1;
-    return {field, name, item.isFigure() ? -1 : index};
-}
-
+/// What lies in a place.
 struct Sharer {
     const LintedControl* control;
     Conditions::Chain conditions;
+    QString name;
 };
 
 /// Figures are written whether they apply or not.
@@ -55,39 +31,85 @@ bool areApart(const Sharer& one, const Sharer& other)
     return !isFigure && Conditions::exclude(one.conditions, other.conditions);
 }
 
-void judge(const LintedSection& section, const Value& skeleton, Findings& findings)
+/// What every rule has besides its attributes, where @p path leads into that; null elsewhere.
+QString builtInAt(const JsonPath& path, bool areTyped)
 {
-    Conditions conditions(*section.dataTemplate());
-    const EntryWriter writer(*section.data, QString::fromStdString(section.name));
-    const JsonPath parent((*section.json)["parent"].asString());
-    const Value prototype = writer.prototype(parent.firstEntryIn(skeleton));
-    std::map<Place, std::vector<Sharer>> known;
-    for (const LintedControl& control : section.controls) {
-        if (!control.item || control.item->path().text().isEmpty())
-            continue;
-        const Sharer sharer{&control, conditions.of(*control.item)};
-        auto& others = known[placeOf(*control.item, prototype)];
+    const auto& parts = path.parts();
+    const std::string& first = parts.front().name;
+    if (first == ConfigMember::kName)
+        return QStringLiteral("the rule's name");
+    if (first == ConfigMember::kEnable)
+        return QStringLiteral("the rule's switch");
+    const bool isType = first == ConfigMember::kConfig && !parts.front().isArray &&
+                        parts.size() > 1 && parts[1].name == ConfigMember::kType;
+    return isType && areTyped ? QStringLiteral("the algorithm's code") : QString();
+}
+
+/// Finds what shares a place in the entries of one section.
+class SharedPlaces
+{
+public:
+    SharedPlaces(const LintedTemplate& linted, const LintedSection& section, Findings& findings)
+        : m_hasMembers(section.type == SceneType::Rules),
+          m_areTyped(RulesProtocol::isTyped(linted.algorithmId())),
+          m_prototype(section.prototype(linted.skeleton())),
+          m_conditions(*section.dataTemplate()),
+          m_findings(findings)
+    {
+    }
+
+    void judge(const LintedControl& control)
+    {
+        const RuleProtocolItem& item = *control.item;
+        const QString builtIn = m_hasMembers ? builtInAt(item.path(), m_areTyped) : QString();
+        if (!builtIn.isNull())
+            return add(control, builtIn + QStringLiteral(" lies there, and is written last"));
+        const QString key = FindingMaker::quoted(item.key());
+        place(EntryPlace::of(item, m_prototype), {&control, m_conditions.of(item), key});
+        if (item.drawType() == BaseDrawType::Parallelogram)
+            place(EntryPlace::of(ConfigMember::directionPath(), m_prototype),
+                  {&control, {}, QStringLiteral("the direction of ") + key});
+    }
+
+private:
+    void place(const EntryPlace& place, Sharer sharer)
+    {
+        auto& others = m_known[place];
         const auto other = std::find_if(others.begin(), others.end(), [&](const Sharer& before) {
             return !areApart(sharer, before);
         });
         if (other != others.end())
-            FindingMaker::add(
-                findings, "place-shared", control.pointer + "/protocol/name",
-                (*control.json)["protocol"]["name"],
-                QStringLiteral("%1 lies there, too, and may apply at the same time")
-                    .arg(FindingMaker::quoted((*other->control->json)["key"].asString())));
-        others.push_back(sharer);
+            add(*sharer.control,
+                QStringLiteral("%1 and %2 lie in one place and may apply at the same time")
+                    .arg(sharer.name, other->name));
+        others.push_back(std::move(sharer));
     }
-}
+
+    void add(const LintedControl& control, const QString& message)
+    {
+        FindingMaker::add(m_findings, "place-shared", control.pointer + "/protocol/name",
+                          (*control.json)["protocol"]["name"], message);
+    }
+
+    const bool m_hasMembers;
+    const bool m_areTyped;
+    const Value m_prototype;
+    Conditions m_conditions;
+    std::map<EntryPlace, std::vector<Sharer>> m_known;
+    Findings& m_findings;
+};
 
 } // namespace
 
 void Checks::sharedPlaces(const LintedTemplate& linted, Findings& findings)
 {
-    const Value nothing;
-    const Value& skeleton = linted.skeleton() ? *linted.skeleton() : nothing;
     for (const LintedSection& section : linted.sections()) {
-        if (section.data)
-            judge(section, skeleton, findings);
+        if (!section.data)
+            continue;
+        SharedPlaces places(linted, section, findings);
+        for (const LintedControl& control : section.controls) {
+            if (control.item && !control.item->path().text().isEmpty())
+                places.judge(control);
+        }
     }
 }
