@@ -119,7 +119,7 @@ void TstLintCommand::comparesWithAnOlderTemplate()
     QCOMPARE(back.status, RulesctlProgram::Differs);
 }
 
-/// Lint says where, other commands that they cannot go on.
+/// Lint says where, and what it did not read therefore; other commands say that they cannot go on.
 void TstLintCommand::tellsOfTooMuch()
 {
     const QString large = kFixtures + "limit/choices.json";
@@ -127,7 +127,17 @@ void TstLintCommand::tellsOfTooMuch()
     QVERIFY2(found.out.contains("[limit]"), qPrintable(found.out));
     QCOMPARE(found.status, RulesctlProgram::Differs);
     const QStringList config{"--config", ExampleFiles::folder() + "config.json"};
-    QCOMPARE(m_program.run(lint(large) + config).status, RulesctlProgram::Unusable);
+    const Outcome unread = m_program.run(lint(large) + config);
+    QVERIFY2(unread.said.startsWith(config.last() + ": not read: "), qPrintable(unread.said));
+    QCOMPARE(unread.status, RulesctlProgram::Differs);
+    const QString twin = kFixtures + "limit/choices.twin.json";
+    const Outcome newer = m_program.run(lint(large) + QStringList{"--against", twin});
+    QCOMPARE(newer.out, found.out);
+    const Outcome older = m_program.run(lint(twin) + QStringList{"--against", large});
+    QCOMPARE(older.said, large + ": the template is too large\n");
+    QCOMPARE(older.status, RulesctlProgram::Unusable);
+    QCOMPARE(m_program.run(lint(large) + QStringList{"--jsonl"}, "{}\n").status,
+             RulesctlProgram::Unusable);
     QCOMPARE(m_program.run(QStringList{"check", "--template", large} + config).status,
              RulesctlProgram::Unusable);
 }

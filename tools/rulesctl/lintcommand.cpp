@@ -29,6 +29,8 @@ struct ReadTemplate {
     QByteArray text;
     TemplateDocument document;
     std::unique_ptr<LintedTemplate> linted;
+
+    bool isUsable() const { return linted->tooLarge().empty(); }
 };
 
 struct Counts {
@@ -175,7 +177,7 @@ ExitStatus lintFiles(const ReadTemplate& read, const Findings& findings, const A
     const bool isColoured = !isJson && output.isColoured();
     Counts counts;
     counts.add(findings);
-    const bool isUsable = read.linted->tooLarge().empty();
+    const bool isUsable = read.isUsable();
     FleetRun run(
         FileList::of(arguments.words("config")),
         [&, isUsable] { return workWith(read.document, isUsable, isJson, isColoured, counts); },
@@ -185,7 +187,9 @@ ExitStatus lintFiles(const ReadTemplate& read, const Findings& findings, const A
     output.write(isJson ? beginning(read.document.file, findings)
                         : toLines(findings, read.document.file, isColoured));
     const ExitStatus ofTemplate = findings.empty() ? ExitStatus::Clean : ExitStatus::Differs;
-    const ExitStatus status = worst(ofTemplate, run.run());
+    const ExitStatus ofFiles = run.run();
+    // What keeps configurations from being read was found in the template, and none of them is bad.
+    const ExitStatus status = isUsable ? worst(ofTemplate, ofFiles) : ofTemplate;
     if (isJson)
         output.write(ending(counts));
     run.tellSummary(
@@ -221,16 +225,18 @@ ExitStatus run(const Arguments& arguments, Output& output)
     const auto read = readTemplate(arguments.word("template"), algorithm, error);
     if (!read)
         return refuse(error);
-    if (arguments.isSet("jsonl")) {
-        return read->linted->tooLarge().empty()
-                   ? lintLines(*read, output)
-                   : refuse({read->document.file, 0, 0, QStringLiteral("it is too large")});
-    }
+    const auto refuseAsLarge = [](const ReadTemplate& large) {
+        return refuse({large.document.file, 0, 0, QStringLiteral("the template is too large")});
+    };
+    if (arguments.isSet("jsonl"))
+        return read->isUsable() ? lintLines(*read, output) : refuseAsLarge(*read);
     Findings more;
     if (arguments.isSet(kAgainst)) {
         const auto older = readTemplate(arguments.word(kAgainst), algorithm, error);
         if (!older)
             return refuse(error);
+        if (!older->isUsable())
+            return refuseAsLarge(*older);
         more = AgainstLint::run(*read->linted, *older->linted);
     }
     return lintFiles(*read, TemplateLint::run(*read->linted, viewOf(read->text), more), arguments,
