@@ -18,13 +18,6 @@ namespace
 // Algorithms with this id tell their rules apart by "Config"."Type".
 constexpr int kTypedAlgorithm = 1;
 
-void writeAlgorithm(const QString& name, Value& json)
-{
-    Value& config = json[ConfigMember::kConfig];
-    if (config.isNull() || config.isObject())
-        config[ConfigMember::kType] = Value(name);
-}
-
 } // namespace
 
 void GlobalProtocol::read(RuleData& data, const Value& document) const
@@ -74,6 +67,15 @@ bool RulesProtocol::isTyped(int algorithmId)
     return algorithmId == kTypedAlgorithm;
 }
 
+bool RulesProtocol::writeType(const QString& algorithmName, Value& json)
+{
+    Value& config = json[ConfigMember::kConfig];
+    if (!config.isNull() && !config.isObject())
+        return false;
+    config[ConfigMember::kType] = Value(algorithmName);
+    return true;
+}
+
 void RulesProtocol::writeRuleMembers(const RuleData& data, const WriteContext& context,
                                      std::vector<Value>& entries)
 {
@@ -85,6 +87,6 @@ void RulesProtocol::writeRuleMembers(const RuleData& data, const WriteContext& c
         const Value* enabled = entry.enabledAsRead();
         json[ConfigMember::kEnable] = enabled ? *enabled : Value(entry.isEnabled());
         if (isTyped(context.algorithmId))
-            writeAlgorithm(context.algorithmName, json);
+            writeType(context.algorithmName, json);
     }
 }

@@ -42,6 +42,8 @@ public:
 
     /// Whether algorithms with this id have each rule's "Config"."Type" set.
     static bool isTyped(int algorithmId);
+    /// Sets that of the rule @p json; false where something else than an object is in its way.
+    static bool writeType(const QString& algorithmName, kql::Json::Value& json);
     /// Sets in @p entries, one for each entry of @p data, what every rule has besides its
     /// attributes.
     static void writeRuleMembers(const RuleData& data, const WriteContext& context,

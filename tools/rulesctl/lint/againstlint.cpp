@@ -62,6 +62,8 @@ public:
 
     void run()
     {
+        if (parentOf(m_older).isEmpty())
+            return; // nothing was read of it, nor saved
         for (const LintedControl& control : m_older.controls) {
             if (control.item && !control.item->path().text().isEmpty())
                 compareControl(control);
@@ -131,8 +133,6 @@ private:
     void compareParent()
     {
         const Value& parent = (*m_older.json)["parent"];
-        if (parentOf(m_older).isEmpty())
-            return;
         if (!m_newer)
             add("value-dropped", m_around, parent,
                 QStringLiteral("the section %1 is gone")

@@ -5,6 +5,7 @@
 #include "Protocol/jsonpath.h"
 #include "Protocol/placecheck.h"
 #include "Protocol/ruleprotocolitem.h"
+#include "Protocol/rules/rulesprotocol.h"
 #include "tools/rulesctl/lint/findingmaker.h"
 #include "tools/rulesctl/lint/lintedtemplate.h"
 
@@ -66,8 +67,8 @@ void tell(const LintedControl& control, const PlaceFault& fault, const Value& pr
                                  .arg(FindingMaker::quoted(fault.path->text())));
 }
 
-/// An attribute that the module names itself has no place in the template but its section's.
-void tellBuiltIn(const LintedSection& section, const RuleProtocolItem& item, Findings& findings)
+/// What the module names itself has no place in the template but its section's.
+void tellBuiltIn(const LintedSection& section, const QString& path, Findings& findings)
 {
     const Value* const parent = section.json->find("parent");
     FindingMaker::add(findings, "place-unwritable",
@@ -75,7 +76,14 @@ void tellBuiltIn(const LintedSection& section, const RuleProtocolItem& item, Fin
                       parent ? *parent : Value(),
                       QStringLiteral("%1 is not saved: the skeleton's first entry has something "
                                      "else in its place")
-                          .arg(FindingMaker::quoted(item.path().text())));
+                          .arg(FindingMaker::quoted(path)));
+}
+
+/// The code that algorithms of a type have in each rule.
+void judgeType(const LintedSection& section, Value prototype, Findings& findings)
+{
+    if (!RulesProtocol::writeType({}, prototype))
+        tellBuiltIn(section, QStringLiteral("Config.Type"), findings);
 }
 
 void judge(const LintedSection& section, const Value& skeleton, Findings& findings)
@@ -89,7 +97,7 @@ void judge(const LintedSection& section, const Value& skeleton, Findings& findin
         const bool isBuiltIn =
             section.controls.empty() && item->templateName().toStdString() == section.name;
         if (isBuiltIn && faultOf(*item).kind != PlaceFault::Kind::None)
-            tellBuiltIn(section, *item, findings);
+            tellBuiltIn(section, item->path().text(), findings);
     }
     for (const LintedControl& control : section.controls) {
         if (!control.item || !(*control.json)["protocol"]["name"].isString())
@@ -106,7 +114,10 @@ void judge(const LintedSection& section, const Value& skeleton, Findings& findin
 void Checks::places(const LintedTemplate& linted, Findings& findings)
 {
     for (const LintedSection& section : linted.sections()) {
-        if (section.data && linted.skeleton())
-            judge(section, *linted.skeleton(), findings);
+        if (!section.data || !linted.skeleton())
+            continue;
+        judge(section, *linted.skeleton(), findings);
+        if (section.type == SceneType::Rules && RulesProtocol::isTyped(linted.algorithmId()))
+            judgeType(section, section.prototype(linted.skeleton()), findings);
     }
 }
