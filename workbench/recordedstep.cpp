@@ -174,6 +174,14 @@ Value waitForPicture()
     return result;
 }
 
+bool needsPicture(const Value& step)
+{
+    static const QStringList arrows{QStringLiteral("Left"), QStringLiteral("Right"),
+                                    QStringLiteral("Up"), QStringLiteral("Down")};
+    const QString key = step["keys"].asString().section(QLatin1Char('+'), -1);
+    return step.isMember("at") || arrows.contains(key);
+}
+
 Value button(const PanelFinder& finder, const QAbstractButton& button)
 {
     QWidget* panel = panelAround(button);

@@ -32,6 +32,8 @@ Value onPicture(const char* name, const QPoint& position, const QRect& picture);
 /// Of the two positions as onPicture() writes them.
 Value drag(const Value& from, const Value& to);
 Value waitForPicture();
+/// Whether @p step would do something else, or nothing, while there is no picture yet.
+bool needsPicture(const Value& step);
 
 /// What pressing @p button does: save, cancel, pick, enable or click; null for other buttons and
 /// for those of rows. To be asked before the press takes effect on the other widgets.

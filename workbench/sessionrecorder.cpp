@@ -465,10 +465,10 @@ void SessionRecorder::recordSize()
 
 void SessionRecorder::append(const Value& step)
 {
-    const bool isOnPicture = step.isMember("at");
-    if (isOnPicture && !m_pictureAwaited)
+    const bool needsPicture = RecordedStep::needsPicture(step);
+    if (needsPicture && !m_pictureAwaited)
         emit sgnStep(RecordedStep::waitForPicture());
-    m_pictureAwaited = m_pictureAwaited || isOnPicture;
+    m_pictureAwaited = m_pictureAwaited || needsPicture;
     emit sgnStep(step);
     m_last = step;
 }

@@ -59,10 +59,12 @@ QString text(Step step, int position)
     return step[position].asString();
 }
 
-/// A button of the "window"; or of a section the button of the entry at a position, or the widget
-/// of a name, in which another one may be named or told by its value.
+/// The "picture"; a button of the "window"; or of a section the button of the entry at a position,
+/// or the widget of a name, in which another one may be named or told by its value.
 QWidget* target(Bench& bench, Step place)
 {
+    if (text(place, 0) == "picture")
+        return bench.surface();
     if (text(place, 0) == "window")
         return bench.button(qPrintable(text(place, 1)));
     if (place[1].isNumeric())
