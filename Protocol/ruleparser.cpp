@@ -103,6 +103,7 @@ bool RuleParser::parseTemplate(Value document, QString& why)
     m_data.clear();
     m_textPerEntry.clear();
     m_hasAllPlaces.reset();
+    m_saveLength.reset();
     m_templateDocument = Value();
     m_configuration = Value();
     m_notices.clear();
@@ -187,7 +188,7 @@ void RuleParser::findLosses()
         PlaceCheck::tell(*scene, *skeleton);
         Misfit::tell(*scene);
     }
-    if (!m_configuration.empty() && writeData(written))
+    if (!m_configuration.empty() && !write(written))
         m_notices = DocumentLoss(m_data, m_configuration, written).tell();
     for (const QString& notice : notices())
         kql::DPrintLog::instance()->Log("IntelligentRulesUI", kLogLevel, "RuleParser::findLosses",
@@ -238,7 +239,7 @@ bool RuleParser::isReadWhole(QString& why)
 
 bool RuleParser::writeData(Value& config, QString& why) const
 {
-    const auto refusal = write(config);
+    const auto refusal = writeForMessage(config);
     if (refusal)
         why = refusal->why;
     return !refusal;
@@ -246,10 +247,22 @@ bool RuleParser::writeData(Value& config, QString& why) const
 
 std::optional<RuleParser::WriteRefusal> RuleParser::writeRefusal() const
 {
-    if (hasAllPlaces())
+    if (hasAllPlaces() && isSurelyShort())
         return std::nullopt;
     Value written;
-    return write(written);
+    return writeForMessage(written);
+}
+
+bool RuleParser::isSurelyShort() const
+{
+    if (!m_saveLength)
+        m_saveLength.emplace(m_templateDocument, m_data);
+    return m_saveLength->isSurelyShort(m_data, m_configuration, m_algorithmName.toUtf8().size());
+}
+
+QString RuleParser::tooLongText()
+{
+    return tr("The configuration is too long.");
 }
 
 /// Whether each section has a place of its own, outside of all others: whatever the entries are,
@@ -271,7 +284,8 @@ bool RuleParser::hasAllPlaces() const
         return isApart && !path.isEmpty() && !path.contains(kList) &&
                JsonPath(parent).create(places);
     };
-    bool hasAll = m_templateDocument.isMember("configTemplate");
+    bool hasAll =
+        m_templateDocument.isMember("configTemplate") && (places.isObject() || places.isNull());
     for (const auto& scene : m_data) {
         for (const TemplateSection& section : scene->getTemplate()->sections())
             hasAll = hasAll && takes(section.parent);
@@ -284,9 +298,9 @@ std::optional<RuleParser::WriteRefusal> RuleParser::write(Value& config) const
 {
     const Value& document = m_templateDocument;
     const Value* const skeleton = document.find("configTemplate");
-    if (!skeleton)
+    if (!skeleton || !(skeleton->isObject() || skeleton->isNull()))
         return WriteRefusal{{}, tr("The template has no \"configTemplate\" to write into.")};
-    Value written = *skeleton;
+    Value written = skeleton->isNull() ? Value(kql::Json::ValueType::Object) : *skeleton;
     const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
     std::vector<const RuleData*> scenes;
     for (const auto& scene : m_data)
@@ -296,6 +310,17 @@ std::optional<RuleParser::WriteRefusal> RuleParser::write(Value& config) const
         if (auto refusal = writeScene(*scene, context, written))
             return refusal;
     }
+    config = std::move(written);
+    return std::nullopt;
+}
+
+std::optional<RuleParser::WriteRefusal> RuleParser::writeForMessage(Value& config) const
+{
+    Value written;
+    if (auto refusal = write(written))
+        return refusal;
+    if (SaveLength::isTooLong(written))
+        return WriteRefusal{{}, tooLongText()};
     config = std::move(written);
     return std::nullopt;
 }

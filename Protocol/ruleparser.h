@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/ruletypes.h"
+#include "Protocol/savelength.h"
 #include "host/json/value.h"
 
 #include <QCoreApplication>
@@ -60,8 +61,9 @@ public:
     /// Lets go of what was read, so that the same template takes another configuration.
     void forgetData();
     /// The configuration with the edited data; false when the template carries no
-    /// "configTemplate" to write into, or that has no place for the entries of a scene. @p why
-    /// then says so in a sentence; @p config stays as it is.
+    /// "configTemplate" to write into, or that has no place for the entries of a scene, or when
+    /// what is written is too long for a message. @p why then says so in a sentence; @p config
+    /// stays as it is.
     bool writeData(kql::Json::Value& config, QString& why) const;
     bool writeData(kql::Json::Value& config) const;
     bool writeData(QString& text) const;
@@ -72,8 +74,10 @@ public:
         QString why;     ///< a sentence
     };
     /// What writeData() would say now, found without writing where the template has undoubted
-    /// places for all; nothing when it would write.
+    /// places for all and the text is surely short; nothing when it would write.
     std::optional<WriteRefusal> writeRefusal() const;
+    /// The sentence for a message without room for the configuration.
+    static QString tooLongText();
 
     /// Compares what was read with one trial write of it, for notices() and for what rows mark. To
     /// be asked once, after a configuration was read and before anything is edited or shown.
@@ -97,9 +101,12 @@ private:
     qint64 textPerEntry(const RuleData& scene) const;
     bool isReadWhole(QString& why);
     std::optional<WriteRefusal> write(kql::Json::Value& config) const;
+    /// write() of what a message has room for.
+    std::optional<WriteRefusal> writeForMessage(kql::Json::Value& config) const;
     static std::optional<WriteRefusal>
     writeScene(const RuleData& scene, const WriteContext& context, kql::Json::Value& document);
     bool hasAllPlaces() const;
+    bool isSurelyShort() const;
 
     kql::Json::Value m_templateDocument;
     kql::Json::Value m_configuration; ///< as read: what no template names is kept from here
@@ -111,4 +118,5 @@ private:
     // What the template alone decides, looked up when needed.
     mutable QHash<const RuleData*, qint64> m_textPerEntry;
     mutable std::optional<bool> m_hasAllPlaces;
+    mutable std::optional<SaveLength> m_saveLength;
 };

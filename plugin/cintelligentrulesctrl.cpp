@@ -686,7 +686,7 @@ bool CIntelligentRulesCtrl::postResult()
     QString why;
     bool isWritten = m_parser->writeData(config, why);
     if (isWritten && !postSaved(m_widgetId, m_parameters, std::move(config))) {
-        why = tr("The configuration is too long.");
+        why = RuleParser::tooLongText();
         isWritten = false;
     }
     if (!isWritten)

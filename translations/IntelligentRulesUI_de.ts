@@ -328,10 +328,6 @@
         <translation>Die Dokumente sind zu lang.</translation>
     </message>
     <message>
-        <source>The configuration is too long.</source>
-        <translation>Die Konfiguration ist zu lang.</translation>
-    </message>
-    <message>
         <source>Undo: %1 (Ctrl+Z)</source>
         <translation>Rückgängig: %1 (Strg+Z)</translation>
     </message>
@@ -880,6 +876,10 @@
     <message>
         <source>The template has no &quot;configTemplate&quot; to write into.</source>
         <translation>In der Vorlage fehlt &quot;configTemplate&quot;, in das geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>The configuration is too long.</source>
+        <translation>Die Konfiguration ist zu lang.</translation>
     </message>
     <message>
         <source>The template has no place &quot;%1&quot; for what is set under &quot;%2&quot;.</source>

@@ -328,10 +328,6 @@
         <translation>文档过长。</translation>
     </message>
     <message>
-        <source>The configuration is too long.</source>
-        <translation>配置过长。</translation>
-    </message>
-    <message>
         <source>Undo: %1 (Ctrl+Z)</source>
         <translation>撤销：%1 (Ctrl+Z)</translation>
     </message>
@@ -880,6 +876,10 @@
     <message>
         <source>The template has no &quot;configTemplate&quot; to write into.</source>
         <translation>模板中缺少用于写入的“configTemplate”。</translation>
+    </message>
+    <message>
+        <source>The configuration is too long.</source>
+        <translation>配置过长。</translation>
     </message>
     <message>
         <source>The template has no place &quot;%1&quot; for what is set under &quot;%2&quot;.</source>

@@ -70,6 +70,8 @@ private slots:
     void answersAsTheWindowDoes_data();
     void answersAsTheWindowDoes();
     void findsWhatCannotBeWritten();
+    void refusesWhatTheWindowDoesNotSend_data();
+    void refusesWhatTheWindowDoesNotSend();
 };
 
 void TstLikeWindow::answersAsTheWindowDoes_data()
@@ -141,6 +143,52 @@ void TstLikeWindow::findsWhatCannotBeWritten()
         if (refusal)
             QCOMPARE(refusal->why, why);
     }
+}
+
+void TstLikeWindow::refusesWhatTheWindowDoesNotSend_data()
+{
+    QTest::addColumn<QByteArray>("skeleton");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("why");
+    const QString noSkeleton = R"(The template has no "configTemplate" to write into.)";
+    QTest::newRow("number to write into") << QByteArray("5") << QByteArray() << noSkeleton;
+    QTest::newRow("list to write into") << QByteArray("[]") << QByteArray() << noSkeleton;
+    QTest::newRow("null to write into") << QByteArray("null") << QByteArray() << QString();
+    // A line for each number, indented by 128.
+    QTest::newRow("text that is too long")
+        << QByteArray("{}") << '[' + QByteArray("1,").repeated(2'500'000) + "1]"
+        << "The configuration is too long.";
+}
+
+void TstLikeWindow::refusesWhatTheWindowDoesNotSend()
+{
+    QFETCH(const QByteArray, skeleton);
+    QFETCH(const QByteArray, name);
+    QFETCH(const QString, why);
+    constexpr int kDeep = 32;
+    const QByteArray path = QByteArray("D.").repeated(kDeep) + "Rules[]";
+    const QByteArray rulesTemplate =
+        R"({"configDescription": {"ruleDescription": {"rules": {"parent": ")" + path +
+        R"("}}}, "configTemplate": )" + skeleton + '}';
+    const QByteArray config = name.isEmpty() ? "{}"
+                                             : QByteArray(R"({"D":)").repeated(kDeep) +
+                                                   R"({"Rules":[{"Name":)" + name + "}]" +
+                                                   QByteArray(kDeep + 1, '}');
+    RulesWindow window;
+    window.window->setData(SampleDocuments::block(R"("channalId": "C7")", config, rulesTemplate),
+                           5);
+    window.save();
+    QCOMPARE(window.find<QLabel>("lblHint")->text(),
+             why.isEmpty() ? QString() : "Nothing was saved. " + why);
+    QCOMPARE(window.mailbox.take().size(), why.isEmpty() ? 1 : 0);
+    LoadedRules rules({"", Mailbox::json(rulesTemplate), {}});
+    QString told;
+    QVERIFY(rules.load(Mailbox::json(config), told));
+    const auto failures = SaveFailure::of(rules);
+    QCOMPARE(failures.empty() ? QString() : failures.front().message, why);
+    Value written;
+    QCOMPARE(rules.parser().writeData(written, told), why.isEmpty());
+    QVERIFY(why.isEmpty() ? written.isObject() : told == why);
 }
 
 QTEST_MAIN(TstLikeWindow)
