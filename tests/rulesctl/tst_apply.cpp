@@ -44,6 +44,7 @@ private slots:
     void rolls();
     void lanes();
     void results();
+    void leavesAloneWhatIsThere();
     void manyFiles();
     void refusals_data();
     void refusals();
@@ -122,6 +123,35 @@ void TestApply::results()
     QCOMPARE(alone["Rules"].size(), 1);
     QVERIFY(whole["channelAbilityPO"] == alone);
     QCOMPARE(whole["algorithmId"].asInt(), 3);
+}
+
+/// Also where the skeleton's values are read in another way than they are written.
+void TestApply::leavesAloneWhatIsThere()
+{
+    Value rulesTemplate = Fixtures::read("rulesctl/template.json");
+    Value& skeleton = rulesTemplate["configTemplate"]["Rules"][0];
+    skeleton["Kind"] = 0;
+    skeleton["What"][0] = true;
+    const QString file = m_program.file("config.json", named({"Yard"}));
+    const QStringList words{"apply",
+                            "--template",
+                            m_program.file("odd.json", rulesTemplate.toStyledText().toUtf8()),
+                            "--from",
+                            m_program.file("from.json", named({"Gate"})),
+                            "--entries",
+                            "Gate",
+                            "--config",
+                            file,
+                            "--in-place"};
+    QCOMPARE(m_program.run(words).status, 0);
+    const QByteArray written = m_program.contentOf("config.json");
+    QVERIFY(RulesctlProgram::parsed(written)["Rules"][0]["Kind"].isInt());
+    for (const QStringList& more : {QStringList(), QStringList("--rename")}) {
+        const auto again = m_program.run(words + more);
+        QCOMPARE(again.status, 0);
+        QCOMPARE(again.out, QString());
+        QCOMPARE(m_program.contentOf("config.json"), written);
+    }
 }
 
 void TestApply::manyFiles()

@@ -97,11 +97,12 @@ FileAnswer RolledFiles::Worker::roll(const QString& file)
     if (!why.isEmpty())
         return leftAlone(file, why);
     const ConfigDiff diff(m_before.compared(), m_after.compared());
+    const bool isThere = diff.changes().empty() && written == m_before.written();
     const QByteArray alone = textOf(written);
     const QByteArray whole = textOf(std::move(*document).with(std::move(written)));
     if (alone.isEmpty() || whole.isEmpty())
         return leftAlone(file, QStringLiteral("The configuration is too long."));
-    m_files.keep(file, {alone, whole});
+    m_files.keep(file, {alone, whole, isThere});
     return {DiffText::of(diff, file, file, m_isColoured).toUtf8(), {}, ExitStatus::Clean};
 }
 
@@ -154,7 +155,8 @@ void RolledFiles::keep(const QString& file, const Result& result)
     m_results.insert(file, result);
 }
 
-/// A file that is as it should be stays untouched.
+/// The save of a save may differ from it, as where it has a number of the skeleton in the place of
+/// a text: a file of which there is nothing to tell is not written again for that.
 QStringList RolledFiles::write(const std::function<QString(const QString& file)>& targetOf) const
 {
     QStringList complaints;
@@ -166,6 +168,8 @@ QStringList RolledFiles::write(const std::function<QString(const QString& file)>
         const bool isItself = OutputPlace::isSame(file, target);
         const QByteArray& content = isItself ? result->whole : result->alone;
         QString why;
+        if (isItself && result->isThere)
+            continue;
         if (!isContent(target, content) && !WholeFile::write(target, content, why))
             complaints.append(why);
     }

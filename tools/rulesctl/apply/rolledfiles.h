@@ -39,8 +39,8 @@ public:
     FleetRun::Work makeWork(bool isColoured);
 
     /// Writes what came of each file to where @p targetOf says: the configuration alone, but where
-    /// that is the file itself, all of its document. Returns a line for each that could not be
-    /// written.
+    /// that is the file itself, all of its document. A file that says all of it already
+    /// stays untouched. Returns a line for each that could not be written.
     QStringList write(const std::function<QString(const QString& file)>& targetOf) const;
 
 private:
@@ -48,6 +48,7 @@ private:
     struct Result {
         QByteArray alone; ///< the configuration
         QByteArray whole; ///< with the result that it is in
+        bool isThere;     ///< the file says the same, if maybe not in the same text
     };
 
     void keep(const QString& file, const Result& result);
