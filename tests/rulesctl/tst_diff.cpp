@@ -41,6 +41,7 @@ private slots:
     void changes_data() { Fixtures::addRows("rulesctl/diffs.json"); }
     void changes();
     void examples();
+    void turned();
     void page();
     void lines();
     void refusals();
@@ -84,6 +85,19 @@ void TestDiff::examples()
         QCOMPARE(there.status, 1);
         QCOMPARE(there.out.count("  - "), back.out.count("  + "));
     }
+}
+
+void TestDiff::turned()
+{
+    const QString folder = ExampleFiles::folder("statistics");
+    Value config = RulesctlProgram::parsed(ExampleFiles::contentOf(folder + "config.json"));
+    Value& direction = config["PeopleCounting"]["Rules"][0]["Config"]["Direction"];
+    QVERIFY(direction.size() == 2 && direction[0] != direction[1]);
+    std::swap(direction[0], direction[1]);
+    const QString b = m_program.file("turned.json", text(config));
+    const auto outcome = m_program.run(diff(folder) + QStringList{folder + "config.json", b});
+    QVERIFY2(outcome.out.endsWith("Counting area is crossed in another direction\n"),
+             qPrintable(outcome.out));
 }
 
 /// Names are anybody's, and a page of them must neither run nor load anything.

@@ -19,7 +19,8 @@ struct Change {
     kql::Json::Value from = {};
     kql::Json::Value to = {};
     std::optional<double> by = {}; ///< way of a figure's farthest corner, in per cent of 8192
-    QString pointer = {};          ///< of Other, in the configuration that has it
+    bool isTurned = false; ///< of a parallelogram, which is only crossed in another direction
+    QString pointer = {};  ///< of Other, in the configuration that has it
     QString text = {};
     /// Whether a save tells the two apart by it. What no attribute names is the skeleton's then.
     bool isSaved = true;

@@ -60,6 +60,30 @@ QString choicesText(const Value& value, const RuleProtocolItem& item)
                            : ShortenedText::of(texts.join(QLatin1String(", ")), kLongestValue);
 }
 
+/// From the first character on in which it differs from @p other, when it is long.
+QString apart(const QString& text, const QString& other)
+{
+    const int most = std::min(text.size(), other.size());
+    const auto differs = std::mismatch(text.begin(), text.begin() + most, other.begin()).first;
+    const int same = static_cast<int>(differs - text.begin());
+    return same < kLongestValue / 2
+               ? ShortenedText::of(text, kLongestValue)
+               : QChar(0x2026) + ShortenedText::of(text.mid(same), kLongestValue);
+}
+
+/// "from … to …", with the values as documents have them where operators read the same of both, as
+/// of 15 and "15".
+QString fromTo(const Change& change, const QString& from, const QString& to)
+{
+    const auto sentence = QStringLiteral("from %1 to %2");
+    if (from != to)
+        return sentence.arg(from, to);
+    const QString was = change.from.toCompactText();
+    const QString is = change.to.toCompactText();
+    const auto both = QStringLiteral("%1 (%2)");
+    return sentence.arg(both.arg(from, apart(was, is)), both.arg(to, apart(is, was)));
+}
+
 QString corners(const Value& points)
 {
     return QString::number(points.size()) +
@@ -73,10 +97,15 @@ QString figureText(const Change& change)
         return QStringLiteral("%1 was drawn").arg(caption);
     if (change.to.isNull())
         return QStringLiteral("%1 is no longer there").arg(caption);
+    if (change.isTurned)
+        return QStringLiteral("%1 is crossed in another direction").arg(caption);
     if (!change.by)
         return QStringLiteral("%1 has %2 instead of %3")
             .arg(caption, corners(change.to), corners(change.from));
-    return QStringLiteral("%1 was moved by up to %2 %").arg(caption).arg(*change.by, 0, 'f', 1);
+    if (*change.by == 0) // rounded
+        return QStringLiteral("%1 was moved by less than 0.1 %").arg(caption);
+    return QStringLiteral("%1 was moved by up to %2 %")
+        .arg(caption, QString::number(*change.by, 'f', 1));
 }
 
 /// Of a section without buttons its key stands for the entry.
@@ -93,12 +122,18 @@ QString entryText(const Change& change)
     case Change::Kind::Removed:
         return QStringLiteral("was removed from place %1").arg(*change.a);
     case Change::Kind::Renamed:
-        return QStringLiteral("was called %1 before").arg(plain(change.from));
+        return plain(change.from) == plain(change.to)
+                   ? QStringLiteral("has its name changed ") +
+                         fromTo(change, plain(change.from), plain(change.to))
+                   : QStringLiteral("was called %1 before").arg(plain(change.from));
     case Change::Kind::Moved:
-        return QStringLiteral("was moved from place %1 to %2").arg(*change.a).arg(*change.b);
+        return *change.a == *change.b
+                   ? QStringLiteral("was moved past others, and is at place %1 as before")
+                         .arg(*change.b)
+                   : QStringLiteral("was moved from place %1 to %2").arg(*change.a).arg(*change.b);
     case Change::Kind::Enabled:
-        return QStringLiteral("was switched from %1 to %2")
-            .arg(switchText(change.from), switchText(change.to));
+        return QStringLiteral("was switched ") +
+               fromTo(change, switchText(change.from), switchText(change.to));
     default:
         return {};
     }
@@ -106,9 +141,9 @@ QString entryText(const Change& change)
 
 QString otherText(const Change& change)
 {
-    return QStringLiteral("%1 changed from %2 to %3 (%4)")
+    return QStringLiteral("%1 changed %2 (%3)")
         .arg(change.pointer.isEmpty() ? QStringLiteral("The document") : change.pointer,
-             plain(change.from), plain(change.to),
+             fromTo(change, plain(change.from), plain(change.to)),
              change.isSaved ? QStringLiteral("no row shows it")
                             : QStringLiteral("no attribute names it, and no save keeps it"));
 }
@@ -145,9 +180,10 @@ QString ChangeText::of(const Change& change, const RuleProtocolItem* item)
         return otherText(change);
     if (!item)
         return subject(change) + QLatin1Char(' ') + entryText(change);
-    const QString said = item->isFigure() ? figureText(change)
-                                          : QStringLiteral("%1 changed from %2 to %3")
-                                                .arg(change.caption, shown(change.from, *item),
-                                                     shown(change.to, *item));
+    const QString said = item->isFigure()
+                             ? figureText(change)
+                             : QStringLiteral("%1 changed %2")
+                                   .arg(change.caption, fromTo(change, shown(change.from, *item),
+                                                               shown(change.to, *item)));
     return subject(change) + QLatin1String(": ") + said;
 }

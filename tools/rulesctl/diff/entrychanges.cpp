@@ -135,5 +135,6 @@ std::optional<Change> EntryChanges::ofFigure(const RuleProtocolItem& item,
     one.from = PointConversion::toJson(from);
     one.to = PointConversion::toJson(to);
     one.by = farthestWay(from, to);
+    one.isTurned = isTurned;
     return one;
 }

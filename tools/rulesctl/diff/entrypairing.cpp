@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 
 using EntryPairing::Entries;
 using EntryPairing::Pair;
@@ -85,26 +86,32 @@ Pairs EntryPairing::pair(const Entries& a, const Entries& b)
     return pairing.pairs();
 }
 
-/// What is not in the longest sequence that has one order in both lists.
+/// What is not in the longest sequence that has one order in both lists; of equally long ones in
+/// that of which most are where they were.
 Pairs EntryPairing::moved(const Pairs& pairs)
 {
-    std::vector<std::size_t> ends; ///< of the sequences of each length, the smallest
-    std::vector<std::size_t> before(pairs.size());
+    using Worth = std::pair<int, int>; ///< length, and how many are where they were
+    constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+    std::vector<Worth> worths; ///< of the best sequence that ends with each
+    std::vector<std::size_t> before;
+    std::size_t last = kNone;
     for (std::size_t i = 0; i < pairs.size(); ++i) {
-        const auto end = std::lower_bound(
-            ends.begin(), ends.end(), pairs[i].first,
-            [&pairs](std::size_t at, int position) { return pairs[at].first < position; });
-        before[i] = end == ends.begin() ? i : *std::prev(end);
-        if (end == ends.end())
-            ends.push_back(i);
-        else
-            *end = i;
+        Worth best(0, 0);
+        std::size_t found = kNone;
+        for (std::size_t j = 0; j < i; ++j) {
+            if (pairs[j].first < pairs[i].first && worths[j] > best) {
+                best = worths[j];
+                found = j;
+            }
+        }
+        worths.emplace_back(best.first + 1, best.second + int(pairs[i].first == pairs[i].second));
+        before.push_back(found);
+        if (last == kNone || worths[i] >= worths[last])
+            last = i;
     }
     std::vector<bool> stays(pairs.size(), false);
-    for (std::size_t left = ends.size(), i = left ? ends.back() : 0; left > 0; --left) {
+    for (std::size_t i = last; i != kNone; i = before[i])
         stays[i] = true;
-        i = before[i];
-    }
     Pairs moved;
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         if (!stays[i])
