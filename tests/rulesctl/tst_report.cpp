@@ -45,8 +45,9 @@ void TestReport::prepareTest()
 /// One after another, whatever the names say.
 void TestReport::cards()
 {
+    const QString again = "fleet/../fleet/c.json";
     const auto outcome =
-        m_program.run(m_words + QStringList{"--config", "fleet", "-o", "fleet.html"});
+        m_program.run(m_words + QStringList{"--config", "fleet", again, "-o", "fleet.html"});
     QCOMPARE(outcome.status, 2);
     QVERIFY(outcome.said.contains("fleet/e.json:2:1: "));
     const QByteArray page = m_program.contentOf("fleet.html");

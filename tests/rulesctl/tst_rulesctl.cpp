@@ -36,6 +36,8 @@ private slots:
     void keepsTheOrderOnAllCores();
     void replacesWholeFilesOnly();
     void endsWhereOutputIsNotTaken();
+    void endsWhereStreamsAreClosed_data();
+    void endsWhereStreamsAreClosed();
     void speaksEnglishUnlessAskedOtherwise();
     void tellsOfAllOptions();
     void completesWords_data();
@@ -129,6 +131,11 @@ void TstRulesctl::refusesArguments_data()
     QTest::newRow("no number") << check + QStringList{"--algorithm", "x:A", "--jsonl"} << "N:CODE";
     QTest::newRow("unknown format")
         << check + QStringList{"--jsonl", "--format", "xml"} << "\"xml\"";
+    QTest::newRow("lines as text")
+        << check + QStringList{"--jsonl", "--format", "text"} << "beside";
+    QTest::newRow("lines as a page")
+        << RulesctlProgram::withTemplate("diff") + QStringList{"--jsonl", "--format", "html"}
+        << "--format html does not go beside --jsonl";
     QTest::newRow("unknown language")
         << check + QStringList{"--jsonl", "--language", "tlh"} << "\"tlh\"";
     QTest::newRow("value of a flag") << check + QStringList{"--jsonl=yes"} << "takes no value";
@@ -321,6 +328,37 @@ void TstRulesctl::endsWhereOutputIsNotTaken()
     shell.start("sh", {script});
     QVERIFY(shell.waitForFinished(kTryFor));
     QVERIFY(shell.readAllStandardError().endsWith("2\n"));
+}
+
+void TstRulesctl::endsWhereStreamsAreClosed_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("said");
+    const QString closed = "rulesctl: output was not written: it is closed\n";
+    QTest::newRow("output") << "check --config config.json >&-" << closed;
+    QTest::newRow("input") << "check --jsonl <&-"
+                           << "-: it is closed\n";
+    QTest::newRow("all") << "convert --config config.json -o new.json <&- >&- 2>&-" << QString();
+}
+
+/// What they would have taken must not get into files that are opened in their place.
+void TstRulesctl::endsWhereStreamsAreClosed()
+{
+    QFETCH(const QString, words);
+    QFETCH(const QString, said);
+    const QByteArray config = ExampleFiles::contentOf(ExampleFiles::folder() + "saved.json");
+    m_program.file("config.json", config);
+    m_program.file("template.json",
+                   ExampleFiles::contentOf(ExampleFiles::folder() + "template.json"));
+    QProcess shell;
+    shell.setWorkingDirectory(m_program.folder.path());
+    shell.start("sh", {"-c", RULES_BIN_DIR "/rulesctl " + words.section(' ', 0, 0) +
+                                 " --template template.json " + words.section(' ', 1)});
+    QVERIFY(shell.waitForFinished(kTryFor));
+    QCOMPARE(QString(shell.readAllStandardError()), said);
+    QCOMPARE(shell.exitCode(), 2);
+    if (said.isEmpty())
+        QVERIFY(read(m_program.path("new.json")) == Mailbox::json(config));
 }
 
 void TstRulesctl::speaksEnglishUnlessAskedOtherwise()

@@ -1,6 +1,7 @@
 #include "tools/rulesctl/inputlines.h"
 
 #include "tools/rulesctl/documents/documentfile.h"
+#include "tools/rulesctl/standardstreams.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -74,7 +75,7 @@ bool InputLines::fill()
     const int count = m_hasEnded ? 0 : readInput(m_buffer.data(), kBlock);
     m_hasEnded = count <= 0;
     if (count < 0)
-        m_fault = qt_error_string(errno);
+        m_fault = StandardStreams::fault();
     m_buffer.resize(static_cast<std::size_t>(std::max(0, count)));
     return count > 0;
 }

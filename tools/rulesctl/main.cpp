@@ -1,4 +1,5 @@
 #include "tools/rulesctl/program.h"
+#include "tools/rulesctl/standardstreams.h"
 
 #include <QGuiApplication>
 
@@ -7,6 +8,7 @@
 
 int main(int argc, char* argv[])
 {
+    StandardStreams::occupy();
 #ifdef SIGPIPE
     // A closed pipe is told by the write that fails.
     std::signal(SIGPIPE, SIG_IGN);

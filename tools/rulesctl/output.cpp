@@ -1,6 +1,7 @@
 #include "tools/rulesctl/output.h"
 
-#include <cerrno>
+#include "tools/rulesctl/standardstreams.h"
+
 #include <cstdio>
 #ifdef Q_OS_WIN
 #include <io.h>
@@ -28,14 +29,14 @@ bool Output::write(const QByteArray& bytes)
         return false;
     const auto size = static_cast<std::size_t>(bytes.size());
     if (std::fwrite(bytes.constData(), 1, size, stdout) != size)
-        m_fault = qt_error_string(errno);
+        m_fault = StandardStreams::fault();
     return !isBroken();
 }
 
 bool Output::flush()
 {
     if (!isBroken() && std::fflush(stdout) != 0)
-        m_fault = qt_error_string(errno);
+        m_fault = StandardStreams::fault();
     return !isBroken();
 }
 

@@ -13,6 +13,7 @@
 
 #include <QHash>
 #include <QMutex>
+#include <QSet>
 
 #include <memory>
 
@@ -50,6 +51,20 @@ private:
     QHash<QByteArray, int> m_counts; ///< by state
 };
 
+/// A camera that is given twice, as by its name and its folder, is one.
+QStringList eachOnce(const QStringList& files)
+{
+    QStringList once;
+    QSet<QString> known;
+    for (const QString& file : files) {
+        const QString identity = OutputPlace::identityOf(file);
+        if (!known.contains(identity))
+            once.append(file);
+        known.insert(identity);
+    }
+    return once;
+}
+
 FleetRun::Work workOf(const TemplateDocument& rulesTemplate, Cards& cards)
 {
     const auto maker = std::make_shared<CardMaker>(rulesTemplate, CardMaker::Pictures::Shown);
@@ -67,7 +82,7 @@ ExitStatus run(const Arguments& arguments, Output& output)
     if (!rulesTemplate)
         return refuse(error.text());
     LabelFont::font(); // which threads share
-    const QStringList files = FileList::of(arguments.words("config"));
+    const QStringList files = eachOnce(FileList::of(arguments.words("config")));
     const QString clash =
         OutputPlace::replaced(arguments.word("output"), files + QStringList{rulesTemplate->file});
     if (!clash.isEmpty())

@@ -31,9 +31,13 @@ QString RunOptions::inputFault(const Arguments& arguments)
 QString RunOptions::formatFault(const Arguments& arguments, const QStringList& names)
 {
     const QString name = arguments.word("format");
-    return !arguments.isSet("format") || names.contains(name)
-               ? QString()
-               : QStringLiteral("there is no format \"%1\"").arg(name);
+    if (!arguments.isSet("format"))
+        return {};
+    if (!names.contains(name))
+        return QStringLiteral("there is no format \"%1\"").arg(name);
+    return arguments.isSet("jsonl") && !isJson(arguments)
+               ? QStringLiteral("--format %1 does not go beside --jsonl").arg(name)
+               : QString();
 }
 
 bool RunOptions::isJson(const Arguments& arguments)

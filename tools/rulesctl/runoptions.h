@@ -13,7 +13,8 @@ OptionSpec format(const char* valueName = "text|json");
 
 /// Which of --config and --jsonl is missing, or too much; empty for nothing.
 QString inputFault(const Arguments& arguments);
-/// Whether --format is one of @p names, the first being meant without it; a complaint else.
+/// What is wrong with --format, if it is no one of @p names, or not json beside --jsonl, where it
+/// says nothing new; empty for nothing.
 QString formatFault(const Arguments& arguments, const QStringList& names);
 bool isJson(const Arguments& arguments);
 

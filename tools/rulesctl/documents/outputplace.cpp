@@ -6,22 +6,6 @@
 
 #include <algorithm>
 
-namespace
-{
-
-/// One text for all ways to a file, be it there or not.
-QString identityOf(const QString& path)
-{
-    const QFileInfo info(path);
-    const QString place = info.canonicalFilePath();
-    if (!place.isEmpty())
-        return place;
-    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
-    return (folder.isEmpty() ? info.absolutePath() : folder) + QLatin1Char('/') + info.fileName();
-}
-
-} // namespace
-
 OutputPlace::OutputPlace(const QString& path, const QStringList& words, const QStringList& files)
     : m_path(path),
       m_isFolder(QFileInfo(path).isDir() || path.endsWith(QLatin1Char('/')) || files.size() > 1 ||
@@ -70,6 +54,16 @@ bool OutputPlace::prepare(QString& why) const
 QString OutputPlace::targetOf(const QString& file) const
 {
     return m_isFolder ? QDir(m_path).filePath(QFileInfo(file).fileName()) : m_path;
+}
+
+QString OutputPlace::identityOf(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString place = info.canonicalFilePath();
+    if (!place.isEmpty())
+        return place;
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return (folder.isEmpty() ? info.absolutePath() : folder) + QLatin1Char('/') + info.fileName();
 }
 
 bool OutputPlace::isSame(const QString& path, const QString& other)

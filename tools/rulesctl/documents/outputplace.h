@@ -18,6 +18,8 @@ public:
     bool prepare(QString& why) const;
     QString targetOf(const QString& file) const;
 
+    /// One text for all ways to a file, be it there or not.
+    static QString identityOf(const QString& path);
     /// Whether both lead to one file, by whatever way.
     static bool isSame(const QString& path, const QString& other);
     /// Which of @p kept, which are read and must stay, @p target would replace, in a sentence;
