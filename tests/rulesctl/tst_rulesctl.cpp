@@ -196,6 +196,11 @@ void TstRulesctl::tellsWhatCannotBeRead()
     QCOMPARE(results[0]["status"].asString(), QString("unreadable"));
     QVERIFY(said.endsWith(results[0]["error"]["reason"].asString()));
     QCOMPARE(results[1]["status"].asString(), QString("ok"));
+    const Outcome converted = m_program.run(RulesctlProgram::withTemplate("convert") +
+                                            QStringList{"--config", file, good, "-o", "converted"});
+    QCOMPARE(converted.status, RulesctlProgram::Unusable);
+    QVERIFY2(converted.said.startsWith(file + said), qPrintable(converted.said));
+    QVERIFY(QFile::remove(m_program.path("converted/config.json")));
     const Outcome asTemplate = m_program.run({"check", "--template", file, "--config", good});
     QCOMPARE(asTemplate.status, RulesctlProgram::Unusable);
     QVERIFY(asTemplate.said.startsWith(file + ':'));

@@ -27,8 +27,8 @@ QString OutputPlace::fault(const QStringList& files, const QStringList& kept) co
         targets.insert(identityOf(target), file);
     }
     for (const QString& file : files) {
-        const QString writer = targets.value(identityOf(file), file);
-        if (!isSame(writer, file))
+        const QString identity = identityOf(file);
+        if (identityOf(targets.value(identity, file)) != identity)
             return QStringLiteral("%1 would be replaced, which is read").arg(file);
     }
     return {};
