@@ -41,7 +41,7 @@ private slots:
     void changes_data() { Fixtures::addRows("rulesctl/diffs.json"); }
     void changes();
     void examples();
-    void turned();
+    void figures();
     void page();
     void lines();
     void refusals();
@@ -87,7 +87,7 @@ void TestDiff::examples()
     }
 }
 
-void TestDiff::turned()
+void TestDiff::figures()
 {
     const QString folder = ExampleFiles::folder("statistics");
     Value config = RulesctlProgram::parsed(ExampleFiles::contentOf(folder + "config.json"));
@@ -98,6 +98,13 @@ void TestDiff::turned()
     const auto outcome = m_program.run(diff(folder) + QStringList{folder + "config.json", b});
     QVERIFY2(outcome.out.endsWith("Counting area is crossed in another direction\n"),
              qPrintable(outcome.out));
+    // Of several figures of one attribute it says which.
+    const QString calibrated = ExampleFiles::folder("fight-calibration");
+    const QStringList files{calibrated + "config.json", calibrated + "saved.json"};
+    const QString told = m_program.run(diff(calibrated) + files).out;
+    for (const char* line :
+         {": Calibrate rect 2 is no longer there\n", ": Calibrate rect 3 is no longer there\n"})
+        QCOMPARE(told.count(line), 1);
 }
 
 /// Names are anybody's, and a page of them must neither run nor load anything.

@@ -96,8 +96,12 @@ ExitStatus convertFiles(const TemplateDocument& rulesTemplate, const Arguments& 
     if (isToOutput && files.size() > 1)
         return refuse(QStringLiteral("several configurations need a folder with -o"));
     QString why = isToOutput ? QString() : place.fault(files, {rulesTemplate.file});
-    if (!why.isEmpty() || (!isToOutput && !place.prepare(why)))
+    if (!why.isEmpty())
         return refuse(why);
+    if (!isToOutput && !place.prepare(why)) {
+        Complaint::say(why);
+        return ExitStatus::Unusable;
+    }
     const auto makeWork = [&rulesTemplate, &place, isToOutput] {
         const auto rules = std::make_shared<LoadedRules>(rulesTemplate);
         return [rules, &place, isToOutput](const QString& file) {

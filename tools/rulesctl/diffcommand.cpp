@@ -14,6 +14,8 @@ namespace
 {
 
 const auto kHtml = QStringLiteral("html");
+/// Without a picture: as wide as one is shown beside the other, so that names can be read.
+const auto kPlainSize = QStringLiteral("640x360");
 
 /// What is given for @p document, which @p error says the place of; false with its reason there.
 bool take(std::optional<ConfigDocument> document, SavedConfig& side, DocumentError& error)
@@ -127,8 +129,8 @@ ExitStatus run(const Arguments& arguments, Output& output)
     if (arguments.isSet("jsonl"))
         return compareLines(*rulesTemplate, output);
     error = {arguments.word("picture"), 0, 0, {}};
-    const auto ground =
-        arguments.isSet("picture") ? Ground::ofFile(error.file, error.reason) : Ground();
+    const auto ground = arguments.isSet("picture") ? Ground::ofFile(error.file, error.reason)
+                                                   : Ground::ofSize(kPlainSize);
     if (!ground) {
         Complaint::say(error.text());
         return ExitStatus::Unusable;

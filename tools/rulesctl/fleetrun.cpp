@@ -177,9 +177,11 @@ void FleetRun::take(const FileAnswer& answer)
         m_output.write(m_separator);
     m_output.write(answer.output);
     ++m_counts[static_cast<int>(answer.status)];
-    if (!answer.complaint.isEmpty())
+    if (!answer.complaint.isEmpty()) {
+        m_output.flush(); // so that both are in order where they go to one log
         Complaint::say(m_showsProgress ? QStringLiteral("\r\033[K") + answer.complaint
                                        : answer.complaint);
+    }
     if (m_showsProgress)
         showProgress();
 }
@@ -188,6 +190,7 @@ void FleetRun::tellSummary(const QStringList& words) const
 {
     if (m_files.size() < 2)
         return;
+    m_output.flush();
     QStringList counts;
     for (int i = 0; i < words.size(); ++i)
         counts.append(QString::number(m_counts[i]) + QLatin1Char(' ') + words[i]);

@@ -19,6 +19,7 @@ struct Change {
     kql::Json::Value from = {};
     kql::Json::Value to = {};
     std::optional<double> by = {}; ///< way of a figure's farthest corner, in per cent of 8192
+    int number = 0;        ///< of a figure, from 1, where the entry has several of its attribute
     bool isTurned = false; ///< of a parallelogram, which is only crossed in another direction
     QString pointer = {};  ///< of Other, in the configuration that has it
     QString text = {};

@@ -92,7 +92,9 @@ QString corners(const Value& points)
 
 QString figureText(const Change& change)
 {
-    const QString& caption = change.caption;
+    const QString caption =
+        change.number == 0 ? change.caption
+                           : change.caption + QLatin1Char(' ') + QString::number(change.number);
     if (change.from.isNull())
         return QStringLiteral("%1 was drawn").arg(caption);
     if (change.to.isNull())

@@ -107,11 +107,14 @@ void EntryChanges::addFigures(const RuleProtocolItem& item, const Side& a, const
 {
     const auto before = a.entry.figuresOf(item.key());
     const auto after = b.entry.figuresOf(item.key());
-    for (std::size_t i = 0; i < std::max(before.size(), after.size()); ++i) {
+    const std::size_t count = std::max(before.size(), after.size());
+    for (std::size_t i = 0; i < count; ++i) {
         auto one = ofFigure(item, i < before.size() ? before[i] : nullptr,
                             i < after.size() ? after[i] : nullptr, a, b);
-        if (one)
-            changes.push_back(said(std::move(*one), &item));
+        if (!one)
+            continue;
+        one->number = count > 1 ? static_cast<int>(i) + 1 : 0;
+        changes.push_back(said(std::move(*one), &item));
     }
 }
 
