@@ -14,8 +14,8 @@ namespace
 {
 
 const auto kHtml = QStringLiteral("html");
-/// Without a picture: as wide as one is shown beside the other, so that names can be read.
-const auto kPlainSize = QStringLiteral("640x360");
+/// Without a picture: about as wide as one is shown beside the other, so that names can be read.
+const auto kPlainSize = QStringLiteral("800x450");
 
 /// What is given for @p document, which @p error says the place of; false with its reason there.
 bool take(std::optional<ConfigDocument> document, SavedConfig& side, DocumentError& error)
