@@ -10,6 +10,7 @@
 #include "Protocol/placecheck.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruledatainfo.h"
+#include "Protocol/savelength.h"
 #include "Protocol/sceneprotocol.h"
 #include "Protocol/sceneprotocols.h"
 #include "Protocol/spelling.h"
@@ -103,7 +104,7 @@ bool RuleParser::parseTemplate(Value document, QString& why)
     m_data.clear();
     m_textPerEntry.clear();
     m_hasAllPlaces.reset();
-    m_saveLength.reset();
+    m_templateText.reset();
     m_templateDocument = Value();
     m_configuration = Value();
     m_notices.clear();
@@ -255,9 +256,13 @@ std::optional<RuleParser::WriteRefusal> RuleParser::writeRefusal() const
 
 bool RuleParser::isSurelyShort() const
 {
-    if (!m_saveLength)
-        m_saveLength.emplace(m_templateDocument, m_data);
-    return m_saveLength->isSurelyShort(m_data, m_configuration, m_algorithmName.toUtf8().size());
+    if (!m_templateText)
+        m_templateText = SaveLength::mostText(m_templateDocument);
+    qint64 entries = qint64(m_data.size());
+    for (const auto& scene : m_data)
+        entries += scene->getDataCount();
+    return SaveLength::isSurelyShort(entries, m_algorithmName.toUtf8().size(), *m_templateText,
+                                     SaveLength::mostText(m_configuration));
 }
 
 QString RuleParser::tooLongText()

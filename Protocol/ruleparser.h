@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Protocol/ruletypes.h"
-#include "Protocol/savelength.h"
 #include "host/json/value.h"
 
 #include <QCoreApplication>
@@ -118,5 +117,5 @@ private:
     // What the template alone decides, looked up when needed.
     mutable QHash<const RuleData*, qint64> m_textPerEntry;
     mutable std::optional<bool> m_hasAllPlaces;
-    mutable std::optional<SaveLength> m_saveLength;
+    mutable std::optional<qint64> m_templateText; ///< at most, in bytes
 };

@@ -3,32 +3,24 @@
 #include "host/json/fwd.h"
 
 #include <QtGlobal>
-#include <memory>
-#include <vector>
-
-class RuleData;
 
 /**
- * How long the text may become that a save hands over. Only what may be too long is printed to
- * find out: most documents are far from it, and thousands of them are checked at once.
+ * How long the text may become that a save hands over, in bytes. Only what may be too long is
+ * printed to find out: most documents are far from it, and thousands of them are checked at once.
  */
-class SaveLength
+namespace SaveLength
 {
-public:
-    /// Whether the message of a save has no room for @p config, indented as it is there. A part of
-    /// the message is set aside for what else it says, as the channel.
-    static bool isTooLong(const kql::Json::Value& config);
 
-    /// Of @p scenes, which were made of @p rulesTemplate; one may be filled anew afterwards, but
-    /// they stay in number and order.
-    SaveLength(const kql::Json::Value& rulesTemplate,
-               const std::vector<std::unique_ptr<RuleData>>& scenes);
-    /// Whether what is written of @p scenes, which were read from @p configuration, cannot be too
-    /// long, whatever was edited in rows. @p algorithmText, in bytes, is written into each entry.
-    bool isSurelyShort(const std::vector<std::unique_ptr<RuleData>>& scenes,
-                       const kql::Json::Value& configuration, qint64 algorithmText) const;
+/// At most so long is the indented text of @p value, wherever in a document it stands.
+qint64 mostText(const kql::Json::Value& value);
 
-private:
-    qint64 m_ofTemplate = 0;
-    std::vector<qint64> m_perEntry; ///< of each scene
-};
+/// Whether what is written of @p entries, those of all scenes, and their scenes cannot be too
+/// long, whatever was edited in rows. @p templateText and @p configurationText are what mostText()
+/// says of the documents they were read from; @p typeText bytes are written into each.
+bool isSurelyShort(qint64 entries, qint64 typeText, qint64 templateText, qint64 configurationText);
+
+/// Whether the message of a save has no room for @p config, indented as it is there. A part of the
+/// message is set aside for what else it says, as the channel.
+bool isTooLong(const kql::Json::Value& config);
+
+} // namespace SaveLength
