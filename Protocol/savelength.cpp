@@ -9,7 +9,7 @@ namespace
 {
 
 // All in bytes.
-constexpr qint64 kRoomForOthers = 64 * 1024;
+constexpr qint64 kRoomForOthers = 65536;
 /// A value's line, and the one that closes a list or an object: indentation, brackets, a number.
 constexpr qint64 kLine = qint64{4} * Limits::kIndentedLevels + 32;
 constexpr qint64 kEscaped = 6; ///< of a byte of a text
