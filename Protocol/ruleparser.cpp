@@ -303,8 +303,9 @@ std::optional<RuleParser::WriteRefusal> RuleParser::write(Value& config) const
 {
     const Value& document = m_templateDocument;
     const Value* const skeleton = document.find("configTemplate");
-    if (!skeleton || !(skeleton->isObject() || skeleton->isNull()))
-        return WriteRefusal{{}, tr("The template has no \"configTemplate\" to write into.")};
+    const WriteRefusal noSkeleton{{}, tr("The template has no \"configTemplate\" to write into.")};
+    if (!skeleton)
+        return noSkeleton;
     Value written = skeleton->isNull() ? Value(kql::Json::ValueType::Object) : *skeleton;
     const WriteContext context{m_configuration, m_algorithmId, m_algorithmName};
     std::vector<const RuleData*> scenes;
@@ -315,6 +316,8 @@ std::optional<RuleParser::WriteRefusal> RuleParser::write(Value& config) const
         if (auto refusal = writeScene(*scene, context, written))
             return refusal;
     }
+    if (!written.isObject())
+        return noSkeleton;
     config = std::move(written);
     return std::nullopt;
 }
