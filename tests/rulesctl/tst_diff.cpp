@@ -40,6 +40,7 @@ class TestDiff : public RulesTest
 private slots:
     void changes_data() { Fixtures::addRows("rulesctl/diffs.json"); }
     void changes();
+    void furtherStaffs();
     void examples();
     void figures();
     void page();
@@ -69,6 +70,28 @@ void TestDiff::changes()
     QCOMPARE(plain.status, outcome.status);
     for (int i = 0; i < wanted.size(); ++i)
         QVERIFY(plain.out.contains(answer["changes"][i]["text"].asString()));
+}
+
+/// No row has the length of a third staff; one that is measured anew mostly moves, too.
+void TestDiff::furtherStaffs()
+{
+    const QString folder = ExampleFiles::folder("scene-calibration");
+    const QByteArray before = ExampleFiles::contentOf(folder + "config.json");
+    Value config = RulesctlProgram::parsed(before);
+    Value& staffs = config["Calibration"]["Areas"][0]["Staffs"];
+    staffs[0]["Length"] = 2.5;
+    staffs[2]["Length"] = 9.5;
+    staffs[2]["End"][1] = 3600;
+    const QStringList files{folder + "config.json", m_program.file("b.json", text(config))};
+    const auto outcome = m_program.run(diff(folder) + files + QStringList{"--format", "json"});
+    const Value answer = RulesctlProgram::parsed(outcome.out.toUtf8());
+    QStringList places;
+    for (int i = 0; i < answer["changes"].size(); ++i) {
+        const Value& change = answer["changes"][i];
+        places.append(change["key"].asString() + change["pointer"].asString());
+    }
+    QCOMPARE(places, QStringList({"calibrateAreaVertical", "calibrateAreaVerticalLine",
+                                  "/Calibration/Areas/0/Staffs/2/Length"}));
 }
 
 /// A save that was read again is what was saved.

@@ -128,6 +128,8 @@ void TstRulesctl::refusesArguments_data()
     QTest::newRow("empty list") << check + QStringList{"--config"} << "--config takes F…";
     QTest::newRow("two inputs") << check + QStringList{"--jsonl", "--config", "a"} << "beside";
     QTest::newRow("no algorithm") << check + QStringList{"--algorithm", "1", "--jsonl"} << "N:CODE";
+    QTest::newRow("a sign alone") << check + QStringList{"--algorithm", "-:A", "--jsonl"}
+                                  << "N:CODE";
     QTest::newRow("no number") << check + QStringList{"--algorithm", "x:A", "--jsonl"} << "N:CODE";
     QTest::newRow("unknown format")
         << check + QStringList{"--jsonl", "--format", "xml"} << "\"xml\"";

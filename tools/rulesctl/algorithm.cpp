@@ -6,7 +6,8 @@ std::optional<Algorithm> Algorithm::parse(const QString& text)
 {
     const int colon = text.indexOf(QLatin1Char(':'));
     const QString digits = text.left(colon);
-    const bool isPlain = std::all_of(digits.begin(), digits.end(), [](QChar character) {
+    const int sign = digits.startsWith(QLatin1Char('-')) ? 1 : 0;
+    const bool isPlain = std::all_of(digits.begin() + sign, digits.end(), [](QChar character) {
         return character >= QLatin1Char('0') && character <= QLatin1Char('9');
     });
     bool isNumber = false;

@@ -25,6 +25,7 @@ namespace
 constexpr int kMostAtOnce = 16;
 constexpr int kAhead = 4;
 constexpr int kBarWidth = 40;
+const auto kClearLine = QStringLiteral("\r\033[K");
 
 /// Those that this process may use.
 int coreCount()
@@ -173,14 +174,15 @@ void FleetRun::runOnThreads(int threads)
 
 void FleetRun::take(const FileAnswer& answer)
 {
+    if (m_showsProgress && (!answer.complaint.isEmpty() || m_output.isTerminal()))
+        hideProgress();
     if (m_taken++ > 0 && !answer.output.isEmpty())
         m_output.write(m_separator);
     m_output.write(answer.output);
     ++m_counts[static_cast<int>(answer.status)];
     if (!answer.complaint.isEmpty()) {
         m_output.flush(); // so that both are in order where they go to one log
-        Complaint::say(m_showsProgress ? QStringLiteral("\r\033[K") + answer.complaint
-                                       : answer.complaint);
+        Complaint::say(answer.complaint);
     }
     if (m_showsProgress)
         showProgress();
@@ -198,16 +200,25 @@ void FleetRun::tellSummary(const QStringList& words) const
                        .arg(QString::number(m_files.size()), counts.join(QStringLiteral(", "))));
 }
 
+/// For what is to stand in its line.
+void FleetRun::hideProgress()
+{
+    if (std::exchange(m_shownPercent, kNoBar) != kNoBar)
+        Complaint::show(kClearLine);
+}
+
 void FleetRun::showProgress()
 {
     const int percent = static_cast<int>(qint64{100} * m_taken / m_files.size());
     if (percent == std::exchange(m_shownPercent, percent))
         return;
+    if (m_output.isTerminal())
+        m_output.flush();
     const int done = kBarWidth * percent / 100;
     const QString bar = QString(done, QLatin1Char('#')).leftJustified(kBarWidth);
     const bool isLast = m_taken == m_files.size();
     Complaint::show(isLast
-                        ? QStringLiteral("\r\033[K")
+                        ? kClearLine
                         : QStringLiteral("\r[%1] %2 of %3")
                               .arg(bar, QString::number(m_taken), QString::number(m_files.size())));
 }

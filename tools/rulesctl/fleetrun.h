@@ -44,6 +44,7 @@ private:
 
     void runOnThreads(int threads);
     void take(const FileAnswer& answer);
+    void hideProgress();
     void showProgress();
 
     FileList m_files;
@@ -52,6 +53,7 @@ private:
     QByteArray m_separator;
     int m_counts[3] = {0, 0, 0};
     int m_taken = 0;
-    int m_shownPercent = -1;
+    static constexpr int kNoBar = -1;
+    int m_shownPercent = kNoBar;
     bool m_showsProgress;
 };

@@ -53,7 +53,12 @@ void Complaint::show(const QString& text)
 
 bool Output::isColoured() const
 {
-    return qEnvironmentVariableIsEmpty("NO_COLOR") && isTerminal(stdout);
+    return qEnvironmentVariableIsEmpty("NO_COLOR") && isTerminal();
+}
+
+bool Output::isTerminal() const
+{
+    return ::isTerminal(stdout);
 }
 
 bool Complaint::isTerminal()

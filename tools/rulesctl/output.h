@@ -17,6 +17,8 @@ public:
     bool flush();
     /// Whether somebody looks at it, who has not asked for plain text.
     bool isColoured() const;
+    /// Whether somebody looks at it.
+    bool isTerminal() const;
     bool isBroken() const { return !m_fault.isEmpty(); }
     /// Empty for none.
     const QString& fault() const { return m_fault; }

@@ -3,6 +3,7 @@
 #include "Protocol/ruleparser.h"
 #include "host/api/wholefile.h"
 #include "tools/rulesctl/diff/difftext.h"
+#include "tools/rulesctl/diff/othermembers.h"
 #include "tools/rulesctl/diff/savedconfig.h"
 #include "tools/rulesctl/documents/configdocument.h"
 #include "tools/rulesctl/documents/outputplace.h"
@@ -97,7 +98,8 @@ FileAnswer RolledFiles::Worker::roll(const QString& file)
     if (!why.isEmpty())
         return leftAlone(file, why);
     const ConfigDiff diff(m_before.compared(), m_after.compared());
-    const bool isThere = diff.changes().empty() && written == m_before.written();
+    const bool isThere =
+        diff.changes().empty() && OtherMembers::areSame(written, m_before.written());
     const QByteArray alone = textOf(written);
     const QByteArray whole = textOf(std::move(*document).with(std::move(written)));
     if (alone.isEmpty() || whole.isEmpty())

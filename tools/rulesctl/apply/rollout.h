@@ -24,6 +24,7 @@ public:
     Rollout(const RuleParser& source, const QStringList& names, WhereTaken whereTaken)
         : m_source(source), m_names(names), m_whereTaken(whereTaken)
     {
+        m_names.removeDuplicates();
     }
 
     /// The first name that the source has not, or not once, in a sentence; empty for none.

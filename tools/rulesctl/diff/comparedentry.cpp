@@ -9,10 +9,49 @@
 #include "Protocol/ruledatainfo.h"
 #include "Protocol/ruleprotocolitem.h"
 
+#include <cmath>
+#include <map>
+#include <string>
+
 using kql::Json::Value;
 
 namespace
 {
+
+constexpr double kLargestWhole = 9007199254740992; ///< up to which doubles have all whole numbers
+
+Value plainNumber(const Value& number)
+{
+    const double exact = number.asDouble();
+    return number.isInt() || exact != std::trunc(exact) || std::abs(exact) > kLargestWhole
+               ? number
+               : Value(static_cast<qint64>(exact));
+}
+
+/// What is the same by value, as 1 and 1.0, {"a":1,"b":2} and {"b":2,"a":1}, or null and no member,
+/// becomes the same.
+Value plain(const Value& value)
+{
+    if (value.isNumeric())
+        return plainNumber(value);
+    if (value.isArray()) {
+        Value list(kql::Json::ValueType::Array);
+        for (int i = 0; i < value.size(); ++i)
+            list.append(plain(value[i]));
+        return list;
+    }
+    if (!value.isObject())
+        return value;
+    std::map<std::string, Value> members;
+    for (int i = 0; i < value.size(); ++i) {
+        if (!value.memberValue(i).isNull())
+            members.emplace(value.memberName(i), plain(value.memberValue(i)));
+    }
+    Value object(kql::Json::ValueType::Object);
+    for (auto& [name, member] : members)
+        object[name] = std::move(member);
+    return object;
+}
 
 const RuleProtocolItem* itemOf(const RuleData& data, const Value& json)
 {
@@ -58,7 +97,7 @@ QString ComparedEntry::content() const
         all.append(PointConversion::toJson(figure.points));
         all.append(PointConversion::toJson(figure.directions));
     }
-    return all.toCompactText();
+    return plain(all).toCompactText();
 }
 
 std::vector<const ComparedEntry::Figure*> ComparedEntry::figuresOf(const QString& key) const

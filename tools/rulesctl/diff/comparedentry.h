@@ -35,7 +35,7 @@ struct ComparedEntry {
     /// The entry of @p data at @p position.
     static ComparedEntry of(const RuleData& data, int position);
 
-    /// All but the names, as one text.
+    /// All but the names, as one text, which is the same for what is the same by value.
     QString content() const;
     /// The figures that it has for the item @p key, in their order.
     std::vector<const Figure*> figuresOf(const QString& key) const;

@@ -1,5 +1,6 @@
 #include "tools/rulesctl/diff/configdiff.h"
 
+#include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
 #include "Protocol/entryname.h"
 #include "Protocol/ruledata.h"
@@ -71,6 +72,26 @@ void comparePlaces(const EntryPlaces::Place& a, const EntryPlaces::Place& b,
     }).compare({a.json, b.json, a.pointer, b.pointer});
 }
 
+/// Whether @p pointer leads in @p entry to the length of a staff that is not the first of its type,
+/// whose length a row shows.
+bool isFurtherLength(const QString& pointer, const Value* entry)
+{
+    const QStringList steps = pointer.split(QLatin1Char('/'));
+    const auto isCalled = [&steps](int position, std::string_view name) {
+        return steps[position].toStdString() == name;
+    };
+    if (!entry || steps.size() != 4 || !isCalled(1, ConfigMember::kStaffs) ||
+        !isCalled(3, ConfigMember::kLength))
+        return false;
+    const Value& staffs = (*entry)[ConfigMember::kStaffs];
+    const int position = steps[2].toInt();
+    for (int i = 0; i < position; ++i) {
+        if (staffs[i][ConfigMember::kType] == staffs[position][ConfigMember::kType])
+            return true;
+    }
+    return false;
+}
+
 /// The entries of one scene in both configurations.
 class SceneDiff
 {
@@ -98,7 +119,7 @@ public:
 
 private:
     const RuleData& dataOf(const RuleParser& scenes) const { return *scenes.getAllData()[m_scene]; }
-    void compareUnseen(const EntryPairing::Pair& pair);
+    void compareUnseen(const EntryPairing::Pair& pair, bool isTold);
     void compareRest(const TemplateSection& section);
 
     const ComparedConfig& m_a;
@@ -135,20 +156,25 @@ void SceneDiff::compareEntries()
         const EntryChanges::Side a{m_entriesA[static_cast<std::size_t>(pair->first)], pair->first};
         const bool isMoved = std::find(moved.begin(), moved.end(), *pair) != moved.end();
         auto found = changes.between(a, b, isMoved);
-        if (found.empty())
-            compareUnseen(*pair);
+        const bool isTold = !found.empty();
         std::move(found.begin(), found.end(), std::back_inserter(m_changes));
+        compareUnseen(*pair, isTold);
         ++pair;
     }
 }
 
-/// What a save writes of two entries of which rows and canvas show the same, as the lengths of
-/// further staffs.
-void SceneDiff::compareUnseen(const EntryPairing::Pair& pair)
+/// What a save writes of two entries and neither rows nor canvas show. Where something else of them
+/// @p isTold, that are the lengths of further staffs alone, as all else is in what is told.
+void SceneDiff::compareUnseen(const EntryPairing::Pair& pair, bool isTold)
 {
-    for (const auto& [inA, inB] : m_written)
-        comparePlaces(inA[static_cast<std::size_t>(pair.first)],
-                      inB[static_cast<std::size_t>(pair.second)], {}, true, m_changes);
+    for (const auto& [writtenA, writtenB] : m_written) {
+        const EntryPlaces::Place& a = writtenA[static_cast<std::size_t>(pair.first)];
+        const EntryPlaces::Place& b = writtenB[static_cast<std::size_t>(pair.second)];
+        OtherMembers({}, [&](const OtherMembers::Place& place) {
+            if (!isTold || isFurtherLength(place.pointerB.mid(b.pointer.size()), b.json))
+                m_changes.push_back(otherChange(place, true));
+        }).compare({a.json, b.json, a.pointer, b.pointer});
+    }
 }
 
 void SceneDiff::compareOthers()
