@@ -2,6 +2,7 @@
 
 #include "Protocol/configmember.h"
 #include "Protocol/datatemplate.h"
+#include "Protocol/detection/detectionprotocol.h"
 #include "Protocol/entrywriter.h"
 #include "Protocol/ruledata.h"
 #include "Protocol/ruleprotocolitem.h"
@@ -11,6 +12,7 @@
 #include "Protocol/valueconversion.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 using kql::Json::Value;
 
@@ -99,10 +101,36 @@ QString sentence(const Fault& fault, const RuleProtocolItem& item)
     return {};
 }
 
-void tellSection(RuleData& data, const TemplateSection& section, const Value& skeleton)
+/// Whether areas, those that are to come included, are written as bare lists of points.
+bool arePoints(const RuleData& data, const Value& skeleton, const Value& configuration)
+{
+    if (data.getSceneType() != SceneType::Detection)
+        return false;
+    const JsonPath parent(data.getTemplate()->parent());
+    const Value* const place = parent.find(configuration);
+    if (DetectionProtocol::startsAsPoints(parent.find(skeleton), place))
+        return true;
+    const JsonEntries asRead = sceneProtocol(SceneType::Detection).entriesAt(place);
+    return std::any_of(asRead.begin(), asRead.end(),
+                       [](const Value* entry) { return entry->isArray(); });
+}
+
+/// Areas that are objects are saved with it, so its other notices hold.
+void tellBesidePoints(RuleData& data, const RuleProtocolItem& item)
+{
+    const QString sentence =
+        SaveNotices::tr("%1 is not saved of areas that are written as lists of points.")
+            .arg(SaveNotices::subject(item));
+    if (!data.saveNotices().sentences().contains(sentence))
+        data.saveNotices().add(sentence);
+}
+
+void tellSection(RuleData& data, const TemplateSection& section, const Value& skeleton,
+                 const Value& configuration)
 {
     const EntryWriter writer(data, section.name);
     const Value prototype = writer.prototype(JsonPath(section.parent).firstEntryIn(skeleton));
+    const bool leavesOut = arePoints(data, skeleton, configuration);
     for (const auto& item : data.getTemplate()->items()) {
         if (item->templateName() != section.name)
             continue;
@@ -113,6 +141,8 @@ void tellSection(RuleData& data, const TemplateSection& section, const Value& sk
         const Fault fault = PlaceCheck::faultOf(data, *item, writer, prototype);
         if (fault.kind != Fault::Kind::None)
             data.saveNotices().addUnsaved(*item, sentence(fault, *item));
+        else if (leavesOut && PlaceCheck::isBesidePoints(data, *item))
+            tellBesidePoints(data, *item);
     }
 }
 
@@ -134,10 +164,17 @@ PlaceCheck::PlaceFault PlaceCheck::faultOf(const RuleData& data, const RuleProto
     return isOneOfSeveral ? Fault{Fault::Kind::OtherKind} : fault;
 }
 
-void PlaceCheck::tell(RuleData& data, const Value& skeleton)
+bool PlaceCheck::isBesidePoints(const RuleData& data, const RuleProtocolItem& item)
+{
+    const DataTemplate& dataTemplate = *data.getTemplate();
+    const bool isDrawn = sceneProtocol(data.getSceneType()).entryFigureItem(dataTemplate) == &item;
+    return (isDrawn || !item.isFigure()) && dataTemplate.figureItems().value(0) != &item;
+}
+
+void PlaceCheck::tell(RuleData& data, const Value& skeleton, const Value& configuration)
 {
     for (const TemplateSection& section : data.getTemplate()->sections())
-        tellSection(data, section, skeleton);
+        tellSection(data, section, skeleton, configuration);
     const Value* const place = JsonPath(data.getTemplate()->parent()).find(skeleton);
     const bool isMadeAsOne =
         sceneProtocol(data.getSceneType()).whenMissing() == EntryTarget::WhenMissing::Object &&

@@ -24,8 +24,13 @@ struct PlaceFault {
 PlaceFault faultOf(const RuleData& data, const RuleProtocolItem& item, const EntryWriter& writer,
                    const kql::Json::Value& prototype);
 
+/// Whether areas of @p data that are bare lists of points leave @p item out, a row or the figure
+/// that is drawn: they are the points of the first figure.
+bool isBesidePoints(const RuleData& data, const RuleProtocolItem& item);
+
 /// Tells them to @p data, and whether there is a place for one entry alone. @p skeleton is the
-/// document that its entries are written into.
-void tell(RuleData& data, const kql::Json::Value& skeleton);
+/// document that its entries are written into, @p configuration the one that they were read from,
+/// null for none.
+void tell(RuleData& data, const kql::Json::Value& skeleton, const kql::Json::Value& configuration);
 
 } // namespace PlaceCheck

@@ -186,7 +186,7 @@ void RuleParser::findLosses()
     if (!skeleton)
         return;
     for (const auto& scene : m_data) {
-        PlaceCheck::tell(*scene, *skeleton);
+        PlaceCheck::tell(*scene, *skeleton, m_configuration);
         Misfit::tell(*scene);
     }
     if (!m_configuration.empty() && !write(written))

@@ -955,6 +955,10 @@
         <translation>%1 wird nicht gespeichert: An seinem Platz &quot;%2&quot; steht in der Vorlage etwas anderes.</translation>
     </message>
     <message>
+        <source>%1 is not saved of areas that are written as lists of points.</source>
+        <translation>%1 wird bei Flächen, die als Punktlisten geschrieben werden, nicht gespeichert.</translation>
+    </message>
+    <message>
         <source>What is no entry under %1 is not saved.</source>
         <translation>Was unter %1 kein Eintrag ist, wird nicht gespeichert.</translation>
     </message>

@@ -955,6 +955,10 @@
         <translation>%1不会保存：模板中位置“%2”是其他内容。</translation>
     </message>
     <message>
+        <source>%1 is not saved of areas that are written as lists of points.</source>
+        <translation>以点列表写入的区域不会保存%1。</translation>
+    </message>
+    <message>
         <source>What is no entry under %1 is not saved.</source>
         <translation>%1下不是条目的内容不会保存。</translation>
     </message>

@@ -24,6 +24,11 @@ bool isBareList(const Value* place)
     return place && PointConversion::isPointList(*place);
 }
 
+JsonEntries areasAt(const Value* place)
+{
+    return isBareList(place) ? JsonEntries{place} : getJsonItemList(place);
+}
+
 void readPoints(RuleData& data, const Value& json, const RuleDataInfo& entry)
 {
     const RuleProtocolItem& item = *data.getTemplate()->figureItems().first();
@@ -42,7 +47,15 @@ Value writePoints(const RuleData& data, const EntryWriter& writer, const RuleDat
 
 JsonEntries DetectionProtocol::entriesAt(const Value* place) const
 {
-    return isBareList(place) ? JsonEntries{place} : getJsonItemList(place);
+    return areasAt(place);
+}
+
+/// Where the skeleton has no area the configuration shows the shape.
+bool DetectionProtocol::startsAsPoints(const Value* skeleton, const Value* configuration)
+{
+    const JsonEntries patterns = areasAt(skeleton);
+    const JsonEntries listed = patterns.empty() ? areasAt(configuration) : patterns;
+    return !listed.empty() && listed.front()->isArray();
 }
 
 RuleProtocolItem* DetectionProtocol::entryFigureItem(const DataTemplate& dataTemplate) const
@@ -78,9 +91,7 @@ bool DetectionProtocol::writeDetection(const RuleData& data, const TemplateSecti
     const JsonPath parent(section.parent);
     const Value* const skeleton = parent.find(std::as_const(document));
     const Value* const configuration = parent.find(context.configuration);
-    const JsonEntries patterns = entriesAt(skeleton);
-    const JsonEntries listed = patterns.empty() ? entriesAt(configuration) : patterns;
-    const bool areNewPoints = !listed.empty() && listed.front()->isArray();
+    const bool areNewPoints = startsAsPoints(skeleton, configuration);
     bool isBare = false;
     auto entries = writeEntries(data, section, context, document,
                                 [&](const EntryWriter& writer, const RuleDataInfo& entry,

@@ -17,6 +17,10 @@ public:
         return writeDetection(data, section, context, document);
     }
     JsonEntries entriesAt(const kql::Json::Value* place) const override;
+    /// Whether new areas are bare lists of points, as what lies at the place of the areas in
+    /// @p skeleton and @p configuration says, which may be null.
+    static bool startsAsPoints(const kql::Json::Value* skeleton,
+                               const kql::Json::Value* configuration);
     /// The areas are what is drawn here.
     RuleProtocolItem* entryFigureItem(const DataTemplate& dataTemplate) const override;
 

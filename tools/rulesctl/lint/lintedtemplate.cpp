@@ -49,7 +49,7 @@ LintedTemplate::LintedTemplate(Value document, int algorithmId)
         m_scenes.clear();
     for (const auto& scene : m_scenes) {
         if (skeleton())
-            PlaceCheck::tell(*scene, *skeleton());
+            PlaceCheck::tell(*scene, *skeleton(), Value());
     }
     const std::string description = "/configDescription";
     const std::string rules = description + "/ruleDescription";

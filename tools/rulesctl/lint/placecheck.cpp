@@ -1,6 +1,7 @@
 #include "tools/rulesctl/lint/checks.h"
 
 #include "Protocol/datatemplate.h"
+#include "Protocol/detection/detectionprotocol.h"
 #include "Protocol/entrywriter.h"
 #include "Protocol/jsonpath.h"
 #include "Protocol/placecheck.h"
@@ -42,6 +43,21 @@ bool isSure(const LintedControl& control)
     const bool isUnsure = control.details && LintedTemplate::placeOfDetails(*control.details) ==
                                                  TemplatePlace::UnsureDetails;
     return !isMisspelt && !isUnsure && (*control.json)["key"].isString();
+}
+
+bool startsAsPoints(const LintedSection& section, const Value& skeleton)
+{
+    const JsonPath parent((*section.json)["parent"].asString());
+    return section.type == SceneType::Detection &&
+           DetectionProtocol::startsAsPoints(parent.find(skeleton), nullptr);
+}
+
+void tellBesidePoints(const LintedControl& control, Findings& findings)
+{
+    FindingMaker::add(findings, "place-unwritable", control.pointer + "/protocol/name",
+                      (*control.json)["protocol"]["name"],
+                      QStringLiteral("the skeleton's first area is a list of points; new areas "
+                                     "have nothing else"));
 }
 
 void tell(const LintedControl& control, const PlaceFault& fault, const Value& prototype,
@@ -99,6 +115,7 @@ void judge(const LintedSection& section, const Value& skeleton, Findings& findin
         if (isBuiltIn && faultOf(*item).kind != PlaceFault::Kind::None)
             tellBuiltIn(section, item->path().text(), findings);
     }
+    const bool leavesOut = startsAsPoints(section, skeleton);
     for (const LintedControl& control : section.controls) {
         if (!control.item || !(*control.json)["protocol"]["name"].isString())
             continue;
@@ -106,6 +123,9 @@ void judge(const LintedSection& section, const Value& skeleton, Findings& findin
         const bool isTold = fault.kind == PlaceFault::Kind::NoType && !isSure(control);
         if (fault.kind != PlaceFault::Kind::None && !isTold)
             tell(control, fault, prototype, findings);
+        else if (fault.kind == PlaceFault::Kind::None && leavesOut &&
+                 PlaceCheck::isBesidePoints(*section.data, *control.item))
+            tellBesidePoints(control, findings);
     }
 }
 
