@@ -5,8 +5,10 @@
 #include "Protocol/valuecompare.h"
 
 #include <QSet>
+#include <QVariant>
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace
@@ -44,6 +46,15 @@ bool isWholeNumber(const QString& text)
     return QString::number(text.toInt()) == text;
 }
 
+/// Whether a number compares as @p text, which whole ones that a double cannot hold do not.
+bool isReal(const QString& text)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(number) &&
+           ComparableText::of(QVariant(number).toString(), ValueType::Float) == text;
+}
+
 bool isSwitch(const QString& text)
 {
     return text == QLatin1String("true") || text == QLatin1String("false");
@@ -57,6 +68,8 @@ bool isOfType(ValueType type, const QString& text)
         return isSwitch(text);
     case ValueType::Int:
         return isWholeNumber(text);
+    case ValueType::Float:
+        return isReal(text);
     case ValueType::ArrayInt:
         return text.isEmpty(); // which a pair is as text
     case ValueType::Point:
@@ -71,15 +84,16 @@ bool canHave(const RuleProtocolItem& controller, const QString& text)
 {
     if (controller.isFigure())
         return false; // it has points, and no value
+    const ValueType type = controller.valueType();
     switch (controller.facade()) {
     case FacadeType::Bool:
         return isSwitch(text);
     case FacadeType::InputBoxNumber:
-        return controller.valueType() != ValueType::Int || isWholeNumber(text);
+        return (type != ValueType::Int && type != ValueType::Float) || isOfType(type, text);
     case FacadeType::NumericalInterval:
-        return text.isEmpty() || isOfType(controller.valueType(), text);
+        return text.isEmpty() || isOfType(type, text);
     default:
-        return isOfType(controller.valueType(), text);
+        return isOfType(type, text);
     }
 }
 
