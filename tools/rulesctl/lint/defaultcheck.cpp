@@ -101,7 +101,12 @@ void judgeChoice(const RuleProtocolItem& item, const Value& value, const std::st
         choices.append(option.value);
     Finding& finding = FindingMaker::add(findings, "default-choice", pointer, value,
                                          QStringLiteral("the default is none of the choices"));
-    FindingMaker::expect(finding, text, choices);
+    const bool isSpelling =
+        !value.isObject() && !value.isArray() && item.valueType() != ValueType::Object;
+    if (isSpelling)
+        FindingMaker::expect(finding, text, choices);
+    else
+        finding.expected = choices;
 }
 
 void judgeControl(const LintedControl& control, Findings& findings)
