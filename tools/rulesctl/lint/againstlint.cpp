@@ -100,6 +100,11 @@ private:
         const LintedControl* const reader = readerOf(older);
         const LintedControl* const same = m_newer ? m_newer->find(keyOf(older)) : nullptr;
         const Value& protocol = (*older.json)["protocol"];
+        // Every reader of its key has another place then.
+        if (reader && same && keyOf(*reader) != keyOf(older))
+            add("value-changed", same->pointer, protocol,
+                QStringLiteral("the place that it had is that of the control %1 now")
+                    .arg(quoted(keyOf(*reader))));
         if (!reader && (!same || !same->item))
             add("value-dropped", placeOfControls(), protocol,
                 QStringLiteral("the control %1 is gone").arg(quoted(keyOf(older))));
