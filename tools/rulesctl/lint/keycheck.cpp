@@ -37,8 +37,10 @@ void findEqualKeys(const LintedSection& section, Findings& findings)
 {
     QSet<QString> known = section.isPerLane() ? keysOfLanes(section) : QSet<QString>();
     for (const LintedControl& control : section.controls) {
+        if (!(*control.json)["key"].isString())
+            continue;
         const QString key = keyOf(control);
-        if (!key.isEmpty() && known.contains(key))
+        if (known.contains(key))
             FindingMaker::add(findings, "equal-names", control.pointer + "/key",
                               (*control.json)["key"],
                               QStringLiteral("an attribute before has the key %1").arg(quoted(key)))
